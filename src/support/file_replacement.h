@@ -1,0 +1,44 @@
+#ifndef FRAGSMITH_SUPPORT_FILE_REPLACEMENT_H_
+#define FRAGSMITH_SUPPORT_FILE_REPLACEMENT_H_
+
+#include <filesystem>
+#include <string_view>
+
+#include "support/result.h"
+
+namespace fragsmith {
+
+/// A new, empty file beside the target that takes the target's place when it
+/// is complete. Until Commit() succeeds the target is untouched; a
+/// replacement that is dropped removes its file.
+class FileReplacement {
+ public:
+  /// Makes the temporary file; nobody else's file is ever opened for it.
+  static Result<FileReplacement> Begin(const std::filesystem::path& target);
+
+  FileReplacement(FileReplacement&& other) noexcept;
+  FileReplacement& operator=(FileReplacement&& other) = delete;
+  FileReplacement(const FileReplacement&) = delete;
+  FileReplacement& operator=(const FileReplacement&) = delete;
+  ~FileReplacement();
+
+  /// The temporary file, for a library that writes by name.
+  const std::filesystem::path& path() const { return temporary_; }
+
+  /// Puts the bytes into the temporary file.
+  Result<void> Write(std::string_view bytes);
+
+  /// Flushes the temporary file to the disk and renames it over the target.
+  Result<void> Commit();
+
+ private:
+  FileReplacement(std::filesystem::path target,
+                  std::filesystem::path temporary);
+
+  std::filesystem::path target_;
+  std::filesystem::path temporary_;
+};
+
+}  // namespace fragsmith
+
+#endif  // FRAGSMITH_SUPPORT_FILE_REPLACEMENT_H_

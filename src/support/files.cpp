@@ -1,0 +1,144 @@
+#include "support/files.h"
+
+#include <algorithm>
+#include <array>
+#include <fstream>
+#include <ios>
+#include <system_error>
+
+#include "support/code_page.h"
+#include "support/file_replacement.h"
+#include "support/text.h"
+
+namespace fragsmith {
+namespace fs = std::filesystem;
+
+#ifdef _WIN32
+const std::string_view kForbiddenInFileNames = R"(/\:*?"<>|)";
+#else
+const std::string_view kForbiddenInFileNames = R"(/\)";
+#endif
+
+Result<std::string> ReadFile(const fs::path& path, std::size_t limit) {
+  const auto fail = [&path](std::string what, std::string advice) {
+    return Failure({.what = std::move(what),
+                    .file = Utf8FromPath(path),
+                    .line = 0,
+                    .advice = std::move(advice)});
+  };
+  std::error_code reason;
+  const fs::file_status status = fs::status(path, reason);
+  if (!fs::is_regular_file(status)) {
+    return fail(fs::exists(status) ? "This is not a file."
+                                   : "There is no such file.",
+                "Check the name.");
+  }
+  std::ifstream file(path, std::ios::binary);
+  if (!file) {
+    return fail("The file cannot be read.", "Check its permissions.");
+  }
+  const std::uintmax_t size = fs::file_size(path, reason);
+  std::string bytes;
+  if (!reason && size <= limit) bytes.reserve(size + 1);
+  // The size is no promise: the file may grow while it is read.
+  constexpr std::size_t kPiece = 65536;
+  if (reason || size <= limit) {
+    std::array<char, kPiece> piece{};
+    while (file && bytes.size() <= limit) {
+      file.read(piece.data(), static_cast<std::streamsize>(piece.size()));
+      bytes.append(piece.data(), static_cast<std::size_t>(file.gcount()));
+    }
+    if (file.bad()) return fail("The file cannot be read to its end.", "");
+  }
+  if (bytes.size() > limit || (!reason && size > limit)) {
+    return fail("The file is larger than " + std::to_string(limit >> 20U) +
+                    " MiB.",
+                "Check that it is the right one.");
+  }
+  return bytes;
+}
+
+Result<void> SaveFile(const fs::path& path, std::string_view bytes) {
+  Result<FileReplacement> replacement = FileReplacement::Begin(path);
+  if (!replacement) return Failure(replacement.error());
+  Result<void> done = replacement->Write(bytes);
+  if (done) done = replacement->Commit();
+  return done;
+}
+
+fs::path PathFromBytes(std::string_view bytes) {
+#ifdef _WIN32
+  return fs::path(std::u8string(bytes.begin(), bytes.end()));
+#else
+  return {bytes};
+#endif
+}
+
+std::string BytesFromPath(const fs::path& path) {
+  const std::u8string text = path.u8string();
+  return {text.begin(), text.end()};
+}
+
+std::string Utf8FromPath(const fs::path& path) { return BytesFromPath(path); }
+
+fs::path PathFromGameText(std::string_view text) {
+  return PathFromBytes(Utf8FromGameText(text));
+}
+
+std::optional<std::string> GameTextFromPath(const fs::path& path) {
+  return GameTextFromUtf8(Utf8FromPath(path));
+}
+
+bool IsFileName(std::string_view name) {
+  if (name.empty() || name == "." || name == "..") return false;
+  return std::none_of(name.begin(), name.end(), [](char letter) {
+    const auto byte = static_cast<unsigned char>(letter);
+    return byte < 0x20 || byte == 0x7F ||
+           Contains(kForbiddenInFileNames, std::string_view(&letter, 1));
+  });
+}
+
+std::optional<fs::path> FindFile(const fs::path& folder,
+                                 std::string_view name) {
+  if (!IsFileName(name)) return std::nullopt;
+  fs::path exact = folder / PathFromGameText(name);
+  if (IsFile(exact)) return exact;
+  for (const fs::path& other : ListFiles(folder, name)) {
+    const std::optional<std::string> text = GameTextFromPath(other);
+    if (text && EqualIgnoringCase(*text, name)) return folder / other;
+  }
+  return std::nullopt;
+}
+
+std::vector<fs::path> ListFiles(const fs::path& folder,
+                                std::string_view suffix) {
+  std::vector<fs::path> names;
+  std::error_code reason;
+  for (fs::directory_iterator entry(folder, reason), end;
+       !reason && entry != end; entry.increment(reason)) {
+    fs::path name = entry->path().filename();
+    const std::optional<std::string> text = GameTextFromPath(name);
+    // A name beyond the code page cannot be one that is looked for, but its
+    // suffix is plain ASCII all the same.
+    const std::string comparable = text ? *text : Utf8FromPath(name);
+    std::error_code ignored;
+    if (EndsWithIgnoringCase(comparable, suffix) &&
+        entry->is_regular_file(ignored)) {
+      names.push_back(std::move(name));
+    }
+  }
+  std::sort(names.begin(), names.end());
+  return names;
+}
+
+bool IsFile(const fs::path& path) {
+  std::error_code ignored;
+  return fs::is_regular_file(path, ignored);
+}
+
+bool IsFolder(const fs::path& path) {
+  std::error_code ignored;
+  return fs::is_directory(path, ignored);
+}
+
+}  // namespace fragsmith

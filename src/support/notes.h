@@ -1,0 +1,41 @@
+#ifndef FRAGSMITH_SUPPORT_NOTES_H_
+#define FRAGSMITH_SUPPORT_NOTES_H_
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+namespace fragsmith {
+
+/// Something odd that reading came across and went on from. Texts are UTF-8.
+struct Note {
+  std::string file;      ///< Name of the file as the user knows it.
+  std::size_t line = 0;  ///< Counted from 1; 0 when it is no single line.
+  std::string text;      ///< What was found and what it means for the bot.
+};
+
+/// The note as one line: "file:line: text".
+std::string Describe(const Note& note);
+
+/// What reading noticed, in the order of its discovery. A hostile file could
+/// give a note for each of its lines, so only the first kMost are kept; the
+/// rest is counted.
+class Notes {
+ public:
+  static constexpr std::size_t kMost = 1000;
+
+  void Add(Note note);
+  void Append(const Notes& other);
+
+  const std::vector<Note>& list() const { return list_; }
+  std::size_t left_out() const { return left_out_; }
+  bool empty() const { return list_.empty(); }
+
+ private:
+  std::vector<Note> list_;
+  std::size_t left_out_ = 0;
+};
+
+}  // namespace fragsmith
+
+#endif  // FRAGSMITH_SUPPORT_NOTES_H_

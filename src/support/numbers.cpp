@@ -1,0 +1,107 @@
+#include "support/numbers.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <cstddef>
+#include <system_error>
+
+#include "support/text.h"
+
+namespace fragsmith {
+namespace {
+
+bool IsDigit(char letter) { return letter >= '0' && letter <= '9'; }
+
+/// Reads digits with at most one "."; a missing part before or behind it is
+/// allowed by the caller's check.
+std::optional<double> ReadDecimal(const char* first, const char* last) {
+  double number = 0;
+  const auto read =
+      std::from_chars(first, last, number, std::chars_format::fixed);
+  if (read.ec == std::errc() && std::isfinite(number)) return number;
+  if (read.ec != std::errc::result_out_of_range) return std::nullopt;
+  // Too large and too small look alike; only a digit other than 0 before the
+  // point makes it large.
+  const bool is_large = std::any_of(first, std::find(first, last, '.'),
+                                    [](char letter) { return letter != '0'; });
+  if (is_large) return std::nullopt;
+  return 0.0;
+}
+
+}  // namespace
+
+bool IsNumericText(std::string_view text) {
+  text = TrimBlanksAndTabs(text);
+  if (!text.empty() && (text.front() == '+' || text.front() == '-')) {
+    text.remove_prefix(1);
+  }
+  const auto points = std::count(text.begin(), text.end(), '.');
+  const auto digits = std::count_if(text.begin(), text.end(), IsDigit);
+  return points <= 1 && digits >= 1 &&
+         points + digits == static_cast<std::ptrdiff_t>(text.size());
+}
+
+std::optional<double> NumberFromText(std::string_view text) {
+  if (!IsNumericText(text)) return std::nullopt;
+  text = TrimBlanksAndTabs(text);
+  const bool is_negative = text.front() == '-';
+  if (is_negative || text.front() == '+') text.remove_prefix(1);
+  const std::optional<double> number =
+      ReadDecimal(text.data(), text.data() + text.size());
+  if (!number) return std::nullopt;
+  return is_negative ? -*number : *number;
+}
+
+std::string PlainDecimal(double number, int significant_digits) {
+  // Rounding is done by the scientific form; the second step only moves the
+  // point, since the rounded decimal is printed with all of its digits.
+  std::array<char, 64> scientific{};
+  const auto rounded = std::to_chars(
+      scientific.data(), scientific.data() + scientific.size(), number,
+      std::chars_format::scientific, significant_digits - 1);
+  std::string_view text(scientific.data(),
+                        static_cast<std::size_t>(rounded.ptr -
+                                                 scientific.data()));
+  std::string sign;
+  if (text.front() == '-') {
+    sign = "-";
+    text.remove_prefix(1);
+  }
+  const std::size_t mark = text.find('e');
+  if (mark == std::string_view::npos) return sign + std::string(text);
+
+  std::string digits(text.substr(0, mark));
+  std::erase(digits, '.');
+  std::string_view power = text.substr(mark + 1);
+  if (power.front() == '+') power.remove_prefix(1);
+  int exponent = 0;
+  std::from_chars(power.data(), power.data() + power.size(), exponent);
+
+  const std::size_t last = digits.find_last_not_of('0');
+  if (last == std::string::npos) return "0";
+  digits.resize(last + 1);
+  if (exponent < 0) {
+    digits.insert(0, static_cast<std::size_t>(-exponent - 1), '0');
+    return sign + "0." + digits;
+  }
+  const auto whole = static_cast<std::size_t>(exponent) + 1;
+  if (digits.size() <= whole) {
+    digits.append(whole - digits.size(), '0');
+  } else {
+    digits.insert(whole, 1, '.');
+  }
+  return sign + digits;
+}
+
+double ShortDecimal(float number) {
+  std::array<char, 64> text{};
+  const auto end =
+      std::to_chars(text.data(), text.data() + text.size(), number);
+  double decimal = 0;
+  std::from_chars(text.data(), end.ptr, decimal);
+  return decimal;
+}
+
+}  // namespace fragsmith
