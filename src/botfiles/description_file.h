@@ -1,0 +1,33 @@
+#ifndef FRAGSMITH_BOTFILES_DESCRIPTION_FILE_H_
+#define FRAGSMITH_BOTFILES_DESCRIPTION_FILE_H_
+
+#include <string>
+#include <string_view>
+
+#include "botfiles/header_comment.h"
+#include "botfiles/read_report.h"
+#include "model/bot.h"
+
+namespace fragsmith {
+
+/// The description file that tells the game of the bot and its looks.
+std::string WriteDescriptionFile(const Bot& bot, const Author& author);
+
+/// The spelling of a model or skin in that file: as it is when a character
+/// after the first is one of A to Z, else in lower case.
+std::string ModelFileName(std::string_view name);
+
+/// Fills fun name, rail colour, model, skin and arena lord from the bytes of
+/// a description file. Fun name and rail colour are reset before. A line
+/// feeds each field whose key it holds anywhere, whatever its case, so one
+/// line may feed several.
+ReadReport ReadDescriptionFile(std::string_view bytes,
+                               const std::string& file_name, Bot& bot);
+
+/// Fun name empty and rail colour "None": how reading a description begins,
+/// also where there is no file.
+void ResetDescription(Bot& bot);
+
+}  // namespace fragsmith
+
+#endif  // FRAGSMITH_BOTFILES_DESCRIPTION_FILE_H_

@@ -1,0 +1,88 @@
+#include "botfiles/value_format.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+#include <limits>
+#include <optional>
+
+#include "support/numbers.h"
+#include "support/text.h"
+
+namespace fragsmith {
+namespace {
+
+/// The decimal without its sign and without a 0 before the point.
+std::string UnsignedDecimal(double number, int significant_digits) {
+  std::string text = PlainDecimal(std::fabs(number), significant_digits);
+  if (text.starts_with("0.")) text.erase(0, 1);
+  return text;
+}
+
+std::string FormatNumber(double number, int significant_digits) {
+  if (number == 0) return "0.0";
+  if (number == 1) return "1.0";
+  const std::string text = UnsignedDecimal(number, significant_digits);
+  return number < 1 ? "0" + text : text;
+}
+
+/// A numeric text with a "." in it.
+std::optional<Value> CleanFraction(std::string_view text) {
+  const std::size_t point = text.find('.');
+  const std::string_view before = text.substr(0, point);
+  // Nothing but a sign or blanks may stand before the point.
+  double whole = 0;
+  if (IsNumericText(before)) {
+    const std::optional<double> number = NumberFromText(before);
+    if (!number) return std::nullopt;
+    whole = *number;
+  }
+  if (std::fabs(whole) > std::numeric_limits<float>::max()) {
+    return std::nullopt;
+  }
+  const std::string_view digits = TrimBlanksAndTabs(text.substr(point + 1));
+  constexpr std::size_t kMostDigits = 3;
+  float fraction = 0;
+  if (!digits.empty() && digits.size() <= kMostDigits) {
+    const double scale = std::pow(10.0, static_cast<double>(digits.size()));
+    fraction = static_cast<float>(*NumberFromText(digits) / scale);
+  }
+  return static_cast<float>(whole + static_cast<double>(fraction));
+}
+
+Value CleanText(std::string_view text) {
+  if (text.starts_with('"')) text.remove_prefix(1);
+  if (text.ends_with(';')) text.remove_suffix(1);
+  if (text.ends_with('"')) text.remove_suffix(1);
+  return std::string(text);
+}
+
+}  // namespace
+
+std::string FormatValue(const Value& value) {
+  if (const auto* number = std::get_if<float>(&value)) {
+    return FormatNumber(static_cast<double>(*number), kFloatDigits);
+  }
+  const std::optional<double> number = ToNumber(value);
+  if (number) return FormatNumber(*number, kDoubleDigits);
+  return '"' + ToText(value) + '"';
+}
+
+Value CleanValue(std::string_view text) {
+  std::string with_zero;
+  if (text.starts_with('.') && IsNumericText(text.substr(1))) {
+    with_zero = '0' + std::string(text);
+    text = with_zero;
+  }
+  if (!IsNumericText(text)) return CleanText(text);
+  if (Contains(text, ".")) {
+    const std::optional<Value> fraction = CleanFraction(text);
+    if (fraction) return *fraction;
+  } else if (const std::optional<double> number = NumberFromText(text)) {
+    return *number;
+  }
+  // Too large for a number: kept as it is written.
+  return std::string(text);
+}
+
+}  // namespace fragsmith

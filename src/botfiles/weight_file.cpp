@@ -1,0 +1,86 @@
+#include "botfiles/weight_file.h"
+
+#include <optional>
+#include <span>
+
+#include "botfiles/keyed_line.h"
+#include "botfiles/value_format.h"
+#include "model/characteristic_catalogue.h"
+#include "support/text.h"
+
+namespace fragsmith {
+namespace {
+
+constexpr IndexRange kWeaponGroups[] = {kWeaponWeightRange};
+constexpr IndexRange kItemGroups[] = {
+    {54, 55}, {56, 63}, {64, 71}, {72, 79}, {80, 80}};
+
+/// The groups stand apart by empty lines, which surround each of them.
+std::string Write(const Bot& bot, const Author& author,
+                  std::span<const IndexRange> groups,
+                  std::string_view game_script) {
+  std::string text = HeaderComment(bot, author);
+  const auto add_line = [&text](std::string_view line) {
+    text += line;
+    text += kLineEnd;
+  };
+  add_line("");
+  add_line("");
+  add_line("#include \"inv.h\"");
+  add_line("");
+  for (const IndexRange& group : groups) {
+    for (int index = group.first; index <= group.last; ++index) {
+      text += PaddedKey(index);
+      add_line(FormatValue(bot.Parameter(index)));
+    }
+    add_line("");
+  }
+  add_line("//");
+  add_line("#include \"" + std::string(game_script) + "\"");
+  return text;
+}
+
+std::optional<int> KeyIn(std::string_view line, IndexRange range) {
+  if (!Contains(line, "#define ")) return std::nullopt;
+  for (int index = range.first; index <= range.last; ++index) {
+    if (Contains(line, BareKey(index))) return index;
+  }
+  return std::nullopt;
+}
+
+ReadReport Read(std::string_view bytes, const std::string& file_name,
+                IndexRange range, Bot& bot) {
+  ReadReport report;
+  ValueReader reader(file_name, bot, report);
+  CommentStripper comments;
+  LineReader lines(bytes);
+  while (const std::optional<std::string_view> line = lines.Next()) {
+    const std::string code = comments.Strip(*line);
+    if (IsPassedOver(*line)) continue;
+    const std::optional<int> key = KeyIn(*line, range);
+    if (key) reader.Take({lines.number(), *line, code}, *key, *key);
+  }
+  return report;
+}
+
+}  // namespace
+
+std::string WriteWeaponWeightFile(const Bot& bot, const Author& author) {
+  return Write(bot, author, kWeaponGroups, "fw_weap.c");
+}
+
+std::string WriteItemWeightFile(const Bot& bot, const Author& author) {
+  return Write(bot, author, kItemGroups, "fw_items.c");
+}
+
+ReadReport ReadWeaponWeightFile(std::string_view bytes,
+                                const std::string& file_name, Bot& bot) {
+  return Read(bytes, file_name, kWeaponWeightRange, bot);
+}
+
+ReadReport ReadItemWeightFile(std::string_view bytes,
+                              const std::string& file_name, Bot& bot) {
+  return Read(bytes, file_name, kItemWeightRange, bot);
+}
+
+}  // namespace fragsmith

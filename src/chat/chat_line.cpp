@@ -1,0 +1,296 @@
+#include "chat/chat_line.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <optional>
+#include <utility>
+
+#include "chat/chat_catalogue.h"
+#include "support/code_page.h"
+#include "support/text.h"
+
+namespace fragsmith {
+namespace {
+
+bool IsNumber(std::string_view text) {
+  return !text.empty() &&
+         text.find_first_not_of("0123456789") == std::string_view::npos;
+}
+
+bool IsZero(std::string_view digits) {
+  return digits.find_first_not_of('0') == std::string_view::npos;
+}
+
+/// A group and the digits of the member, when the whole line is one member.
+struct Member {
+  const ChatGroup* group;
+  std::string_view digits;
+};
+
+std::optional<Member> MemberInEditorForm(std::string_view line) {
+  constexpr std::string_view kEnd = "}}";
+  if (!line.starts_with("{{") || !line.ends_with(kEnd)) return std::nullopt;
+  for (const ChatGroup& group : kChatGroups) {
+    if (!line.starts_with(group.Marker)) continue;
+    std::string_view digits = line.substr(group.Marker.size());
+    digits.remove_suffix(std::min(kEnd.size(), digits.size()));
+    // "{{TAUNT" also begins "{{TAUNTFEM3}}", which then is no number.
+    if (IsNumber(digits)) return Member{&group, digits};
+  }
+  return std::nullopt;
+}
+
+std::optional<Member> MemberInFileForm(std::string_view line) {
+  for (const ChatGroup& group : kChatGroups) {
+    if (!line.starts_with(group.Name)) continue;
+    const std::string_view digits = line.substr(group.Name.size());
+    if (digits.empty() || IsNumber(digits)) return Member{&group, digits};
+  }
+  return std::nullopt;
+}
+
+/// A line on its way into file form; its outer quotes are still missing.
+struct OpenLine {
+  std::string text;
+  bool starts_with_variable = false;
+  bool ends_with_variable = false;
+};
+
+/// What takes the place of a variable, by its place in the line.
+struct Replacement {
+  std::string_view variable;
+  std::string at_start;
+  std::string in_middle;
+  std::string at_end;
+};
+
+/// Replaces all occurrences in one walk. Nothing that is put in can begin or
+/// end a variable, so walking on equals looking again from the start.
+void Replace(const Replacement& replacement, OpenLine& line) {
+  std::size_t place = line.text.find(replacement.variable);
+  if (place == std::string::npos) return;
+  const std::string old = std::exchange(line.text, {});
+  std::size_t done = 0;
+  for (; place != std::string::npos;
+       place = old.find(replacement.variable, done)) {
+    const std::size_t end = place + replacement.variable.size();
+    line.text.append(old, done, place - done);
+    if (place == 0) {
+      line.text += replacement.at_start;
+      line.starts_with_variable = true;
+    } else if (end == old.size()) {
+      line.text += replacement.at_end;
+      line.ends_with_variable = true;
+    } else {
+      line.text += replacement.in_middle;
+    }
+    done = end;
+  }
+  line.text.append(old, done);
+}
+
+/// Notes what is odd; a line of megabytes must not give a note a byte.
+void AddOddity(std::string sentence, EditorLine& result) {
+  constexpr std::size_t kMost = 20;
+  if (result.oddities.size() < kMost) {
+    result.oddities.push_back(std::move(sentence));
+  }
+}
+
+/// The part of a line that says something: without the ";" that ends it and
+/// what follows that.
+std::string_view Statement(std::string_view line, EditorLine& result) {
+  bool is_quoted = false;
+  for (std::size_t at = 0; at < line.size(); ++at) {
+    if (line[at] == '"') is_quoted = !is_quoted;
+    if (line[at] != ';' || is_quoted) continue;
+    const std::string_view rest = TrimBlanks(line.substr(at + 1));
+    if (!rest.empty() && !rest.starts_with("//")) continue;
+    if (!rest.empty()) {
+      AddOddity("The comment behind the \";\" is not kept.", result);
+    }
+    return TrimBlanks(line.substr(0, at));
+  }
+  if (line.ends_with(';')) {
+    line.remove_suffix(1);
+  } else {
+    AddOddity(
+        "There is no \";\" at the end of the line, so the game reads on into "
+        "the next one.",
+        result);
+  }
+  return TrimBlanks(line);
+}
+
+/// The variable of an item between two texts; empty when it is unknown.
+std::string_view VariableOf(int type, std::string_view item) {
+  for (const int pointer : ChatTypeAt(type).Pointers()) {
+    if (ChatPointerAt(pointer).Item() == item) {
+      return ChatPointerAt(pointer).Variable;
+    }
+  }
+  const auto* const found =
+      std::find_if(kWordLists.begin(), kWordLists.end(),
+                   [item](const WordList& list) { return list.Key == item; });
+  return found == kWordLists.end() ? std::string_view() : found->Variable;
+}
+
+/// The variables of items with commas between them, side by side; nothing
+/// when one is unknown.
+std::optional<std::string> VariablesOf(int type, std::string_view items) {
+  std::string variables;
+  while (true) {
+    const std::size_t comma = items.find(',');
+    const std::string_view variable =
+        VariableOf(type, TrimBlanks(items.substr(0, comma)));
+    if (variable.empty()) return std::nullopt;
+    variables += variable;
+    if (comma == std::string_view::npos) return variables;
+    items.remove_prefix(comma + 1);
+  }
+}
+
+/// Joins the pieces of a statement in file form.
+class PieceJoiner {
+ public:
+  PieceJoiner(int type, EditorLine& result) : type_(type), result_(result) {}
+
+  /// The text without its outermost quotes, and whether they were there.
+  void Join(std::string_view inner, bool starts_quoted, bool ends_quoted) {
+    bool is_quoted = starts_quoted;
+    bool is_first = true;
+    while (true) {
+      const std::size_t quote = inner.find('"');
+      const bool is_last = quote == std::string_view::npos;
+      const std::string_view piece = inner.substr(0, quote);
+      if (is_quoted) {
+        result_.text += piece;
+      } else {
+        // At either end the line must be unquoted for items to stand there.
+        AddItems(piece, !is_first, !is_last || ends_quoted);
+      }
+      if (is_last) return;
+      inner.remove_prefix(quote + 1);
+      is_quoted = !is_quoted;
+      is_first = false;
+    }
+  }
+
+ private:
+  void AddItems(std::string_view piece, bool has_text_before,
+                bool has_text_behind) {
+    std::string_view items = TrimBlanks(piece);
+    bool is_list = true;
+    if (has_text_before) {
+      is_list = items.starts_with(',');
+      if (is_list) items.remove_prefix(1);
+    }
+    if (has_text_behind && is_list) {
+      is_list = items.ends_with(',');
+      if (is_list) items.remove_suffix(1);
+    }
+    const std::optional<std::string> variables =
+        is_list ? VariablesOf(type_, items) : std::nullopt;
+    if (variables) {
+      result_.text += *variables;
+      return;
+    }
+    const bool is_whole = !has_text_before && !has_text_behind;
+    const bool is_word = is_whole && !Contains(items, ",");
+    AddUnknown(piece, has_text_before, has_text_behind, is_list && !is_word);
+    AddOddity(is_word
+                  ? "The game speaks the word \"" + Shown(items) +
+                        "\", which is none of its lists and groups here."
+                  : "\"" + Shown(piece) +
+                        "\" is not understood and stays as it is written.",
+              result_);
+  }
+
+  /// At an end of the line an empty text makes a list of items a middle
+  /// piece, which writing gives back.
+  void AddUnknown(std::string_view piece, bool has_text_before,
+                  bool has_text_behind, bool is_list) {
+    std::string& text = result_.text;
+    if (has_text_before) {
+      text += '"';
+    } else if (is_list) {
+      text += "\", ";
+    }
+    text += piece;
+    if (has_text_behind) {
+      text += '"';
+    } else if (is_list) {
+      text += ", \"";
+    }
+  }
+
+  static std::string Shown(std::string_view text) {
+    constexpr std::size_t kMost = 60;
+    return Utf8FromGameText(text.substr(0, kMost));
+  }
+
+  int type_;
+  EditorLine& result_;
+};
+
+}  // namespace
+
+std::string ChatLineToFile(int type, std::string_view line) {
+  if (const std::optional<Member> member = MemberInEditorForm(line)) {
+    std::string text(member->group->Name);
+    if (!member->group->Unnumbered || !IsZero(member->digits)) {
+      text += member->digits;
+    }
+    return text + ';';
+  }
+  OpenLine open = {std::string(line)};
+  for (const WordList& list : kWordLists) {
+    const std::string key(list.Key);
+    if (line == list.Variable) return key + ';';
+    Replace({list.Variable, key + ", \"", "\", " + key + ", \"", "\", " + key},
+            open);
+  }
+  for (const int pointer : ChatTypeAt(type).Pointers()) {
+    const std::string_view code = ChatPointerAt(pointer).Code;
+    Replace({ChatPointerAt(pointer).Variable, std::string(code.substr(2)),
+             std::string(code), std::string(code.substr(0, code.size() - 3))},
+            open);
+  }
+  std::string text = open.starts_with_variable ? "" : "\"";
+  text += open.text;
+  if (!open.ends_with_variable) text += '"';
+  return text + ';';
+}
+
+EditorLine ChatLineFromFile(int type, std::string_view line) {
+  EditorLine result;
+  std::string_view inner = Statement(line, result);
+  if (const std::optional<Member> member = MemberInFileForm(inner)) {
+    result.text = std::string(member->group->Marker);
+    result.text += member->digits.empty() ? "0" : member->digits;
+    result.text += "}}";
+    return result;
+  }
+  const bool starts_quoted = inner.starts_with('"');
+  if (starts_quoted) inner.remove_prefix(1);
+  const bool ends_quoted = inner.ends_with('"');
+  if (ends_quoted) inner.remove_suffix(1);
+
+  const auto* const list =
+      std::find_if(kWordLists.begin(), kWordLists.end(),
+                   [inner](const WordList& row) { return row.Key == inner; });
+  if (list != kWordLists.end()) {
+    result.text = std::string(list->Variable);
+    if (starts_quoted || ends_quoted) {
+      AddOddity("The text \"" + std::string(inner) +
+                    "\" is taken for the word list of that name.",
+                result);
+    }
+    return result;
+  }
+  if (inner.empty()) return result;
+  PieceJoiner(type, result).Join(inner, starts_quoted, ends_quoted);
+  return result;
+}
+
+}  // namespace fragsmith
