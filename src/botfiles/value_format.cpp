@@ -37,7 +37,8 @@ std::optional<Value> CleanFraction(std::string_view text) {
     if (!number) return std::nullopt;
     whole = *number;
   }
-  if (std::fabs(whole) > std::numeric_limits<float>::max()) {
+  constexpr double kMost = std::numeric_limits<float>::max();
+  if (std::fabs(whole) > kMost) {
     return std::nullopt;
   }
   const std::string_view digits = TrimBlanksAndTabs(text.substr(point + 1));

@@ -53,12 +53,19 @@ ReadReport Read(std::string_view bytes, const std::string& file_name,
   ReadReport report;
   ValueReader reader(file_name, bot, report);
   CommentStripper comments;
+  bool has_weight = false;
   LineReader lines(bytes);
   while (const std::optional<std::string_view> line = lines.Next()) {
     const std::string code = comments.Strip(*line);
     if (IsPassedOver(*line)) continue;
     const std::optional<int> key = KeyIn(*line, range);
-    if (key) reader.Take({lines.number(), *line, code}, *key, *key);
+    if (!key) continue;
+    has_weight = true;
+    reader.Take({lines.number(), *line, code}, *key, *key);
+  }
+  if (!has_weight) {
+    reader.AddNote(0, "The file sets none of the weights that a bot has here; "
+                      "they stay as they were.");
   }
   return report;
 }

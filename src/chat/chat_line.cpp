@@ -7,6 +7,7 @@
 
 #include "chat/chat_catalogue.h"
 #include "support/code_page.h"
+#include "support/numbers.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -120,6 +121,24 @@ std::string_view Statement(std::string_view line, EditorLine& result) {
         result);
   }
   return TrimBlanks(line);
+}
+
+/// A member that some game data has and others lack.
+void NoteOddNumber(const Member& member, EditorLine& result) {
+  const ChatGroup& group = *member.group;
+  const std::string name(group.Name);
+  if (group.Unnumbered && !member.digits.empty() && IsZero(member.digits)) {
+    AddOddity(name + std::string(member.digits) + " is written back as " +
+                  name + ".",
+              result);
+  }
+  const std::optional<double> number = NumberFromText(member.digits);
+  if (number && *number > group.MaxNumber) {
+    AddOddity(name + " has the members 0 to " +
+                  std::to_string(group.MaxNumber) +
+                  " in the game; this one is kept as it is.",
+              result);
+  }
 }
 
 /// The variable of an item between two texts; empty when it is unknown.
@@ -269,6 +288,7 @@ EditorLine ChatLineFromFile(int type, std::string_view line) {
     result.text = std::string(member->group->Marker);
     result.text += member->digits.empty() ? "0" : member->digits;
     result.text += "}}";
+    NoteOddNumber(*member, result);
     return result;
   }
   const bool starts_quoted = inner.starts_with('"');
