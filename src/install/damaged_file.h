@@ -1,0 +1,24 @@
+#ifndef FRAGSMITH_INSTALL_DAMAGED_FILE_H_
+#define FRAGSMITH_INSTALL_DAMAGED_FILE_H_
+
+#include <filesystem>
+#include <functional>
+#include <string_view>
+
+#include "support/result.h"
+
+namespace fragsmith {
+
+/// True for the bytes of a file that its reader reads to the end.
+using IsWholeFile = std::function<bool(std::string_view bytes)>;
+
+/// Saves one of the program's own files. A file that stands there and cannot
+/// be read whole holds something that this run does not know of: it is kept
+/// beside as NAME.bak before the new one takes its place.
+Result<void> SaveKeepingDamaged(const std::filesystem::path& path,
+                                std::string_view bytes,
+                                const IsWholeFile& is_whole);
+
+}  // namespace fragsmith
+
+#endif  // FRAGSMITH_INSTALL_DAMAGED_FILE_H_

@@ -1,0 +1,43 @@
+#ifndef FRAGSMITH_SUPPORT_CHILD_PROCESS_H_
+#define FRAGSMITH_SUPPORT_CHILD_PROCESS_H_
+
+#include <cstdint>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "support/result.h"
+
+namespace fragsmith {
+
+/// A program that runs beside ours, without a shell and without any of our
+/// input and output; where there are windows, minimised and without focus.
+/// When this object goes away while the program still runs, the program is
+/// left alone.
+class ChildProcess {
+ public:
+  /// Each argument reaches the program as it is, in the bytes in which a
+  /// setting or an argument of ours would hold it.
+  static Result<ChildProcess> Start(const std::filesystem::path& program,
+                                    const std::vector<std::string>& arguments);
+
+  ChildProcess(ChildProcess&& other) noexcept;
+  ChildProcess& operator=(ChildProcess&& other) = delete;
+  ChildProcess(const ChildProcess&) = delete;
+  ChildProcess& operator=(const ChildProcess&) = delete;
+  ~ChildProcess();
+
+  /// Returns at once. What the system kept of a program that has ended is
+  /// cleared away.
+  bool IsRunning();
+
+ private:
+  explicit ChildProcess(std::intptr_t handle) : handle_(handle) {}
+
+  /// A process number or a process handle; 0 when the program has ended.
+  std::intptr_t handle_;
+};
+
+}  // namespace fragsmith
+
+#endif  // FRAGSMITH_SUPPORT_CHILD_PROCESS_H_

@@ -1,0 +1,28 @@
+#ifndef FRAGSMITH_SUPPORT_TEMPORARY_FOLDER_H_
+#define FRAGSMITH_SUPPORT_TEMPORARY_FOLDER_H_
+
+#include <filesystem>
+
+#include "support/result.h"
+
+namespace fragsmith {
+
+/// A folder for this run alone: only its owner may enter it, it lies in the
+/// system's temporary folder, is made when it is first asked for and goes,
+/// with all that is in it, when this object goes.
+class TemporaryFolder {
+ public:
+  TemporaryFolder() = default;
+  TemporaryFolder(const TemporaryFolder&) = delete;
+  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+  ~TemporaryFolder();
+
+  Result<std::filesystem::path> GetTempFolder();
+
+ private:
+  std::filesystem::path path_;
+};
+
+}  // namespace fragsmith
+
+#endif  // FRAGSMITH_SUPPORT_TEMPORARY_FOLDER_H_

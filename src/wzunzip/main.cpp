@@ -1,0 +1,20 @@
+#include <cstdlib>
+#include <exception>
+#include <iostream>
+
+#include "install/time_zone.h"
+#include "install/unzip_command.h"
+#include "support/program_arguments.h"
+#include "support/result.h"
+
+int main(int count, char** arguments) try {
+  fragsmith::PrepareTimeZone();
+  const fragsmith::Result<void> done = fragsmith::RunUnzipCommand(
+      fragsmith::ProgramArguments(count, arguments));
+  if (done) return EXIT_SUCCESS;
+  std::cerr << fragsmith::Describe(done.error()) << '\n';
+  return EXIT_FAILURE;
+} catch (const std::exception& failure) {
+  std::cerr << failure.what() << '\n';
+  return EXIT_FAILURE;
+}
