@@ -1,7 +1,9 @@
 #include "botfiles/characteristic_file.h"
 
 #include <algorithm>
+#include <bitset>
 #include <charconv>
+#include <cstddef>
 #include <optional>
 #include <system_error>
 
@@ -122,14 +124,25 @@ bool IsKnownLevel(std::optional<int> level) {
 /// anywhere in the line. The two general aim keys are also the beginnings of
 /// the weapon-specific ones and do not count there.
 std::optional<int> KeyIn(std::string_view line) {
-  // Every key begins so; most lines of a comment need no further look.
-  if (!Contains(line, "CHARACTERISTIC_")) return std::nullopt;
-  for (int index = kNameIndex; index <= kChatRange.last; ++index) {
-    const std::string_view key = BareKey(index);
-    if (!Contains(line, key)) continue;
-    const bool is_general_aim = index == 3 || index == 4;
-    if (is_general_aim && Contains(line, std::string(key) + "_")) continue;
-    return index;
+  // Every key begins so, and one walk over a line is enough for them all.
+  constexpr std::string_view kStart = "CHARACTERISTIC_";
+  std::bitset<kChatRange.last + 1> stands;
+  std::bitset<kChatRange.last + 1> is_continued;
+  for (std::size_t place = line.find(kStart); place != std::string_view::npos;
+       place = line.find(kStart, place + kStart.size())) {
+    const std::string_view rest = line.substr(place);
+    for (std::size_t index = 0; index < stands.size(); ++index) {
+      const std::string_view key = BareKey(static_cast<int>(index));
+      if (!rest.starts_with(key)) continue;
+      stands.set(index);
+      if (rest.substr(key.size()).starts_with('_')) is_continued.set(index);
+    }
+  }
+  for (const std::size_t general_aim : {3U, 4U}) {
+    if (is_continued[general_aim]) stands.reset(general_aim);
+  }
+  for (std::size_t index = 0; index < stands.size(); ++index) {
+    if (stands[index]) return static_cast<int>(index);
   }
   return std::nullopt;
 }

@@ -63,7 +63,8 @@ std::string_view FieldName(int field) {
 /// One description on its way into a bot.
 class DescriptionReader {
  public:
-  DescriptionReader(const std::string& file, Bot& bot) : file_(file), bot_(bot) {
+  DescriptionReader(const std::string& file, Bot& bot)
+      : file_(file), bot_(bot) {
     for (const int field : {kFunNameField, kRailColorField, kModelField,
                             kSkinField, kArenaLordField}) {
       plain_.emplace(field, bot.Parameter(field));
@@ -90,16 +91,17 @@ class DescriptionReader {
   }
 
   /// Compares what was read with what the game takes.
-  ReadReport Finish() {
+  DescriptionReport Finish() {
+    report_.has_arena_lord = fed_by_.contains(kArenaLordField);
     for (const auto& [field, line] : fed_by_) {
       const Value& read = bot_.Parameter(field);
       const Value& plain = plain_.at(field);
       if (IsSameValue(read, plain)) continue;
-      report_.notes.Add(
-          {file_, line,
-           std::string(FieldName(field)) + ": read as \"" +
-               Utf8FromGameText(ToText(read)) + "\", but the game takes \"" +
-               Utf8FromGameText(ToText(plain)) + "\"."});
+      report_.notes.Add({file_, line,
+                         std::string(FieldName(field)) + ": read as \"" +
+                             ShownText(ToText(read)) +
+                             "\", but the game takes \"" +
+                             ShownText(ToText(plain)) + "\"."});
       report_.plain_values.insert_or_assign(field, plain);
     }
     return std::move(report_);
@@ -126,9 +128,9 @@ class DescriptionReader {
     if (stored) {
       fed_by_[kArenaLordField] = line_;
     } else {
-      report_.notes.Add({file_, line_,
-                         "arenaLord: " + stored.error().what +
-                             " The bot keeps its value."});
+      report_.notes.Add(
+          {file_, line_,
+           "arenaLord: " + stored.error().what + " The bot keeps its value."});
     }
   }
 
@@ -174,7 +176,7 @@ class DescriptionReader {
   Bot& bot_;
   std::size_t line_ = 0;
   CommentStripper comments_;
-  ReadReport report_;
+  DescriptionReport report_;
   std::map<int, Value> plain_;
   std::map<int, std::size_t> fed_by_;
 };
@@ -183,9 +185,8 @@ class DescriptionReader {
 
 std::string ModelFileName(std::string_view name) {
   const bool has_inner_capital =
-      !name.empty() && std::any_of(name.begin() + 1, name.end(), [](char c) {
-        return c >= 'A' && c <= 'Z';
-      });
+      !name.empty() && std::any_of(name.begin() + 1, name.end(),
+                                   [](char c) { return c >= 'A' && c <= 'Z'; });
   return has_inner_capital ? std::string(name) : ToLower(name);
 }
 
@@ -219,8 +220,8 @@ void ResetDescription(Bot& bot) {
   (void)bot.SetParameter(kRailColorField, std::string(kNoRailColor));
 }
 
-ReadReport ReadDescriptionFile(std::string_view bytes,
-                               const std::string& file_name, Bot& bot) {
+DescriptionReport ReadDescriptionFile(std::string_view bytes,
+                                      const std::string& file_name, Bot& bot) {
   ResetDescription(bot);
   DescriptionReader reader(file_name, bot);
   LineReader lines(bytes);

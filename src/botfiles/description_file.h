@@ -17,12 +17,17 @@ std::string WriteDescriptionFile(const Bot& bot, const Author& author);
 /// after the first is one of A to Z, else in lower case.
 std::string ModelFileName(std::string_view name);
 
+struct DescriptionReport : ReadReport {
+  /// The file has an arena lord, though it may be 0.
+  bool has_arena_lord = false;
+};
+
 /// Fills fun name, rail colour, model, skin and arena lord from the bytes of
 /// a description file. Fun name and rail colour are reset before. A line
 /// feeds each field whose key it holds anywhere, whatever its case, so one
 /// line may feed several.
-ReadReport ReadDescriptionFile(std::string_view bytes,
-                               const std::string& file_name, Bot& bot);
+DescriptionReport ReadDescriptionFile(std::string_view bytes,
+                                      const std::string& file_name, Bot& bot);
 
 /// Fun name empty and rail colour "None": how reading a description begins,
 /// also where there is no file.

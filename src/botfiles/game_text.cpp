@@ -51,11 +51,9 @@ Value PlainValue(std::string_view token) {
 
 bool IsSameValue(const Value& read, const Value& plain) {
   const auto* number = std::get_if<double>(&plain);
-  if (number == nullptr) return read == plain;
-  if (const auto* fraction = std::get_if<float>(&read)) {
-    return *fraction == static_cast<float>(*number);
-  }
-  return read == plain;
+  const auto* fraction = std::get_if<float>(&read);
+  if (number == nullptr || fraction == nullptr) return read == plain;
+  return ShortDecimal(*fraction) == ShortDecimal(static_cast<float>(*number));
 }
 
 }  // namespace fragsmith

@@ -29,7 +29,7 @@ std::string_view FirstToken(std::string_view text);
 Value PlainValue(std::string_view token);
 
 /// True when a value that was read says the same as the plain one: a number
-/// with a fraction is held as a 32-bit float and compared as such.
+/// with a fraction is a 32-bit float, and compared with the digits of one.
 bool IsSameValue(const Value& read, const Value& plain);
 
 }  // namespace fragsmith

@@ -24,14 +24,11 @@ std::string Describe(int key, int parameter) {
   return text;
 }
 
-/// A value in a note; long texts are cut, for a line may have megabytes.
+/// A value in a note.
 std::string Shown(const Value& value) {
   if (std::holds_alternative<std::monostate>(value)) return "nothing";
   if (!std::holds_alternative<std::string>(value)) return ToText(value);
-  constexpr std::size_t kMost = 60;
-  std::string text = ToText(value);
-  if (text.size() > kMost) text = text.substr(0, kMost) + "...";
-  return '"' + Utf8FromGameText(text) + '"';
+  return '"' + ShownText(ToText(value)) + '"';
 }
 
 }  // namespace
@@ -84,17 +81,16 @@ void ValueReader::Compare(const KeyedLine& line, int key, int parameter,
   const std::size_t place = line.code.find(BareKey(key));
   if (place == std::string_view::npos) {
     report_.plain_values.try_emplace(parameter, before);
-    AddNote(line.number, Describe(key, parameter) + ": read as " +
-                             Shown(read) +
+    AddNote(line.number, Describe(key, parameter) + ": read as " + Shown(read) +
                              ", but the line is a comment for the game.");
     return;
   }
-  Value plain = PlainValue(
-      FirstToken(line.code.substr(place + BareKey(key).size())));
+  Value plain =
+      PlainValue(FirstToken(line.code.substr(place + BareKey(key).size())));
   if (IsIdentity(key)) plain = WithoutBlanks(plain);
   if (!IsSameValue(read, plain)) {
-    AddNote(line.number, Describe(key, parameter) + ": read as " +
-                             Shown(read) + ", but " + Shown(plain) +
+    AddNote(line.number, Describe(key, parameter) + ": read as " + Shown(read) +
+                             ", but " + Shown(plain) +
                              " stands behind the key.");
     report_.plain_values.insert_or_assign(parameter, std::move(plain));
     return;

@@ -67,12 +67,13 @@ void SetStandardIdentity(Bot& bot, const StandardBotNames& standard_bots) {
   if (identity.is_arena_lord) (void)bot.SetParameter(kArenaLordField, 1.0);
 }
 
-void FillStandardIdentity(Bot& bot, const StandardBotNames& standard_bots) {
+void FillStandardIdentity(Bot& bot, bool has_arena_lord,
+                          const StandardBotNames& standard_bots) {
   const std::string name = bot.Name();
   if (!standard_bots.contains(name)) return;
   const Identity& identity = IdentityOf(name);
   if (bot.FunName().empty()) Set(bot, kFunNameField, identity.fun_name);
-  if (identity.is_arena_lord && ToNumber(bot.Parameter(kArenaLordField)) == 0) {
+  if (identity.is_arena_lord && !has_arena_lord) {
     (void)bot.SetParameter(kArenaLordField, 1.0);
   }
 }

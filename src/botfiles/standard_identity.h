@@ -18,9 +18,11 @@ using StandardBotNames = std::set<std::string, std::less<>>;
 /// lord, that the game gives it.
 void SetStandardIdentity(Bot& bot, const StandardBotNames& standard_bots);
 
-/// Of the same table only the fun name and the arena lord, and only where
-/// the bot has none.
-void FillStandardIdentity(Bot& bot, const StandardBotNames& standard_bots);
+/// Of the same table only what a description that was read left empty: the
+/// fun name where the bot has none, and the arena lord where the file did not
+/// speak of it.
+void FillStandardIdentity(Bot& bot, bool has_arena_lord,
+                          const StandardBotNames& standard_bots);
 
 }  // namespace fragsmith
 

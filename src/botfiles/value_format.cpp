@@ -43,12 +43,14 @@ std::optional<Value> CleanFraction(std::string_view text) {
   }
   const std::string_view digits = TrimBlanksAndTabs(text.substr(point + 1));
   constexpr std::size_t kMostDigits = 3;
-  float fraction = 0;
+  double fraction = 0;
   if (!digits.empty() && digits.size() <= kMostDigits) {
     const double scale = std::pow(10.0, static_cast<double>(digits.size()));
-    fraction = static_cast<float>(*NumberFromText(digits) / scale);
+    fraction = *NumberFromText(digits) / scale;
   }
-  return static_cast<float>(whole + static_cast<double>(fraction));
+  // Rounded to a float only once: 1 and a rounded 0.18 would add up to
+  // 1.1800001, which no file could hold again.
+  return static_cast<float>(whole + fraction);
 }
 
 Value CleanText(std::string_view text) {

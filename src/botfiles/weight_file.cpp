@@ -64,8 +64,9 @@ ReadReport Read(std::string_view bytes, const std::string& file_name,
     reader.Take({lines.number(), *line, code}, *key, *key);
   }
   if (!has_weight) {
-    reader.AddNote(0, "The file sets none of the weights that a bot has here; "
-                      "they stay as they were.");
+    reader.AddNote(0,
+                   "The file sets none of the weights that a bot has here; "
+                   "they stay as they were.");
   }
   return report;
 }

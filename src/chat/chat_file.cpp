@@ -32,8 +32,9 @@ bool IsPassedOver(std::string_view line) {
 /// True for a line that begins a block although the one before is open.
 bool IsTypeLine(std::string_view line) {
   constexpr std::string_view kWord = "type";
-  return line.starts_with(kWord) &&
-         TrimBlanks(line.substr(kWord.size())).starts_with('"');
+  if (!line.starts_with(kWord)) return false;
+  line = TrimBlanks(line.substr(kWord.size()));
+  return line.starts_with('"') && Contains(line.substr(1), "\"");
 }
 
 /// One chat file on its way into a bot.

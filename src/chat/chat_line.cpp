@@ -128,9 +128,9 @@ void NoteOddNumber(const Member& member, EditorLine& result) {
   const ChatGroup& group = *member.group;
   const std::string name(group.Name);
   if (group.Unnumbered && !member.digits.empty() && IsZero(member.digits)) {
-    AddOddity(name + std::string(member.digits) + " is written back as " +
-                  name + ".",
-              result);
+    AddOddity(
+        name + std::string(member.digits) + " is written back as " + name + ".",
+        result);
   }
   const std::optional<double> number = NumberFromText(member.digits);
   if (number && *number > group.MaxNumber) {
@@ -161,7 +161,7 @@ std::optional<std::string> VariablesOf(int type, std::string_view items) {
   while (true) {
     const std::size_t comma = items.find(',');
     const std::string_view variable =
-        VariableOf(type, TrimBlanks(items.substr(0, comma)));
+        VariableOf(type, RemoveBlanks(items.substr(0, comma)));
     if (variable.empty()) return std::nullopt;
     variables += variable;
     if (comma == std::string_view::npos) return variables;
@@ -176,71 +176,93 @@ class PieceJoiner {
 
   /// The text without its outermost quotes, and whether they were there.
   void Join(std::string_view inner, bool starts_quoted, bool ends_quoted) {
+    ends_quoted_ = ends_quoted;
     bool is_quoted = starts_quoted;
     bool is_first = true;
-    while (true) {
+    for (int unquoted = 0;; is_quoted = !is_quoted, is_first = false) {
+      // The rest of a line of very many pieces stays as it is written.
+      if (!is_quoted && ++unquoted > kMostPieces) return AddRest(inner);
       const std::size_t quote = inner.find('"');
       const bool is_last = quote == std::string_view::npos;
       const std::string_view piece = inner.substr(0, quote);
       if (is_quoted) {
         result_.text += piece;
       } else {
-        // At either end the line must be unquoted for items to stand there.
-        AddItems(piece, !is_first, !is_last || ends_quoted);
+        AddItems(piece, is_first, is_last);
       }
       if (is_last) return;
       inner.remove_prefix(quote + 1);
-      is_quoted = !is_quoted;
-      is_first = false;
     }
   }
 
  private:
-  void AddItems(std::string_view piece, bool has_text_before,
-                bool has_text_behind) {
-    std::string_view items = TrimBlanks(piece);
-    bool is_list = true;
-    if (has_text_before) {
-      is_list = items.starts_with(',');
-      if (is_list) items.remove_prefix(1);
+  static constexpr int kMostPieces = 19;
+
+  void AddItems(std::string_view piece, bool is_first, bool is_last) {
+    const bool is_whole = is_first && is_last;
+    if (is_whole && ends_quoted_) {
+      // A text that lacks its opening quote.
+      result_.text += piece;
+      return Note(piece);
     }
-    if (has_text_behind && is_list) {
-      is_list = items.ends_with(',');
-      if (is_list) items.remove_suffix(1);
-    }
+    const std::string_view items =
+        WithoutOuterCommas(TrimBlanks(piece), !is_first, !is_last);
     const std::optional<std::string> variables =
-        is_list ? VariablesOf(type_, items) : std::nullopt;
+        is_last && ends_quoted_ ? std::nullopt : VariablesOf(type_, items);
     if (variables) {
       result_.text += *variables;
-      return;
+    } else if (is_whole && !Contains(items, ",")) {
+      result_.text += items;
+      AddOddity("The game speaks the word \"" + Shown(items) +
+                    "\", which is none of its lists and groups here.",
+                result_);
+    } else {
+      AddUnknown(piece, is_first, is_last);
+      Note(piece);
     }
-    const bool is_whole = !has_text_before && !has_text_behind;
-    const bool is_word = is_whole && !Contains(items, ",");
-    AddUnknown(piece, has_text_before, has_text_behind, is_list && !is_word);
-    AddOddity(is_word
-                  ? "The game speaks the word \"" + Shown(items) +
-                        "\", which is none of its lists and groups here."
-                  : "\"" + Shown(piece) +
-                        "\" is not understood and stays as it is written.",
-              result_);
   }
 
-  /// At an end of the line an empty text makes a list of items a middle
-  /// piece, which writing gives back.
-  void AddUnknown(std::string_view piece, bool has_text_before,
-                  bool has_text_behind, bool is_list) {
-    std::string& text = result_.text;
+  /// Items with a text before or behind them have a comma there; without one
+  /// nothing is left that could be an item.
+  static std::string_view WithoutOuterCommas(std::string_view items,
+                                             bool has_text_before,
+                                             bool has_text_behind) {
     if (has_text_before) {
-      text += '"';
-    } else if (is_list) {
-      text += "\", ";
+      if (!items.starts_with(',')) return {};
+      items.remove_prefix(1);
     }
-    text += piece;
     if (has_text_behind) {
+      if (!items.ends_with(',')) return {};
+      items.remove_suffix(1);
+    }
+    return items;
+  }
+
+  /// At an end of the line an empty text makes a middle piece of it, which
+  /// writing gives back.
+  void AddUnknown(std::string_view piece, bool is_first, bool is_last) {
+    std::string& text = result_.text;
+    text += is_first ? "\", " : "\"";
+    text += piece;
+    if (!is_last) {
       text += '"';
-    } else if (is_list) {
+    } else if (!ends_quoted_) {
       text += ", \"";
     }
+  }
+
+  void AddRest(std::string_view rest) {
+    result_.text += '"';
+    result_.text += rest;
+    const bool ends_inside = std::count(rest.begin(), rest.end(), '"') % 2 != 0;
+    if (!ends_inside && !ends_quoted_) result_.text += ", \"";
+    Note(rest);
+  }
+
+  void Note(std::string_view piece) {
+    AddOddity("\"" + Shown(piece) +
+                  "\" is not understood and stays as it is written.",
+              result_);
   }
 
   static std::string Shown(std::string_view text) {
@@ -250,6 +272,7 @@ class PieceJoiner {
 
   int type_;
   EditorLine& result_;
+  bool ends_quoted_ = false;
 };
 
 }  // namespace
@@ -264,6 +287,7 @@ std::string ChatLineToFile(int type, std::string_view line) {
   }
   OpenLine open = {std::string(line)};
   for (const WordList& list : kWordLists) {
+    if (!Contains(open.text, list.Variable)) continue;
     const std::string key(list.Key);
     if (line == list.Variable) return key + ';';
     Replace({list.Variable, key + ", \"", "\", " + key + ", \"", "\", " + key},

@@ -15,8 +15,7 @@
 namespace fragsmith {
 
 CLI::App& AddCommand(CLI::App& app, const std::string& name,
-                     const std::string& description,
-                     CommandContext& context) {
+                     const std::string& description, CommandContext& context) {
   CLI::App* const command = app.add_subcommand(name, description);
   command
       ->add_option("--program-folder", context.given_folder,

@@ -8,8 +8,8 @@
 
 namespace fragsmith {
 
-/// The whole command line program, given its arguments without its name; gives its exit status: 0 done, 1 refused or
-/// failed, 2 wrong usage.
+/// The whole command line program, given its arguments without its name; gives
+/// its exit status: 0 done, 1 refused or failed, 2 wrong usage.
 int RunCommandLine(std::vector<std::string> arguments, std::istream& in,
                    std::ostream& out, std::ostream& err);
 

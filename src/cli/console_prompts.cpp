@@ -12,8 +12,8 @@ bool ConsolePrompts::Confirm(const std::string& title,
   return false;
 }
 
-std::optional<std::string> ConsolePrompts::AskText(
-    const std::string& title, const std::string& prompt) {
+std::optional<std::string> ConsolePrompts::AskText(const std::string& title,
+                                                   const std::string& prompt) {
   err_ << title << ": " << prompt << " - no answer\n";
   return std::nullopt;
 }

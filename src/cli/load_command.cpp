@@ -8,7 +8,6 @@
 
 #include "cli/command.h"
 #include "install/base_scan.h"
-#include "install/game_folder.h"
 #include "install/package.h"
 #include "session/bot_document.h"
 #include "session/load_bot.h"
@@ -30,45 +29,57 @@ struct LoadOptions {
   bool as_game = false;
 };
 
-/// The bot that is meant among those of the source, by its place; otherwise
-/// the user is told which there are.
-std::optional<std::size_t> Choose(const std::vector<std::string>& names,
-                                  const LoadOptions& options,
-                                  CommandContext& context,
-                                  ExitStatus& refusal) {
-  refusal = kFailed;
-  if (options.name.empty() && names.size() == 1) return 0;
+/// The bot that is meant among those of a source, by its place, or how the
+/// program ends without one.
+struct Choice {
+  std::optional<std::size_t> place;
+  ExitStatus refusal = kFailed;
+};
+
+std::optional<std::size_t> FindName(const std::vector<std::string>& names,
+                                    const std::string& wanted) {
+  auto found = std::find(names.begin(), names.end(), wanted);
+  if (found == names.end()) {
+    found = std::find_if(names.begin(), names.end(),
+                         [&wanted](const std::string& name) {
+                           return EqualIgnoringCase(name, wanted);
+                         });
+  }
+  if (found == names.end()) return std::nullopt;
+  return static_cast<std::size_t>(found - names.begin());
+}
+
+void PrintNames(const std::vector<std::string>& names,
+                CommandContext& context) {
+  for (const std::string& name : names) {
+    context.err << Utf8FromGameText(name) << '\n';
+  }
+}
+
+Choice Choose(const std::vector<std::string>& names, const LoadOptions& options,
+              CommandContext& context) {
   if (names.empty()) {
     Fail(context, {.what = "There are no bot files.",
                    .file = options.source,
                    .line = 0,
                    .advice = "The files of a bot end in _c.c, _w.c, _i.c and "
                              "_t.c."});
-    return std::nullopt;
-  }
-  const std::optional<std::string> wanted = GameTextFromUtf8(options.name);
-  if (!options.name.empty() && wanted) {
-    auto found = std::find(names.begin(), names.end(), *wanted);
-    if (found == names.end()) {
-      found = std::find_if(names.begin(), names.end(),
-                           [&wanted](const std::string& name) {
-                             return EqualIgnoringCase(name, *wanted);
-                           });
-    }
-    if (found != names.end()) {
-      return static_cast<std::size_t>(found - names.begin());
-    }
+    return {};
   }
   if (options.name.empty()) {
+    if (names.size() == 1) return {.place = 0};
     context.err << "There is more than one bot; give the name of one:\n";
-    refusal = kWrongUsage;
-  } else {
+    PrintNames(names, context);
+    return {.place = {}, .refusal = kWrongUsage};
+  }
+  const std::optional<std::string> wanted = GameTextFromUtf8(options.name);
+  const std::optional<std::size_t> place =
+      wanted ? FindName(names, *wanted) : std::nullopt;
+  if (!place) {
     context.err << "There is no bot " << options.name << "; there are:\n";
+    PrintNames(names, context);
   }
-  for (const std::string& name : names) {
-    context.err << Utf8FromGameText(name) << '\n';
-  }
-  return std::nullopt;
+  return {.place = place};
 }
 
 ExitStatus Print(LoadedBot loaded, const LoadOptions& options,
@@ -106,11 +117,14 @@ std::vector<std::string> BotNamesIn(const fs::path& folder) {
 ExitStatus LoadFolder(const fs::path& folder, const LoadOptions& options,
                       CommandContext& context) {
   const std::vector<std::string> names = BotNamesIn(folder);
-  ExitStatus refusal = kFailed;
-  const std::optional<std::size_t> chosen =
-      Choose(names, options, context, refusal);
-  if (!chosen) return refusal;
-  return LoadFrom(folder, names[*chosen], options, context);
+  const std::optional<std::string> wanted = GameTextFromUtf8(options.name);
+  if (wanted && !wanted->empty() && !FindName(names, *wanted)) {
+    // A bot may lack its first file; what there is of it is loaded.
+    return LoadFrom(folder, *wanted, options, context);
+  }
+  const Choice choice = Choose(names, options, context);
+  if (!choice.place) return choice.refusal;
+  return LoadFrom(folder, names[*choice.place], options, context);
 }
 
 /// For work whose boxes are no concern of the user's.
@@ -142,48 +156,34 @@ ExitStatus LoadPackage(const fs::path& package, const LoadOptions& options,
   const Result<std::string> listing = ListPackage(package, notes);
   if (!listing) return Fail(context, listing.error());
   PrintNotes(context, notes);
-  BaseLists lists = LoadListsFor(context);
   const std::string package_name =
       GameTextFromPath(package.filename()).value_or(std::string());
-
-  // The game's own package is never scanned: its bots are known by heart.
-  const BotList found = BotsInListing(*listing, package_name);
+  const std::vector<BotListEntry> bots =
+      BotsInListing(*listing, package_name).entries();
   std::vector<std::string> names;
-  std::vector<BotListEntry> entries;
-  for (BotListEntry entry : found.entries()) {
-    const std::optional<std::size_t> known = lists.bots.Find(entry.Name);
-    if (package_name != kGamePackage) {
-      lists.bots.AddBot(entry.Name, entry.PK3File, entry.HasBotScript);
-    } else if (known) {
-      entry = lists.bots.entries()[*known];
-    }
-    names.push_back(entry.Name);
-    entries.push_back(std::move(entry));
-  }
-  ExitStatus refusal = kFailed;
-  const std::optional<std::size_t> chosen =
-      Choose(names, options, context, refusal);
-  if (!chosen) return refusal;
+  for (const BotListEntry& bot : bots) names.push_back(bot.Name);
+  const Choice choice = Choose(names, options, context);
+  if (!choice.place) return choice.refusal;
 
+  const BaseLists lists = LoadListsFor(context);
   TemporaryFolder temporary;
   const std::optional<fs::path> own = FindOwnUnzipFolder(FindProgramPlace());
   const UnzipTool tool = {
-      .folder =
-          own ? *own : PathFromBytes(LoadSettingsFor(context).WinZipDir),
+      .folder = own ? *own : PathFromBytes(LoadSettingsFor(context).WinZipDir),
       .keep_going = {}};
-  const std::string& name = names[*chosen];
+  const BotListEntry& bot = bots[*choice.place];
   const bool loads_description = !options.no_description;
   std::optional<LoadedBot> loaded = LoadBotFromPackage(
       {.package = fs::absolute(package),
-       .name = name,
-       .withScript = loads_description && entries[*chosen].HasBotScript,
+       .name = bot.Name,
+       .withScript = loads_description && bot.HasBotScript,
        .loads_description = loads_description},
       Bot(), tool, temporary, {lists.models, lists.bots, context.prompts});
   if (loaded) return Print(std::move(*loaded), options, lists.models, context);
-  context.prompts.Show({.title = "Operation cancelled!",
-                        .text = "Bot " + Utf8FromGameText(name) +
-                                " not loaded.",
-                        .icon = MessageIcon::kInformation});
+  context.prompts.Show(
+      {.title = "Operation cancelled!",
+       .text = "Bot " + Utf8FromGameText(bot.Name) + " not loaded.",
+       .icon = MessageIcon::kInformation});
   return kFailed;
 }
 

@@ -43,8 +43,8 @@ ExitStatus RunNew(const NewOptions& options, CommandContext& context) {
 }  // namespace
 
 void AddNewCommand(CLI::App& app, CommandContext& context) {
-  CLI::App& command = AddCommand(
-      app, "new", "Print a new bot as a JSON document", context);
+  CLI::App& command =
+      AddCommand(app, "new", "Print a new bot as a JSON document", context);
   auto options = std::make_shared<NewOptions>();
   command.add_option("--preset", options->preset, "Values to begin with")
       ->check(CLI::IsMember({"zeros", "average"}))

@@ -83,8 +83,8 @@ ExitStatus RunScan(const ScanOptions& options, CommandContext& context) {
   };
   CatalogueSelection selection;
   Notes notes;
-  const bool is_done = CheckBaseq3(settings, lists, selection, context.prompts,
-                                   progress, notes);
+  const bool is_done =
+      CheckBaseq3(settings, lists, selection, context.prompts, progress, notes);
   PrintNotes(context, notes);
   if (!is_done) return kFailed;
   if (options.as_json) {

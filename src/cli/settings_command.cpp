@@ -27,12 +27,12 @@ ExitStatus RunSettings(CommandContext& context) {
 }  // namespace
 
 void AddSettingsCommand(CLI::App& app, CommandContext& context) {
-  CLI::App& command =
-      AddCommand(app, "settings",
-                 "Print the settings as JSON, after the check of the folders",
-                 context);
-  command.callback(
-      [&context] { context.run = [&context] { return RunSettings(context); }; });
+  CLI::App& command = AddCommand(
+      app, "settings",
+      "Print the settings as JSON, after the check of the folders", context);
+  command.callback([&context] {
+    context.run = [&context] { return RunSettings(context); };
+  });
 }
 
 }  // namespace fragsmith

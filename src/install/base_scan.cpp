@@ -99,9 +99,9 @@ class ListingReader {
   /// The place behind the folder, which is looked for ignoring case.
   static std::optional<std::size_t> Behind(std::string_view line,
                                            std::string_view folder) {
-    const auto found =
-        std::search(line.begin(), line.end(), folder.begin(), folder.end(),
-                    [](char left, char right) { return ToLower(left) == right; });
+    const auto found = std::search(
+        line.begin(), line.end(), folder.begin(), folder.end(),
+        [](char left, char right) { return ToLower(left) == right; });
     if (found == line.end()) return std::nullopt;
     return static_cast<std::size_t>(found - line.begin()) + folder.size();
   }
@@ -109,7 +109,7 @@ class ListingReader {
   /// The lists hold their texts in double quotes and cannot hold one.
   bool IsStorable(std::string_view field) {
     if (!Contains(field, "\"") && !Contains(package_, "\"")) return true;
-    AddNote(Utf8FromGameText(field) +
+    AddNote(ShownText(field) +
             " is skipped: the lists cannot hold a double quote.");
     return false;
   }

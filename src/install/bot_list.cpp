@@ -11,11 +11,11 @@ namespace fragsmith {
 namespace {
 
 constexpr std::array<std::string_view, 32> kStandardBots = {
-    "Anarki", "Angel",  "Biker",  "Bitterman", "Bones",  "Cadavre", "Crash",
-    "Daemia", "Doom",   "Gorre",  "Grunt",     "Hunter", "Hossman", "Keel",
-    "Klesk",  "Lucy",   "Major",  "Mynx",      "Orbb",   "Patriot", "Phobos",
-    "Ranger", "Razor",  "Sarge",  "Slash",     "Sorlag", "Stripe",  "TankJr",
-    "Uriel",  "Visor",  "Wrack",  "Xaero"};
+    "Anarki", "Angel", "Biker", "Bitterman", "Bones",  "Cadavre", "Crash",
+    "Daemia", "Doom",  "Gorre", "Grunt",     "Hunter", "Hossman", "Keel",
+    "Klesk",  "Lucy",  "Major", "Mynx",      "Orbb",   "Patriot", "Phobos",
+    "Ranger", "Razor", "Sarge", "Slash",     "Sorlag", "Stripe",  "TankJr",
+    "Uriel",  "Visor", "Wrack", "Xaero"};
 
 /// The text cut or padded so that at least one blank is left at its end.
 std::string Column(std::string_view text, std::size_t width) {
@@ -88,8 +88,8 @@ std::string_view BotStatus(const BotListEntry& entry) {
 std::string BotListLine(const BotListEntry& entry) {
   constexpr std::size_t kNameWidth = 15;
   constexpr std::size_t kPackageWidth = 20;
-  return Column(entry.Name, kNameWidth) +
-         Column(entry.PK3File, kPackageWidth) + std::string(BotStatus(entry));
+  return Column(entry.Name, kNameWidth) + Column(entry.PK3File, kPackageWidth) +
+         std::string(BotStatus(entry));
 }
 
 }  // namespace fragsmith

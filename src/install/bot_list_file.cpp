@@ -34,7 +34,8 @@ ParsedBotList ParseBotList(std::string_view bytes) {
   FieldReader reader(bytes);
   parsed.has_error = !reader.Next() || reader.is_cut();
   while (!parsed.has_error && !reader.AtEnd()) {
-    if (std::optional<BotListEntry> bot = ReadBot(reader)) {
+    std::optional<BotListEntry> bot = ReadBot(reader);
+    if (bot && parsed.bots.size() < kMostListRecords) {
       parsed.bots.push_back(std::move(*bot));
     } else {
       parsed.has_error = true;

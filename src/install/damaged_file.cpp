@@ -19,11 +19,11 @@ Result<void> KeepDamaged(const std::filesystem::path& path,
   std::error_code reason;
   std::filesystem::rename(path, kept, reason);
   if (!reason) return {};
-  return Failure({.what = "The damaged file cannot be kept: " +
-                          reason.message() + ".",
-                  .file = Utf8FromPath(path),
-                  .line = 0,
-                  .advice = "Move it away."});
+  return Failure(
+      {.what = "The damaged file cannot be kept: " + reason.message() + ".",
+       .file = Utf8FromPath(path),
+       .line = 0,
+       .advice = "Move it away."});
 }
 
 }  // namespace

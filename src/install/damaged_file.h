@@ -1,6 +1,7 @@
 #ifndef FRAGSMITH_INSTALL_DAMAGED_FILE_H_
 #define FRAGSMITH_INSTALL_DAMAGED_FILE_H_
 
+#include <cstddef>
 #include <filesystem>
 #include <functional>
 #include <string_view>
@@ -8,6 +9,10 @@
 #include "support/result.h"
 
 namespace fragsmith {
+
+/// The most records that are read of one of the program's lists; more are
+/// taken for an error. A catalogue of that size still answers at once.
+inline constexpr std::size_t kMostListRecords = 250'000;
 
 /// True for the bytes of a file that its reader reads to the end.
 using IsWholeFile = std::function<bool(std::string_view bytes)>;

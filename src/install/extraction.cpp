@@ -17,9 +17,10 @@ ExtractionEnd RunUnzipTool(const UnzipTool& tool,
                            const std::filesystem::path& target_folder) {
   const auto program = FindUnzipTool(tool.folder);
   if (!program) return ExtractionEnd::kNotStarted;
-  Result<ChildProcess> child = ChildProcess::Start(
-      *program, {"-o", BytesFromPath(package), Utf8FromGameText(file_in_package),
-                 BytesFromPath(target_folder)});
+  Result<ChildProcess> child =
+      ChildProcess::Start(*program, {"-o", BytesFromPath(package),
+                                     Utf8FromGameText(file_in_package),
+                                     BytesFromPath(target_folder)});
   if (!child) return ExtractionEnd::kNotStarted;
 
   const auto start = std::chrono::steady_clock::now();

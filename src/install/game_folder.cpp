@@ -31,8 +31,8 @@ bool IsExecutable(const fs::path& path) {
 }
 
 bool IsGameName(std::string_view name) {
-  constexpr std::array<std::string_view, 3> kBeginnings = {
-      "quake3", "ioquake3", "openarena"};
+  constexpr std::array<std::string_view, 3> kBeginnings = {"quake3", "ioquake3",
+                                                           "openarena"};
   return std::any_of(kBeginnings.begin(), kBeginnings.end(),
                      [name](std::string_view beginning) {
                        return EqualIgnoringCase(

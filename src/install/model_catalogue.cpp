@@ -59,13 +59,22 @@ void AppendSkin(std::string_view name, ModelEntry& model) {
                          .IconFile = std::move(iconFile)});
 }
 
-/// Place among the common skins; all others come behind these.
-std::size_t Rank(const SkinEntry& skin) {
-  const auto* const found = std::find_if(
-      kCommonSkins.begin(), kCommonSkins.end(), [&](std::string_view name) {
-        return EqualIgnoringCase(skin.Name, name);
-      });
-  return static_cast<std::size_t>(found - kCommonSkins.begin());
+/// The place of each skin among the common ones; all others come behind
+/// these, and so do second skins of a common name.
+std::vector<std::size_t> Ranks(const std::vector<SkinEntry>& skins) {
+  std::array<bool, kCommonSkins.size()> taken{};
+  std::vector<std::size_t> ranks;
+  for (const SkinEntry& skin : skins) {
+    std::size_t rank = 0;
+    while (rank < kCommonSkins.size() &&
+           (taken.at(rank) ||
+            !EqualIgnoringCase(skin.Name, kCommonSkins.at(rank)))) {
+      ++rank;
+    }
+    if (rank < kCommonSkins.size()) taken.at(rank) = true;
+    ranks.push_back(rank);
+  }
+  return ranks;
 }
 
 /// Puts the entries into the given order of their old places; the followed
@@ -93,16 +102,14 @@ std::vector<std::size_t> Places(std::size_t count) {
 }
 
 void SortSkins(std::vector<SkinEntry>& skins, std::size_t* followed) {
-  std::vector<std::size_t> ranks(skins.size());
-  std::transform(skins.begin(), skins.end(), ranks.begin(), Rank);
+  const std::vector<std::size_t> ranks = Ranks(skins);
   std::vector<std::size_t> order = Places(skins.size());
   std::stable_sort(order.begin(), order.end(),
                    [&](std::size_t left, std::size_t right) {
                      if (ranks[left] != ranks[right]) {
                        return ranks[left] < ranks[right];
                      }
-                     return ranks[left] == kCommonSkins.size() &&
-                            skins[left].Name < skins[right].Name;
+                     return skins[left].Name < skins[right].Name;
                    });
   Reorder(skins, order, followed);
 }

@@ -38,9 +38,9 @@ bool AcceptsModelName(std::string_view name, Prompts& prompts) {
 bool AddModel(ModelCatalogue& catalogue, std::string_view name,
               bool create_red_blue, Prompts& prompts) {
   if (!IsStorable(name, prompts)) return false;
-  const bool exists =
-      std::any_of(catalogue.models().begin(), catalogue.models().end(),
-                  [name](const ModelEntry& model) { return model.Name == name; });
+  const bool exists = std::any_of(
+      catalogue.models().begin(), catalogue.models().end(),
+      [name](const ModelEntry& model) { return model.Name == name; });
   if (exists) {
     Refuse("Model not added",
            "Model '" + Utf8FromGameText(name) + "' already exists!", prompts);

@@ -34,7 +34,8 @@ ParsedModelList ParseModelList(std::string_view bytes) {
   FieldReader reader(bytes);
   parsed.has_error = !reader.Next() || reader.is_cut();
   while (!parsed.has_error && !reader.AtEnd()) {
-    if (const auto fields = reader.NextRecord(4)) {
+    const auto fields = reader.NextRecord(4);
+    if (fields && parsed.skins.size() < kMostListRecords) {
       parsed.skins.push_back({.model = std::string((*fields)[0]),
                               .skin = std::string((*fields)[1]),
                               .PK3File = std::string((*fields)[2]),

@@ -58,8 +58,7 @@ Result<Archive> Open(const std::filesystem::path& path) {
   int code = 0;
   // Checking the whole archive's consistency would take most of the time and
   // refuse packages that the game reads.
-  Archive archive(
-      ::zip_open(Utf8FromPath(path).c_str(), ZIP_RDONLY, &code));
+  Archive archive(::zip_open(Utf8FromPath(path).c_str(), ZIP_RDONLY, &code));
   if (!archive) return Failure(MakeError(TextOf(code), path));
   return archive;
 }
@@ -97,21 +96,21 @@ std::optional<std::uint64_t> FindEntry(zip_t* archive, std::string_view name) {
   return in_other_case;
 }
 
-/// Unpacks piece by piece, since the size that the archive tells may be a
-/// lie.
+/// Unpacks piece by piece: the size that the archive tells may be a lie, which
+/// the library does not mind.
 Result<std::string> Unpack(zip_t* archive, std::uint64_t index,
                            std::size_t limit,
                            const std::filesystem::path& path) {
-  const Error too_large = MakeError(
-      "The file in the package is larger than " + std::to_string(limit) +
-          " bytes.",
-      path);
+  const Error too_large = MakeError("The file in the package is larger than " +
+                                        std::to_string(limit) + " bytes.",
+                                    path);
   zip_stat_t state;
   ::zip_stat_init(&state);
-  if (::zip_stat_index(archive, index, 0, &state) == 0 &&
-      (state.valid & ZIP_STAT_SIZE) != 0 && state.size > limit) {
-    return Failure(too_large);
+  if (::zip_stat_index(archive, index, 0, &state) != 0 ||
+      (state.valid & ZIP_STAT_SIZE) == 0) {
+    return Failure(MakeError(::zip_strerror(archive), path));
   }
+  if (state.size > limit) return Failure(too_large);
   const ArchiveFile file(::zip_fopen_index(archive, index, 0));
   if (!file) {
     return Failure(MakeError(::zip_strerror(archive), path));
@@ -124,15 +123,18 @@ Result<std::string> Unpack(zip_t* archive, std::uint64_t index,
     if (read < 0) {
       return Failure(MakeError(::zip_file_strerror(file.get()), path));
     }
-    if (read == 0) return bytes;
+    if (read == 0) break;
     bytes.append(piece.data(), static_cast<std::size_t>(read));
-    if (bytes.size() > limit) return Failure(too_large);
+    if (bytes.size() > state.size) break;
   }
+  if (bytes.size() == state.size) return bytes;
+  return Failure(MakeError(
+      "The file in the package has another size than the package says.", path));
 }
 
 bool AddEntry(zip_t* archive, const PackageEntry& entry) {
-  zip_source_t* source = ::zip_source_buffer(archive, entry.bytes.data(),
-                                             entry.bytes.size(), 0);
+  zip_source_t* source =
+      ::zip_source_buffer(archive, entry.bytes.data(), entry.bytes.size(), 0);
   if (source == nullptr) return false;
   const zip_int64_t index =
       ::zip_file_add(archive, entry.name.c_str(), source, ZIP_FL_ENC_GUESS);
@@ -148,8 +150,8 @@ Result<std::string> ReadAll(zip_source_t* source) {
   zip_stat_t state;
   ::zip_stat_init(&state);
   std::string bytes;
-  const bool is_open = ::zip_source_stat(source, &state) == 0 &&
-                       ::zip_source_open(source) == 0;
+  const bool is_open =
+      ::zip_source_stat(source, &state) == 0 && ::zip_source_open(source) == 0;
   if (is_open) {
     bytes.resize(static_cast<std::size_t>(state.size));
     const zip_int64_t read =
@@ -157,8 +159,8 @@ Result<std::string> ReadAll(zip_source_t* source) {
     ::zip_source_close(source);
     if (read == static_cast<zip_int64_t>(bytes.size())) return bytes;
   }
-  return Failure(MakeError(::zip_error_strerror(::zip_source_error(source)),
-                           {}));
+  return Failure(
+      MakeError(::zip_error_strerror(::zip_source_error(source)), {}));
 }
 
 }  // namespace
@@ -168,8 +170,7 @@ Result<std::string> FormatPackage(const std::vector<PackageEntry>& entries) {
   ::zip_error_init(&error);
   const Source source(::zip_source_buffer_create(nullptr, 0, 0, &error));
   if (!source) return Failure(MakeError(TextOf(&error), {}));
-  Archive archive(
-      ::zip_open_from_source(source.get(), ZIP_TRUNCATE, &error));
+  Archive archive(::zip_open_from_source(source.get(), ZIP_TRUNCATE, &error));
   if (!archive) return Failure(MakeError(TextOf(&error), {}));
   ::zip_error_fini(&error);
   // The archive frees the source when it goes; the result is read out of it
@@ -230,8 +231,7 @@ Result<std::string> ListPackage(const std::filesystem::path& path,
 }
 
 Result<std::string> ReadPackageEntry(const std::filesystem::path& path,
-                                     std::string_view name,
-                                     std::size_t limit) {
+                                     std::string_view name, std::size_t limit) {
   const Result<Archive> archive = Open(path);
   if (!archive) return Failure(archive.error());
   const std::optional<std::uint64_t> index = FindEntry(archive->get(), name);

@@ -37,8 +37,8 @@ std::string ReadAt(std::ifstream& file, std::uint64_t offset,
   file.clear();
   file.seekg(static_cast<std::streamoff>(offset));
   file.read(bytes.data(), static_cast<std::streamsize>(count));
-  bytes.resize(static_cast<std::size_t>(std::max<std::streamsize>(
-      0, file.gcount())));
+  bytes.resize(
+      static_cast<std::size_t>(std::max<std::streamsize>(0, file.gcount())));
   return bytes;
 }
 

@@ -11,8 +11,7 @@ namespace fragsmith::system {
 std::filesystem::path ExecutablePath() {
   constexpr DWORD kMostLetters = 32768;
   std::wstring path(kMostLetters, L'\0');
-  const DWORD length =
-      ::GetModuleFileNameW(nullptr, path.data(), kMostLetters);
+  const DWORD length = ::GetModuleFileNameW(nullptr, path.data(), kMostLetters);
   if (length == 0 || length == kMostLetters) return {};
   path.resize(length);
   return path;

@@ -16,7 +16,7 @@ namespace {
 
 struct TextItem {
   std::string_view key;
-  std::string ProgramSettings::* field;
+  std::string ProgramSettings::*field;
 };
 
 constexpr std::array<TextItem, kEditableOptionCount> kTextItems = {

@@ -29,7 +29,8 @@ struct Header {
 };
 
 tl::unexpected<Error> Refusal(std::string what) {
-  return Failure({.what = std::move(what), .file = {}, .line = 0, .advice = {}});
+  return Failure(
+      {.what = std::move(what), .file = {}, .line = 0, .advice = {}});
 }
 
 std::size_t ByteAt(std::string_view bytes, std::size_t at) {
@@ -52,15 +53,13 @@ Result<Header> ReadHeader(std::string_view bytes) {
                    std::to_string(height) + ".");
   }
   const std::size_t palette_bytes =
-      ByteAt(bytes, 1) == 0
-          ? 0
-          : NumberAt(bytes, 5) * WholeBytes(ByteAt(bytes, 7));
+      ByteAt(bytes, 1) == 0 ? 0
+                            : NumberAt(bytes, 5) * WholeBytes(ByteAt(bytes, 7));
   constexpr std::size_t kRunLengthBit = 8;
-  return Header{
-      .pixels_begin = kHeaderBytes + ByteAt(bytes, 0) + palette_bytes,
-      .pixel_count = width * height,
-      .pixel_bytes = WholeBytes(ByteAt(bytes, 16)),
-      .is_run_length = (ByteAt(bytes, 2) & kRunLengthBit) != 0};
+  return Header{.pixels_begin = kHeaderBytes + ByteAt(bytes, 0) + palette_bytes,
+                .pixel_count = width * height,
+                .pixel_bytes = WholeBytes(ByteAt(bytes, 16)),
+                .is_run_length = (ByteAt(bytes, 2) & kRunLengthBit) != 0};
 }
 
 /// The decoder fills up a cut picture with what happens to be in the memory.
@@ -77,8 +76,7 @@ bool HasAllPixels(const Header& header, std::string_view bytes) {
     const std::size_t packet = ByteAt(data, 0);
     const std::size_t count = std::min((packet & 0x7FU) + 1, missing);
     const bool is_repeated = (packet & 0x80U) != 0;
-    const std::size_t size =
-        1 + (is_repeated ? 1 : count) * header.pixel_bytes;
+    const std::size_t size = 1 + (is_repeated ? 1 : count) * header.pixel_bytes;
     if (data.size() < size) return false;
     data.remove_prefix(size);
     missing -= count;
@@ -102,10 +100,10 @@ Result<Picture> DecodeTarga(std::string_view bytes) {
   Picture picture;
   constexpr int kChannels = 4;
   int channels_in_file = 0;
-  const std::unique_ptr<stbi_uc, FreePixels> pixels(::stbi_load_from_memory(
-      reinterpret_cast<const stbi_uc*>(bytes.data()),
-      static_cast<int>(bytes.size()), &picture.width, &picture.height,
-      &channels_in_file, kChannels));
+  const std::unique_ptr<stbi_uc, FreePixels> pixels(
+      ::stbi_load_from_memory(reinterpret_cast<const stbi_uc*>(bytes.data()),
+                              static_cast<int>(bytes.size()), &picture.width,
+                              &picture.height, &channels_in_file, kChannels));
   if (!pixels) {
     return Refusal("This is no Targa picture that can be decoded.");
   }

@@ -7,6 +7,8 @@
 #include <utility>
 
 #include "model/characteristic_catalogue.h"
+#include "support/code_page.h"
+#include "support/numbers.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -31,7 +33,7 @@ bool IsDerivedName(int index) {
 }
 
 Error NotANumber(const Value& value) {
-  return {.what = "\"" + ToText(value) + "\" is not a number.",
+  return {.what = "\"" + ShownText(ToText(value)) + "\" is not a number.",
           .file = {},
           .line = 0,
           .advice = {}};
@@ -43,6 +45,13 @@ Result<double> Number(const Value& value) {
   return *number;
 }
 
+/// What a parameter holds of a value: an empty text is no value.
+Value WithoutEmptyText(Value value) {
+  const auto* text = std::get_if<std::string>(&value);
+  if (text != nullptr && text->empty()) return {};
+  return value;
+}
+
 /// Halves go to the even neighbour, as the game's own tools round them.
 Result<double> ShortInteger(const Value& value) {
   Result<double> number = Number(value);
@@ -50,10 +59,11 @@ Result<double> ShortInteger(const Value& value) {
   const double whole = std::nearbyint(*number);
   if (whole < std::numeric_limits<std::int16_t>::min() ||
       whole > std::numeric_limits<std::int16_t>::max()) {
-    return Failure({.what = ToText(value) + " is not between -32768 and 32767.",
-                    .file = {},
-                    .line = 0,
-                    .advice = {}});
+    return Failure(
+        {.what = ShownText(ToText(value)) + " is not between -32768 and 32767.",
+         .file = {},
+         .line = 0,
+         .advice = {}});
   }
   return whole;
 }
@@ -100,7 +110,7 @@ Result<void> Bot::SetParameter(int index, Value value) {
   if (index > 100) {
     const int level = index / 100;
     SkillOf(level).SkillPara.at(static_cast<std::size_t>(index - level * 100)) =
-        std::move(value);
+        WithoutEmptyText(std::move(value));
     return {};
   }
   if (!IsIdentityField(index) && !IsSingleParameter(index)) BadIndex(index);
@@ -125,8 +135,14 @@ Result<void> Bot::SetParameter(int index, Value value) {
       field = *number;
       break;
     }
+    case kRailColorField: {
+      // A colour read as text is a number where it reads as one.
+      const std::optional<double> number = NumberFromText(ToText(value));
+      field = number ? Value(*number) : ToText(value);
+      break;
+    }
     default:
-      field = std::move(value);
+      field = WithoutEmptyText(std::move(value));
   }
   return {};
 }
@@ -152,6 +168,7 @@ const std::string& Bot::ChatLine(int type, int line) const {
 
 void Bot::SetChatLine(int type, int line, std::string text) {
   std::vector<std::string>& lines = chats_.at(static_cast<std::size_t>(type));
+  if (line < 0) BadIndex(line);
   const auto place = static_cast<std::size_t>(line);
   if (place >= lines.size()) lines.resize(place + 1);
   lines[place] = std::move(text);

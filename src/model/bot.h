@@ -68,7 +68,8 @@ class Bot {
   const Value& Parameter(int index) const;
 
   /// Setting 0 derives the chat name and the file names anew; 7 and 8 take a
-  /// number, 10 a whole number of 16 bits, and refuse anything else.
+  /// number, 10 a whole number of 16 bits, and refuse anything else. An empty
+  /// text leaves a parameter empty.
   Result<void> SetParameter(int index, Value value);
 
   /// A parameter as text.

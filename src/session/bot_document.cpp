@@ -73,7 +73,8 @@ OrderedJson NumberToJson(double number) {
 /// Numeric texts count and are written as their number.
 OrderedJson ValueToJson(const Value& value) {
   const std::optional<double> number = ToNumber(value);
-  return number ? NumberToJson(*number) : OrderedJson(Utf8FromGameText(ToText(value)));
+  return number ? NumberToJson(*number)
+                : OrderedJson(Utf8FromGameText(ToText(value)));
 }
 
 OrderedJson IdentityToJson(const Bot& bot, int field) {
@@ -227,8 +228,7 @@ void ReadChats(const Json& json, Bot& bot) {
   }
 }
 
-void ReadKey(const std::string& key, const Json& value,
-             BotDocument& document) {
+void ReadKey(const std::string& key, const Json& value, BotDocument& document) {
   for (const IdentityKey& identity : kIdentityKeys) {
     if (identity.key == key) {
       return ReadIdentity(value, identity.field, key, document);
@@ -275,8 +275,7 @@ std::string Reason(const nlohmann::json::exception& exception) {
 Result<BotDocument> ReadBotDocument(std::string_view json) {
   if (json.size() > kMostDocumentBytes) {
     return Failure({.what = "The document is larger than " +
-                            std::to_string(kMostDocumentBytes >> 20U) +
-                            " MiB.",
+                            std::to_string(kMostDocumentBytes >> 20U) + " MiB.",
                     .file = {},
                     .line = 0,
                     .advice = "Check that it is the right one."});

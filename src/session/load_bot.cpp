@@ -35,8 +35,7 @@ std::string_view MessageName(BotFile file) {
 }
 
 void Inform(Prompts& prompts, std::string title, std::string text) {
-  prompts.Show(
-      {std::move(title), std::move(text), MessageIcon::kInformation});
+  prompts.Show({std::move(title), std::move(text), MessageIcon::kInformation});
 }
 
 void Take(ReadReport report, LoadedBot& loaded) {
@@ -113,8 +112,8 @@ void LoadDescription(const std::string& name, const fs::path& folder,
            "Couldn't load the bot file because the directory structure "
            "doesn't comply with the standard Q3 one...");
   }
-  if (!place || !Load(BotFile::kDescription, name, *place, loaded,
-                      environment.prompts)) {
+  if (!place ||
+      !Load(BotFile::kDescription, name, *place, loaded, environment.prompts)) {
     SetStandardIdentity(loaded.bot, StandardNamesOf(environment.bots));
   }
 }
@@ -144,12 +143,17 @@ void ReadBotFile(BotFile file, LoadScope scope, std::string_view bytes,
   Bot& bot = loaded.bot;
   ++loaded.files_read;
   switch (file) {
-    case BotFile::kDescription:
-      return Take(ReadDescriptionFile(bytes, shown, bot), loaded);
+    case BotFile::kDescription: {
+      DescriptionReport report = ReadDescriptionFile(bytes, shown, bot);
+      loaded.has_arena_lord = report.has_arena_lord;
+      return Take(std::move(report), loaded);
+    }
     case BotFile::kCharacteristics:
+      // A new bot has a name already; that of the file is wanted.
+      if (is_whole) (void)bot.SetParameter(kNameIndex, std::string());
       Take(ReadCharacteristicFile(
-               bytes, shown,
-               is_whole ? ReadIdentity::kYes : ReadIdentity::kNo, bot),
+               bytes, shown, is_whole ? ReadIdentity::kYes : ReadIdentity::kNo,
+               bot),
            loaded);
       if (is_whole) EnsureName(name, shown, loaded);
       return;
@@ -181,9 +185,8 @@ LoadedBot LoadBotFromFolder(const std::string& name, const fs::path& folder,
                             FolderLoadOptions options,
                             const LoadEnvironment& environment) {
   LoadedBot loaded;
-  for (const BotFile file :
-       {BotFile::kCharacteristics, BotFile::kItemWeights,
-        BotFile::kWeaponWeights, BotFile::kChat}) {
+  for (const BotFile file : {BotFile::kCharacteristics, BotFile::kItemWeights,
+                             BotFile::kWeaponWeights, BotFile::kChat}) {
     Load(file, name, folder, loaded, environment.prompts);
   }
   if (options.loads_description) {

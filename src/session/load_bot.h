@@ -42,6 +42,8 @@ struct LoadedBot {
   /// By parameter: what the game reads where the bot holds something else.
   std::map<int, Value> plain_values;
   int files_read = 0;
+  /// A description was read that speaks of the arena lord.
+  bool has_arena_lord = false;
 };
 
 /// The name behind which a path of the game's layout begins; compared with

@@ -50,8 +50,7 @@ class PackageReader {
       // A tool that took too long has had its message already.
       return false;
     }
-    const std::optional<fs::path> extracted =
-        FindFile(folder_, BareName(path));
+    const std::optional<fs::path> extracted = FindFile(folder_, BareName(path));
     if (!extracted) return Refuse();
     const Result<std::string> bytes = ReadFile(*extracted);
     std::error_code ignored;
@@ -107,7 +106,7 @@ std::optional<LoadedBot> LoadBotFromPackage(
   const StandardBotNames standard = StandardNamesOf(environment.bots);
   if (is_whole && wanted.loads_description) {
     if (wanted.withScript) {
-      FillStandardIdentity(loaded.bot, standard);
+      FillStandardIdentity(loaded.bot, loaded.has_arena_lord, standard);
     } else {
       SetStandardIdentity(loaded.bot, standard);
     }

@@ -18,7 +18,7 @@ inline constexpr int kWholeBot = -1;
 /// A bot in a package and what is to be read of it.
 struct PackagedBot {
   std::filesystem::path package;
-  std::string name;      ///< As the bot list has it; 8-bit text.
+  std::string name;        ///< As the bot list has it; 8-bit text.
   int LoType = kWholeBot;  ///< 0 to 4 for one BotFile, else all of them.
   /// The description is loaded and the package has one. Without one the
   /// identity is that of a standard bot, or of none.

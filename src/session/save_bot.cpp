@@ -68,8 +68,7 @@ void MakeBotPackage(const Bot& bot, const fs::path& folder,
   for (const SetFile& file : files) {
     entries.push_back({std::string(file.folder) + "/" + file.name, file.bytes});
   }
-  const fs::path path =
-      folder / PathFromGameText("bot-" + bot.Name() + ".pk3");
+  const fs::path path = folder / PathFromGameText("bot-" + bot.Name() + ".pk3");
   const Result<void> packed = WritePackage(path, entries);
   saved.counts_package = true;
   Message message = {.title = std::string(kProgramTitle), .text = {}};

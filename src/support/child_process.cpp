@@ -15,11 +15,11 @@ Result<ChildProcess> ChildProcess::Start(
   const std::error_code reason =
       system::StartProcess(program, arguments, handle);
   if (!reason) return ChildProcess(handle);
-  return Failure({.what = "The program cannot be started: " +
-                          reason.message() + ".",
-                  .file = Utf8FromPath(program),
-                  .line = 0,
-                  .advice = "Check that it is there and may be run."});
+  return Failure(
+      {.what = "The program cannot be started: " + reason.message() + ".",
+       .file = Utf8FromPath(program),
+       .line = 0,
+       .advice = "Check that it is there and may be run."});
 }
 
 ChildProcess::ChildProcess(ChildProcess&& other) noexcept

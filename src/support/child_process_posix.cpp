@@ -23,7 +23,9 @@ std::vector<std::intptr_t>& LeftAlone() {
   return handles;
 }
 
-std::error_code AsError(int number) { return {number, std::generic_category()}; }
+std::error_code AsError(int number) {
+  return {number, std::generic_category()};
+}
 
 /// How the child begins: its standard streams shut, no signal blocked or
 /// ignored because we do so.
@@ -71,9 +73,8 @@ class SpawnSettings {
 std::error_code StartProcess(const std::filesystem::path& program,
                              const std::vector<std::string>& arguments,
                              std::intptr_t& handle) {
-  std::erase_if(LeftAlone(), [](std::intptr_t left) {
-    return !IsProcessRunning(left);
-  });
+  std::erase_if(LeftAlone(),
+                [](std::intptr_t left) { return !IsProcessRunning(left); });
   std::vector<std::string> texts = {program.string()};
   texts.insert(texts.end(), arguments.begin(), arguments.end());
   std::vector<char*> pointers;

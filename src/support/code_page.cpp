@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
 #include <cstdint>
 
 namespace fragsmith {
@@ -90,6 +91,13 @@ std::optional<std::string> GameTextFromUtf8(std::string_view utf8) {
     text += *byte;
   }
   return text;
+}
+
+std::string ShownText(std::string_view text) {
+  constexpr std::size_t kMost = 60;
+  std::string shown = Utf8FromGameText(text.substr(0, kMost));
+  if (text.size() > kMost) shown += "...";
+  return shown;
 }
 
 }  // namespace fragsmith

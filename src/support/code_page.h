@@ -16,6 +16,10 @@ std::string Utf8FromGameText(std::string_view text);
 /// that the code page lacks.
 std::optional<std::string> GameTextFromUtf8(std::string_view utf8);
 
+/// Game text for a note or an error, as UTF-8; of a long one only the
+/// beginning, for a line of a bad file may have megabytes.
+std::string ShownText(std::string_view text);
+
 }  // namespace fragsmith
 
 #endif  // FRAGSMITH_SUPPORT_CODE_PAGE_H_

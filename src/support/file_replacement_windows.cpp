@@ -47,8 +47,8 @@ std::error_code WriteWholeFile(const std::filesystem::path& path,
   const Handle file(path, GENERIC_WRITE, TRUNCATE_EXISTING);
   if (!file.is_open()) return LastError();
   while (!bytes.empty()) {
-    const auto piece = static_cast<DWORD>(
-        std::min(bytes.size(), std::size_t{1} << 30U));
+    const auto piece =
+        static_cast<DWORD>(std::min(bytes.size(), std::size_t{1} << 30U));
     DWORD written = 0;
     if (::WriteFile(file.get(), bytes.data(), piece, &written, nullptr) == 0) {
       return LastError();

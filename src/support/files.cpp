@@ -5,6 +5,7 @@
 #include <fstream>
 #include <ios>
 #include <system_error>
+#include <utility>
 
 #include "support/code_page.h"
 #include "support/file_replacement.h"
@@ -29,9 +30,9 @@ Result<std::string> ReadFile(const fs::path& path, std::size_t limit) {
   std::error_code reason;
   const fs::file_status status = fs::status(path, reason);
   if (!fs::is_regular_file(status)) {
-    return fail(fs::exists(status) ? "This is not a file."
-                                   : "There is no such file.",
-                "Check the name.");
+    return fail(
+        fs::exists(status) ? "This is not a file." : "There is no such file.",
+        "Check the name.");
   }
   std::ifstream file(path, std::ios::binary);
   if (!file) {
@@ -51,9 +52,9 @@ Result<std::string> ReadFile(const fs::path& path, std::size_t limit) {
     if (file.bad()) return fail("The file cannot be read to its end.", "");
   }
   if (bytes.size() > limit || (!reason && size > limit)) {
-    return fail("The file is larger than " + std::to_string(limit >> 20U) +
-                    " MiB.",
-                "Check that it is the right one.");
+    return fail(
+        "The file is larger than " + std::to_string(limit >> 20U) + " MiB.",
+        "Check that it is the right one.");
   }
   return bytes;
 }
@@ -112,7 +113,8 @@ std::optional<fs::path> FindFile(const fs::path& folder,
 
 std::vector<fs::path> ListFiles(const fs::path& folder,
                                 std::string_view suffix) {
-  std::vector<fs::path> names;
+  // Each with the key that it is sorted by.
+  std::vector<std::pair<std::string, fs::path>> files;
   std::error_code reason;
   for (fs::directory_iterator entry(folder, reason), end;
        !reason && entry != end; entry.increment(reason)) {
@@ -120,14 +122,16 @@ std::vector<fs::path> ListFiles(const fs::path& folder,
     const std::optional<std::string> text = GameTextFromPath(name);
     // A name beyond the code page cannot be one that is looked for, but its
     // suffix is plain ASCII all the same.
-    const std::string comparable = text ? *text : Utf8FromPath(name);
+    std::string key = ToLower(text ? *text : Utf8FromPath(name));
     std::error_code ignored;
-    if (EndsWithIgnoringCase(comparable, suffix) &&
-        entry->is_regular_file(ignored)) {
-      names.push_back(std::move(name));
+    if (EndsWithIgnoringCase(key, suffix) && entry->is_regular_file(ignored)) {
+      files.emplace_back(std::move(key), std::move(name));
     }
   }
-  std::sort(names.begin(), names.end());
+  std::sort(files.begin(), files.end());
+  std::vector<fs::path> names;
+  names.reserve(files.size());
+  for (auto& [key, name] : files) names.push_back(std::move(name));
   return names;
 }
 

@@ -53,7 +53,9 @@ std::optional<std::filesystem::path> FindFile(
     const std::filesystem::path& folder, std::string_view name);
 
 /// Names of the regular files of the folder whose names end in the suffix,
-/// case ignored, in ordinal order. Empty when the folder cannot be read.
+/// case ignored, sorted ignoring case as on the game's own system (names that
+/// differ in case alone in ordinal order). Empty when the folder cannot be
+/// read.
 std::vector<std::filesystem::path> ListFiles(
     const std::filesystem::path& folder, std::string_view suffix);
 

@@ -61,9 +61,9 @@ std::string PlainDecimal(double number, int significant_digits) {
   const auto rounded = std::to_chars(
       scientific.data(), scientific.data() + scientific.size(), number,
       std::chars_format::scientific, significant_digits - 1);
-  std::string_view text(scientific.data(),
-                        static_cast<std::size_t>(rounded.ptr -
-                                                 scientific.data()));
+  std::string_view text(
+      scientific.data(),
+      static_cast<std::size_t>(rounded.ptr - scientific.data()));
   std::string sign;
   if (text.front() == '-') {
     sign = "-";
@@ -96,9 +96,10 @@ std::string PlainDecimal(double number, int significant_digits) {
 }
 
 double ShortDecimal(float number) {
-  std::array<char, 64> text{};
-  const auto end =
-      std::to_chars(text.data(), text.data() + text.size(), number);
+  std::array<char, 32> text{};
+  const auto end = std::to_chars(
+      text.data(), text.data() + text.size(), static_cast<double>(number),
+      std::chars_format::scientific, kFloatDigits - 1);
   double decimal = 0;
   std::from_chars(text.data(), end.ptr, decimal);
   return decimal;

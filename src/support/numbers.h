@@ -24,8 +24,8 @@ std::string PlainDecimal(double number, int significant_digits);
 inline constexpr int kFloatDigits = 7;
 inline constexpr int kDoubleDigits = 15;
 
-/// The number as the shortest decimal that reads back as the same 32-bit
-/// float: 0.1, not 0.100000001490116.
+/// The decimal that a 32-bit float stands for to the user: rounded to the
+/// digits that it carries, so 1.18 and not 1.1800001.
 double ShortDecimal(float number);
 
 }  // namespace fragsmith

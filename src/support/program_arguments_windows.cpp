@@ -1,8 +1,7 @@
 #ifdef _WIN32
 
-#include <windows.h>
-
 #include <shellapi.h>
+#include <windows.h>
 
 #include "support/files.h"
 #include "support/program_arguments.h"
@@ -15,8 +14,7 @@ std::vector<std::string> ProgramArguments(int /*count*/,
                                           const char* const* /*arguments*/) {
   std::vector<std::string> texts;
   int count = 0;
-  wchar_t** const arguments =
-      ::CommandLineToArgvW(::GetCommandLineW(), &count);
+  wchar_t** const arguments = ::CommandLineToArgvW(::GetCommandLineW(), &count);
   if (arguments == nullptr) return texts;
   for (int index = 1; index < count; ++index) {
     texts.push_back(BytesFromPath(arguments[index]));

@@ -23,11 +23,11 @@ Result<std::filesystem::path> TemporaryFolder::GetTempFolder() {
   }
   if (!reason) return path_;
   path_.clear();
-  return Failure({.what = "No temporary folder can be made: " +
-                          reason.message() + ".",
-                  .file = Utf8FromPath(parent),
-                  .line = 0,
-                  .advice = "Check the folder and the free space."});
+  return Failure(
+      {.what = "No temporary folder can be made: " + reason.message() + ".",
+       .file = Utf8FromPath(parent),
+       .line = 0,
+       .advice = "Check the folder and the free space."});
 }
 
 }  // namespace fragsmith

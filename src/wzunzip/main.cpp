@@ -9,8 +9,8 @@
 
 int main(int count, char** arguments) try {
   fragsmith::PrepareTimeZone();
-  const fragsmith::Result<void> done = fragsmith::RunUnzipCommand(
-      fragsmith::ProgramArguments(count, arguments));
+  const fragsmith::Result<void> done =
+      fragsmith::RunUnzipCommand(fragsmith::ProgramArguments(count, arguments));
   if (done) return EXIT_SUCCESS;
   std::cerr << fragsmith::Describe(done.error()) << '\n';
   return EXIT_FAILURE;

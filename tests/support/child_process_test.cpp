@@ -1,0 +1,111 @@
+#include "support/child_process.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <filesystem>
+#include <fstream>
+#include <optional>
+#include <set>
+#include <string>
+#include <thread>
+
+#include "support/temporary_folder.h"
+#include "tests/support/test_folder.h"
+
+namespace fragsmith {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Numbers of this process's children, ended ones that nobody waited for
+/// among them.
+std::set<std::string> Children() {
+  std::set<std::string> children;
+  for (const auto& task : fs::directory_iterator("/proc/self/task")) {
+    std::ifstream file(task.path() / "children");
+    for (std::string number; file >> number;) children.insert(number);
+  }
+  return children;
+}
+
+/// Waits for something that another process is about to do.
+template <typename Condition>
+bool Within20Seconds(Condition condition) {
+  const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(20);
+  while (!condition()) {
+    if (std::chrono::steady_clock::now() > end) return false;
+    std::this_thread::sleep_for(std::chrono::milliseconds(5));
+  }
+  return true;
+}
+
+class ChildProcessTest : public ::testing::Test {
+ protected:
+  Result<ChildProcess> Start(const std::string& script) {
+    return ChildProcess::Start(
+        folder_.WriteProgram("program", "#!/bin/sh\n" + script), {});
+  }
+
+  TestFolder folder_;
+};
+
+TEST_F(ChildProcessTest, HasNoneOfOurStreams) {
+  Result<ChildProcess> child =
+      Start("cat; echo out; echo error >&2; ls -l /proc/$$/fd >\"$0.log\"");
+  ASSERT_TRUE(child);
+  EXPECT_TRUE(Within20Seconds([&] { return !child->IsRunning(); }));
+  const std::string open = folder_.Read("program.log");
+  for (const char* stream : {" 0 -> /dev/null", " 2 -> /dev/null"}) {
+    EXPECT_NE(open.find(stream), std::string::npos) << open;
+  }
+}
+
+TEST_F(ChildProcessTest, LeavesNoZombie) {
+  ASSERT_TRUE(Children().empty());
+  {
+    Result<ChildProcess> child = Start("exit 0");
+    ASSERT_TRUE(child);
+    EXPECT_TRUE(Within20Seconds([&] { return !child->IsRunning(); }));
+    EXPECT_FALSE(child->IsRunning());
+  }
+  EXPECT_TRUE(Children().empty());
+  // One that we lost interest in is cleared away when it has ended and the
+  // next begins.
+  Start("touch \"$0.begun\"; sleep 0.1; touch \"$0.ended\"").value();
+  EXPECT_EQ(Children().size(), 1U);
+  EXPECT_TRUE(
+      Within20Seconds([&] { return fs::exists(folder_ / "program.ended"); }));
+  EXPECT_TRUE(Within20Seconds([&] {
+    Result<ChildProcess> next = Start("exit 0");
+    return Within20Seconds([&] { return !next->IsRunning(); }) &&
+           Children().empty();
+  }));
+}
+
+TEST_F(ChildProcessTest, SaysWhatCannotBeStarted) {
+  const fs::path text = folder_.Write("text", "no program");
+  for (const fs::path& path : {folder_ / "missing", text, folder_.path()}) {
+    const Result<ChildProcess> child = ChildProcess::Start(path, {});
+    ASSERT_FALSE(child);
+    EXPECT_EQ(child.error().file, path.string());
+  }
+}
+
+TEST(TemporaryFolderTest, IsOursAloneAndGoesWithAllInIt) {
+  std::optional<TemporaryFolder> temporary(std::in_place);
+  const Result<fs::path> path = temporary->GetTempFolder();
+  ASSERT_TRUE(path);
+  EXPECT_EQ(*temporary->GetTempFolder(), *path);
+  EXPECT_EQ(fs::status(*path).permissions(), fs::perms::owner_all);
+  std::ofstream(*path / "file") << "text";
+  const TestFolder other;
+  other.Write("kept", "");
+  fs::create_directory_symlink(other.path(), *path / "link");
+  temporary.reset();
+  EXPECT_FALSE(fs::exists(*path));
+  EXPECT_TRUE(fs::exists(other / "kept"));
+}
+
+}  // namespace
+}  // namespace fragsmith
