@@ -1,13 +1,11 @@
 #ifndef FRAGSMITH_CHAT_SYNONYM_LIST_H_
 #define FRAGSMITH_CHAT_SYNONYM_LIST_H_
 
-#include <filesystem>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "support/prompts.h"
-#include "support/result.h"
 
 namespace fragsmith {
 
@@ -27,9 +25,6 @@ struct ParsedSynonyms {
 };
 ParsedSynonyms ParseSynonyms(std::string_view bytes);
 std::string FormatSynonyms(const SynonymList& list);
-
-/// The name of the file in the program folder.
-inline constexpr std::string_view kSynonymFileName = "fgs_synonyms";
 
 /// Puts "~" in front of each listed word of a chat line; words are parted by
 /// single blanks, so one with a comma behind it is another. With an empty
