@@ -197,7 +197,7 @@ ExitStatus RunLoad(const LoadOptions& options, CommandContext& context) {
   }
   const std::optional<std::string> text = GameTextFromPath(source.filename());
   if (IsFile(source) && text && EndsWithIgnoringCase(*text, suffix)) {
-    return LoadFrom(source.parent_path(),
+    return LoadFrom(fs::absolute(source).parent_path(),
                     text->substr(0, text->size() - suffix.size()), options,
                     context);
   }

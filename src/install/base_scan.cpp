@@ -99,11 +99,13 @@ class ListingReader {
   /// The place behind the folder, which is looked for ignoring case.
   static std::optional<std::size_t> Behind(std::string_view line,
                                            std::string_view folder) {
-    const auto found = std::search(
-        line.begin(), line.end(), folder.begin(), folder.end(),
-        [](char left, char right) { return ToLower(left) == right; });
-    if (found == line.end()) return std::nullopt;
-    return static_cast<std::size_t>(found - line.begin()) + folder.size();
+    const auto place = static_cast<std::size_t>(
+        std::search(
+            line.begin(), line.end(), folder.begin(), folder.end(),
+            [](char left, char right) { return ToLower(left) == right; }) -
+        line.begin());
+    if (place == line.size()) return std::nullopt;
+    return place + folder.size();
   }
 
   /// The lists hold their texts in double quotes and cannot hold one.

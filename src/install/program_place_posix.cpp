@@ -1,7 +1,8 @@
 #ifndef _WIN32
 
-#include <stdlib.h>
 #include <unistd.h>
+
+#include <cstdlib>
 
 #ifdef __APPLE__
 #include <mach-o/dyld.h>

@@ -107,8 +107,7 @@ Result<Picture> DecodeTarga(std::string_view bytes) {
   if (!pixels) {
     return Refusal("This is no Targa picture that can be decoded.");
   }
-  const auto count =
-      static_cast<std::size_t>(picture.width * picture.height * kChannels);
+  const std::size_t count = header->pixel_count * kChannels;
   picture.pixels.assign(pixels.get(), pixels.get() + count);
   return picture;
 }

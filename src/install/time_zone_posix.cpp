@@ -1,7 +1,7 @@
 #ifndef _WIN32
 
-#include <stdlib.h>
-#include <time.h>
+#include <cstdlib>
+#include <ctime>
 
 #include "install/time_zone.h"
 

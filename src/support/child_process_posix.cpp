@@ -1,17 +1,18 @@
 #ifndef _WIN32
 
 #include <fcntl.h>
-#include <signal.h>
 #include <spawn.h>
 #include <sys/types.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <cerrno>
+#include <csignal>
 
 #include "support/child_process_system.h"
 
-extern char** environ;
+// Not every system declares it.
+extern char** environ;  // NOLINT(readability-redundant-declaration)
 
 namespace fragsmith::system {
 namespace {

@@ -1,8 +1,7 @@
 #ifndef _WIN32
 
-#include <stdlib.h>
-
 #include <cerrno>
+#include <cstdlib>
 #include <string>
 
 #include "support/temporary_folder_system.h"
