@@ -133,7 +133,7 @@ std::optional<int> KeyIn(std::string_view line) {
     const std::string_view rest = line.substr(place);
     for (std::size_t index = 0; index < stands.size(); ++index) {
       const std::string_view key = BareKey(static_cast<int>(index));
-      if (!rest.starts_with(key)) continue;
+      if (!StartsWithKey(rest, key)) continue;
       stands.set(index);
       if (rest.substr(key.size()).starts_with('_')) is_continued.set(index);
     }
@@ -181,7 +181,7 @@ ReadReport ReadCharacteristicFile(std::string_view bytes,
 
   LineReader lines(bytes);
   while (const std::optional<std::string_view> line = lines.Next()) {
-    const std::string code = comments.Strip(*line);
+    const std::string_view code = comments.Strip(*line);
     if (IsPassedOver(*line)) continue;
     if (const std::optional<int> opened = SkillLevelOf(*line)) {
       level = opened;

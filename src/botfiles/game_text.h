@@ -12,11 +12,13 @@ namespace fragsmith {
 /// line and "/* */", also over several lines; neither inside quotes.
 class CommentStripper {
  public:
-  /// The next line of the file without its comments.
-  std::string Strip(std::string_view line);
+  /// The next line of the file without its comments. Stays good until the
+  /// next call, and no longer than the line.
+  std::string_view Strip(std::string_view line);
 
  private:
   bool is_inside_block_ = false;
+  std::string kept_;
 };
 
 /// The first token of the text, with blanks and TABs in front passed over: a

@@ -100,7 +100,7 @@ void ValueReader::Compare(const KeyedLine& line, int key, int parameter,
   if (std::holds_alternative<std::monostate>(read)) {
     AddNote(line.number,
             Describe(key, parameter) + ": no value, so it counts as 0.");
-  } else if (!ToNumber(read)) {
+  } else if (std::holds_alternative<std::string>(read) && !ToNumber(read)) {
     AddNote(line.number, Describe(key, parameter) + ": " + Shown(read) +
                              " is not a number; it is kept as text.");
   }

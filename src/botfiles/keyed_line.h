@@ -15,6 +15,13 @@ namespace fragsmith {
 /// those that begin with "//", "#i", "{" or "}". An indented comment is none.
 bool IsPassedOver(std::string_view line);
 
+/// True for a text that starts with the key. Keys begin alike, so a look at
+/// the last letter spares most comparisons.
+inline bool StartsWithKey(std::string_view text, std::string_view key) {
+  return text.size() >= key.size() && text[key.size() - 1] == key.back() &&
+         text.starts_with(key);
+}
+
 /// The text of the value that belongs to a catalogue key standing in the
 /// line: what follows the key with its own padding. With other padding it is
 /// what stands at the column (counted from 1) that equals the padded key's

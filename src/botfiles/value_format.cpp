@@ -1,6 +1,7 @@
 #include "botfiles/value_format.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstddef>
 #include <limits>
@@ -31,12 +32,9 @@ std::optional<Value> CleanFraction(std::string_view text) {
   const std::size_t point = text.find('.');
   const std::string_view before = text.substr(0, point);
   // Nothing but a sign or blanks may stand before the point.
-  double whole = 0;
-  if (IsNumericText(before)) {
-    const std::optional<double> number = NumberFromText(before);
-    if (!number) return std::nullopt;
-    whole = *number;
-  }
+  const std::optional<double> number = NumberFromText(before);
+  if (!number && IsNumericText(before)) return std::nullopt;
+  const double whole = number.value_or(0);
   constexpr double kMost = std::numeric_limits<float>::max();
   if (std::fabs(whole) > kMost) {
     return std::nullopt;
@@ -45,8 +43,8 @@ std::optional<Value> CleanFraction(std::string_view text) {
   constexpr std::size_t kMostDigits = 3;
   double fraction = 0;
   if (!digits.empty() && digits.size() <= kMostDigits) {
-    const double scale = std::pow(10.0, static_cast<double>(digits.size()));
-    fraction = *NumberFromText(digits) / scale;
+    constexpr std::array<double, kMostDigits + 1> kScales = {1, 10, 100, 1000};
+    fraction = *NumberFromText(digits) / kScales.at(digits.size());
   }
   // Rounded to a float only once: 1 and a rounded 0.18 would add up to
   // 1.1800001, which no file could hold again.

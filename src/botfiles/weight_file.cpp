@@ -41,11 +41,18 @@ std::string Write(const Bot& bot, const Author& author,
 }
 
 std::optional<int> KeyIn(std::string_view line, IndexRange range) {
-  if (!Contains(line, "#define ")) return std::nullopt;
-  for (int index = range.first; index <= range.last; ++index) {
-    if (Contains(line, BareKey(index))) return index;
+  // Every key begins so, and one walk over a line is enough for them all.
+  constexpr std::string_view kStart = "#define ";
+  int first = range.last + 1;
+  for (std::size_t place = line.find(kStart); place != std::string_view::npos;
+       place = line.find(kStart, place + kStart.size())) {
+    const std::string_view rest = line.substr(place);
+    int index = range.first;
+    while (index < first && !StartsWithKey(rest, BareKey(index))) ++index;
+    first = index;
   }
-  return std::nullopt;
+  if (first > range.last) return std::nullopt;
+  return first;
 }
 
 ReadReport Read(std::string_view bytes, const std::string& file_name,
@@ -56,7 +63,7 @@ ReadReport Read(std::string_view bytes, const std::string& file_name,
   bool has_weight = false;
   LineReader lines(bytes);
   while (const std::optional<std::string_view> line = lines.Next()) {
-    const std::string code = comments.Strip(*line);
+    const std::string_view code = comments.Strip(*line);
     if (IsPassedOver(*line)) continue;
     const std::optional<int> key = KeyIn(*line, range);
     if (!key) continue;

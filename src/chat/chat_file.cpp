@@ -78,8 +78,12 @@ class ChatReader {
   }
 
   void TakeBlockLine(std::string_view line) {
-    const std::string without_tabs = RemoveTabs(line);
-    const std::string_view text = TrimBlanks(without_tabs);
+    std::string_view text = TrimBlanksAndTabs(line);
+    std::string without_tabs;
+    if (Contains(text, "\t")) {
+      without_tabs = RemoveTabs(text);
+      text = without_tabs;
+    }
     if (text.starts_with('}')) {
       is_in_block_ = false;
     } else if (IsTypeLine(text)) {

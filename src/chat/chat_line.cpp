@@ -42,6 +42,7 @@ std::optional<Member> MemberInEditorForm(std::string_view line) {
 }
 
 std::optional<Member> MemberInFileForm(std::string_view line) {
+  if (line.starts_with('"')) return std::nullopt;
   for (const ChatGroup& group : kChatGroups) {
     if (!line.starts_with(group.Name)) continue;
     const std::string_view digits = line.substr(group.Name.size());
@@ -286,7 +287,10 @@ std::string ChatLineToFile(int type, std::string_view line) {
     return text + ';';
   }
   OpenLine open = {std::string(line)};
+  // Most lines are plain text; nothing that is put in has a brace.
+  const bool has_brace = Contains(line, "{");
   for (const WordList& list : kWordLists) {
+    if (!has_brace && list.Variable.starts_with('{')) continue;
     if (!Contains(open.text, list.Variable)) continue;
     const std::string key(list.Key);
     if (line == list.Variable) return key + ';';
@@ -294,6 +298,7 @@ std::string ChatLineToFile(int type, std::string_view line) {
             open);
   }
   for (const int pointer : ChatTypeAt(type).Pointers()) {
+    if (!Contains(open.text, ChatPointerAt(pointer).Variable)) continue;
     const std::string_view code = ChatPointerAt(pointer).Code;
     Replace({ChatPointerAt(pointer).Variable, std::string(code.substr(2)),
              std::string(code), std::string(code.substr(0, code.size() - 3))},
@@ -333,6 +338,7 @@ EditorLine ChatLineFromFile(int type, std::string_view line) {
     return result;
   }
   if (inner.empty()) return result;
+  result.text.reserve(inner.size());
   PieceJoiner(type, result).Join(inner, starts_quoted, ends_quoted);
   return result;
 }

@@ -74,6 +74,26 @@ std::string_view NameOf(zip_t* archive, std::uint64_t index) {
   return name == nullptr ? std::string_view() : std::string_view(name);
 }
 
+/// Gives the names of all entries that can be listed to the function.
+template <typename Function>
+Result<void> ForEachName(const std::filesystem::path& path, Notes& notes,
+                         Function function) {
+  const Result<Archive> archive = Open(path);
+  if (!archive) return Failure(archive.error());
+  const std::uint64_t count = CountEntries(archive->get());
+  for (std::uint64_t index = 0; index < count; ++index) {
+    const std::string_view name = NameOf(archive->get(), index);
+    if (Contains(name, "\r") || Contains(name, "\n")) {
+      notes.Add({.file = Utf8FromPath(path.filename()),
+                 .line = 0,
+                 .text = "An entry with a line end in its name is skipped."});
+    } else if (!name.empty()) {
+      function(name);
+    }
+  }
+  return {};
+}
+
 std::string WithSlashes(std::string_view name) {
   std::string path(name);
   std::replace(path.begin(), path.end(), '\\', '/');
@@ -199,34 +219,23 @@ Result<void> WritePackage(const std::filesystem::path& path,
 
 Result<std::vector<std::string>> ListPackageEntries(
     const std::filesystem::path& path, Notes& notes) {
-  const Result<Archive> archive = Open(path);
-  if (!archive) return Failure(archive.error());
   std::vector<std::string> names;
-  const std::uint64_t count = CountEntries(archive->get());
-  names.reserve(static_cast<std::size_t>(count));
-  for (std::uint64_t index = 0; index < count; ++index) {
-    const std::string_view name = NameOf(archive->get(), index);
-    if (name.find_first_of(kLineEnd) != std::string_view::npos) {
-      notes.Add({.file = Utf8FromPath(path.filename()),
-                 .line = 0,
-                 .text = "An entry with a line end in its name is skipped."});
-    } else if (!name.empty()) {
-      names.emplace_back(name);
-    }
-  }
+  const Result<void> read = ForEachName(
+      path, notes,
+      [&names](std::string_view name) { names.emplace_back(name); });
+  if (!read) return Failure(read.error());
   return names;
 }
 
 Result<std::string> ListPackage(const std::filesystem::path& path,
                                 Notes& notes) {
-  const Result<std::vector<std::string>> names =
-      ListPackageEntries(path, notes);
-  if (!names) return Failure(names.error());
   std::string listing;
-  for (const std::string& name : *names) {
-    listing += name;
-    listing += kLineEnd;
-  }
+  const Result<void> read =
+      ForEachName(path, notes, [&listing](std::string_view name) {
+        listing += name;
+        listing += kLineEnd;
+      });
+  if (!read) return Failure(read.error());
   return listing;
 }
 

@@ -88,10 +88,16 @@ Bot::Bot() {
 }
 
 const Skill& Bot::SkillOf(int level) const {
-  return skills_.at(SkillKey(level));
+  // Without making the key: every reader and writer comes by here.
+  for (const auto& [key, skill] : skills_) {
+    if (skill.level() == level) return skill;
+  }
+  BadIndex(LevelIndex(level, 0));
 }
 
-Skill& Bot::SkillOf(int level) { return skills_.at(SkillKey(level)); }
+Skill& Bot::SkillOf(int level) {
+  return const_cast<Skill&>(std::as_const(*this).SkillOf(level));
+}
 
 const Value& Bot::Parameter(int index) const {
   if (index > 100) {

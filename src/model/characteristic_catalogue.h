@@ -139,11 +139,18 @@ inline constexpr std::array<std::string_view, kCatalogueSize> kCatalogue = {
     "CHARACTERISTIC_CHAT_NAME\t\t\t\t\t",
 };
 
+/// The same keys without their padding.
+inline constexpr std::array<std::string_view, kCatalogueSize> kBareKeys = [] {
+  std::array<std::string_view, kCatalogueSize> keys = kCatalogue;
+  for (std::string_view& key : keys) {
+    key = key.substr(0, key.find_last_not_of('\t') + 1);
+  }
+  return keys;
+}();
+
 /// The key without its padding.
 constexpr std::string_view BareKey(int index) {
-  const std::string_view padded =
-      kCatalogue.at(static_cast<std::size_t>(index));
-  return padded.substr(0, padded.find_last_not_of('\t') + 1);
+  return kBareKeys.at(static_cast<std::size_t>(index));
 }
 
 /// The key with its padding.

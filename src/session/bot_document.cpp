@@ -122,9 +122,18 @@ struct DocumentFault {
   Error error;
 };
 
+/// The name of a field; of a very long one the characters at its beginning.
+std::string ShownField(const std::string& field) {
+  constexpr std::size_t kMost = 80;
+  if (field.size() <= kMost) return field;
+  std::size_t end = kMost;
+  while ((static_cast<unsigned char>(field[end]) & 0xC0U) == 0x80U) --end;
+  return field.substr(0, end) + "...";
+}
+
 [[noreturn]] void Refuse(const std::string& field, const std::string& reason,
                          const std::string& advice = {}) {
-  throw DocumentFault{{.what = "Field " + field + ": " + reason,
+  throw DocumentFault{{.what = "Field " + ShownField(field) + ": " + reason,
                        .file = {},
                        .line = 0,
                        .advice = advice}};
@@ -262,12 +271,15 @@ Json ParseJson(std::string_view text) {
   return Json::parse(text, limit);
 }
 
-/// The message of the JSON library without its own error number.
+/// The message of the JSON library without its own error number and without
+/// the text that it read last, which may be megabytes of anything.
 std::string Reason(const nlohmann::json::exception& exception) {
   std::string_view text = exception.what();
   const std::size_t end = text.find("] ");
   if (end != std::string_view::npos) text.remove_prefix(end + 2);
-  return std::string(text);
+  text = text.substr(0, text.find("; last read: "));
+  constexpr std::size_t kMost = 200;
+  return std::string(text.substr(0, kMost));
 }
 
 }  // namespace

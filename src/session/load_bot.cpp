@@ -51,9 +51,9 @@ void EnsureName(const std::string& name, const std::string& shown,
   const std::string read = loaded.bot.Name();
   if (!NameRefusal(read)) return;
   (void)loaded.bot.SetParameter(kNameIndex, name);
-  const std::string what =
-      read.empty() ? "The file gives the bot no name"
-                   : "\"" + Utf8FromGameText(read) + "\" cannot be a name";
+  const std::string what = read.empty()
+                               ? "The file gives the bot no name"
+                               : "\"" + ShownText(read) + "\" cannot be a name";
   loaded.notes.Add({shown, 0,
                     what + "; the bot is called " + Utf8FromGameText(name) +
                         " after its file."});

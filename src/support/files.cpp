@@ -1,7 +1,6 @@
 #include "support/files.h"
 
 #include <algorithm>
-#include <array>
 #include <fstream>
 #include <ios>
 #include <system_error>
@@ -40,14 +39,15 @@ Result<std::string> ReadFile(const fs::path& path, std::size_t limit) {
   }
   const std::uintmax_t size = fs::file_size(path, reason);
   std::string bytes;
-  if (!reason && size <= limit) bytes.reserve(size + 1);
-  // The size is no promise: the file may grow while it is read.
-  constexpr std::size_t kPiece = 65536;
   if (reason || size <= limit) {
-    std::array<char, kPiece> piece{};
+    // The size is no promise: the file may grow while it is read.
+    std::size_t piece = reason ? 65536 : static_cast<std::size_t>(size) + 1;
     while (file && bytes.size() <= limit) {
-      file.read(piece.data(), static_cast<std::streamsize>(piece.size()));
-      bytes.append(piece.data(), static_cast<std::size_t>(file.gcount()));
+      const std::size_t filled = bytes.size();
+      bytes.resize(filled + piece);
+      file.read(&bytes[filled], static_cast<std::streamsize>(piece));
+      bytes.resize(filled + static_cast<std::size_t>(file.gcount()));
+      piece = 65536;
     }
     if (file.bad()) return fail("The file cannot be read to its end.", "");
   }

@@ -37,10 +37,18 @@ bool IsNumericText(std::string_view text) {
   if (!text.empty() && (text.front() == '+' || text.front() == '-')) {
     text.remove_prefix(1);
   }
-  const auto points = std::count(text.begin(), text.end(), '.');
-  const auto digits = std::count_if(text.begin(), text.end(), IsDigit);
-  return points <= 1 && digits >= 1 &&
-         points + digits == static_cast<std::ptrdiff_t>(text.size());
+  bool has_point = false;
+  bool has_digit = false;
+  for (const char letter : text) {
+    if (IsDigit(letter)) {
+      has_digit = true;
+    } else if (letter == '.' && !has_point) {
+      has_point = true;
+    } else {
+      return false;
+    }
+  }
+  return has_digit;
 }
 
 std::optional<double> NumberFromText(std::string_view text) {
@@ -55,6 +63,12 @@ std::optional<double> NumberFromText(std::string_view text) {
 }
 
 std::string PlainDecimal(double number, int significant_digits) {
+  // Most numbers of a bot are small and whole.
+  constexpr double kSmall = 1e6;
+  if (std::fabs(number) < kSmall && number == std::trunc(number) &&
+      significant_digits >= kFloatDigits) {
+    return std::to_string(static_cast<int>(number));
+  }
   // Rounding is done by the scientific form; the second step only moves the
   // point, since the rounded decimal is printed with all of its digits.
   std::array<char, 64> scientific{};

@@ -42,10 +42,11 @@ std::string Without(std::string_view text, char unwanted) {
   return kept;
 }
 
-std::string_view Trim(std::string_view text, std::string_view unwanted) {
-  const std::size_t first = text.find_first_not_of(unwanted);
-  if (first == std::string_view::npos) return text.substr(text.size());
-  return text.substr(first, text.find_last_not_of(unwanted) - first + 1);
+template <typename Unwanted>
+std::string_view Trim(std::string_view text, Unwanted unwanted) {
+  while (!text.empty() && unwanted(text.front())) text.remove_prefix(1);
+  while (!text.empty() && unwanted(text.back())) text.remove_suffix(1);
+  return text;
 }
 
 }  // namespace
@@ -54,10 +55,13 @@ std::string RemoveTabs(std::string_view text) { return Without(text, '\t'); }
 
 std::string RemoveBlanks(std::string_view text) { return Without(text, ' '); }
 
-std::string_view TrimBlanks(std::string_view text) { return Trim(text, " "); }
+std::string_view TrimBlanks(std::string_view text) {
+  return Trim(text, [](char letter) { return letter == ' '; });
+}
 
 std::string_view TrimBlanksAndTabs(std::string_view text) {
-  return Trim(text, " \t");
+  return Trim(text,
+              [](char letter) { return letter == ' ' || letter == '\t'; });
 }
 
 char ToLower(char letter) { return kLower[static_cast<unsigned char>(letter)]; }
@@ -85,17 +89,18 @@ bool Contains(std::string_view text, std::string_view part) {
 }
 
 std::optional<std::string_view> LineReader::Next() {
-  if (rest_.empty()) return std::nullopt;
+  if (place_ == bytes_.size()) return std::nullopt;
   ++number_;
-  const std::size_t end = rest_.find_first_of("\r\n");
-  const std::string_view line = rest_.substr(0, end);
-  if (end == std::string_view::npos) {
-    rest_ = {};
-    return line;
+  const std::string_view line = bytes_.substr(place_, line_feed_ - place_);
+  const std::size_t length = std::min(line.find('\r'), line.size());
+  place_ += length;
+  // At the line's end now: skip the CR, then the LF.
+  if (length < line.size()) ++place_;
+  if (place_ == line_feed_) {
+    ++place_;
+    line_feed_ = bytes_.find('\n', place_);
   }
-  const bool is_pair = rest_.substr(end, 2) == kLineEnd;
-  rest_.remove_prefix(end + (is_pair ? 2 : 1));
-  return line;
+  return line.substr(0, length);
 }
 
 }  // namespace fragsmith

@@ -37,7 +37,8 @@ bool Contains(std::string_view text, std::string_view part);
 /// stands behind the last line end is a line when it is not empty.
 class LineReader {
  public:
-  explicit LineReader(std::string_view bytes) : rest_(bytes) {}
+  explicit LineReader(std::string_view bytes)
+      : bytes_(bytes), line_feed_(bytes.find('\n')) {}
 
   /// The next line without its end; nothing at the end of the file.
   std::optional<std::string_view> Next();
@@ -46,7 +47,10 @@ class LineReader {
   std::size_t number() const { return number_; }
 
  private:
-  std::string_view rest_;
+  std::string_view bytes_;
+  std::size_t place_ = 0;
+  /// The first LF that does not lie before the place.
+  std::size_t line_feed_;
   std::size_t number_ = 0;
 };
 

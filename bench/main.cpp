@@ -1,0 +1,12 @@
+#include <benchmark/benchmark.h>
+
+#include "install/time_zone.h"
+
+int main(int count, char** arguments) {
+  // As the programs do at their start.
+  fragsmith::PrepareTimeZone();
+  benchmark::Initialize(&count, arguments);
+  if (benchmark::ReportUnrecognizedArguments(count, arguments)) return 2;
+  benchmark::RunSpecifiedBenchmarks();
+  benchmark::Shutdown();
+}

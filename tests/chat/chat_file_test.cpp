@@ -1,0 +1,153 @@
+#include "chat/chat_file.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <iterator>
+
+#include "chat/chat_commands.h"
+#include "support/random.h"
+#include "tests/support/game_lines.h"
+
+namespace fragsmith {
+namespace {
+
+using ::testing::ElementsAre;
+
+/// The file of a bot with these lines of the first type and no others.
+std::string FileOf(const std::string& name, const std::string& first_lines) {
+  // clang-format off
+  constexpr std::string_view kKeys[] = {
+      "game_exit", "level_start", "level_end", "level_end_victory",
+      "level_end_lose", "hit_talking", "hit_nodeath", "hit_nokill",
+      "death_telefrag", "death_cratered", "death_lava", "death_slime",
+      "death_drown", "death_suicide", "death_gauntlet", "death_rail",
+      "death_bfg", "death_insult", "death_praise", "kill_rail",
+      "kill_gauntlet", "kill_telefrag", "kill_suicide", "kill_insult",
+      "kill_praise", "random_insult", "random_misc"};
+  // clang-format on
+  std::string text = "||chat \"" + name + "\"|{|>#include \"teamplay.h\"|" +
+                     "|>type \"game_enter\"|>{|" + first_lines + ">}|";
+  for (const std::string_view key : kKeys) {
+    text += "|>type \"" + std::string(key) + "\"|>{|>}|";
+  }
+  return GameLines(text + "}|");
+}
+
+TEST(ChatFile, IsWrittenToTheByte) {
+  Bot bot;
+  (void)bot.SetParameter(0, "123");
+  EXPECT_EQ(WriteChatFile(bot, {"Ann", "", ""}),
+            HeaderComment(bot, {"Ann", "", ""}) + FileOf("123", ""));
+  (void)bot.SetParameter(0, "mybot");
+  bot.SetChatLine(0, 0, "{{GAMEENTER0}}");
+  bot.SetChatLine(0, 2, "Hi {ANYBOTNAME}!");
+  EXPECT_EQ(WriteChatFile(bot, {}),
+            HeaderComment(bot, {}) +
+                FileOf("mybot", ">>HELLO;|>>\"Hi \", 0, \"!\";|"));
+}
+
+TEST(ChatFile, ReadsBackWhatItWrote) {
+  const RandomSource random = SeededRandom(9);
+  constexpr std::string_view kParts[] = {
+      "{WEAPON}",   "PROFESSION", "{ATTACKER}", "{TARGET}", "{LAST VICTIM}",
+      "type \"x\"", "}",          "{",          "//",       ";",
+      " ",          ", ",         "\xC4",       "a",        "7"};
+  for (int round = 0; round < 100; ++round) {
+    Bot bot;
+    for (int type = 0; type < kChatTypeCount; ++type) {
+      for (int lines = static_cast<int>(random() * 4); lines > 0; --lines) {
+        std::string line = "x";
+        for (int parts = static_cast<int>(random() * 6); parts > 0; --parts) {
+          line +=
+              kParts[static_cast<std::size_t>(random() * std::size(kParts))];
+        }
+        bot.SetChatLine(type, NextFreeChatLine(bot, type), line);
+      }
+      if (random() < 0.5) (void)AddRandomChatLine(bot, type, random);
+    }
+    Bot read;
+    (void)ReadChatFile(WriteChatFile(bot, {}), "f", read);
+    ASSERT_EQ(read, bot) << WriteChatFile(bot, {});
+  }
+}
+
+TEST(ChatFile, ReadsOddFilesToTheirEnd) {
+  const std::string enter = ">type \"game_enter\"|>{|>>\"a\";|";
+  const std::string misc = ">type \"random_misc\"|>{|>>\"b\";|";
+  const struct {
+    std::string text;
+    std::vector<std::string> enter;  ///< Lines of game_enter.
+    std::vector<std::string> misc;   ///< Lines of random_misc.
+    std::vector<std::size_t> noted;  ///< Lines with a note.
+  } cases[] = {
+      {enter + ">}|" + misc + "  >}|>>\"out\";|", {"a"}, {"b"}, {}},
+      // A "}" is missing at the end, or before the next type.
+      {enter, {"a"}, {""}, {3}},
+      {enter + misc + ">}|", {"a"}, {"b"}, {4}},
+      {enter + ">type\"random_misc\"|>>\"b\";|>}|", {"a"}, {"b"}, {4}},
+      {enter + ">>\"type \"x\"\";|>}|", {"a", "type \"x\""}, {""}, {4}},
+      // An unknown type goes to the one in force, a second block behind.
+      {">type \"game_leave\"|>{|>>\"c\";|>}|" + misc +
+           ">}|>type \"nothing\"|>{|>>\"d\";|>}|",
+       {"c"},
+       {"b", "d"},
+       {1, 9}},
+      {enter + ">}|" + misc + ">}|" + enter + ">}|", {"a", "a"}, {"b"}, {9}},
+      // The name of the bot holds the word.
+      {"chat \"typebot\"|{|" + enter + ">}|}|", {"a"}, {""}, {1, 3}},
+      // What is passed over inside and outside of blocks.
+      {"//>type \"game_enter\"|}type|{type|#itype|typo|" + enter +
+           ">>//no|> >{ no||>> >|>>\"e\"; // yes|>}|",
+       {"a", "e"},
+       {""},
+       {13}},
+      {"type \"game_enter\" {|\"a>b\";|>>0x\x1A;|}",
+       {"ab", "0x\x1A"},
+       {""},
+       {3}}};
+  for (const auto& row : cases) {
+    Bot bot;
+    const Notes notes = ReadChatFile(GameLines(row.text), "f_t.c", bot);
+    EXPECT_EQ(bot.ChatLines(0), row.enter) << row.text;
+    EXPECT_EQ(bot.ChatLines(27), row.misc) << row.text;
+    EXPECT_EQ(NotedLines(notes), row.noted) << row.text;
+  }
+}
+
+TEST(ChatFile, TellsTypesThatBeginAlikeApart) {
+  Bot bot;
+  const Notes notes = ReadChatFile(
+      GameLines("type \"level_end_lose\"|\"l\";|}|type \"level_end\"|\"e\";|}|"
+                "type \"level_end_victory\"|\"v\";|}|type \"level_end\"|}|"),
+      "f_t.c", bot);
+  EXPECT_THAT(Described(notes),
+              ElementsAre("f_t.c:10: The type level_end was there before; the "
+                          "game uses the last block alone."));
+  EXPECT_EQ(bot.ChatLine(3, 0) + bot.ChatLine(4, 0) + bot.ChatLine(5, 0),
+            "evl");
+}
+
+TEST(ChatFile, SurvivesHugeAndBinaryInput) {
+  const RandomSource random = SeededRandom(10);
+  const std::string type = "type \"game_enter\"\n";
+  std::string noise = type;
+  while (noise.size() < 1'000'000) {
+    noise += static_cast<char>(random() * 256);
+  }
+  for (const std::string& bytes :
+       {noise, Repeated("\", ", type), Repeated("\"a\", 0, ", type),
+        Repeated("weapon,", type), Repeated(";", type), Repeated("9", type),
+        Repeated("{WEAPON}", type), Repeated("type \"\"\n", type, 1),
+        Repeated("a\n", type, 1)}) {
+    Bot bot;
+    const Notes notes = ReadChatFile(bytes, "f", bot);
+    std::size_t note_bytes = 0;
+    for (const Note& note : notes.list()) note_bytes += note.text.size();
+    EXPECT_LT(note_bytes, 200'000U) << bytes.substr(18, 10);
+    EXPECT_FALSE(WriteChatFile(bot, {}).empty());
+  }
+}
+
+}  // namespace
+}  // namespace fragsmith

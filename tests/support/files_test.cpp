@@ -1,0 +1,85 @@
+#include "support/files.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#ifndef _WIN32
+#include <sys/resource.h>
+
+#include <csignal>
+#endif
+
+#include "tests/support/test_folder.h"
+
+namespace fragsmith {
+namespace {
+
+using ::testing::ElementsAre;
+
+TEST(Files, AreFoundWhateverTheirCase) {
+  const TestFolder folder;
+  for (const char* name : {"Sarge_C.C", "sarge_c.c.bak", "ÄGER_T.C", "日本_c.C",
+                           "both_c.c", "Both_C.c", "fold_c.c/inside"}) {
+    folder.Write(name, "");
+  }
+  EXPECT_EQ(FindFile(folder.path(), "sarge_c.c"), folder / "Sarge_C.C");
+  EXPECT_EQ(FindFile(folder.path(), "\xE4ger_t.c"), folder / "ÄGER_T.C");
+  EXPECT_EQ(FindFile(folder.path(), "both_c.c"), folder / "both_c.c");
+  EXPECT_EQ(FindFile(folder.path(), "Both_C.c"), folder / "Both_C.c");
+  for (const char* name :
+       {"sarge", "arge_c.c", "fold_c.c", "fold_c.c/inside", "../x", "..", ""}) {
+    EXPECT_EQ(FindFile(folder.path(), name), std::nullopt) << name;
+  }
+  EXPECT_THAT(ListFiles(folder.path(), "_c.c"),
+              ElementsAre("Both_C.c", "both_c.c", "Sarge_C.C", "日本_c.C"));
+  EXPECT_TRUE(ListFiles(folder / "none", "").empty());
+}
+
+TEST(Files, HaveNamesThatAreNoPaths) {
+  for (const char* good : {"a", "a b", "...", "a..b", "\x81", "-"}) {
+    EXPECT_TRUE(IsFileName(good)) << good;
+  }
+  for (const char* bad : {"", ".", "..", "a/b", "a\\b", "a\n", "\x7F"}) {
+    EXPECT_FALSE(IsFileName(bad)) << bad;
+  }
+  EXPECT_FALSE(IsFileName(std::string_view("a\0b", 3)));
+}
+
+TEST(Files, AreReadUpToTheLimit) {
+  const TestFolder folder;
+  const std::string bytes("\0\r\n\x1A\xFF", 5);
+  const auto path = folder.Write("x", bytes);
+  EXPECT_EQ(ReadFile(path, 5).value(), bytes);
+  ASSERT_FALSE(ReadFile(path, 4));
+  EXPECT_EQ(ReadFile(path, 4).error().file, Utf8FromPath(path));
+  for (const auto& other :
+       {folder / "none", folder.path(), std::filesystem::path("/dev/zero")}) {
+    EXPECT_FALSE(ReadFile(other)) << other;
+  }
+}
+
+TEST(Files, AreSavedWholeOrNotAtAll) {
+  const TestFolder folder;
+  folder.Write("x", "old");
+  folder.Write("taken/inside", "");
+  ASSERT_TRUE(SaveFile(folder / "x", "new"));
+  ASSERT_FALSE(SaveFile(folder / "taken", "new"));
+  EXPECT_EQ(SaveFile(folder / "taken", "new").error().file,
+            Utf8FromPath(folder / "taken"));
+  EXPECT_FALSE(SaveFile(folder / "none" / "x", "new"));
+#ifndef _WIN32
+  // A limit of the process stands in for a full disk; root has it too.
+  rlimit before{};
+  ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &before), 0);
+  const rlimit small = {1000, before.rlim_max};
+  const auto old_handler = std::signal(SIGXFSZ, SIG_IGN);
+  ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
+  EXPECT_FALSE(SaveFile(folder / "x", std::string(5000, 'n')));
+  setrlimit(RLIMIT_FSIZE, &before);
+  std::signal(SIGXFSZ, old_handler);
+#endif
+  EXPECT_EQ(folder.Read("x"), "new");
+  EXPECT_THAT(ListFiles(folder.path(), ""), ElementsAre("x"));
+}
+
+}  // namespace
+}  // namespace fragsmith
