@@ -41,6 +41,7 @@ std::vector<FoundSkin> FindSkins(std::size_t count, std::size_t model_count) {
   const std::vector<std::string> skins = Names(count, 2);
   std::mt19937 generator(3);
   std::vector<FoundSkin> found;
+  found.reserve(count);
   for (const std::string& skin : skins) {
     const std::string& model = models[generator() % model_count];
     found.push_back({model, skin,

@@ -216,9 +216,7 @@ std::string FormatArchive(const std::vector<std::string>& names,
 }  // namespace
 
 GameFolder MakeGameFolder(const fs::path& folder, std::size_t package_count) {
-  GameFolder made = {.path = folder,
-                     .packages = folder / "baseq3",
-                     .package_count = package_count};
+  GameFolder made = {.path = folder, .packages = folder / "baseq3"};
   fs::create_directories(made.packages);
   for (std::size_t index = 0; index < package_count; ++index) {
     Random random(static_cast<std::uint32_t>(index));
@@ -231,6 +229,9 @@ GameFolder MakeGameFolder(const fs::path& folder, std::size_t package_count) {
     file.close();
     if (!file) throw std::runtime_error("no room for the packages");
     made.entry_count += contents.names.size();
+    for (const std::string& entry : contents.names) {
+      made.name_bytes += entry.size();
+    }
     made.skin_count += contents.skin_count;
     made.bot_count += contents.bot_count;
   }

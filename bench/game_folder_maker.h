@@ -10,8 +10,8 @@ namespace fragsmith::bench {
 struct GameFolder {
   std::filesystem::path path;
   std::filesystem::path packages;  ///< Its baseq3.
-  std::size_t package_count = 0;
   std::size_t entry_count = 0;
+  std::size_t name_bytes = 0;  ///< Of all entries together.
   std::size_t skin_count = 0;
   std::size_t bot_count = 0;
 };

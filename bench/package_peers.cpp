@@ -11,10 +11,14 @@
 
 #include <array>
 #include <cstring>
+#include <fstream>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "bench/child_program.h"
+#include "support/text.h"
 
 namespace fragsmith::bench {
 namespace fs = std::filesystem;
@@ -34,27 +38,59 @@ void Count(std::string_view name, Listing& listing) {
   listing.name_bytes += name.size();
 }
 
-void WalkDirectory(int file, std::string& directory, Listing& listing) {
-  constexpr std::size_t kEndBytes = 22;
+constexpr std::size_t kEndBytes = 22;
+
+/// The record at the end of a package, which tells where the table is.
+struct EndRecord {
+  std::array<char, kEndBytes> bytes{};
+
+  bool is_one() const {
+    return std::memcmp(bytes.data(), "PK\x05\x06", 4) == 0;
+  }
+  std::size_t directory_bytes() const { return NumberAt(&bytes[12], 4); }
+  std::size_t directory_place() const { return NumberAt(&bytes[16], 4); }
+};
+
+/// Calls the function with each name of the table.
+template <typename Function>
+void ForEachName(std::string_view directory, Function function) {
   constexpr std::size_t kEntryBytes = 46;
+  while (directory.size() > kEntryBytes) {
+    const std::size_t name = NumberAt(&directory[28], 2);
+    const std::size_t behind =
+        NumberAt(&directory[30], 2) + NumberAt(&directory[32], 2);
+    function(directory.substr(kEntryBytes, name));
+    directory.remove_prefix(kEntryBytes + name + behind);
+  }
+}
+
+void WalkBarely(int file, std::string& directory, Listing& listing) {
+  EndRecord end;
   const off_t size = ::lseek(file, 0, SEEK_END);
-  std::array<char, kEndBytes> end{};
-  if (::pread(file, end.data(), kEndBytes, size - off_t{kEndBytes}) !=
+  if (::pread(file, end.bytes.data(), kEndBytes, size - off_t{kEndBytes}) !=
           ssize_t{kEndBytes} ||
-      std::memcmp(end.data(), "PK\x05\x06", 4) != 0) {
+      !end.is_one()) {
     return;
   }
-  directory.resize(NumberAt(&end[12], 4));
-  const auto read = ::pread(file, directory.data(), directory.size(),
-                            static_cast<off_t>(NumberAt(&end[16], 4)));
+  directory.resize(end.directory_bytes());
+  const ssize_t read = ::pread(file, directory.data(), directory.size(),
+                               static_cast<off_t>(end.directory_place()));
   if (read != static_cast<ssize_t>(directory.size())) return;
-  std::string_view rest = directory;
-  while (rest.size() > kEntryBytes) {
-    const std::size_t name = NumberAt(&rest[28], 2);
-    const std::size_t behind = NumberAt(&rest[30], 2) + NumberAt(&rest[32], 2);
-    Count(rest.substr(kEntryBytes, name), listing);
-    rest.remove_prefix(kEntryBytes + name + behind);
+  ForEachName(directory,
+              [&listing](std::string_view name) { Count(name, listing); });
+}
+
+Listing RunZipinfo(const std::string& packages) {
+  Listing listing;
+  const std::optional<std::string> output =
+      RunProgram({"zipinfo", "-1", packages});
+  if (!output) return listing;
+  LineReader lines(*output);
+  while (const auto line = lines.Next()) {
+    // With several packages a blank line stands behind each.
+    if (!line->empty()) Count(*line, listing);
   }
+  return listing;
 }
 
 /// Calls the function with the path of each file in the folder.
@@ -67,7 +103,27 @@ void ForEachPackage(const fs::path& packages, Function function) {
 
 }  // namespace
 
-Listing WalkDirectories(const fs::path& packages) {
+Listing WalkPlainly(const fs::path& packages) {
+  Listing listing;
+  ForEachPackage(packages, [&](const fs::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    EndRecord end;
+    file.seekg(-std::streamoff{kEndBytes}, std::ios::end);
+    file.read(end.bytes.data(), kEndBytes);
+    if (!file || !end.is_one()) return;
+    std::string directory(end.directory_bytes(), '\0');
+    file.seekg(static_cast<std::streamoff>(end.directory_place()));
+    file.read(directory.data(), static_cast<std::streamsize>(directory.size()));
+    if (!file) return;
+    std::vector<std::string> names;
+    ForEachName(directory,
+                [&names](std::string_view name) { names.emplace_back(name); });
+    for (const std::string& name : names) Count(name, listing);
+  });
+  return listing;
+}
+
+Listing WalkBarely(const fs::path& packages) {
   Listing listing;
   std::string directory;
   DIR* const folder = ::opendir(packages.c_str());
@@ -77,7 +133,7 @@ Listing WalkDirectories(const fs::path& packages) {
     const int file =
         ::openat(::dirfd(folder), entry->d_name, O_RDONLY | O_CLOEXEC);
     if (file < 0) continue;
-    WalkDirectory(file, directory, listing);
+    WalkBarely(file, directory, listing);
     ::close(file);
   }
   ::closedir(folder);
@@ -137,9 +193,19 @@ Listing ListByMinizip(const fs::path& packages) {
   return listing;
 }
 
-bool ListByZipinfo(const fs::path& packages) {
+Listing ListByZipinfo(const fs::path& packages) {
   // It looks for the pattern itself, without a shell.
-  return RunProgram({"zipinfo", "-1", (packages / "*.pk3").string()});
+  return RunZipinfo((packages / "*.pk3").string());
+}
+
+Listing ListByZipinfoEach(const fs::path& packages) {
+  Listing listing;
+  ForEachPackage(packages, [&listing](const fs::path& path) {
+    const Listing one = RunZipinfo(path.string());
+    listing.entries += one.entries;
+    listing.name_bytes += one.name_bytes;
+  });
+  return listing;
 }
 
 }  // namespace fragsmith::bench

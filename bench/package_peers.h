@@ -18,18 +18,24 @@ struct Listing {
   bool operator==(const Listing&) const = default;
 };
 
-/// The floor: the fewest system calls that can give the names. It believes
-/// what the packages say and knows no comment at their end, so it is good for
-/// the packages made here alone.
-Listing WalkDirectories(const std::filesystem::path& packages);
+// The floors are walks over the tables of contents that believe what the
+// packages say and know no comment at their end: good for the packages that
+// are made here, and for nothing else.
+
+/// By the means of the standard library: a file stream, and a string for each
+/// name.
+Listing WalkPlainly(const std::filesystem::path& packages);
+
+/// By the fewest system calls, with no name kept.
+Listing WalkBarely(const std::filesystem::path& packages);
 
 Listing ListByLibzip(const std::filesystem::path& packages);
 Listing ListByLibarchive(const std::filesystem::path& packages);
 Listing ListByMinizip(const std::filesystem::path& packages);
 
-/// zipinfo -1, started once for all packages, its output thrown away. False
-/// when it fails.
-bool ListByZipinfo(const std::filesystem::path& packages);
+/// What zipinfo -1 prints, started once for all packages or once for each.
+Listing ListByZipinfo(const std::filesystem::path& packages);
+Listing ListByZipinfoEach(const std::filesystem::path& packages);
 
 }  // namespace fragsmith::bench
 

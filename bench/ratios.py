@@ -28,11 +28,21 @@ PAIRS = [
     ]),
     *[(f"Scan {count} packages, {cache} cache", [
         (f"Scan{cache.title()}/fragsmith/{count}",
-         f"Scan{cache.title()}/{peer}/{count}", peer, most)
-        for peer, most in [("floor", most_floor), ("zipinfo", 1),
-                           ("libarchive", 1), ("minizip", 1), ("libzip", None)]
-    ]) for cache, most_floor in [("warm", 12), ("cold", 2.5)]
+         f"Scan{cache.title()}/{peer}/{count}", title, most)
+        for peer, title, most in [
+            ("walk", "walk, standard library", most_walk),
+            ("bare_walk", "walk, bare system calls", most_walk),
+            ("zipinfo", "zipinfo -1, one process", 1),
+            ("libarchive", "libarchive", 1),
+            ("minizip", "minizip", 1),
+            ("libzip", "libzip, names alone", None),
+        ]
+    ]) for cache, most_walk in [("warm", 12), ("cold", 2.5)]
        for count in (500, 2000)],
+    ("Scan 500 packages, warm cache", [
+        ("ScanWarm/fragsmith/500", "ScanWarm/zipinfo_each/500",
+         "zipinfo -1, a process each", 1),
+    ]),
     ("Build and sort 100,000 entries", [
         (f"{what}/100000", f"{floor}/100000", f"{title}, one plain list", None)
         for what, floor, title in [
@@ -51,7 +61,7 @@ N_LOG_N_4 = 4.55  # 100,000 log 100,000 against 25,000 log 25,000
 GROWTHS = [
     ("Scan, warm", "ScanWarm/fragsmith", 500, 2000, LINEAR_4),
     ("Scan, cold", "ScanCold/fragsmith", 500, 2000, LINEAR_4),
-    ("Walk, warm", "ScanWarm/floor", 500, 2000, LINEAR_4),
+    ("  walk, standard library", "ScanWarm/walk", 500, 2000, LINEAR_4),
     ("Skins of many models", "Catalogue/many_models", 25000, 100000,
      N_LOG_N_4),
     ("  one plain list", "CatalogueFloor/many_models", 25000, 100000,

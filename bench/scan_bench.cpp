@@ -45,11 +45,8 @@ bool ScanByFragsmith(const GameFolder& folder) {
 
 template <Listing (*kList)(const std::filesystem::path&)>
 bool ListBy(const GameFolder& folder) {
-  return kList(folder.packages).entries == folder.entry_count;
-}
-
-bool ListByProgram(const GameFolder& folder) {
-  return ListByZipinfo(folder.packages);
+  return kList(folder.packages) ==
+         Listing{folder.entry_count, folder.name_bytes};
 }
 
 using Way = bool (*)(const GameFolder&);
@@ -86,11 +83,16 @@ void Counts(benchmark::internal::Benchmark* run) {
   BENCHMARK_CAPTURE(ScanCold, name, way)->Apply(Counts)->UseManualTime()
 
 FRAGSMITH_SCAN(fragsmith, &ScanByFragsmith);
-FRAGSMITH_SCAN(floor, &ListBy<WalkDirectories>);
+FRAGSMITH_SCAN(walk, &ListBy<WalkPlainly>);
+FRAGSMITH_SCAN(bare_walk, &ListBy<WalkBarely>);
 FRAGSMITH_SCAN(libzip, &ListBy<ListByLibzip>);
 FRAGSMITH_SCAN(libarchive, &ListBy<ListByLibarchive>);
 FRAGSMITH_SCAN(minizip, &ListBy<ListByMinizip>);
-FRAGSMITH_SCAN(zipinfo, &ListByProgram);
+FRAGSMITH_SCAN(zipinfo, &ListBy<ListByZipinfo>);
+BENCHMARK_CAPTURE(ScanWarm, zipinfo_each, &ListBy<ListByZipinfoEach>)
+    ->Arg(500)
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime();
 
 #undef FRAGSMITH_SCAN
 

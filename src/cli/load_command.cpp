@@ -161,6 +161,7 @@ ExitStatus LoadPackage(const fs::path& package, const LoadOptions& options,
   const std::vector<BotListEntry> bots =
       BotsInListing(*listing, package_name).entries();
   std::vector<std::string> names;
+  names.reserve(bots.size());
   for (const BotListEntry& bot : bots) names.push_back(bot.Name);
   const Choice choice = Choose(names, options, context);
   if (!choice.place) return choice.refusal;

@@ -8,6 +8,7 @@
 #include <optional>
 #include <utility>
 #include <variant>
+#include <vector>
 
 #include "chat/chat_catalogue.h"
 #include "model/characteristic_catalogue.h"
@@ -109,7 +110,7 @@ OrderedJson ChatsToJson(const Bot& bot) {
       lines.push_back(Utf8FromGameText(line));
     }
     // The one empty line of a type without texts is the editor's own.
-    if (lines.size() == 1 && lines.front() == "") lines.clear();
+    if (bot.ChatLines(type) == std::vector<std::string>(1)) lines.clear();
     chats[std::string(ChatTypeAt(type).Key)] = std::move(lines);
   }
   return chats;
@@ -198,7 +199,9 @@ void ReadParameters(const Json& json, IndexRange range, int level,
     places.emplace(DocumentKey(index), index);
   }
   for (const auto& [key, value] : Object(json, field).items()) {
-    const std::string place = field + "." + key;
+    std::string place = field;
+    place += '.';
+    place += key;
     const auto found = places.find(key);
     if (found == places.end()) Refuse(place, "there is no such key.");
     const int index = found->second;

@@ -38,10 +38,10 @@ void Inform(Prompts& prompts, std::string title, std::string text) {
   prompts.Show({std::move(title), std::move(text), MessageIcon::kInformation});
 }
 
-void Take(ReadReport report, LoadedBot& loaded) {
+void Take(const ReadReport& report, LoadedBot& loaded) {
   loaded.notes.Append(report.notes);
-  for (auto& [parameter, value] : report.plain_values) {
-    loaded.plain_values.insert_or_assign(parameter, std::move(value));
+  for (const auto& [parameter, value] : report.plain_values) {
+    loaded.plain_values.insert_or_assign(parameter, value);
   }
 }
 
@@ -144,9 +144,9 @@ void ReadBotFile(BotFile file, LoadScope scope, std::string_view bytes,
   ++loaded.files_read;
   switch (file) {
     case BotFile::kDescription: {
-      DescriptionReport report = ReadDescriptionFile(bytes, shown, bot);
+      const DescriptionReport report = ReadDescriptionFile(bytes, shown, bot);
       loaded.has_arena_lord = report.has_arena_lord;
-      return Take(std::move(report), loaded);
+      return Take(report, loaded);
     }
     case BotFile::kCharacteristics:
       // A new bot has a name already; that of the file is wanted.

@@ -65,6 +65,7 @@ void MakeBotPackage(const Bot& bot, const fs::path& folder,
                     const std::array<SetFile, 5>& files, Prompts& prompts,
                     SavedBot& saved) {
   std::vector<PackageEntry> entries;
+  entries.reserve(files.size());
   for (const SetFile& file : files) {
     entries.push_back({std::string(file.folder) + "/" + file.name, file.bytes});
   }

@@ -11,7 +11,10 @@ TEST(FormatValue, FollowsTheFilesOwnNumberForm) {
   // Below 0 the sign goes and a "0" comes; a text that reads as a number
   // counts as one.
   // clang-format off
-  const std::pair<Value, std::string_view> cases[] = {
+  const struct {
+    Value value;
+    std::string_view text;
+  } cases[] = {
       {{}, "0.0"}, {-0.0, "0.0"}, {1.0, "1.0"}, {1.0F, "1.0"}, {0.5, "0.5"},
       {0.05, "0.05"}, {1.5, "1.5"}, {0.25F, "0.25"}, {400.0, "400"},
       {-0.5, "0.5"}, {-2.0, "02"}, {-1.0, "01"}, {-10.25, "010.25"},
