@@ -7,6 +7,10 @@ find_package(tl-expected CONFIG REQUIRED)
 find_package(CLI11 CONFIG REQUIRED)
 find_package(nlohmann_json CONFIG REQUIRED)
 
+if(FRAGSMITH_EDITOR)
+  find_package(Qt6 REQUIRED COMPONENTS Widgets)
+endif()
+
 # stb_image is used as a header alone, with our own set of formats.
 find_path(STB_INCLUDE_DIR stb_image.h PATH_SUFFIXES stb REQUIRED)
 mark_as_advanced(STB_INCLUDE_DIR)

@@ -1,0 +1,25 @@
+#ifndef FRAGSMITH_EDITOR_CODE_PAGE_VALIDATOR_H_
+#define FRAGSMITH_EDITOR_CODE_PAGE_VALIDATOR_H_
+
+#include <QValidator>
+
+namespace fragsmith {
+
+/// Lets only characters of the game's code page into a text box, and none
+/// that ends a line. The box says "inputRejected" for others.
+class CodePageValidator : public QValidator {
+  Q_OBJECT
+
+ public:
+  using QValidator::QValidator;
+
+  State validate(QString& text, int& position) const override;
+};
+
+/// What the status bar says when a character was refused.
+inline constexpr const char* kRefusedCharacter =
+    "The game's texts cannot hold this character.";
+
+}  // namespace fragsmith
+
+#endif  // FRAGSMITH_EDITOR_CODE_PAGE_VALIDATOR_H_

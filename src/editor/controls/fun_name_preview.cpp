@@ -1,0 +1,121 @@
+#include "editor/controls/fun_name_preview.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QPainterPath>
+#include <QPen>
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstddef>
+
+namespace fragsmith {
+namespace {
+
+constexpr std::array<QRgb, 8> kGameColors = {
+    qRgb(0, 0, 0),   qRgb(255, 0, 0),   qRgb(0, 255, 0),   qRgb(255, 255, 0),
+    qRgb(0, 0, 255), qRgb(0, 255, 255), qRgb(255, 0, 255), qRgb(255, 255, 255),
+};
+
+/// Relative luminance of the screen colour, 0 to 1, as the web's guidelines
+/// for readable text define it.
+double Luminance(const QColor& color) {
+  const auto linear = [](double part) {
+    return part <= 0.04045 ? part / 12.92
+                           : std::pow((part + 0.055) / 1.055, 2.4);
+  };
+  return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
+         0.0722 * linear(color.blueF());
+}
+
+double Contrast(const QColor& color, const QColor& ground) {
+  const auto [dark, light] = std::minmax({Luminance(color), Luminance(ground)});
+  return (light + 0.05) / (dark + 0.05);
+}
+
+/// Below this contrast a colour gets an outline.
+constexpr double kReadableContrast = 2.5;
+
+}  // namespace
+
+FunNamePreview::FunNamePreview(QWidget* parent) : QWidget(parent) {
+  setAccessibleName(QStringLiteral("Fun name preview"));
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+}
+
+void FunNamePreview::DrawFunName(const QString& text) {
+  runs_.assign(1, {});
+  QString plain;
+  for (qsizetype place = 0; place < text.size(); ++place) {
+    const bool has_next = text[place] == u'^' && place + 1 < text.size();
+    const int digit = has_next ? text[place + 1].unicode() - u'0' : -1;
+    if (digit >= 0 && digit < static_cast<int>(kGameColors.size())) {
+      runs_.push_back(
+          {QColor(kGameColors[static_cast<std::size_t>(digit)]), {}});
+      ++place;
+    } else {
+      runs_.back().text += text[place];
+      plain += text[place];
+    }
+  }
+  setAccessibleDescription(plain);
+  setToolTip(plain.toHtmlEscaped());
+  update();
+}
+
+QSize FunNamePreview::sizeHint() const {
+  const QFontMetrics metrics(NameFont());
+  return {metrics.averageCharWidth() * 24, metrics.height() * 5 / 4};
+}
+
+QSize FunNamePreview::minimumSizeHint() const {
+  return {QFontMetrics(NameFont()).averageCharWidth() * 10,
+          sizeHint().height()};
+}
+
+void FunNamePreview::paintEvent(QPaintEvent* /*event*/) {
+  const QFont font = NameFont();
+  const QFontMetricsF metrics(font);
+  const QColor text_color = palette().color(QPalette::WindowText);
+  const QColor ground = palette().color(QPalette::Window);
+  const double line_width = std::max(1.0, metrics.height() / 14);
+
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const double base_line = (height() - metrics.height()) / 2 + metrics.ascent();
+  const double end = width() - line_width;
+  double left = line_width;
+  for (const Run& run : runs_) {
+    const double advance = metrics.horizontalAdvance(run.text);
+    const bool is_cut = left + advance > end;
+    QPainterPath letters;
+    letters.addText(
+        left, base_line, font,
+        is_cut ? metrics.elidedText(run.text, Qt::ElideRight, end - left)
+               : run.text);
+    const QColor color = run.color.value_or(text_color);
+    if (Contrast(color, ground) < kReadableContrast) {
+      // Half of the pen's width lies under the letter.
+      painter.strokePath(
+          letters, QPen(text_color, 2 * line_width, Qt::SolidLine, Qt::RoundCap,
+                        Qt::RoundJoin));
+    }
+    painter.fillPath(letters, color);
+    if (is_cut) break;
+    left += advance;
+  }
+}
+
+QFont FunNamePreview::NameFont() const {
+  QFont large = font();
+  large.setBold(true);
+  // A font is sized in points or, now and then, in pixels.
+  if (large.pointSizeF() > 0) {
+    large.setPointSizeF(large.pointSizeF() * 1.3);
+  } else {
+    large.setPixelSize(large.pixelSize() * 13 / 10);
+  }
+  return large;
+}
+
+}  // namespace fragsmith

@@ -1,0 +1,44 @@
+#ifndef FRAGSMITH_EDITOR_CONTROLS_FUN_NAME_PREVIEW_H_
+#define FRAGSMITH_EDITOR_CONTROLS_FUN_NAME_PREVIEW_H_
+
+#include <QColor>
+#include <QString>
+#include <QWidget>
+#include <optional>
+#include <vector>
+
+namespace fragsmith {
+
+/// Shows a fun name in the colours that its codes ("^" and a digit 0 to 7)
+/// ask for. A colour that would sink into the window's ground, such as black
+/// in a dark theme, gets an outline.
+class FunNamePreview : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit FunNamePreview(QWidget* parent = nullptr);
+
+  /// Text before the first code has the window's text colour; a "^" without
+  /// such a digit is drawn as it stands.
+  void DrawFunName(const QString& text);
+
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  struct Run {
+    std::optional<QColor> color;  ///< Nothing for the window's own.
+    QString text;
+  };
+
+  QFont NameFont() const;
+
+  std::vector<Run> runs_;
+};
+
+}  // namespace fragsmith
+
+#endif  // FRAGSMITH_EDITOR_CONTROLS_FUN_NAME_PREVIEW_H_

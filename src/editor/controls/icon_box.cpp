@@ -1,0 +1,41 @@
+#include "editor/controls/icon_box.h"
+
+#include <QPainter>
+
+namespace fragsmith {
+
+IconBox::IconBox(QWidget* parent) : QFrame(parent) {
+  setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+  setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+  setAccessibleName(QStringLiteral("Skin icon"));
+}
+
+void IconBox::ShowPicture(const Picture& picture, const QString& description) {
+  // The image looks at the picture's bytes; the copy has its own.
+  image_ = QImage(picture.pixels.data(), picture.width, picture.height,
+                  qsizetype{picture.width} * 4, QImage::Format_RGBA8888)
+               .copy();
+  setAccessibleDescription(description);
+  setToolTip(description.toHtmlEscaped());
+  update();
+}
+
+void IconBox::Clear() { ShowPicture({}, {}); }
+
+QSize IconBox::sizeHint() const {
+  const int side = fontMetrics().height() * 5 + 2 * frameWidth();
+  return {side, side};
+}
+
+void IconBox::paintEvent(QPaintEvent* event) {
+  QFrame::paintEvent(event);
+  if (image_.isNull()) return;
+  const QRect place = contentsRect();
+  QRect target({}, image_.size().scaled(place.size(), Qt::KeepAspectRatio));
+  target.moveCenter(place.center());
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  painter.drawImage(target, image_);
+}
+
+}  // namespace fragsmith

@@ -1,0 +1,45 @@
+#ifndef FRAGSMITH_EDITOR_CONTROLS_THREE_SLIDER_H_
+#define FRAGSMITH_EDITOR_CONTROLS_THREE_SLIDER_H_
+
+#include <array>
+#include <cstddef>
+
+#include "editor/controls/value_control.h"
+#include "model/level_linking.h"
+#include "model/value.h"
+
+namespace fragsmith {
+
+/// Shows and edits a parameter that a bot has for each of the skill levels 1,
+/// 4 and 5.
+class ThreeSlider : public ValueControl {
+  Q_OBJECT
+
+ public:
+  explicit ThreeSlider(QWidget* parent = nullptr);
+
+  /// Whether a level of 0 is left out of the file and reads "No".
+  void SetOptional(bool is_optional);
+
+  /// How the levels are kept in order when the user moves one. What the
+  /// program shows is never moved.
+  void SetMode(LevelLinking linking) { linking_ = linking; }
+
+  /// Sends nothing. Throws std::out_of_range for a level that bots lack.
+  void ShowValue(int level, const Value& value);
+
+ signals:
+  /// The user moved the slider of a level; one signal for each slider that
+  /// had to follow comes behind it.
+  void Changed(int index, int level, double value);
+
+ private:
+  void MoveOthers(std::size_t moved);
+
+  std::array<ValueSlider*, 3> sliders_{};
+  LevelLinking linking_ = LevelLinking::kNone;
+};
+
+}  // namespace fragsmith
+
+#endif  // FRAGSMITH_EDITOR_CONTROLS_THREE_SLIDER_H_

@@ -1,0 +1,30 @@
+#ifndef FRAGSMITH_EDITOR_CONTROLS_VALUE_LABEL_H_
+#define FRAGSMITH_EDITOR_CONTROLS_VALUE_LABEL_H_
+
+#include <QLabel>
+#include <QString>
+
+namespace fragsmith {
+
+/// The value text beside a slider: right-aligned and of the same width for
+/// every value, so that the sliders of a page end in one line. A longer text,
+/// which only a bot from elsewhere can bring, is shown with an ellipsis, and
+/// whole in the tooltip.
+class ValueLabel : public QLabel {
+  Q_OBJECT
+
+ public:
+  explicit ValueLabel(QWidget* parent = nullptr);
+
+  void ShowText(const QString& text);
+
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override { return sizeHint(); }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+};
+
+}  // namespace fragsmith
+
+#endif  // FRAGSMITH_EDITOR_CONTROLS_VALUE_LABEL_H_

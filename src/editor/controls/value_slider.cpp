@@ -1,0 +1,199 @@
+#include "editor/controls/value_slider.h"
+
+#include <QAccessible>
+#include <QAccessibleWidget>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScopedValueRollback>
+#include <QStyle>
+#include <QStyleOptionSlider>
+#include <QWheelEvent>
+#include <cstdlib>
+
+#include "editor/game_text_conversion.h"
+
+namespace fragsmith {
+namespace {
+
+class AccessibleValueSlider : public QAccessibleWidget,
+                              public QAccessibleValueInterface {
+ public:
+  explicit AccessibleValueSlider(ValueSlider* slider)
+      : QAccessibleWidget(slider, QAccessible::Slider) {}
+
+  void* interface_cast(QAccessible::InterfaceType type) override {
+    if (type == QAccessible::ValueInterface) {
+      return static_cast<QAccessibleValueInterface*>(this);
+    }
+    return QAccessibleWidget::interface_cast(type);
+  }
+
+  QString text(QAccessible::Text kind) const override {
+    if (kind == QAccessible::Value) return Slider().Text();
+    QString text = QAccessibleWidget::text(kind);
+    if (kind == QAccessible::Description) {
+      // What the number alone does not say: "No", or a text of the file.
+      bool is_number = false;
+      const QString shown = Slider().Text();
+      shown.toDouble(&is_number);
+      if (!is_number) text = text.isEmpty() ? shown : shown + ". " + text;
+    }
+    return text;
+  }
+
+  QVariant currentValue() const override { return Slider().Number(); }
+  void setCurrentValue(const QVariant& value) override {
+    Slider().MoveTo(value.toDouble());
+  }
+  QVariant minimumValue() const override { return 0.0; }
+  QVariant maximumValue() const override {
+    return ValueOf(Slider().maximum(), Slider().scale());
+  }
+  QVariant minimumStepSize() const override { return Slider().scale().step; }
+
+ private:
+  ValueSlider& Slider() const { return *static_cast<ValueSlider*>(widget()); }
+};
+
+QAccessibleInterface* MakeAccessible(const QString& /*class_name*/,
+                                     QObject* object) {
+  auto* const slider = qobject_cast<ValueSlider*>(object);
+  return slider == nullptr ? nullptr : new AccessibleValueSlider(slider);
+}
+
+}  // namespace
+
+ValueSlider::ValueSlider(QWidget* parent)
+    : QSlider(Qt::Horizontal, parent), scale_(*OneSliderScale(1)) {
+  // Installing it again does nothing.
+  QAccessible::installFactory(MakeAccessible);
+  setFocusPolicy(Qt::StrongFocus);
+  connect(this, &QSlider::valueChanged, this, &ValueSlider::TakePosition);
+  SetScale(scale_);
+}
+
+void ValueSlider::SetScale(const ValueScale& scale) {
+  scale_ = scale;
+  const QScopedValueRollback<bool> showing(is_showing_, true);
+  setRange(0, scale.positions);
+  setSingleStep(scale.small_change);
+  setPageStep(scale.large_change);
+  setTickInterval(scale.tick_spacing);
+  ShowValue(shown_);
+  updateGeometry();
+}
+
+void ValueSlider::SetOptional(bool is_optional) {
+  is_optional_ = is_optional;
+  Announce();
+}
+
+void ValueSlider::ShowValue(const Value& value) {
+  shown_ = value;
+  const QScopedValueRollback<bool> showing(is_showing_, true);
+  setValue(PositionOf(ToNumber(value).value_or(0), scale_));
+  Announce();
+}
+
+void ValueSlider::ShowPosition(int position) {
+  ShowValue(ValueOf(position, scale_));
+}
+
+void ValueSlider::MoveTo(double value) {
+  const int position = PositionOf(value, scale_);
+  if (position != this->value()) {
+    setValue(position);
+  } else if (ToNumber(shown_) != ValueOf(position, scale_)) {
+    TakePosition();
+  }
+}
+
+double ValueSlider::Number() const {
+  return ToNumber(shown_).value_or(ValueOf(value(), scale_));
+}
+
+QString ValueSlider::Text() const {
+  return ToQString(ValueText(shown_, scale_, is_optional_));
+}
+
+int ValueSlider::TickRoom() const {
+  return tickInterval() > 0 ? fontMetrics().height() / 3 : 0;
+}
+
+QSize ValueSlider::sizeHint() const {
+  return QSlider::sizeHint() + QSize(0, TickRoom());
+}
+
+QSize ValueSlider::minimumSizeHint() const {
+  return QSlider::minimumSizeHint() + QSize(0, TickRoom());
+}
+
+void ValueSlider::initStyleOption(QStyleOptionSlider* option) const {
+  QSlider::initStyleOption(option);
+  option->rect.setBottom(option->rect.bottom() - TickRoom());
+}
+
+void ValueSlider::paintEvent(QPaintEvent* event) {
+  QSlider::paintEvent(event);
+  if (tickInterval() == 0) return;
+  // Styles cut the handle or hide the ticks on a dark ground when they draw
+  // ticks below it.
+  QStyleOptionSlider option;
+  initStyleOption(&option);
+  const int handle =
+      style()->pixelMetric(QStyle::PM_SliderLength, &option, this);
+  QColor color = palette().color(foregroundRole());
+  color.setAlphaF(0.35F);
+  QPainter painter(this);
+  painter.setPen(color);
+  const int top = option.rect.bottom() + 1;
+  for (int tick = 0; tick <= maximum(); tick += tickInterval()) {
+    const int left = QStyle::sliderPositionFromValue(
+        minimum(), maximum(), tick, width() - handle, option.upsideDown);
+    painter.drawLine(left + handle / 2, top, left + handle / 2,
+                     top + TickRoom() / 2);
+  }
+}
+
+void ValueSlider::mousePressEvent(QMouseEvent* event) {
+  // Some styles let other buttons move a slider too.
+  if (event->button() == Qt::LeftButton) {
+    QSlider::mousePressEvent(event);
+  } else {
+    event->ignore();
+  }
+}
+
+void ValueSlider::wheelEvent(QWheelEvent* event) {
+  // Without the focus the wheel scrolls the page below the pointer.
+  if (!hasFocus()) {
+    event->ignore();
+    return;
+  }
+  // One notch is one small change; the toolkit would make it a large one, so
+  // that every other value was out of reach.
+  const QPoint angle = event->angleDelta();
+  wheel_rest_ +=
+      std::abs(angle.x()) > std::abs(angle.y()) ? angle.x() : angle.y();
+  const int notches = wheel_rest_ / QWheelEvent::DefaultDeltasPerStep;
+  wheel_rest_ -= notches * QWheelEvent::DefaultDeltasPerStep;
+  const bool is_large = event->modifiers().testFlag(Qt::ControlModifier);
+  setValue(value() + notches * (is_large ? pageStep() : singleStep()));
+  event->accept();
+}
+
+void ValueSlider::TakePosition() {
+  if (is_showing_) return;
+  shown_ = ValueOf(value(), scale_);
+  Announce();
+  emit Moved();
+}
+
+void ValueSlider::Announce() {
+  // The toolkit has announced the position.
+  QAccessibleValueChangeEvent event(this, Number());
+  QAccessible::updateAccessibility(&event);
+  emit TextChanged(Text());
+}
+
+}  // namespace fragsmith

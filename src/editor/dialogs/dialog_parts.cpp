@@ -1,0 +1,55 @@
+#include "editor/dialogs/dialog_parts.h"
+
+#include <QAccessible>
+#include <QPushButton>
+
+#include "editor/code_page_validator.h"
+
+namespace fragsmith {
+namespace {
+
+void NameButton(QPushButton* button, const QString& text, const QString& name) {
+  if (button == nullptr) return;
+  // The platform would put its own words and mnemonics here.
+  button->setText(text);
+  button->setObjectName(name);
+}
+
+}  // namespace
+
+QDialogButtonBox* MakeButtons(QDialogButtonBox::StandardButtons buttons,
+                              QDialog* dialog) {
+  auto* const box = new QDialogButtonBox(buttons, dialog);
+  QPushButton* const ok = box->button(QDialogButtonBox::Ok);
+  NameButton(ok, QStringLiteral("OK"), QStringLiteral("cmdOK"));
+  NameButton(box->button(QDialogButtonBox::Cancel), QStringLiteral("Cancel"),
+             QStringLiteral("cmdCancel"));
+  if (ok != nullptr) ok->setDefault(true);
+  QObject::connect(box, &QDialogButtonBox::accepted, dialog, &QDialog::accept);
+  QObject::connect(box, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
+  return box;
+}
+
+HintLine::HintLine(int lines, QWidget* parent) : QLabel(parent) {
+  setObjectName(QStringLiteral("lblHint"));
+  setTextFormat(Qt::PlainText);
+  setWordWrap(true);
+  setAlignment(Qt::AlignLeft | Qt::AlignTop);
+  setMinimumHeight(lines * fontMetrics().lineSpacing());
+}
+
+void HintLine::Say(const QString& hint) {
+  if (hint == text()) return;
+  setText(hint);
+  if (hint.isEmpty()) return;
+  QAccessibleEvent alert(this, QAccessible::Alert);
+  QAccessible::updateAccessibility(&alert);
+}
+
+void RefuseForeignCharacters(QLineEdit* box, HintLine* hint) {
+  box->setValidator(new CodePageValidator(box));
+  QObject::connect(box, &QLineEdit::inputRejected, hint,
+                   [hint] { hint->Say(QString::fromUtf8(kRefusedCharacter)); });
+}
+
+}  // namespace fragsmith

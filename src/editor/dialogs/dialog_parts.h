@@ -1,0 +1,33 @@
+#ifndef FRAGSMITH_EDITOR_DIALOGS_DIALOG_PARTS_H_
+#define FRAGSMITH_EDITOR_DIALOGS_DIALOG_PARTS_H_
+
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QLineEdit>
+
+namespace fragsmith {
+
+/// The closing buttons of a dialog in the platform's order: cmdOK, which
+/// Enter presses too, and cmdCancel.
+QDialogButtonBox* MakeButtons(QDialogButtonBox::StandardButtons buttons,
+                              QDialog* dialog);
+
+/// A line below the fields of a dialog for what they want to tell. It keeps
+/// its room when it is empty, and is read out when it speaks.
+class HintLine : public QLabel {
+  Q_OBJECT
+
+ public:
+  /// Room for so many lines of text.
+  HintLine(int lines, QWidget* parent);
+
+  void Say(const QString& hint);
+};
+
+/// Refuses what the game's texts cannot hold; the line says so.
+void RefuseForeignCharacters(QLineEdit* box, HintLine* hint);
+
+}  // namespace fragsmith
+
+#endif  // FRAGSMITH_EDITOR_DIALOGS_DIALOG_PARTS_H_

@@ -1,0 +1,59 @@
+#ifndef FRAGSMITH_EDITOR_DIALOGS_OPTIONS_DIALOG_H_
+#define FRAGSMITH_EDITOR_DIALOGS_OPTIONS_DIALOG_H_
+
+#include <QDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTabWidget>
+#include <QVBoxLayout>
+#include <array>
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+#include "editor/dialogs/dialog_parts.h"
+#include "install/settings_file.h"
+#include "support/prompts.h"
+
+namespace fragsmith {
+
+/// Edits copies of the settings, which the caller hands in and takes back by
+/// their index in ProgramSettings. Values are bytes, as the settings have
+/// them; a field that was not touched gives back the very bytes it was given.
+class frmOptions : public QDialog {
+  Q_OBJECT
+
+ public:
+  explicit frmOptions(Prompts& prompts, QWidget* parent = nullptr);
+
+  /// Index 6, the counter, is only shown; others than 0 to 6 are ignored.
+  void SetOptionValue(int index, std::string_view value);
+  std::string GetOptionValue(int index) const;
+
+  /// The folder browser's answer. The mode tells the field, by the numbers
+  /// of OpenKind; others are ignored.
+  void SetFolderFromBrowser(const std::filesystem::path& path, int mode);
+
+ private:
+  struct Field {
+    QLineEdit* box = nullptr;
+    std::string value;  ///< As it was given.
+    QString shown;      ///< The box's text for that.
+  };
+
+  QWidget* MakeDirectoriesPage();
+  QWidget* MakeUserDataPage();
+  QLineEdit* MakeField(int index);
+  void OpenBrowser(int index);
+  void ShowCommaHint();
+
+  Prompts& prompts_;
+  std::array<Field, kEditableOptionCount> fields_;
+  QLabel* counter_;
+  QTabWidget* pages_;
+  HintLine* hint_;
+};
+
+}  // namespace fragsmith
+
+#endif  // FRAGSMITH_EDITOR_DIALOGS_OPTIONS_DIALOG_H_

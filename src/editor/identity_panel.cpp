@@ -1,0 +1,319 @@
+#include "editor/identity_panel.h"
+
+#include <QEvent>
+#include <QFocusEvent>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QPainter>
+#include <QPixmap>
+#include <QPointer>
+#include <QRadioButton>
+#include <QTimer>
+#include <QToolButton>
+#include <array>
+
+#include "editor/captioned_field.h"
+#include "editor/code_page_validator.h"
+#include "editor/game_text_conversion.h"
+#include "model/characteristic_catalogue.h"
+#include "session/identity_checks.h"
+
+namespace fragsmith {
+namespace {
+
+struct Gender {
+  const char* caption;
+  const char* value;
+};
+constexpr std::array<Gender, 3> kGenders = {
+    {{"&Male", "male"}, {"&Female", "female"}, {"I&t", "it"}}};
+
+// The last colour is the first one again: so the list is known to players.
+constexpr std::array<const char*, 9> kRailColors = {
+    "None", "White",   "Blue",   "Green", "Cyan",
+    "Red",  "Magenta", "Yellow", "White"};
+
+struct FunColor {
+  const char* name;
+  QRgb color;
+};
+constexpr std::array<FunColor, 8> kFunColors = {{{"Black", 0xFF000000},
+                                                 {"Red", 0xFFFF0000},
+                                                 {"Green", 0xFF00FF00},
+                                                 {"Yellow", 0xFFFFFF00},
+                                                 {"Blue", 0xFF0000FF},
+                                                 {"Cyan", 0xFF00FFFF},
+                                                 {"Magenta", 0xFFFF00FF},
+                                                 {"White", 0xFFFFFFFF}}};
+
+QIcon ColorIcon(QRgb color, int size) {
+  QPixmap pixmap(size, size);
+  pixmap.fill(QColor::fromRgb(color));
+  QPainter painter(&pixmap);
+  painter.setPen(Qt::gray);
+  painter.drawRect(0, 0, size - 1, size - 1);
+  return pixmap;
+}
+
+}  // namespace
+
+IdentityPanel::IdentityPanel(CurrentBot& current, Prompts& prompts,
+                             QWidget* parent)
+    : QWidget(parent), current_(current), prompts_(prompts) {
+  auto* const grid = new QGridLayout(this);
+  grid->setContentsMargins(0, 0, 0, 0);
+  grid->setHorizontalSpacing(18);
+  grid->setVerticalSpacing(8);
+  grid->addWidget(NameField(), 0, 0);
+  grid->addWidget(FunNameField(), 1, 0, 2, 1);
+  grid->addWidget(GenderField(), 0, 1);
+  grid->addWidget(RailField(), 1, 1);
+  grid->addWidget(CommentField(), 2, 1);
+  grid->addWidget(VersionField(), 0, 2);
+  arena_lord_ = new QCheckBox(QStringLiteral("Arenalo&rd"), this);
+  arena_lord_->setObjectName(QStringLiteral("chkArenalord"));
+  arena_lord_->setToolTip(
+      QStringLiteral("Written into the description file. The game itself does "
+                     "not read it."));
+  grid->addWidget(arena_lord_, 1, 2, Qt::AlignBottom);
+  grid->setColumnStretch(0, 4);
+  grid->setColumnStretch(1, 3);
+
+  connect(arena_lord_, &QCheckBox::toggled, this, [this](bool is_on) {
+    if (!current_.is_filling()) {
+      current_.SetParameter(kArenaLordField, is_on ? 1.0 : 0.0);
+    }
+  });
+}
+
+QLineEdit* IdentityPanel::AddBox(int field, const QString& accessible_name) {
+  auto* const box = new QLineEdit(this);
+  box->setObjectName(QStringLiteral("txtBotPara_%1").arg(field));
+  box->setAccessibleName(accessible_name);
+  box->setValidator(new CodePageValidator(box));
+  box->installEventFilter(this);
+  connect(box, &QLineEdit::inputRejected, this,
+          [this] { emit StatusText(QLatin1String(kRefusedCharacter)); });
+  // The box is stored when it is left; that it differs counts at once.
+  connect(box, &QLineEdit::textEdited, this,
+          [this] { current_.SetChanged(true); });
+  boxes_[field] = box;
+  return box;
+}
+
+QWidget* IdentityPanel::NameField() {
+  QLineEdit* const box = AddBox(kNameIndex, QStringLiteral("Name"));
+  box->setToolTip(
+      QStringLiteral("What the game's menus and addbot call the bot. No "
+                     "blanks; up to 15 letters show in the skirmish menu."));
+  auto* const field = new CaptionedField(QStringLiteral("&Name"), box, this);
+  field->column()->addWidget(box);
+  return field;
+}
+
+QWidget* IdentityPanel::FunNameField() {
+  QLineEdit* const box = AddBox(kFunNameField, QStringLiteral("Funname"));
+  box->setToolTip(
+      QStringLiteral("The name that players see, with colour codes such as "
+                     "^1. The game cuts it at 35 characters."));
+  auto* const field = new CaptionedField(QStringLiteral("F&unname"), box, this);
+  field->column()->addWidget(box);
+  auto* const row = new QHBoxLayout;
+  row->setSpacing(2);
+  const int size = fontMetrics().height();
+  for (std::size_t color = 0; color < kFunColors.size(); ++color) {
+    auto* const button = new QToolButton(field);
+    button->setObjectName(QStringLiteral("cmdColor_%1").arg(color));
+    button->setIcon(ColorIcon(kFunColors.at(color).color, size));
+    button->setIconSize(QSize(size, size));
+    button->setAutoRaise(true);
+    button->setFocusPolicy(Qt::TabFocus);
+    const QString name = QLatin1String(kFunColors.at(color).name);
+    button->setAccessibleName(QStringLiteral("Colour %1").arg(name));
+    button->setToolTip(QStringLiteral("%1 (^%2)").arg(name).arg(color));
+    connect(button, &QToolButton::clicked, this,
+            [this, color] { InsertColor(static_cast<int>(color)); });
+    row->addWidget(button);
+  }
+  row->addStretch(1);
+  field->column()->addLayout(row);
+  preview_ = new FunNamePreview(field);
+  preview_->setObjectName(QStringLiteral("picFunName"));
+  field->column()->addWidget(preview_);
+  connect(box, &QLineEdit::textChanged, preview_, &FunNamePreview::DrawFunName);
+  return field;
+}
+
+QWidget* IdentityPanel::GenderField() {
+  auto* const field =
+      new CaptionedField(QStringLiteral("Gender"), nullptr, this);
+  auto* const row = new QHBoxLayout;
+  genders_ = new QButtonGroup(field);
+  for (std::size_t place = 0; place < kGenders.size(); ++place) {
+    auto* const button =
+        new QRadioButton(QLatin1String(kGenders.at(place).caption), field);
+    button->setObjectName(QStringLiteral("opGender_%1").arg(place));
+    genders_->addButton(button, static_cast<int>(place));
+    row->addWidget(button);
+  }
+  row->addStretch(1);
+  field->column()->addLayout(row);
+  connect(genders_, &QButtonGroup::idClicked, this, [this](int place) {
+    current_.SetParameter(
+        kGenderIndex,
+        std::string(kGenders.at(static_cast<std::size_t>(place)).value));
+  });
+  return field;
+}
+
+QWidget* IdentityPanel::RailField() {
+  rail_ = new QComboBox(this);
+  rail_->setObjectName(QStringLiteral("cmbRail"));
+  rail_->setAccessibleName(QStringLiteral("Railgun color"));
+  rail_->setToolTip(
+      QStringLiteral("Written as \"color\". The game reads color1 instead and "
+                     "keeps its red trail."));
+  for (const char* const color : kRailColors) {
+    rail_->addItem(QLatin1String(color));
+  }
+  auto* const field =
+      new CaptionedField(QStringLiteral("Rail&gun color"), rail_, this);
+  field->column()->addWidget(rail_);
+  connect(rail_, &QComboBox::activated, this, [this](int place) {
+    const Value value = place == 0 ? Value(std::string(kNoRailColor))
+                                   : Value(static_cast<double>(place - 1));
+    current_.SetParameter(kRailColorField, value);
+  });
+  return field;
+}
+
+QWidget* IdentityPanel::VersionField() {
+  QLineEdit* const major =
+      AddBox(kVersionMajorField, QStringLiteral("Version, major"));
+  QLineEdit* const minor =
+      AddBox(kVersionMinorField, QStringLiteral("Version, minor"));
+  auto* const field =
+      new CaptionedField(QStringLiteral("&Version"), major, this);
+  auto* const row = new QHBoxLayout;
+  for (QLineEdit* const box : {major, minor}) {
+    box->setMaximumWidth(fontMetrics().horizontalAdvance(u'0') * 8);
+    row->addWidget(box);
+  }
+  row->addStretch(1);
+  field->column()->addLayout(row);
+  return field;
+}
+
+QWidget* IdentityPanel::CommentField() {
+  QLineEdit* const box = AddBox(kCommentField, QStringLiteral("Comment"));
+  auto* const field = new CaptionedField(QStringLiteral("&Comment"), box, this);
+  field->column()->addWidget(box);
+  return field;
+}
+
+void IdentityPanel::InsertColor(int color) {
+  QLineEdit* const box = boxes_.at(kFunNameField);
+  // A code cannot be the first thing typed.
+  if (box->text().isEmpty()) return;
+  const int place = box->cursorPosition();
+  QString text = box->text();
+  text.insert(place, QStringLiteral("^%1").arg(color));
+  box->setText(text);
+  box->setModified(true);
+  current_.SetChanged(true);
+  box->setFocus();
+  box->setCursorPosition(place + 2);
+}
+
+bool IdentityPanel::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::FocusOut && !is_checking_) {
+    const auto reason = static_cast<QFocusEvent*>(event)->reason();
+    const bool stays_in_window = reason != Qt::ActiveWindowFocusReason &&
+                                 reason != Qt::PopupFocusReason &&
+                                 reason != Qt::MenuBarFocusReason;
+    for (const auto& [field, box] : boxes_) {
+      if (box != watched || !stays_in_window || !box->isModified()) continue;
+      // Not within the change of focus itself, which a box would disturb.
+      QTimer::singleShot(0, this, [this, field = field] { LeaveBox(field); });
+    }
+  }
+  return QWidget::eventFilter(watched, event);
+}
+
+bool IdentityPanel::LeaveBox(int field) {
+  QLineEdit* const box = boxes_.at(field);
+  if (!box->isModified() || is_checking_) return true;
+  is_checking_ = true;
+  Bot checked = current_.bot();
+  const bool is_good =
+      CheckBox(field, *ToGameText(box->text()), checked, prompts_);
+  if (is_good) {
+    current_.SetParameter(field, checked.Parameter(field));
+    box->setModified(false);
+  } else {
+    box->setFocus();
+    box->selectAll();
+  }
+  is_checking_ = false;
+  return is_good;
+}
+
+std::optional<int> IdentityPanel::CheckAllIn() {
+  is_checking_ = true;
+  IdentityTexts texts = BoxTextsOf(current_.bot());
+  for (const auto& [field, box] : boxes_) {
+    if (box->isModified()) texts[field] = *ToGameText(box->text());
+  }
+  Bot checked = current_.bot();
+  const std::optional<int> refused =
+      fragsmith::CheckAllIn(texts, checked, prompts_);
+  if (refused) {
+    boxes_.at(*refused)->setFocus();
+    boxes_.at(*refused)->selectAll();
+  } else {
+    for (const auto& [field, box] : boxes_) {
+      // A box that was not touched stores nothing; only the fun name may
+      // need its quotes.
+      const bool stores = box->isModified() || field == kFunNameField;
+      if (stores &&
+          current_.bot().Parameter(field) != checked.Parameter(field)) {
+        current_.SetParameter(field, checked.Parameter(field));
+      }
+      box->setModified(false);
+    }
+  }
+  is_checking_ = false;
+  return refused;
+}
+
+void IdentityPanel::ShowBot() {
+  const CurrentBot::Filling filling(current_);
+  const Bot& bot = current_.bot();
+  for (const auto& [field, text] : BoxTextsOf(bot)) {
+    boxes_.at(field)->setText(ToQString(text));
+    boxes_.at(field)->setModified(false);
+    boxes_.at(field)->setCursorPosition(0);
+  }
+  // A group without a checked button needs to be told to be no group.
+  genders_->setExclusive(false);
+  for (QAbstractButton* const button : genders_->buttons()) {
+    const auto place = static_cast<std::size_t>(genders_->id(button));
+    button->setChecked(bot.Text(kGenderIndex) == kGenders.at(place).value);
+  }
+  genders_->setExclusive(true);
+
+  int place = -1;
+  if (bot.Text(kRailColorField) == kNoRailColor) {
+    place = 0;
+  } else if (const auto color = ToNumber(bot.Parameter(kRailColorField))) {
+    const double entry = *color + 1;
+    if (entry >= 1 && entry < static_cast<double>(kRailColors.size()) &&
+        entry == static_cast<int>(entry)) {
+      place = static_cast<int>(entry);
+    }
+  }
+  rail_->setCurrentIndex(place);
+  arena_lord_->setChecked(ToNumber(bot.Parameter(kArenaLordField)) != 0.0);
+}
+
+}  // namespace fragsmith

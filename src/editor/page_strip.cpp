@@ -1,0 +1,40 @@
+#include "editor/page_strip.h"
+
+#include <QProxyStyle>
+#include <QShortcut>
+#include <QTabBar>
+
+namespace fragsmith {
+namespace {
+
+/// Tabs with less air beside their captions: all eight fit into the smallest
+/// window.
+class CompactTabs : public QProxyStyle {
+ public:
+  int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                  const QWidget* widget) const override {
+    const int value = QProxyStyle::pixelMetric(metric, option, widget);
+    return metric == PM_TabBarTabHSpace ? value / 2 : value;
+  }
+};
+
+}  // namespace
+
+PageStrip::PageStrip(QWidget* parent) : QTabWidget(parent) {
+  setObjectName(QStringLiteral("tbsBotPara"));
+  setDocumentMode(true);
+  tabBar()->setAccessibleName(QStringLiteral("Parameter pages"));
+  auto* const style = new CompactTabs;
+  style->setParent(this);
+  tabBar()->setStyle(style);
+
+  auto* const next =
+      new QShortcut(QKeySequence(QStringLiteral("Ctrl+Tab")), window());
+  connect(next, &QShortcut::activated, this, &PageStrip::NextPage);
+  // The toolkit would go back a page; here it does nothing.
+  new QShortcut(QKeySequence(QStringLiteral("Ctrl+Shift+Tab")), window());
+}
+
+void PageStrip::NextPage() { setCurrentIndex((currentIndex() + 1) % count()); }
+
+}  // namespace fragsmith

@@ -1,0 +1,19 @@
+#ifndef FRAGSMITH_EDITOR_PAGES_CHAT_HELP_H_
+#define FRAGSMITH_EDITOR_PAGES_CHAT_HELP_H_
+
+#include <QString>
+
+namespace fragsmith {
+
+// Plain texts for tool tips and screen readers, about what the game makes of
+// the chat texts.
+
+/// When the game lets a bot speak a line of the type, if ever.
+QString ChatTypeHelp(int type);
+
+/// What stands in place of the pointer variable in a line of the type.
+QString ChatPointerHelp(int type, int pointer);
+
+}  // namespace fragsmith
+
+#endif  // FRAGSMITH_EDITOR_PAGES_CHAT_HELP_H_

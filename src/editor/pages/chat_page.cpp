@@ -1,0 +1,478 @@
+#include "editor/pages/chat_page.h"
+
+#include <QFocusEvent>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QShortcut>
+#include <QSignalBlocker>
+#include <QStyle>
+#include <QStyledItemDelegate>
+#include <QTimer>
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+#include "chat/chat_catalogue.h"
+#include "chat/chat_commands.h"
+#include "editor/code_page_validator.h"
+#include "editor/game_text_conversion.h"
+#include "editor/pages/chat_help.h"
+#include "editor/pages/page_table.h"
+#include "editor/parameter_help.h"
+
+namespace fragsmith {
+namespace {
+
+void SetHelp(QWidget& widget, const QString& help) {
+  widget.setToolTip(WrappedToolTip({}, help));
+  widget.setWhatsThis(widget.toolTip());
+  widget.setAccessibleDescription(help);
+}
+
+/// A list below its label, as wide as the longest of its entries.
+QListWidget* MakeList(const QString& name, const QString& caption,
+                      QGridLayout& grid, int column, int rows) {
+  auto* const list = new QListWidget;
+  list->setObjectName(name);
+  auto* const label = new QLabel(caption);
+  label->setBuddy(list);
+  list->setAccessibleName(label->text().remove(u'&').remove(u':'));
+  list->setMinimumHeight(list->fontMetrics().lineSpacing() * 5);
+  grid.addWidget(label, 0, column);
+  grid.addWidget(list, 1, column, rows, 1);
+  return list;
+}
+
+void FitWidth(QListWidget& list) {
+  int width = 0;
+  for (int row = 0; row < list.count(); ++row) {
+    width = std::max(
+        width, list.fontMetrics().horizontalAdvance(list.item(row)->text()));
+  }
+  list.setFixedWidth(width + list.fontMetrics().averageCharWidth() * 2 +
+                     list.style()->pixelMetric(QStyle::PM_ScrollBarExtent) +
+                     2 * list.frameWidth());
+  list.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+}
+
+void AddEntry(QListWidget& list, std::string_view text, const QString& help) {
+  auto* const item = new QListWidgetItem(TableText(text), &list);
+  item->setToolTip(WrappedToolTip(item->text(), help));
+  item->setData(Qt::AccessibleDescriptionRole, help);
+}
+
+QPushButton* MakeButton(const QString& name, const QString& caption,
+                        const QString& help) {
+  auto* const button = new QPushButton(caption);
+  button->setObjectName(name);
+  SetHelp(*button, help);
+  return button;
+}
+
+/// Shows the lines as the list has room for them.
+class LineDelegate : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+ protected:
+  void initStyleOption(QStyleOptionViewItem* option,
+                       const QModelIndex& index) const override {
+    QStyledItemDelegate::initStyleOption(option, index);
+    if (option->text.isEmpty()) {
+      option->text = QStringLiteral("(empty line)");
+      option->palette.setBrush(
+          QPalette::Text, option->palette.brush(QPalette::PlaceholderText));
+    }
+    // A line of a bad file may have megabytes.
+    option->text.truncate(500);
+  }
+};
+
+/// Lets control characters stand that the line of a file may have. The box
+/// would take all of such a line for refused otherwise.
+class LineValidator : public CodePageValidator {
+ public:
+  using CodePageValidator::CodePageValidator;
+
+  State validate(QString& text, int& position) const override {
+    QString plain = text;
+    for (QChar& letter : plain) {
+      const bool ends_text = letter == u'\0' || letter == u'\t' ||
+                             letter == u'\n' || letter == u'\r';
+      if (letter < u' ' && !ends_text) letter = u' ';
+    }
+    return CodePageValidator::validate(plain, position);
+  }
+};
+
+/// What a double click on an entry does, and Enter while the list has the
+/// focus. (The "activated" of a list would also be a single click on some
+/// desktops.)
+template <typename Action>
+void OnChoice(QListWidget& list, QObject* receiver, Action action) {
+  QObject::connect(&list, &QListWidget::itemDoubleClicked, receiver, action);
+  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+    auto* const shortcut = new QShortcut(QKeySequence(key), &list);
+    shortcut->setContext(Qt::WidgetShortcut);
+    QObject::connect(shortcut, &QShortcut::activated, receiver, action);
+  }
+}
+
+}  // namespace
+
+ChatPage::ChatPage(CurrentBot& current, const SynonymList& synonyms,
+                   RandomSource random, Prompts& prompts, QWidget* parent)
+    : ScrollingPage(parent),
+      current_(current),
+      synonyms_(synonyms),
+      random_(std::move(random)),
+      prompts_(prompts) {
+  auto* const content = new QWidget;
+  auto* const column = new QVBoxLayout(content);
+  auto* const frame = new QGroupBox(TableText(
+      kPages.at(static_cast<std::size_t>(kChatPage)).frames.front().caption));
+  column->addWidget(frame);
+  auto* const grid = new QGridLayout(frame);
+  // Made in the order of the Tab key.
+  MakeTypes(*grid);
+  MakeLines(*grid);
+  MakeReadyLines(*grid);
+  MakeWords(*grid);
+  MakeSynonyms(*grid);
+  grid->setRowStretch(1, 1);
+  grid->setColumnStretch(1, 1);
+  SetContent(content);
+
+  types_->setCurrentRow(0);
+  groups_->setCurrentRow(0);
+  words_->setCurrentRow(0);
+}
+
+void ChatPage::MakeTypes(QGridLayout& grid) {
+  types_ = MakeList(QStringLiteral("lstChatGroups"),
+                    QStringLiteral("C&hat groups"), grid, 0, 4);
+  for (int type = 0; type < kChatTypeCount; ++type) {
+    AddEntry(*types_, ChatTypeAt(type).Caption, ChatTypeHelp(type));
+  }
+  FitWidth(*types_);
+  connect(types_, &QListWidget::currentRowChanged, this, &ChatPage::ShowType);
+}
+
+void ChatPage::MakeLines(QGridLayout& grid) {
+  lines_ = MakeList(QStringLiteral("lstChatLines"),
+                    QStringLiteral("Chat group te&xts"), grid, 1, 1);
+  lines_->setItemDelegate(new LineDelegate(lines_));
+  connect(lines_, &QListWidget::currentRowChanged, this, &ChatPage::ShowLine);
+  OnChoice(*lines_, this, [this] { box_->setFocus(Qt::OtherFocusReason); });
+  auto* const erase = new QShortcut(QKeySequence::Delete, lines_);
+  erase->setContext(Qt::WidgetShortcut);
+  connect(erase, &QShortcut::activated, this, &ChatPage::RemoveLine);
+
+  box_ = new QLineEdit;
+  box_->setObjectName(QStringLiteral("txtChatLine"));
+  box_->setAccessibleName(QStringLiteral("Text of the selected line"));
+  box_->setPlaceholderText(QStringLiteral("Text of the selected line"));
+  SetHelp(*box_,
+          QStringLiteral("The selected line. Words in braces are filled by the "
+                         "game. On the screen there is room for some 125 "
+                         "letters; letters beyond plain English become gaps, "
+                         "and a double quote breaks the file for the game."));
+  box_->setValidator(new LineValidator(box_));
+  box_->installEventFilter(this);
+  connect(box_, &QLineEdit::textChanged, this, &ChatPage::StoreLine);
+  connect(box_, &QLineEdit::returnPressed, this,
+          &ChatPage::CheckSynonymsByItself);
+  connect(box_, &QLineEdit::inputRejected, this,
+          [this] { emit StatusText(QLatin1String(kRefusedCharacter)); });
+  grid.addWidget(box_, 2, 1);
+
+  pointers_ = new PointerButtons;
+  connect(pointers_, &PointerButtons::Chosen, this, &ChatPage::Insert);
+  grid.addWidget(pointers_, 3, 1, 1, 4);
+
+  auto* const buttons = new QHBoxLayout;
+  QPushButton* const new_line =
+      MakeButton(QStringLiteral("cmdNewLine"), QStringLiteral("New l&ine"),
+                 QStringLiteral("Adds an empty line to be written."));
+  connect(new_line, &QPushButton::clicked, this, &ChatPage::AddLine);
+  remove_line_ = MakeButton(
+      QStringLiteral("cmdRemoveLine"), QStringLiteral("Rem&ove line"),
+      QStringLiteral("Removes the selected line. In the list of lines the "
+                     "Delete key does the same."));
+  connect(remove_line_, &QPushButton::clicked, this, &ChatPage::RemoveLine);
+  QPushButton* const add_random = MakeButton(
+      QStringLiteral("cmdAddRandom"), QStringLiteral("&Add random list"),
+      QStringLiteral("Adds a ready-made line of the game that suits the "
+                     "selected chat group, picked at random."));
+  connect(add_random, &QPushButton::clicked, this, &ChatPage::AddRandomList);
+  buttons->addWidget(new_line);
+  buttons->addWidget(remove_line_);
+  buttons->addWidget(add_random);
+  buttons->addStretch(1);
+  grid.addLayout(buttons, 4, 1);
+}
+
+void ChatPage::MakeReadyLines(QGridLayout& grid) {
+  groups_ = MakeList(QStringLiteral("lstPreDef"),
+                     QStringLiteral("Pre-def chat &lists:"), grid, 2, 1);
+  for (const ChatGroup& group : kChatGroups) {
+    AddEntry(*groups_, group.Caption,
+             QStringLiteral("Ready-made lines of the game, under the name %1. "
+                            "Which there are depends on its data.")
+                 .arg(TableText(group.Name)));
+  }
+  FitWidth(*groups_);
+  connect(groups_, &QListWidget::currentRowChanged, this,
+          &ChatPage::ShowMemberNumbers);
+  numbers_ = new QListWidget;
+  numbers_->setObjectName(QStringLiteral("lstPreDefNumber"));
+  numbers_->setAccessibleName(QStringLiteral("Number in the chat list"));
+  numbers_->setFixedWidth(numbers_->fontMetrics().averageCharWidth() * 8);
+  grid.addWidget(numbers_, 1, 3);
+  OnChoice(*groups_, this, [this] { AddSelectedList(); });
+  OnChoice(*numbers_, this, [this] { AddSelectedList(); });
+  QPushButton* const add = MakeButton(
+      QStringLiteral("cmdAddList"), QStringLiteral("Add &selected list"),
+      QStringLiteral("Puts the ready-made line into the selected line when "
+                     "that is empty, otherwise into a new one."));
+  connect(add, &QPushButton::clicked, this, &ChatPage::AddSelectedList);
+  grid.addWidget(add, 2, 2, 1, 2);
+}
+
+void ChatPage::MakeWords(QGridLayout& grid) {
+  words_ = MakeList(QStringLiteral("lstWords"),
+                    QStringLiteral("Pre-def &word lists:"), grid, 4, 1);
+  for (const WordList& words : kWordLists) {
+    AddEntry(*words_, words.Caption,
+             QStringLiteral("%1 becomes a random word of the game's list %2. "
+                            "Not all game data have it.")
+                 .arg(TableText(words.Variable), TableText(words.Key)));
+  }
+  FitWidth(*words_);
+  OnChoice(*words_, this, [this] { AddWord(); });
+  add_word_ = MakeButton(
+      QStringLiteral("cmdAddWord"), QStringLiteral("A&dd word"),
+      QStringLiteral("Inserts the word list at the cursor of the line box. "
+                     "With the cursor at the very start it takes the place "
+                     "of the whole text."));
+  connect(add_word_, &QPushButton::clicked, this, &ChatPage::AddWord);
+  grid.addWidget(add_word_, 2, 4);
+}
+
+void ChatPage::MakeSynonyms(QGridLayout& grid) {
+  const QString help = QStringLiteral(
+      "Puts ~ in front of each word of the line that is in the synonym list. "
+      "The game may swap words for others of the same meaning; a word with ~ "
+      "stays as it is.");
+  check_ = MakeButton(QStringLiteral("cmdCheckSynonyms"),
+                      QStringLiteral("Chec&k synonyms"), help);
+  connect(check_, &QPushButton::clicked, this, &ChatPage::CheckSynonyms);
+  checks_by_itself_ = new QCheckBox(QStringLiteral("Autoch&eck synonyms"));
+  checks_by_itself_->setObjectName(QStringLiteral("chkAutoSynonyms"));
+  SetHelp(*checks_by_itself_,
+          help + QStringLiteral(" Done whenever the line box is left or Enter "
+                                "is pressed in it."));
+  auto* const row = new QHBoxLayout;
+  row->addWidget(check_);
+  row->addWidget(checks_by_itself_);
+  row->addStretch(1);
+  grid.addLayout(row, 4, 2, 1, 3);
+}
+
+void ChatPage::ShowBot() { ShowType(); }
+
+void ChatPage::ShowType() {
+  const int type = Type();
+  {
+    const QSignalBlocker silence(lines_);
+    lines_->clear();
+    if (type >= 0) {
+      for (const std::string& line : current_.bot().ChatLines(type)) {
+        lines_->addItem(ToQString(line));
+      }
+    }
+  }
+  pointers_->ShowType(type);
+  SelectLine(lines_->count() > 0 ? 0 : -1);
+}
+
+void ChatPage::SelectLine(int line) {
+  {
+    const QSignalBlocker silence(lines_);
+    lines_->setCurrentRow(line);
+  }
+  ShowLine();
+}
+
+void ChatPage::ShowLine() {
+  const bool has_line = Type() >= 0 && Line() >= 0;
+  QString text;
+  if (has_line) text = ToQString(current_.bot().ChatLine(Type(), Line()));
+  // A line that the box cannot show whole may be read, but not edited.
+  const bool can_edit = has_line && text.size() <= box_->maxLength();
+  {
+    const CurrentBot::Filling filling(current_);
+    box_->setText(text.left(box_->maxLength()));
+  }
+  box_->setEnabled(has_line);
+  box_->setReadOnly(!can_edit);
+  remove_line_->setEnabled(has_line);
+  for (QWidget* const control :
+       std::initializer_list<QWidget*>{pointers_, add_word_, check_}) {
+    control->setEnabled(can_edit);
+  }
+}
+
+void ChatPage::StoreLine() {
+  if (current_.is_filling() || Type() < 0 || Line() < 0) return;
+  const std::optional<std::string> text = ToGameText(box_->text());
+  if (!text) {
+    // A line that was odd already lets everything past the validator.
+    ShowLine();
+    emit StatusText(QLatin1String(kRefusedCharacter));
+    return;
+  }
+  current_.EditChats(
+      [this, &text](Bot& bot) { bot.SetChatLine(Type(), Line(), *text); });
+  lines_->currentItem()->setText(box_->text());
+}
+
+void ChatPage::ShowMemberNumbers() {
+  numbers_->clear();
+  const int group = groups_->currentRow();
+  if (group < 0) return;
+  for (const int number : MemberNumbers(group)) {
+    numbers_->addItem(QString::number(number));
+  }
+  numbers_->setCurrentRow(0);
+}
+
+void ChatPage::AddSelectedList() {
+  const int group = groups_->currentRow();
+  const QListWidgetItem* const number = numbers_->currentItem();
+  if (Type() < 0 || group < 0 || number == nullptr) return;
+  const int selected = Line();
+  int line = 0;
+  current_.EditChats([&](Bot& bot) {
+    line = AddGroupMember(bot, Type(), selected, group, number->text().toInt());
+  });
+  const QString text = ToQString(current_.bot().ChatLine(Type(), line));
+  if (line < lines_->count()) {
+    lines_->item(line)->setText(text);
+  } else {
+    const QSignalBlocker silence(lines_);
+    lines_->addItem(text);
+  }
+  lines_->scrollToItem(lines_->item(line));
+  if (selected < 0 || selected == line) SelectLine(line);
+}
+
+void ChatPage::AddWord() {
+  const int word = words_->currentRow();
+  if (word < 0) return;
+  Insert(TableText(kWordLists.at(static_cast<std::size_t>(word)).Variable));
+}
+
+void ChatPage::AddLine() {
+  if (Type() < 0) return;
+  int line = 0;
+  current_.EditChats([&](Bot& bot) { line = AddEmptyChatLine(bot, Type()); });
+  {
+    const QSignalBlocker silence(lines_);
+    lines_->addItem(QString());
+  }
+  SelectLine(line);
+  box_->setFocus(Qt::OtherFocusReason);
+}
+
+void ChatPage::RemoveLine() {
+  const int line = Line();
+  if (Type() < 0 || line < 0) return;
+  current_.EditChats([&](Bot& bot) { bot.RemoveChatLine(Type(), line); });
+  {
+    const QSignalBlocker silence(lines_);
+    delete lines_->takeItem(line);
+  }
+  SelectLine(std::min(line, lines_->count() - 1));
+}
+
+void ChatPage::AddRandomList() {
+  if (Type() < 0) return;
+  int line = 0;
+  current_.EditChats(
+      [&](Bot& bot) { line = AddRandomChatLine(bot, Type(), random_); });
+  ShowType();
+  lines_->scrollToItem(lines_->item(line));
+}
+
+void ChatPage::AddExtraChatsToBot() {
+  current_.EditChats([this](Bot& bot) { AddExtraChats(bot, random_); });
+  ShowType();
+}
+
+void ChatPage::DeleteAllChats() {
+  current_.EditChats([](Bot& bot) { bot.ClearChats(); });
+  ShowType();
+}
+
+void ChatPage::Insert(const QString& variable) {
+  const std::optional<std::string> text = ToGameText(box_->text());
+  const std::optional<std::string> inserted = ToGameText(variable);
+  if (Line() < 0 || box_->isReadOnly() || !text || !inserted) return;
+  // A character of the box is a byte of the text.
+  const int cursor = box_->cursorPosition();
+  ReplaceText(
+      InsertVariable(*text, static_cast<std::size_t>(cursor), *inserted));
+  box_->setFocus(Qt::OtherFocusReason);
+  box_->setCursorPosition(cursor);
+}
+
+void ChatPage::ReplaceText(const std::string& game_text) {
+  box_->selectAll();
+  box_->insert(ToQString(game_text));
+}
+
+void ChatPage::CheckSynonyms() {
+  const std::optional<std::string> text = ToGameText(box_->text());
+  if (Line() < 0 || !text) return;
+  const std::string marked = MarkSynonyms(*text, synonyms_, prompts_);
+  if (marked == *text) return;
+  const int behind_cursor =
+      static_cast<int>(box_->text().size()) - box_->cursorPosition();
+  ReplaceText(marked);
+  box_->setCursorPosition(static_cast<int>(box_->text().size()) -
+                          behind_cursor);
+}
+
+void ChatPage::CheckSynonymsByItself() {
+  if (is_checking_ || !checks_by_itself_->isChecked() || Line() < 0 ||
+      box_->isReadOnly()) {
+    return;
+  }
+  if (!synonyms_.IsEmpty()) {
+    CheckSynonyms();
+    return;
+  }
+  // The message about the empty list is to wait until the focus has moved:
+  // it would open in the middle of the click that moves it.
+  is_checking_ = true;
+  QTimer::singleShot(0, this, [this] {
+    MarkSynonyms({}, synonyms_, prompts_);
+    is_checking_ = false;
+  });
+}
+
+bool ChatPage::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == box_ && event->type() == QEvent::FocusOut) {
+    const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
+    const bool stays_in_window = reason != Qt::ActiveWindowFocusReason &&
+                                 reason != Qt::PopupFocusReason &&
+                                 reason != Qt::MenuBarFocusReason;
+    if (stays_in_window) CheckSynonymsByItself();
+  }
+  return ScrollingPage::eventFilter(watched, event);
+}
+
+}  // namespace fragsmith

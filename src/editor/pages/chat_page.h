@@ -1,0 +1,100 @@
+#ifndef FRAGSMITH_EDITOR_PAGES_CHAT_PAGE_H_
+#define FRAGSMITH_EDITOR_PAGES_CHAT_PAGE_H_
+
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <string>
+
+#include "chat/synonym_list.h"
+#include "editor/current_bot.h"
+#include "editor/pages/pointer_buttons.h"
+#include "editor/pages/scrolling_page.h"
+#include "support/prompts.h"
+#include "support/random.h"
+
+class QGridLayout;
+
+namespace fragsmith {
+
+/// The page on which the bot's chat lines are written: the chat types, the
+/// lines of the selected type, a box for the selected line, and the lists and
+/// buttons that put ready-made lines and variables in.
+class ChatPage : public ScrollingPage {
+  Q_OBJECT
+
+ public:
+  /// The page keeps references to the bot, the list and the prompts.
+  ChatPage(CurrentBot& current, const SynonymList& synonyms,
+           RandomSource random, Prompts& prompts, QWidget* parent = nullptr);
+
+  /// Shows the lines of the bot; the selected type stays selected.
+  void ShowBot();
+
+ public slots:
+  /// One more random line for each type.
+  void AddExtraChatsToBot();
+  void DeleteAllChats();
+
+ signals:
+  /// A word for the status bar.
+  void StatusText(const QString& text);
+
+ protected:
+  /// The line box is checked for synonyms when it is left.
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void MakeTypes(QGridLayout& grid);
+  void MakeLines(QGridLayout& grid);
+  void MakeReadyLines(QGridLayout& grid);
+  void MakeWords(QGridLayout& grid);
+  void MakeSynonyms(QGridLayout& grid);
+
+  /// The selected ones; -1 for none.
+  int Type() const { return types_->currentRow(); }
+  int Line() const { return lines_->currentRow(); }
+
+  void ShowType();
+  void SelectLine(int line);
+  void ShowLine();
+  void StoreLine();
+  void ShowMemberNumbers();
+
+  void AddSelectedList();
+  void AddWord();
+  void AddLine();
+  void RemoveLine();
+  void AddRandomList();
+  void CheckSynonyms();
+  void CheckSynonymsByItself();
+
+  void Insert(const QString& variable);
+  /// Puts a text into the line box as one edit that can be taken back.
+  void ReplaceText(const std::string& game_text);
+
+  CurrentBot& current_;
+  const SynonymList& synonyms_;
+  RandomSource random_;
+  Prompts& prompts_;
+
+  QListWidget* types_ = nullptr;
+  QListWidget* lines_ = nullptr;
+  QLineEdit* box_ = nullptr;
+  PointerButtons* pointers_ = nullptr;
+  QPushButton* remove_line_ = nullptr;
+  QListWidget* groups_ = nullptr;
+  QListWidget* numbers_ = nullptr;
+  QListWidget* words_ = nullptr;
+  QPushButton* add_word_ = nullptr;
+  QPushButton* check_ = nullptr;
+  QCheckBox* checks_by_itself_ = nullptr;
+  /// True until the message of the automatic check is closed: that takes the
+  /// focus from the line box and would set the check off again.
+  bool is_checking_ = false;
+};
+
+}  // namespace fragsmith
+
+#endif  // FRAGSMITH_EDITOR_PAGES_CHAT_PAGE_H_

@@ -1,0 +1,227 @@
+#include "editor/pages/parameter_page.h"
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <array>
+
+#include "editor/controls/value_slider.h"
+#include "editor/parameter_help.h"
+
+namespace fragsmith {
+namespace {
+
+/// The levels by the names that the game's menus give them.
+struct SkillName {
+  int level;
+  const char* name;
+};
+constexpr std::array<SkillName, 3> kSkillNames = {
+    {{1, "I Can Win"}, {4, "Hardcore"}, {5, "Nightmare!"}}};
+
+/// The text of a row of the grid out of texts that are taken in turn.
+QString TextOfRow(std::span<const std::string_view> texts, int row) {
+  if (texts.empty()) return {};
+  return TableText(texts[static_cast<std::size_t>(row) % texts.size()]);
+}
+
+/// Rows with headings in turn belong together.
+int RowsTogether(const FrameRow& frame) {
+  return std::max(1, static_cast<int>(frame.headings.size()));
+}
+
+/// Places between the rows of a frame that may grow.
+int GapCount(const FrameRow& frame) {
+  const int controls = static_cast<int>(frame.controls.size());
+  return (controls - 1) / frame.columns / RowsTogether(frame);
+}
+
+/// "Shotgun, pickup with it"; a control without a caption goes by the one
+/// above it. Empty where the caption alone is enough.
+QString SpokenName(const FrameRow& frame, int place) {
+  const QString suffix =
+      TextOfRow(frame.spoken_suffixes, place / frame.columns);
+  if (suffix.isEmpty()) return {};
+  const auto caption = [&frame](int at) {
+    return TableText(frame.controls[static_cast<std::size_t>(at)].caption);
+  };
+  const QString own = caption(place);
+  return (own.isEmpty() ? caption(place - frame.columns) : own) +
+         QStringLiteral(", ") + suffix;
+}
+
+void SetHelp(const ControlRow& row, ValueControl& control) {
+  const QString help = PlainHelp(row);
+  const QString tool_tip = WrappedToolTip(control.accessibleName(), help);
+  control.setToolTip(tool_tip);
+  control.setWhatsThis(tool_tip);
+  for (ValueSlider* const slider : control.findChildren<ValueSlider*>()) {
+    slider->setAccessibleDescription(help);
+  }
+  for (const SkillName& skill : kSkillNames) {
+    auto* const number = control.findChild<QLabel*>(
+        QStringLiteral("lblLevel_%1").arg(skill.level));
+    if (number == nullptr) return;
+    number->setToolTip(
+        QStringLiteral("Skill level %1, \"%2\". The game mixes the levels "
+                       "between.")
+            .arg(skill.level)
+            .arg(QLatin1String(skill.name)));
+  }
+}
+
+}  // namespace
+
+ParameterPage::ParameterPage(const PageRow& page, CurrentBot& current,
+                             QWidget* parent)
+    : ScrollingPage(parent), current_(current) {
+  auto* const content = new QWidget;
+  auto* const column = new QVBoxLayout(content);
+  if (page.scale_selector != kNoScaleSelector) {
+    column->addWidget(MakeScaleSelector(page.scale_selector));
+  }
+  for (const FrameRow& frame : page.frames) {
+    const int gaps = GapCount(frame);
+    frames_.push_back({MakeFrame(frame), gaps});
+    column->addWidget(frames_.back().box, 100 * gaps);
+  }
+  column->addStretch(1);
+  SetContent(content);
+}
+
+void ParameterPage::showEvent(QShowEvent* event) {
+  // Spare height goes between the rows, but not so much that they fall apart.
+  for (const Frame& frame : frames_) {
+    frame.box->setMaximumHeight(frame.box->sizeHint().height() +
+                                frame.gaps * 4 * fontMetrics().lineSpacing());
+  }
+  ScrollingPage::showEvent(event);
+}
+
+QWidget* ParameterPage::MakeScaleSelector(int number) {
+  scale_selector_ = new MaxSelect;
+  scale_selector_->setObjectName(QStringLiteral("mseSelect_%1").arg(number));
+  scale_selector_->setAccessibleName(QStringLiteral("Scale"));
+  scale_selector_->setToolTip(WrappedToolTip(
+      {},
+      QStringLiteral("How far the sliders of this page reach. The values stay "
+                     "as they are; to the game only their proportions "
+                     "matter.")));
+  connect(scale_selector_, &MaxSelect::AdjustScale, this,
+          &ParameterPage::SetScale);
+  auto* const bar = new QWidget;
+  auto* const row = new QHBoxLayout(bar);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->addWidget(new QLabel(QStringLiteral("Scale up to")));
+  row->addWidget(scale_selector_);
+  row->addStretch(1);
+  return bar;
+}
+
+QGroupBox* ParameterPage::MakeFrame(const FrameRow& frame) {
+  auto* const box = new QGroupBox(TableText(frame.caption));
+  auto* const grid = new QGridLayout(box);
+  grid->setHorizontalSpacing(fontMetrics().averageCharWidth() * 4);
+  // Behind each row there is an empty one; those that part the rows grow.
+  const int together = RowsTogether(frame);
+  for (int gap = 1; gap <= GapCount(frame); ++gap) {
+    const int row = 2 * gap * together - 1;
+    grid->setRowStretch(row, 1);
+    grid->setRowMinimumHeight(row, fontMetrics().lineSpacing() / 4);
+  }
+  const int first_column = frame.headings.empty() ? 0 : 1;
+  for (int column = 0; column < frame.columns; ++column) {
+    grid->setColumnStretch(first_column + column, 1);
+  }
+  for (int place = 0; place < static_cast<int>(frame.controls.size());
+       ++place) {
+    const ControlRow& entry = frame.controls[static_cast<std::size_t>(place)];
+    if (entry.IsEmptyPlace()) continue;
+    const int row = place / frame.columns;
+    const int column = place % frame.columns;
+    ValueControl* const control = MakeControl(entry);
+    control->SetSpokenName(SpokenName(frame, place));
+    SetHelp(entry, *control);
+    grid->addWidget(control, 2 * row, first_column + column);
+    if (first_column == 1 && column == 0) {
+      auto* const heading = new QLabel(TextOfRow(frame.headings, row));
+      // On a level with the slider, which is the lowest of the control.
+      heading->setMinimumHeight(
+          control->findChild<ValueSlider*>()->sizeHint().height());
+      grid->addWidget(heading, 2 * row, 0, Qt::AlignBottom);
+    }
+  }
+  return box;
+}
+
+ValueControl* ParameterPage::MakeControl(const ControlRow& row) {
+  ValueControl* const control =
+      row.HasLevels() ? static_cast<ValueControl*>(MakeThreeSlider(row))
+                      : MakeOneSlider(row);
+  control->SetCaption(CaptionText(row, row.max));
+  control->SetIndex(row.index);
+  control->SetMax(row.max);
+  return control;
+}
+
+ThreeSlider* ParameterPage::MakeThreeSlider(const ControlRow& row) {
+  auto* const control = new ThreeSlider;
+  control->setObjectName(QStringLiteral("tsBotPara_%1").arg(row.index));
+  control->SetOptional(row.is_optional);
+  control->SetMode(row.linking);
+  connect(control, &ThreeSlider::Changed, this,
+          [this](int index, int level, double value) {
+            current_.SetParameter(LevelIndex(level, index), value);
+          });
+  three_sliders_.push_back({&row, control});
+  return control;
+}
+
+OneSlider* ParameterPage::MakeOneSlider(const ControlRow& row) {
+  auto* const control = new OneSlider;
+  control->setObjectName(QStringLiteral("osBotPara_%1").arg(row.index));
+  connect(control, &OneSlider::Changed, this, [this](int index, double value) {
+    current_.SetParameter(index, value);
+  });
+  one_sliders_.push_back({&row, control});
+  return control;
+}
+
+void ParameterPage::ShowBot() {
+  const Bot& bot = current_.bot();
+  if (scale_selector_ != nullptr) {
+    scale_selector_->Select(SmallestScale());
+    SetScale(scale_selector_->Selected());
+  }
+  for (const auto& [row, control] : three_sliders_) {
+    for (const int level : kSkillLevels) {
+      control->ShowValue(level, bot.Parameter(LevelIndex(level, row->index)));
+    }
+  }
+  for (const auto& [row, control] : one_sliders_) {
+    control->ShowValue(bot.Parameter(row->index));
+  }
+}
+
+void ParameterPage::SetScale(int max) {
+  for (const auto& [row, control] : one_sliders_) {
+    if (!row->IsRescaled()) continue;
+    control->SetCaption(CaptionText(*row, max));
+    control->SetMax(max);
+  }
+}
+
+int ParameterPage::SmallestScale() const {
+  double largest = 0;
+  for (const auto& [row, control] : one_sliders_) {
+    if (!row->IsRescaled()) continue;
+    largest = std::max(
+        largest, ToNumber(current_.bot().Parameter(row->index)).value_or(0));
+  }
+  return WeightMaximumFor(largest);
+}
+
+}  // namespace fragsmith

@@ -1,0 +1,42 @@
+#include "editor/pages/pointer_buttons.h"
+
+#include <QHBoxLayout>
+
+#include "editor/pages/chat_help.h"
+#include "editor/pages/page_table.h"
+#include "editor/parameter_help.h"
+
+namespace fragsmith {
+
+PointerButtons::PointerButtons(QWidget* parent) : QWidget(parent) {
+  auto* const row = new QHBoxLayout(this);
+  row->setContentsMargins(0, 0, 0, 0);
+  for (std::size_t pointer = 0; pointer < buttons_.size(); ++pointer) {
+    const ChatPointer& entry = kChatPointers.at(pointer);
+    auto* const button = new QPushButton(TableText(entry.button_caption), this);
+    button->setObjectName(QStringLiteral("cmdPointer_%1").arg(pointer));
+    button->setAccessibleName(
+        QStringLiteral("Insert %1").arg(TableText(entry.button_caption)));
+    button->hide();
+    row->addWidget(button);
+    connect(button, &QPushButton::clicked, this,
+            [this, &entry] { emit Chosen(TableText(entry.Variable)); });
+    buttons_.at(pointer) = button;
+  }
+  row->addStretch(1);
+}
+
+void PointerButtons::ShowType(int type) {
+  for (QPushButton* const button : buttons_) button->hide();
+  if (type < 0) return;
+  for (const int pointer : ChatTypeAt(type).Pointers()) {
+    QPushButton* const button = buttons_.at(static_cast<std::size_t>(pointer));
+    const QString help = ChatPointerHelp(type, pointer);
+    button->setToolTip(WrappedToolTip({}, help));
+    button->setWhatsThis(button->toolTip());
+    button->setAccessibleDescription(help);
+    button->show();
+  }
+}
+
+}  // namespace fragsmith

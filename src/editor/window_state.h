@@ -1,0 +1,23 @@
+#ifndef FRAGSMITH_EDITOR_WINDOW_STATE_H_
+#define FRAGSMITH_EDITOR_WINDOW_STATE_H_
+
+#include <QByteArray>
+#include <QWidget>
+#include <filesystem>
+
+namespace fragsmith {
+
+/// What the window looked like when it was last closed, in the file
+/// fgs.window beside the settings.
+struct WindowState {
+  QByteArray geometry;  ///< As QWidget::saveGeometry gives it; may be empty.
+  int page = 0;         ///< The parameter page that was shown.
+};
+
+WindowState LoadWindowState(const std::filesystem::path& program_folder);
+void SaveWindowState(const std::filesystem::path& program_folder,
+                     const WindowState& state);
+
+}  // namespace fragsmith
+
+#endif  // FRAGSMITH_EDITOR_WINDOW_STATE_H_

@@ -1,0 +1,429 @@
+#include "editor/pages/chat_page.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QClipboard>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "chat/chat_catalogue.h"
+#include "editor/code_page_validator.h"
+#include "tests/support/scripted_prompts.h"
+
+namespace fragsmith {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+constexpr int kGameEntry = 0;
+constexpr int kLevelEnds = 3;
+constexpr int kHitTalking = 6;
+constexpr int kCratered = 10;
+constexpr int kPummel = 21;
+
+/// The page in a window of its own that has the focus.
+class ChatPageTest : public testing::Test {
+ protected:
+  ChatPageTest()
+      : page_(
+            current_, synonyms_, [] { return 0.0; }, prompts_) {
+    QObject::connect(&page_, &ChatPage::StatusText, &page_,
+                     [this](const QString& text) { status_.push_back(text); });
+    page_.resize(1000, 430);
+    page_.show();
+    page_.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&page_));
+  }
+
+  void Show(const std::vector<std::vector<std::string>>& lines_of_types) {
+    Bot bot;
+    for (std::size_t type = 0; type < lines_of_types.size(); ++type) {
+      for (std::size_t line = 0; line < lines_of_types[type].size(); ++line) {
+        bot.SetChatLine(static_cast<int>(type), static_cast<int>(line),
+                        lines_of_types[type][line]);
+      }
+    }
+    current_.Replace(bot, false);
+    page_.ShowBot();
+  }
+
+  QListWidget* List(const char* name) {
+    return page_.findChild<QListWidget*>(QLatin1String(name));
+  }
+  QLineEdit* Box() { return page_.findChild<QLineEdit*>("txtChatLine"); }
+  QPushButton* Button(const char* name) {
+    return page_.findChild<QPushButton*>(QLatin1String(name));
+  }
+  void Click(const char* name) {
+    QTest::mouseClick(Button(name), Qt::LeftButton);
+  }
+  void SelectType(int type) { List("lstChatGroups")->setCurrentRow(type); }
+  void SelectLine(int line) { List("lstChatLines")->setCurrentRow(line); }
+  int Line() { return List("lstChatLines")->currentRow(); }
+  std::string BoxText() { return Box()->text().toStdString(); }
+
+  /// Types letters that are on no English keyboard, too.
+  void Type(const QString& text) {
+    Box()->setFocus();
+    for (const QChar letter : text) {
+      QKeyEvent press(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier,
+                      letter);
+      QCoreApplication::sendEvent(Box(), &press);
+    }
+  }
+
+  /// The lines in the list, which must be those of the bot.
+  std::vector<std::string> Lines() {
+    std::vector<std::string> lines;
+    for (int row = 0; row < List("lstChatLines")->count(); ++row) {
+      lines.push_back(List("lstChatLines")->item(row)->text().toStdString());
+    }
+    EXPECT_EQ(lines, Stored(List("lstChatGroups")->currentRow()));
+    return lines;
+  }
+  const std::vector<std::string>& Stored(int type) {
+    return current_.bot().ChatLines(type);
+  }
+
+  std::vector<std::string> VisiblePointers() {
+    std::vector<std::string> captions;
+    for (int pointer = 0; pointer < 11; ++pointer) {
+      const auto* const button = page_.findChild<QPushButton*>(
+          QStringLiteral("cmdPointer_%1").arg(pointer));
+      if (button->isVisible()) captions.push_back(button->text().toStdString());
+    }
+    return captions;
+  }
+
+  CurrentBot current_;
+  SynonymList synonyms_;
+  ScriptedPrompts prompts_;
+  ChatPage page_;
+  std::vector<QString> status_;
+};
+
+TEST_F(ChatPageTest, ShowsTheFirstLineOfABotAndOfAType) {
+  Show({{"Hi", "Ho"}, {"Bye"}});
+  EXPECT_THAT(Lines(), ElementsAre("Hi", "Ho"));
+  EXPECT_EQ(BoxText(), "Hi");
+  EXPECT_THAT(VisiblePointers(),
+              ElementsAre("Any opp", "Level title", "Any bot"));
+  SelectLine(1);
+  EXPECT_EQ(BoxText(), "Ho");
+  SelectType(1);
+  EXPECT_EQ(BoxText(), "Bye");
+  SelectType(kPummel);
+  EXPECT_THAT(VisiblePointers(), ElementsAre("Target", "Weapon used"));
+  SelectType(26);
+  EXPECT_THAT(VisiblePointers(), ElementsAre("Last victim", "Any opp"));
+  EXPECT_FALSE(current_.is_changed());
+
+  // Another bot: the type stays, its first line is selected.
+  SelectType(0);
+  SelectLine(1);
+  Show({{"New", "er"}});
+  EXPECT_EQ(Line(), 0);
+  EXPECT_EQ(BoxText(), "New");
+  EXPECT_FALSE(current_.is_changed());
+}
+
+TEST_F(ChatPageTest, StoresEachKeyInTheSelectedLine) {
+  Show({{"Hi", "Ho"}});
+  SelectLine(1);
+  Type(QStringLiteral("!\u00e9"));
+  EXPECT_THAT(Stored(kGameEntry), ElementsAre("Hi", "Ho!\xe9"));
+  EXPECT_EQ(List("lstChatLines")->item(1)->text(), Box()->text());
+  EXPECT_TRUE(current_.is_changed());
+}
+
+TEST_F(ChatPageTest, RefusesWhatTheGameTextCannotHold) {
+  Show({{"Hi"}});
+  Box()->setFocus();
+  QTest::keyClick(Box(), Qt::Key_A, Qt::ControlModifier);
+  QTest::keyClick(Box(), Qt::Key_End);
+  Type(QStringLiteral("\u0416"));
+  EXPECT_EQ(status_, std::vector<QString>{QLatin1String(kRefusedCharacter)});
+  QApplication::clipboard()->setText(QStringLiteral("a\u2713b"));
+  QTest::keyClick(Box(), Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(status_.size(), 2U);
+  EXPECT_EQ(BoxText(), "Hi");
+  EXPECT_FALSE(current_.is_changed());
+  QApplication::clipboard()->setText(QStringLiteral("\u20ac"));
+  QTest::keyClick(Box(), Qt::Key_V, Qt::ControlModifier);
+  EXPECT_THAT(Stored(kGameEntry), ElementsAre("Hi\x80"));
+}
+
+TEST_F(ChatPageTest, KeepsOddBytesAndStillRefusesCharacters) {
+  Show({{"a\x81\x01z", "\x01"}});
+  Type("!");
+  EXPECT_THAT(Stored(kGameEntry), ElementsAre("a\x81\x01z!", "\x01"));
+  EXPECT_TRUE(status_.empty());
+  Type(QStringLiteral("\u0416"));
+  EXPECT_THAT(Stored(kGameEntry), ElementsAre("a\x81\x01z!", "\x01"));
+  EXPECT_EQ(status_.size(), 1U);
+  EXPECT_EQ(Box()->text(), QStringLiteral("a\u0081\u0001z!"));
+}
+
+TEST_F(ChatPageTest, KeepsALineThatTheBoxCannotShowWhole) {
+  synonyms_.words = {"word"};
+  const std::string line = "word " + std::string(70'000, 'x');
+  Show({{line, "word"}});
+  page_.findChild<QCheckBox*>("chkAutoSynonyms")->setChecked(true);
+  Type("!");
+  QTest::keyClick(Box(), Qt::Key_Return);
+  Click("cmdPointer_0");
+  Click("cmdAddWord");
+  EXPECT_EQ(Stored(kGameEntry).front(), line);
+  EXPECT_FALSE(current_.is_changed());
+  SelectLine(1);
+  Type("!");
+  EXPECT_EQ(Stored(kGameEntry).back(), "word!");
+}
+
+TEST_F(ChatPageTest, InsertsVariablesAtTheCursor) {
+  Show({{"Hello you"}});
+  Box()->setCursorPosition(6);
+  Click("cmdPointer_2");
+  EXPECT_THAT(Lines(), ElementsAre("Hello {ANYBOTNAME}you"));
+  EXPECT_EQ(Box()->cursorPosition(), 6);
+  EXPECT_TRUE(Box()->hasFocus());
+  EXPECT_TRUE(current_.is_changed());
+
+  List("lstWords")->setCurrentRow(25);
+  Click("cmdAddWord");
+  EXPECT_THAT(Lines(), ElementsAre("Hello PROFESSION{ANYBOTNAME}you"));
+
+  // At the very start the variable takes the place of the text.
+  Box()->setCursorPosition(0);
+  Click("cmdPointer_0");
+  EXPECT_THAT(Lines(), ElementsAre("{RANDOMOPP}"));
+  EXPECT_EQ(Box()->cursorPosition(), 0);
+  QTest::keyClick(Box(), Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_THAT(Lines(), ElementsAre("Hello PROFESSION{ANYBOTNAME}you"));
+}
+
+TEST_F(ChatPageTest, AddsTheSelectedListLine) {
+  Show({{""}});
+  List("lstPreDef")->setCurrentRow(25);
+  List("lstPreDefNumber")->setCurrentRow(3);
+  Click("cmdAddList");
+  EXPECT_THAT(Lines(), ElementsAre("{{TAUNT3}}"));
+  EXPECT_EQ(BoxText(), "{{TAUNT3}}");
+  EXPECT_TRUE(current_.is_changed());
+  List("lstPreDef")->setFocus();
+  QTest::keyClick(List("lstPreDef"), Qt::Key_Return);
+  EXPECT_THAT(Lines(), ElementsAre("{{TAUNT3}}", "{{TAUNT3}}"));
+  EXPECT_EQ(Line(), 0);
+
+  Click("cmdRemoveLine");
+  Click("cmdRemoveLine");
+  Click("cmdAddList");
+  EXPECT_THAT(Lines(), ElementsAre("{{TAUNT3}}"));
+  EXPECT_EQ(Line(), 0);
+  EXPECT_TRUE(Box()->isEnabled());
+}
+
+TEST_F(ChatPageTest, OffersTheNumbersOfAGroup) {
+  const auto numbers = [this](int group) {
+    List("lstPreDef")->setCurrentRow(group);
+    QStringList texts;
+    for (int row = 0; row < List("lstPreDefNumber")->count(); ++row) {
+      texts << List("lstPreDefNumber")->item(row)->text();
+    }
+    EXPECT_EQ(List("lstPreDefNumber")->currentRow(), 0);
+    return texts.join(u' ').toStdString();
+  };
+  EXPECT_EQ(numbers(kGuytalkGroup), "0 2");
+  EXPECT_EQ(numbers(6), "0");
+  EXPECT_EQ(numbers(3), "0 1 2 3 4");
+}
+
+TEST_F(ChatPageTest, AddsAndRemovesLines) {
+  Show({{"a", "b", "c"}});
+  SelectLine(1);
+  Click("cmdRemoveLine");
+  EXPECT_THAT(Lines(), ElementsAre("a", "c"));
+  EXPECT_EQ(BoxText(), "c");
+  EXPECT_TRUE(current_.is_changed());
+  Click("cmdRemoveLine");
+  EXPECT_EQ(BoxText(), "a");
+  Click("cmdRemoveLine");
+  EXPECT_THAT(Lines(), ElementsAre());
+  EXPECT_EQ(BoxText(), "");
+  EXPECT_FALSE(Box()->isEnabled());
+  EXPECT_FALSE(Button("cmdAddWord")->isEnabled());
+  EXPECT_FALSE(Button("cmdRemoveLine")->isEnabled());
+
+  current_.SetChanged(false);
+  Click("cmdNewLine");
+  EXPECT_TRUE(current_.is_changed());
+  EXPECT_TRUE(Box()->hasFocus());
+  Type("new");
+  EXPECT_THAT(Lines(), ElementsAre("new"));
+}
+
+TEST_F(ChatPageTest, TakesDeleteAsRemovalInTheListAlone) {
+  Show({{"abc", "d"}});
+  Box()->setFocus();
+  Box()->setCursorPosition(0);
+  QTest::keyClick(Box(), Qt::Key_Delete);
+  EXPECT_THAT(Lines(), ElementsAre("bc", "d"));
+  List("lstChatGroups")->setFocus();
+  QTest::keyClick(List("lstChatGroups"), Qt::Key_Delete);
+  EXPECT_THAT(Lines(), ElementsAre("bc", "d"));
+  List("lstChatLines")->setFocus();
+  QTest::keyClick(List("lstChatLines"), Qt::Key_Delete);
+  EXPECT_THAT(Lines(), ElementsAre("d"));
+  QTest::keyClick(List("lstChatLines"), Qt::Key_Return);
+  EXPECT_TRUE(Box()->hasFocus());
+}
+
+TEST_F(ChatPageTest, AddsRandomLines) {
+  Show({});
+  SelectType(kPummel);
+  Click("cmdAddRandom");
+  EXPECT_THAT(Lines(), ElementsAre("{{KILLGAUNTLET0}}"));
+  Click("cmdAddRandom");
+  EXPECT_THAT(Lines(), ElementsAre("{{KILLGAUNTLET0}}", "{{KILLGAUNTLET0}}"));
+  EXPECT_EQ(Line(), 0);
+  EXPECT_TRUE(current_.is_changed());
+
+  Show({});
+  page_.AddExtraChatsToBot();
+  EXPECT_TRUE(current_.is_changed());
+  for (int type = 0; type < kChatTypeCount; ++type) {
+    EXPECT_EQ(Stored(type).size(), 1U) << type;
+  }
+  EXPECT_THAT(Stored(kCratered), ElementsAre("{{DEATHFALLING0}}"));
+  EXPECT_THAT(Stored(kHitTalking), ElementsAre("{{HITTALKING0}}"));
+  EXPECT_EQ(BoxText(), "{{KILLGAUNTLET0}}");
+  page_.AddExtraChatsToBot();
+  EXPECT_EQ(Stored(kLevelEnds).size(), 2U);
+
+  current_.SetChanged(false);
+  page_.DeleteAllChats();
+  EXPECT_TRUE(current_.is_changed());
+  EXPECT_THAT(Lines(), ElementsAre(""));
+  EXPECT_EQ(BoxText(), "");
+  EXPECT_TRUE(Box()->isEnabled());
+}
+
+TEST_F(ChatPageTest, MarksSynonymsOnRequest) {
+  synonyms_.words = {"hello"};
+  Show({{"Hello world"}});
+  Box()->setCursorPosition(5);
+  Click("cmdCheckSynonyms");
+  EXPECT_THAT(Lines(), ElementsAre("~Hello world"));
+  EXPECT_EQ(Box()->cursorPosition(), 6);
+  EXPECT_TRUE(prompts_.messages.empty());
+  synonyms_ = {};
+  Click("cmdCheckSynonyms");
+  ASSERT_EQ(prompts_.messages.size(), 1U);
+  EXPECT_EQ(prompts_.messages[0].title, "Synonym list is missing");
+  EXPECT_THAT(Lines(), ElementsAre("~Hello world"));
+}
+
+TEST_F(ChatPageTest, ChecksSynonymsByItselfWhenALineIsDone) {
+  synonyms_.words = {"hello"};
+  Show({{"hello", "hello you"}});
+  const auto leave = [this] {
+    Box()->setFocus();
+    QTest::mouseClick(List("lstChatLines")->viewport(), Qt::LeftButton, {},
+                      List("lstChatLines")
+                          ->visualItemRect(List("lstChatLines")->item(1))
+                          .center());
+  };
+  leave();
+  EXPECT_THAT(Lines(), ElementsAre("hello", "hello you"));
+
+  SelectLine(0);
+  QTest::mouseClick(page_.findChild<QCheckBox*>("chkAutoSynonyms"),
+                    Qt::LeftButton);
+  leave();
+  // The line that was left, not the one that was clicked.
+  EXPECT_THAT(Lines(), ElementsAre("~hello", "hello you"));
+  EXPECT_EQ(BoxText(), "hello you");
+  Box()->setFocus();
+  QTest::keyClick(Box(), Qt::Key_Return);
+  EXPECT_THAT(Lines(), ElementsAre("~hello", "~hello you"));
+}
+
+TEST_F(ChatPageTest, TellsOfAnEmptySynonymListOncePerLeaving) {
+  Show({{"hello"}});
+  page_.findChild<QCheckBox*>("chkAutoSynonyms")->setChecked(true);
+  for (std::size_t time = 1; time <= 2; ++time) {
+    Box()->setFocus();
+    QTest::keyClick(Box(), Qt::Key_Return);
+    List("lstChatLines")->setFocus();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(prompts_.messages.size(), time);
+  }
+  EXPECT_FALSE(current_.is_changed());
+}
+
+TEST_F(ChatPageTest, IsUsableByKeyboardAndScreenReader) {
+  Show({{"a"}});
+  std::set<QChar> keys;
+  const auto take_mnemonic = [&keys](const QString& text) {
+    const qsizetype mark = text.indexOf(u'&');
+    if (mark < 0) return;
+    EXPECT_TRUE(keys.insert(text[mark + 1].toLower()).second)
+        << text.toStdString();
+  };
+  for (const auto* label : page_.findChildren<QLabel*>()) {
+    take_mnemonic(label->text());
+    EXPECT_NE(label->buddy(), nullptr) << label->text().toStdString();
+  }
+  for (const auto* button : page_.findChildren<QAbstractButton*>()) {
+    take_mnemonic(button->text());
+  }
+  EXPECT_EQ(keys.size(), 11U);
+
+  QStringList order;
+  List("lstChatGroups")->setFocus();
+  do {
+    const QWidget* const focused = QApplication::focusWidget();
+    order << focused->objectName();
+    EXPECT_FALSE(focused->accessibleName().isEmpty() &&
+                 qobject_cast<const QAbstractButton*>(focused) == nullptr)
+        << focused->objectName().toStdString();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+  } while (QApplication::focusWidget() != List("lstChatGroups") &&
+           order.size() < 30);
+  EXPECT_EQ(order.join(u' ').toStdString(),
+            "lstChatGroups lstChatLines txtChatLine cmdPointer_0 cmdPointer_1 "
+            "cmdPointer_2 cmdNewLine cmdRemoveLine cmdAddRandom lstPreDef "
+            "lstPreDefNumber cmdAddList lstWords cmdAddWord cmdCheckSynonyms "
+            "chkAutoSynonyms");
+}
+
+TEST_F(ChatPageTest, SaysWhenTheGameSpeaks) {
+  const auto tip = [this](int type) {
+    return List("lstChatGroups")->item(type)->toolTip().toStdString();
+  };
+  EXPECT_THAT(tip(1), HasSubstr("Never heard"));
+  EXPECT_THAT(tip(23), HasSubstr("Never spoken"));
+  EXPECT_THAT(tip(kPummel), HasSubstr("&quot;Kills&quot;"));
+  EXPECT_THAT(tip(kCratered), HasSubstr("&quot;Dies&quot;"));
+  const auto pointer_tip = [this](int type) {
+    SelectType(type);
+    return Button("cmdPointer_7")->toolTip().toStdString();
+  };
+  EXPECT_THAT(pointer_tip(15), HasSubstr("the name of the weapon"));
+  EXPECT_THAT(pointer_tip(kPummel), HasSubstr("nothing"));
+}
+
+}  // namespace
+}  // namespace fragsmith

@@ -1,0 +1,259 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTabWidget>
+#include <QTest>
+#include <QTimer>
+#include <QToolButton>
+#include <memory>
+
+#include "editor/dialogs/open_dialog.h"
+#include "editor/dialogs/options_dialog.h"
+#include "editor/frm_main.h"
+#include "session/bot_document.h"
+#include "session/presets.h"
+#include "session/save_bot.h"
+#include "support/files.h"
+#include "tests/support/scripted_prompts.h"
+#include "tests/support/test_folder.h"
+
+namespace fragsmith {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+/// The whole window over a program folder of the test's own, with a script
+/// in the place of the user at its boxes.
+class MainWindow : public testing::Test {
+ protected:
+  MainWindow() { Open(); }
+
+  void Open() {
+    window_.reset();
+    state_ = std::make_unique<ProgramState>(
+        ProgramFolders{folder_.path(), folder_.path()}, prompts_,
+        SeededRandom(1));
+    window_ = std::make_unique<frmMain>(*state_);
+    window_->show();
+    // Shortcuts and the leaving of boxes need the window to be the active one.
+    QApplication::setActiveWindow(window_.get());
+    QCoreApplication::processEvents();
+  }
+
+  template <typename Widget>
+  Widget* Find(const char* name) {
+    auto* const found = window_->findChild<Widget*>(QLatin1String(name));
+    if (found == nullptr) ADD_FAILURE() << "no " << name;
+    return found;
+  }
+
+  void Choose(const char* name) { Find<QAction>(name)->trigger(); }
+
+  /// Types into a box in the place of what is there, and leaves it.
+  void Type(const char* name, const char* text) {
+    auto* const box = Find<QLineEdit>(name);
+    box->setFocus();
+    box->selectAll();
+    QTest::keyClicks(box, QLatin1String(text));
+    Find<QComboBox>("cmbRail")->setFocus();
+    QCoreApplication::processEvents();
+  }
+
+  const Bot& bot() { return window_->current().bot(); }
+  bool is_changed() { return window_->current().is_changed(); }
+
+  /// Runs a function on the next modal dialog.
+  template <typename Dialog, typename Function>
+  void OnDialog(Function function) {
+    QTimer::singleShot(0, qApp, [function] {
+      auto* const dialog =
+          qobject_cast<Dialog*>(QApplication::activeModalWidget());
+      ASSERT_NE(dialog, nullptr);
+      function(*dialog);
+    });
+  }
+
+  TestFolder folder_;
+  ScriptedPrompts prompts_;
+  std::unique_ptr<ProgramState> state_;
+  std::unique_ptr<frmMain> window_;
+};
+
+TEST_F(MainWindow, StartsWithABotOfZerosAndNothingUnsaved) {
+  EXPECT_THAT(prompts_.log, IsEmpty());
+  EXPECT_EQ(bot(), CreateZeroBot());
+  EXPECT_FALSE(is_changed());
+  EXPECT_EQ(window_->windowTitle(), QStringLiteral("Fragsmith 0.97b BETA[*]"));
+  EXPECT_EQ(Find<QTabWidget>("tbsBotPara")->count(), 8);
+  EXPECT_EQ(Find<QLabel>("fraModel")->text(),
+            QStringLiteral("Model name (23 models)"));
+  EXPECT_EQ(Find<QLabel>("fraSkin")->text(),
+            QStringLiteral("Skin name (5 skins)"));
+}
+
+TEST_F(MainWindow, StoresTheIdentity) {
+  Type("txtBotPara_0", "Rookie");
+  Type("txtBotPara_2", "^1Red One");
+  Type("txtBotPara_7", "1.5");
+  QTest::mouseClick(Find<QRadioButton>("opGender_1"), Qt::LeftButton);
+  Find<QCheckBox>("chkArenalord")->click();
+  auto* const rail = Find<QComboBox>("cmbRail");
+  QTest::keyClick(rail, Qt::Key_End);
+  EXPECT_EQ(bot().Name(), "Rookie");
+  EXPECT_EQ(bot().FunName(), "\"^1Red One\"");
+  EXPECT_EQ(bot().Parameter(kVersionMajorField), Value(1.5));
+  EXPECT_EQ(bot().Text(1), "female");
+  EXPECT_EQ(bot().Parameter(kArenaLordField), Value(1.0));
+  EXPECT_EQ(bot().Parameter(kRailColorField), Value(7.0));
+  EXPECT_TRUE(is_changed());
+}
+
+TEST_F(MainWindow, RefusesABadNameWhereItIsTypedAndBeforeSaving) {
+  Type("txtBotPara_0", "my bot");
+  EXPECT_THAT(prompts_.log, ElementsAre(HasSubstr("Space error!")));
+  EXPECT_EQ(bot().Name(), "Bot");
+  Choose("mnuMake");
+  EXPECT_THAT(prompts_.log.back(),
+              "Error-or-or!: Errors in bot! Correct before saving!");
+}
+
+TEST_F(MainWindow, PutsColourCodesIntoTheFunNameButNotFirst) {
+  auto* const box = Find<QLineEdit>("txtBotPara_2");
+  Find<QToolButton>("cmdColor_3")->click();
+  EXPECT_EQ(box->text(), QString());
+  box->setText(QStringLiteral("ab"));
+  box->setCursorPosition(1);
+  Find<QToolButton>("cmdColor_3")->click();
+  EXPECT_EQ(box->text(), QStringLiteral("a^3b"));
+  EXPECT_EQ(box->cursorPosition(), 3);
+}
+
+TEST_F(MainWindow, MovesOnToTheNextPageByKeyAndRoundTheEnd) {
+  auto* const strip = Find<QTabWidget>("tbsBotPara");
+  strip->setCurrentIndex(7);
+  QTest::keyClick(window_.get(), Qt::Key_Tab, Qt::ControlModifier);
+  EXPECT_EQ(strip->currentIndex(), 0);
+  QTest::keyClick(window_.get(), Qt::Key_Backtab,
+                  Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(strip->currentIndex(), 0);
+}
+
+TEST_F(MainWindow, AsksBeforeUnsavedWorkIsLost) {
+  Choose("mnuNewAverage");
+  EXPECT_FALSE(is_changed());
+  EXPECT_EQ(bot().Parameter(402), Value(0.5));
+  Find<QCheckBox>("chkArenalord")->click();
+  prompts_.confirmations = {false};
+  Choose("mnuNewZero");
+  EXPECT_EQ(bot().Parameter(402), Value(0.5));
+  Choose("mnuNewRandom");
+  EXPECT_EQ(prompts_.log.size(), 1U);
+  EXPECT_FALSE(window_->close());
+  EXPECT_THAT(prompts_.log.back(),
+              HasSubstr("The current bot has changed. Do you still want to "
+                        "exit without saving?"));
+  EXPECT_FALSE(IsFile(folder_ / "fgs.ini"));
+  prompts_.confirmations = {true};
+  EXPECT_TRUE(window_->close());
+  EXPECT_TRUE(IsFile(folder_ / "fgs.ini"));
+  EXPECT_FALSE(IsFile(folder_ / "fgs.draft"));
+}
+
+TEST_F(MainWindow, OffersTheDraftOfARunThatDidNotEnd) {
+  Type("txtBotPara_0", "Lost");
+  window_->findChild<DraftKeeper*>()->SaveNow();
+  // A crash: nothing is closed.
+  Open();
+  EXPECT_EQ(bot().Name(), "Bot");
+  EXPECT_TRUE(Find<QPushButton>("cmdTakeDraft")->isVisible());
+  Find<QPushButton>("cmdTakeDraft")->click();
+  EXPECT_EQ(bot().Name(), "Lost");
+  EXPECT_TRUE(is_changed());
+}
+
+TEST_F(MainWindow, SavesAndLoadsThroughTheDialog) {
+  Type("txtBotPara_0", "Rookie");
+  Choose("mnuExtraChat");
+  const Bot made = bot();
+  OnDialog<frmOpen>([](frmOpen& dialog) {
+    EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Make botfiles for Rookie"));
+    dialog.accept();
+  });
+  Choose("mnuMake");
+  EXPECT_TRUE(IsFile(folder_ / "rookie_t.c"));
+  EXPECT_FALSE(is_changed());
+
+  Choose("mnuNewZero");
+  OnDialog<frmOpen>([](frmOpen& dialog) {
+    auto* const files =
+        dialog.findChild<QListWidget*>(QStringLiteral("filFile"));
+    ASSERT_NE(files, nullptr);
+    files->setCurrentRow(0);
+    dialog.accept();
+  });
+  Choose("mnuLoad");
+  EXPECT_EQ(WriteBotDocument(bot()), WriteBotDocument(made));
+  EXPECT_FALSE(is_changed());
+}
+
+TEST_F(MainWindow, TakesTheValuesAsTheGameReadsThem) {
+  Bot odd = CreateZeroBot();
+  const SavedBot saved = SaveBot(odd, folder_.path(), {}, {}, prompts_);
+  ASSERT_FALSE(saved.error);
+  folder_.Write("bot_w.c", "#define W_RAILGUN 250\r\n");
+  window_->OpenFile(folder_ / "bot_c.c");
+  EXPECT_EQ(bot().Parameter(49), Value(0.0));
+  EXPECT_TRUE(Find<QPushButton>("cmdAsGame")->isVisible());
+  Find<QPushButton>("cmdAsGame")->click();
+  EXPECT_EQ(bot().Parameter(49), Value(250.0));
+  EXPECT_TRUE(is_changed());
+}
+
+TEST_F(MainWindow, AsksAboutAModelThatNoListHas) {
+  Bot stranger = CreateZeroBot();
+  (void)stranger.SetParameter(kModelField, std::string("Penguin"));
+  (void)stranger.SetParameter(kSkinField, std::string("Ice"));
+  prompts_.confirmations = {true};
+  window_->current().Replace(stranger, false);
+  EXPECT_EQ(prompts_.log.front(),
+            "Model not found!: Model Penguin doesn't exist in Fragsmith's "
+            "model/skin list. Do you want to add it there?");
+  EXPECT_EQ(bot().Text(kModelField), "Penguin");
+  EXPECT_EQ(bot().Text(kSkinField), "Ice");
+  EXPECT_FALSE(is_changed());
+
+  (void)stranger.SetParameter(kModelField, std::string("Nobody"));
+  window_->current().Replace(stranger, false);
+  EXPECT_EQ(bot().Text(kModelField), "Anarki");
+  EXPECT_EQ(bot().Text(kSkinField), "Default");
+}
+
+TEST_F(MainWindow, ChecksTheFoldersAfterTheOptions) {
+  OnDialog<frmOptions>([](frmOptions& dialog) {
+    dialog.SetOptionValue(0, "/no/such/folder");
+    dialog.SetOptionValue(3, "Maker");
+    dialog.accept();
+  });
+  Choose("mnuOptions");
+  EXPECT_THAT(prompts_.log,
+              ElementsAre("Fragsmith: Quake3.exe missing: Quake3.exe not "
+                          "found in '/no/such/folder'"));
+  EXPECT_EQ(state_->settings.Q3Baseq3, "");
+  EXPECT_EQ(state_->settings.UserName, "Maker");
+  Choose("mnuCheck");
+  EXPECT_THAT(prompts_.log.back(), HasSubstr("Can't check folder"));
+}
+
+}  // namespace
+}  // namespace fragsmith
