@@ -1,17 +1,28 @@
 #!/usr/bin/env python3
-"""ratios.py FILE: the ratios between benchmarks of one run, as a table.
+"""ratios.py [--store] FILE...: ratios between the benchmarks of a run, as a table.
 
-FILE is what fragsmith-bench wrote with --benchmark_out_format=json and some
-repetitions. Each ratio stands twice: of the medians, and of the fastest
-repetitions, which other work on the machine disturbs least.
+The files are what fragsmith-bench and fragsmith-window-bench wrote with
+--benchmark_out_format=json and some repetitions. Each ratio stands three
+times: of the medians, of the fastest repetitions, which other work on the
+machine disturbs least, and as it was stored before (stored_ratios.json beside
+this script, which --store writes).
 """
 
 import json
+import pathlib
 import statistics
 import sys
 
+STORED = pathlib.Path(__file__).with_name("stored_ratios.json")
+
 # What is measured, against what, and the most that the ratio is to be.
 PAIRS = [
+    ("Start until the window is painted", [
+        ("StartUp/fragsmith", "StartUp/bare_window",
+         "bare window, menu, status bar", 1.5),
+        ("StartUp/fragsmith", "StartUp/shown_page_alone",
+         "without the hidden pages", 1.25),
+    ]),
     ("Read a bot's five files", [
         ("BotRead", "BotReadPlain", "read and split, standard library", 3),
         ("BotRead", "BotReadFloor", "read and split, bare system calls", 3),
@@ -74,11 +85,13 @@ GROWTHS = [
 UNITS = {"ns": 1e-9, "us": 1e-6, "ms": 1e-3, "s": 1.0}
 
 
-def read_times(path):
+def read_times(paths):
     """Seconds of each repetition by benchmark name."""
     times = {}
-    with open(path, encoding="utf-8") as file:
-        runs = json.load(file)["benchmarks"]
+    runs = []
+    for path in paths:
+        with open(path, encoding="utf-8") as file:
+            runs += json.load(file)["benchmarks"]
     for run in runs:
         if run.get("run_type") != "iteration":
             continue
@@ -97,28 +110,53 @@ def ratios(times, what, against):
             min(times[what]) / min(times[against]))
 
 
-def print_row(title, values, aim, verdict):
-    print(f"  {title:36}{values[0]:9.2f}{values[1]:9.2f}   {aim:10}{verdict}")
+class Table:
+    """Prints ratios beside those that were stored."""
+
+    def __init__(self, times):
+        self.times = times
+        self.medians = {}
+        self.before = (json.loads(STORED.read_text(encoding="utf-8"))
+                       if STORED.exists() else {})
+
+    def head(self, title, last):
+        print(f"{title:38}{'median':>9}{'fastest':>9}{'before':>9}   {last}")
+
+    def row(self, title, what, against, aim, most=None):
+        if what not in self.times or against not in self.times:
+            return
+        median, fastest = ratios(self.times, what, against)
+        key = f"{what} : {against}"
+        self.medians[key] = round(median, 2)
+        before = self.before.get(key)
+        shown = f"{before:9.2f}" if before is not None else f"{'-':>9}"
+        verdict = "" if most is None else ("met" if median <= most
+                                           else "missed")
+        print(f"  {title:36}{median:9.2f}{fastest:9.2f}{shown}   {aim:10}"
+              f"{verdict}")
 
 
 def main():
-    if len(sys.argv) != 2:
+    files = [word for word in sys.argv[1:] if word != "--store"]
+    if not files:
         sys.exit(__doc__.splitlines()[0])
-    times = read_times(sys.argv[1])
-    print(f"{'Time divided by that of':38}{'median':>9}{'fastest':>9}   aim")
+    table = Table(read_times(files))
+    table.head("Time divided by that of", "aim")
     for title, rows in PAIRS:
+        if not any(what in table.times for what, *_ in rows):
+            continue
         print(title)
         for what, against, name, most in rows:
-            values = ratios(times, what, against)
-            if most is None:
-                print_row(name, values, "", "")
-            else:
-                verdict = "met" if values[0] <= most else "missed"
-                print_row(name, values, f"<= {most}", verdict)
-    print(f"\n{'Growth of time':38}{'median':>9}{'fastest':>9}   ideal")
+            table.row(name, what, against,
+                      "" if most is None else f"<= {most}", most)
+    print()
+    table.head("Growth of time", "ideal")
     for title, name, few, many, ideal in GROWTHS:
-        values = ratios(times, f"{name}/{many}", f"{name}/{few}")
-        print_row(f"{title}, {few:,} to {many:,}", values, f"{ideal}", "")
+        table.row(f"{title}, {few:,} to {many:,}", f"{name}/{many}",
+                  f"{name}/{few}", f"{ideal}")
+    if "--store" in sys.argv:
+        STORED.write_text(json.dumps(table.before | table.medians, indent=1)
+                          + "\n", encoding="utf-8")
 
 
 if __name__ == "__main__":

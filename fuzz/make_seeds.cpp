@@ -1,10 +1,13 @@
 // make_seeds FOLDER: first inputs for the fuzz targets, FOLDER/TARGET/NUMBER.
 
+#include <cstdint>
 #include <filesystem>
 #include <fstream>
+#include <initializer_list>
 #include <iostream>
 #include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "botfiles/characteristic_file.h"
@@ -17,6 +20,7 @@
 #include "install/bot_list_file.h"
 #include "install/model_list_file.h"
 #include "install/package.h"
+#include "install/package_directory.h"
 #include "install/settings_file.h"
 #include "model/characteristic_catalogue.h"
 #include "session/bot_document.h"
@@ -79,6 +83,12 @@ void AddBotSeeds(const Bot& bot, Seeds& seeds) {
   seeds["item_weights"].push_back(WriteItemWeightFile(bot, author));
   seeds["description"].push_back(WriteDescriptionFile(bot, author));
   seeds["chat"].push_back(WriteChatFile(bot, author));
+  // What the game makes of each of the five, see game_files_fuzz.cpp.
+  char file = 0;
+  for (const char* const kind : {"description", "characteristic",
+                                 "weapon_weights", "item_weights", "chat"}) {
+    seeds["game_files"].push_back(std::string(1, file++) + seeds[kind].back());
+  }
   seeds["document"].push_back(WriteBotDocument(bot));
   for (int type = 0; type < kChatTypeCount; ++type) {
     const std::string choice(1, static_cast<char>(type));
@@ -114,11 +124,37 @@ void AddHandMadeSeeds(Seeds& seeds) {
       "curse, \" you\";\ndisease, \" again\";\n\"no end\"\n\"a;b\" ;\n}\n"
       "type \"level_end_lose\"\n{\n\"x \", 9, \" y\";\ntype \"nothing\"\n{\n"
       "word;\n}\n}\n");
+  for (const char* const text :
+       {"\1#include \"chars.h\"\n#define A(x,y) x##y\n#if 1 + A(1,2) * 3\n"
+        "skill 1 { 0 \"a\" \"b\\q\" 2 $evalfloat(1.0/3) #pragma x\n"
+        "CHARACTERISTIC_CHAT_FILE \"bots/x_t.c\" }\n#elif 0\n#else\n#endif",
+        "\2#include <inv.h>\nweight \"a\" { switch(INVENTORY_ARMOR) { case 1: "
+        "{ switch(2) { default: return balance(1,-2,.5); } } default: "
+        "return $evalint(-5 % 2 ? 1 : 0x1f); } }\n",
+        "\4#ifdef X\n#include \"no\"\n#endif\nchat \"a\" { { \"b\" } } chat "
+        "\"default\" { type \"c\" { \"d\", 0, word; 'e'; } }"}) {
+    seeds["game_files"].push_back(text);
+  }
+  seeds["game_files"].push_back(std::string(1, '\0') +
+                                "{ name \"x\" x ; aifile\n} { { /* */ name "
+                                "x aifile \"bots/x_c.c");
   seeds["document"].push_back(
       "{\"name\":\"Some\",\"funName\":\"So me\",\"railColor\":\"3\","
       "\"versionMajor\":\"1.5\",\"levels\":{\"4\":"
       "{\"CHARACTERISTIC_AIM_SKILL\":-0.25,\"CHARACTERISTIC_CAMPER\":\"\\u20ac"
       "\"}},\"chats\":{\"random_misc\":[\"\",\"{WEATHER} or {RANDOMOPP2}\"]}}");
+  const std::string many_digits(400, '9');
+  for (const std::string& document : std::initializer_list<std::string>{
+           "{\"levels\":{\"2\":{}}}", "{\"comment\":\"a\\nb\"}",
+           "{\"name\":\"\xC3\xA4\xC4\x81\"}", "{\"chats\":[[[[[[[[[]]]]]]]]]}",
+           "{\"" + std::string(90, 'k') + "\":0}",
+           "{\"arenaLord\":\"" + many_digits + "\"}",
+           "{\"railColor\":\"" + many_digits + ".5\"}",
+           "{\"railColor\":\"." + std::string(400, '0') + "1\"}"}) {
+    seeds["document"].push_back(document);
+  }
+  seeds["characteristic"].push_back("CHARACTERISTIC_CHAT_CPM\t\t\t\t\t\t" +
+                                    many_digits + ".5\n");
   seeds["settings"].push_back(
       "[Fragsmith settings]\nQ3Baseq3 = /games/arena\n"
       "\"WorkDir = a, b\"\nWinZipDir = \n\n"
@@ -153,6 +189,38 @@ void AddListSeeds(Seeds& seeds) {
                        "x\na,b,#TRUE#\r\"a b\",\"\", #FALSE# \nc,d,e\n"};
 }
 
+std::string LowestFirst(std::uint64_t number, int count) {
+  std::string bytes;
+  for (; count > 0; --count, number >>= 8U) {
+    bytes += static_cast<char>(number & 0xFFU);
+  }
+  return bytes;
+}
+
+/// The end of a package that claims a huge table of contents, once in the
+/// record of small archives and once in that of large ones.
+std::string LongEnd() {
+  const std::string claim = LowestFirst(kMostDirectoryBytes + 1, 8);
+  const std::string end = "PK\x05\x06" + std::string(8, '\0');
+  return "PK\x06\x06" + std::string(36, '\0') + claim + std::string(8, '\0') +
+         "PK\x06\x07" + std::string(4, '\0') +
+         LowestFirst(kMostDirectoryBytes, 8) + std::string(4, '\0') + end +
+         std::string(10, '\xFF') + end + claim.substr(0, 4) +
+         std::string(6, '\0');
+}
+
+/// The package with its entries marked as ones with a password.
+std::string WithCipher(std::string package) {
+  for (const auto& [mark, place] :
+       {std::pair("PK\x03\x04", 6), std::pair("PK\x01\x02", 8)}) {
+    for (std::size_t at = package.find(mark); at != std::string::npos;
+         at = package.find(mark, at + 1)) {
+      package[at + static_cast<std::size_t>(place)] |= 1;
+    }
+  }
+  return package;
+}
+
 void AddPackageSeeds(Seeds& seeds) {
   const std::vector<PackageEntry> entries = {
       {"botfiles/bots/robo_c.c", std::string(300, 'x')},
@@ -161,8 +229,11 @@ void AddPackageSeeds(Seeds& seeds) {
       {"a\\b", ""}};
   const Result<std::string> package = FormatPackage(entries);
   if (!package) return;
-  seeds["package"] = {*package, package->substr(0, package->size() - 30),
+  seeds["package"] = {*package,
+                      package->substr(0, package->size() - 30),
                       package->substr(20),
+                      LongEnd(),
+                      WithCipher(*package),
                       "plain/names/" + std::string(200, 'y')};
 }
 

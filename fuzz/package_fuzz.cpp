@@ -70,17 +70,23 @@ void ReadHostile(const Place& place, std::string_view bytes,
   const auto names = ListPackageEntries(place.package, notes);
   ExpectShowable(notes);
   if (!names) return ExpectShowable(Describe(names.error()));
+  std::string listing;
+  for (const std::string& name : *names) {
+    Expect(!name.empty(), "no entry is without a name");
+    listing += name + std::string(kLineEnd);
+  }
+  ExpectEqual(listing, *ListPackage(place.package, notes), "the listing");
+
   constexpr std::size_t kMostNames = 4;
   for (std::size_t at = 0; at < std::min(names->size(), kMostNames); ++at) {
-    const std::string& name = names->at(at);
-    Expect(!name.empty(), "no entry is without a name");
-    const Result<std::string> entry =
-        ReadPackageEntry(place.package, name, kLimit);
-    if (!entry) {
-      ExpectShowable(Describe(entry.error()));
-      continue;
+    for (const std::string& name : {names->at(at), ToLower(names->at(at))}) {
+      const auto entry = ReadPackageEntry(place.package, name, kLimit);
+      if (!entry) {
+        ExpectShowable(Describe(entry.error()));
+        continue;
+      }
+      Expect(entry->size() <= kLimit, "no more than was asked for");
     }
-    Expect(entry->size() <= kLimit, "no more than was asked for");
   }
   if (!names->empty()) TakeOut(place, names->front());
 }

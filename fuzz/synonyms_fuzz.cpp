@@ -1,4 +1,3 @@
-#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -9,10 +8,10 @@
 namespace fragsmith {
 namespace {
 
-/// What of the words the file can hold.
+/// What the file can hold of the words: no quotes and no empty one.
 std::vector<std::string> Storable(std::vector<std::string> words) {
-  std::erase(words, "");
   for (std::string& word : words) std::erase(word, '"');
+  std::erase(words, "");
   return words;
 }
 
@@ -28,14 +27,8 @@ void FuzzOne(std::string_view bytes) {
   const std::string written = FormatSynonyms(list);
   const ParsedSynonyms again = ParseSynonyms(written);
   Expect(again.is_whole, "our own file is whole");
-  std::vector<std::string> words = Storable(list.words);
-  // A word of quotes alone comes back empty, which is no word.
-  std::erase(words, "");
-  std::vector<std::string> kept = again.list.words;
-  std::erase(kept, "");
-  Expect(kept == words, "all words are kept");
-  ExpectEqual(written.substr(0, 8), FormatSynonyms(again.list).substr(0, 8),
-              "the header stays");
+  Expect(Storable(again.list.words) == Storable(list.words),
+         "all words are kept");
 
   constexpr std::size_t kSomeText = 300;
   const std::string text(bytes.substr(0, kSomeText));

@@ -2,6 +2,7 @@
 #define FRAGSMITH_BOTFILES_HEADER_COMMENT_H_
 
 #include <string>
+#include <string_view>
 
 #include "model/bot.h"
 
@@ -17,6 +18,10 @@ struct Author {
 /// The seven comment lines at the top of every bot file. Without a name the
 /// author's other data are left out too.
 std::string HeaderComment(const Bot& bot, const Author& author);
+
+/// True for a file with a header of ours that has a version other than 0.0 or a
+/// comment. No reader takes these back, which its user should know.
+bool HeaderSaysMore(std::string_view bytes);
 
 }  // namespace fragsmith
 

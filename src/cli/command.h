@@ -17,7 +17,7 @@
 namespace fragsmith {
 
 /// What the program answers its caller with.
-enum ExitStatus { kDone = 0, kFailed = 1, kWrongUsage = 2 };
+enum ExitStatus { kDone = 0, kFailed = 1, kWrongUsage = 2, kWarned = 3 };
 
 /// What all commands share. Paths are in the form in which they were given.
 struct CommandContext {
@@ -44,6 +44,9 @@ struct CommandContext {
 void AddNewCommand(CLI::App& app, CommandContext& context);
 void AddMakeCommand(CLI::App& app, CommandContext& context);
 void AddLoadCommand(CLI::App& app, CommandContext& context);
+void AddCheckCommand(CLI::App& app, CommandContext& context);
+void AddDiffCommand(CLI::App& app, CommandContext& context);
+void AddTryCommand(CLI::App& app, CommandContext& context);
 void AddScanCommand(CLI::App& app, CommandContext& context);
 void AddSettingsCommand(CLI::App& app, CommandContext& context);
 

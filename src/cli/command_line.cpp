@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "cli/command.h"
+#include "cli/terminal.h"
 #include "install/bot_list_file.h"
 #include "install/model_list_file.h"
 #include "support/files.h"
@@ -37,12 +38,14 @@ BaseLists LoadListsFor(CommandContext& context) {
 }
 
 ExitStatus Fail(CommandContext& context, const Error& error) {
-  context.err << "fragsmith-cli: " << Describe(error) << '\n';
+  context.err << "fragsmith-cli: " << Printable(Describe(error)) << '\n';
   return kFailed;
 }
 
 void PrintNotes(CommandContext& context, const Notes& notes) {
-  for (const Note& note : notes.list()) context.err << Describe(note) << '\n';
+  for (const Note& note : notes.list()) {
+    context.err << Printable(Describe(note)) << '\n';
+  }
   if (notes.left_out() > 0) {
     context.err << "... and " << notes.left_out() << " notes more.\n";
   }
@@ -57,6 +60,9 @@ int RunCommandLine(std::vector<std::string> arguments, std::istream& in,
   AddNewCommand(app, context);
   AddMakeCommand(app, context);
   AddLoadCommand(app, context);
+  AddCheckCommand(app, context);
+  AddDiffCommand(app, context);
+  AddTryCommand(app, context);
   AddScanCommand(app, context);
   AddSettingsCommand(app, context);
   try {

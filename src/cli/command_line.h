@@ -9,7 +9,8 @@
 namespace fragsmith {
 
 /// The whole command line program, given its arguments without its name; gives
-/// its exit status: 0 done, 1 refused or failed, 2 wrong usage.
+/// its exit status: 0 done, 1 refused or failed, 2 wrong usage; 3 for a check
+/// with warnings alone.
 int RunCommandLine(std::vector<std::string> arguments, std::istream& in,
                    std::ostream& out, std::ostream& err);
 

@@ -1,12 +1,10 @@
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <memory>
 #include <string>
 #include <system_error>
 
+#include "cli/bot_source.h"
 #include "cli/command.h"
-#include "session/bot_document.h"
 #include "session/save_bot.h"
 #include "support/files.h"
 
@@ -18,31 +16,6 @@ struct MakeOptions {
   std::string folder;
   SaveOptions save;
 };
-
-/// Reads one byte more than a document may have, so that a longer one shows.
-std::string ReadStream(std::istream& in) {
-  std::string bytes;
-  constexpr std::size_t kPiece = 65536;
-  std::string piece(kPiece, '\0');
-  while (in && bytes.size() <= kMostDocumentBytes) {
-    in.read(piece.data(), static_cast<std::streamsize>(piece.size()));
-    bytes.append(piece, 0, static_cast<std::size_t>(in.gcount()));
-  }
-  return bytes;
-}
-
-Result<BotDocument> ReadDocument(const std::string& name, std::istream& in) {
-  const bool is_stream = name == "-";
-  const Result<std::string> bytes =
-      is_stream ? Result<std::string>(ReadStream(in))
-                : ReadFile(PathFromBytes(name), kMostDocumentBytes);
-  if (!bytes) return Failure(bytes.error());
-  Result<BotDocument> document = ReadBotDocument(*bytes);
-  if (!document) {
-    document.error().file = is_stream ? "standard input" : name;
-  }
-  return document;
-}
 
 ExitStatus RunMake(const MakeOptions& options, CommandContext& context) {
   Result<BotDocument> document = ReadDocument(options.document, context.in);

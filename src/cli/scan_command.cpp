@@ -47,16 +47,16 @@ void PrintText(const BaseLists& lists, std::ostream& out) {
   out << "Models (" << lists.models.models().size() << "), with their skins ("
       << lists.models.CountSkins() << "):\n";
   for (const ModelEntry& model : lists.models.models()) {
-    out << "  " << Utf8FromGameText(model.Name) << ':';
+    out << "  " << Printable(Utf8FromGameText(model.Name)) << ':';
     for (const SkinEntry& skin : model.Skins) {
-      out << ' ' << Utf8FromGameText(skin.Name);
+      out << ' ' << Printable(Utf8FromGameText(skin.Name));
     }
     out << '\n';
   }
   out << "Bots (" << lists.bots.entries().size()
       << "), with their package and whether it has a description:\n";
   for (const BotListEntry& bot : lists.bots.entries()) {
-    out << "  " << Utf8FromGameText(BotListLine(bot)) << '\n';
+    out << "  " << Printable(Utf8FromGameText(BotListLine(bot))) << '\n';
   }
 }
 

@@ -1,12 +1,22 @@
 #include "cli/terminal.h"
 
 #ifdef _WIN32
+#include <fcntl.h>
 #include <io.h>
+#include <windows.h>
 #else
 #include <unistd.h>
 #endif
 
 namespace fragsmith {
+
+void PrepareTerminal() {
+#ifdef _WIN32
+  ::SetConsoleOutputCP(CP_UTF8);
+  // Line ends stay as they are written.
+  for (const int stream : {1, 2}) ::_setmode(stream, _O_BINARY);
+#endif
+}
 
 bool IsErrorTerminal() {
   constexpr int kStandardError = 2;
@@ -15,6 +25,26 @@ bool IsErrorTerminal() {
 #else
   return ::isatty(kStandardError) != 0;
 #endif
+}
+
+std::string Printable(std::string_view utf8) {
+  constexpr std::string_view kReplacement = "\xEF\xBF\xBD";
+  std::string text;
+  text.reserve(utf8.size());
+  for (std::size_t at = 0; at < utf8.size(); ++at) {
+    const auto byte = static_cast<unsigned char>(utf8[at]);
+    // U+0080 to U+009F, which some terminals obey, are two bytes.
+    const bool is_upper_control =
+        byte == 0xC2 && at + 1 < utf8.size() &&
+        (static_cast<unsigned char>(utf8[at + 1]) & 0xE0U) == 0x80U;
+    if (is_upper_control) ++at;
+    if (is_upper_control || (byte < 0x20 && byte != '\t') || byte == 0x7F) {
+      text += kReplacement;
+    } else {
+      text += utf8[at];
+    }
+  }
+  return text;
 }
 
 }  // namespace fragsmith

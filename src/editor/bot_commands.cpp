@@ -1,80 +1,77 @@
 #include "editor/bot_commands.h"
 
-#include <QCoreApplication>
-#include <QProgressDialog>
+#include <algorithm>
 #include <utility>
 
 #include "editor/game_text_conversion.h"
 #include "install/game_folder.h"
-#include "session/load_from_package.h"
+#include "session/bot_sources.h"
 #include "session/presets.h"
-#include "session/save_bot.h"
 #include "support/files.h"
 #include "support/text.h"
 
 namespace fragsmith {
+namespace fs = std::filesystem;
 namespace {
 
-constexpr int kWholeBotKind = 0;
 constexpr int kSaveKind = 5;
 
-/// The name of the bot whose characteristic file this is.
-std::optional<std::string> BotNameOfFile(const std::filesystem::path& path) {
-  const std::string_view suffix = FileSuffix(BotFile::kCharacteristics);
-  std::optional<std::string> name = GameTextFromPath(path.filename());
-  if (!name || !EndsWithIgnoringCase(*name, suffix)) return std::nullopt;
-  name->resize(name->size() - suffix.size());
-  return name;
+constexpr const char* kLoadQuestion =
+    "The current bot has changed. Do want to load a new bot and lose unsaved "
+    "work on this one?";
+
+QString Shown(const fs::path& path) {
+  return QString::fromStdString(Utf8FromPath(path));
 }
 
-/// Disables the window for the time of its life, so that nothing is edited
-/// while events are let through.
-class Busy {
- public:
-  explicit Busy(QWidget& window) : window_(window) {
-    window_.setEnabled(false);
-  }
-  Busy(const Busy&) = delete;
-  Busy& operator=(const Busy&) = delete;
-  ~Busy() { window_.setEnabled(true); }
-
- private:
-  QWidget& window_;
-};
+/// True for a file in the game's layout, with the layout's own spelling.
+bool IsInLayout(const fs::path& file) {
+  return Contains(file.generic_string(), kBotFilesFolder);
+}
 
 }  // namespace
 
 BotCommands::BotCommands(CurrentBot& current, ProgramState& state,
                          QWidget& window)
-    : QObject(&window), current_(current), state_(state), window_(window) {}
+    : QObject(&window),
+      current_(current),
+      state_(state),
+      window_(window),
+      loader_(state, window) {}
 
 bool BotCommands::MayLoseChanges(const std::string& question) {
   return !current_.is_changed() ||
          state_.prompts.Confirm(std::string(kProgramTitle), question);
 }
 
-void BotCommands::ShowNewBot(Bot bot) {
+void BotCommands::ShowNewBot(Bot bot, const QString& name) {
   if (!MayLoseChanges("The current bot has changed. Do you want to create a "
                       "new bot and lose unsaved work on this one?")) {
     return;
   }
   last_load_ = {};
-  current_.Replace(std::move(bot), false);
+  target_.reset();
+  on_disk_.Forget();
+  current_.Replace(std::move(bot), false, name);
   emit Loaded({}, false);
 }
 
-void BotCommands::CreateZeroBot() { ShowNewBot(fragsmith::CreateZeroBot()); }
-
-void BotCommands::CreateAverageBot() {
-  ShowNewBot(fragsmith::CreateAverageBot(state_.random));
+void BotCommands::CreateZeroBot() {
+  ShowNewBot(fragsmith::CreateZeroBot(), QStringLiteral("New bot, all zeros"));
 }
 
-std::optional<OpenChoice> BotCommands::AskForFiles(int kind) {
+void BotCommands::CreateAverageBot() {
+  ShowNewBot(fragsmith::CreateAverageBot(state_.random),
+             QStringLiteral("New bot, average"));
+}
+
+std::optional<OpenChoice> BotCommands::AskForFiles(int kind,
+                                                   const BotList& bots) {
   if (last_folder_.empty()) last_folder_ = state_.folder_state.CurrentFolder;
   frmOpen dialog({.kind = static_cast<OpenKind>(kind),
                   .folder = last_folder_,
                   .options = options_,
-                  .bots = &state_.lists.bots,
+                  .bots = &bots,
                   .bot_name = ToQString(current_.bot().Name())},
                  state_.prompts, &window_);
   const bool is_accepted = dialog.exec() == QDialog::Accepted;
@@ -85,123 +82,192 @@ std::optional<OpenChoice> BotCommands::AskForFiles(int kind) {
   return choice;
 }
 
+bool BotCommands::TakeDraft(const Bot& bot) {
+  if (!MayLoseChanges(kLoadQuestion)) return false;
+  last_load_ = {};
+  target_.reset();
+  current_.Replace(bot, true, QStringLiteral("Restore it"));
+  return true;
+}
+
 void BotCommands::ShowOpenSaveForm(int kind) {
-  if (kind == kWholeBotKind &&
-      !MayLoseChanges("The current bot has changed. Do want to load a new bot "
-                      "and lose unsaved work on this one?")) {
-    return;
-  }
-  const std::optional<OpenChoice> choice = AskForFiles(kind);
+  if (kind == kWholeBotKind && !MayLoseChanges(kLoadQuestion)) return;
+  const std::optional<OpenChoice> choice = AskForFiles(kind, state_.lists.bots);
   if (!choice) return;
   if (kind == kSaveKind) {
-    Save(*choice);
+    Save({.folder = choice->folder,
+          .options = {.uses_layout = choice->options.saves_with_layout,
+                      .makes_package = choice->options.makes_package}});
   } else {
     frmOpenBot_GiveBot(kind, *choice);
   }
 }
 
-void BotCommands::frmOpenBot_GiveBot(int kind, const OpenChoice& choice) {
-  std::optional<LoadedBot> loaded = choice.bot_of_list
-                                        ? LoadListed(kind, choice)
-                                        : LoadChosenFile(kind, choice);
-  if (!loaded) return;
-  last_load_ = std::move(*loaded);
-  // One file more makes a bot that no file holds.
-  current_.Replace(last_load_.bot, kind != kWholeBotKind);
-  emit Loaded(last_load_.notes, !last_load_.plain_values.empty());
-}
-
-void BotCommands::OpenFile(const std::filesystem::path& path) {
-  OpenChoice choice;
-  choice.file = std::filesystem::absolute(path).lexically_normal();
-  choice.options.loads_with_layout =
-      Contains(BytesFromPath(*choice.file), kBotFilesFolder);
-  frmOpenBot_GiveBot(kWholeBotKind, choice);
-}
-
-std::optional<LoadedBot> BotCommands::LoadListed(int kind,
-                                                 const OpenChoice& choice) {
-  const BotListEntry entry = state_.lists.bots.entries()[*choice.bot_of_list];
-  if (state_.settings.Q3Baseq3.empty()) {
-    state_.prompts.Show({.title = "Can't check folder",
-                         .text = "Quake III Arena folder isn't set. Use "
-                                 "'Program/Options' to set it.",
-                         .icon = MessageIcon::kExclamation});
-    return std::nullopt;
+std::optional<LoadedBot> BotCommands::Load(int kind, const OpenChoice& choice) {
+  if (choice.bot_of_list) {
+    const BotListEntry entry = state_.lists.bots.entries()[*choice.bot_of_list];
+    return loader_.FromList(kind, entry, choice.options, current_.bot());
   }
-  if (!state_.folder_state.WinZipFound) {
-    state_.prompts.Show(
-        {.title = "Sorry!",
-         .text = "Loading bot files from Pk3-files requires WinZip and WinZip "
-                 "command line support add-on. If have these then select the "
-                 "WinZip directory from Program/Options",
-         .icon = MessageIcon::kInformation});
-    return std::nullopt;
-  }
-  QProgressDialog progress(
-      QStringLiteral("Loading %1...").arg(ToQString(entry.Name)),
-      QStringLiteral("Cancel"), 0, 0, &window_);
-  progress.setMinimumDuration(400);
-  const Busy busy(window_);
-  const UnzipTool tool = state_.Tool([&progress] {
-    QCoreApplication::processEvents();
-    return !progress.wasCanceled();
-  });
-  const bool is_whole = kind == kWholeBotKind;
-  std::optional<LoadedBot> loaded = LoadBotFromPackage(
-      {.package = PackageFolder(PathFromBytes(state_.settings.Q3Baseq3)) /
-                  PathFromGameText(entry.PK3File),
-       .name = entry.Name,
-       .LoType = is_whole ? kWholeBot : kind,
-       .withScript = choice.options.loads_description && entry.HasBotScript,
-       .loads_description = choice.options.loads_description},
-      current_.bot(), tool, state_.temporary, state_.Environment());
+  const fs::path file = choice.file.value_or("");
+  std::optional<LoadedBot> loaded =
+      loader_.FromFile(kind, file, choice.options, current_.bot());
   if (!loaded) {
-    state_.prompts.Show(
-        {.title = "Operation cancelled!",
-         .text = "Bot " + Utf8FromGameText(entry.Name) + " not loaded.",
-         .icon = MessageIcon::kInformation});
+    emit StatusText(
+        QStringLiteral("%1 was not loaded: its name does not end as it should.")
+            .arg(Shown(file.filename())));
   }
   return loaded;
 }
 
-std::optional<LoadedBot> BotCommands::LoadChosenFile(int kind,
-                                                     const OpenChoice& choice) {
-  const std::filesystem::path path = choice.file.value_or("");
-  if (kind == kWholeBotKind) {
-    if (const std::optional<std::string> name = BotNameOfFile(path)) {
-      return LoadBotFromFolder(
-          *name, path.parent_path(),
-          {choice.options.loads_with_layout, choice.options.loads_description},
-          state_.Environment());
-    }
-  } else {
-    LoadedBot loaded;
-    loaded.bot = current_.bot();
-    if (LoadSingleFile(static_cast<BotFile>(kind), path, loaded,
-                       state_.prompts)) {
-      return loaded;
-    }
+void BotCommands::frmOpenBot_GiveBot(int kind, const OpenChoice& choice) {
+  RecentBot source = {choice.file.value_or(""), {}};
+  if (choice.bot_of_list) {
+    const BotListEntry& entry =
+        state_.lists.bots.entries()[*choice.bot_of_list];
+    source = {PackageFolder(PathFromBytes(state_.settings.Q3Baseq3)) /
+                  PathFromGameText(entry.PK3File),
+              entry.Name};
   }
-  emit StatusText(
-      QStringLiteral("%1 was not loaded: its name does not end as it should.")
-          .arg(QString::fromStdString(Utf8FromPath(path.filename()))));
-  return std::nullopt;
+  Take(kind, Load(kind, choice), source);
 }
 
-void BotCommands::Save(const OpenChoice& choice) {
-  const SavedBot saved =
-      SaveBot(current_.bot(), choice.folder,
-              {.uses_layout = choice.options.saves_with_layout,
-               .makes_package = choice.options.makes_package},
-              AuthorOf(state_.settings), state_.prompts);
+std::optional<std::pair<Bot, QString>> BotCommands::LoadToCompare() {
+  const std::optional<OpenChoice> choice =
+      AskForFiles(kWholeBotKind, state_.lists.bots);
+  if (!choice) return std::nullopt;
+  std::optional<LoadedBot> loaded = Load(kWholeBotKind, *choice);
+  if (!loaded || loaded->files_read == 0) return std::nullopt;
+  QString title = ToQString(loaded->bot.Name());
+  return std::pair(std::move(loaded->bot), std::move(title));
+}
+
+void BotCommands::Take(int kind, std::optional<LoadedBot> loaded,
+                       const std::optional<RecentBot>& source) {
+  if (!loaded) return;
+  const bool is_whole = kind == kWholeBotKind;
+  last_load_ = *std::move(loaded);
+  // One file more makes a bot that no file holds.
+  current_.Replace(
+      last_load_.bot, !is_whole,
+      is_whole ? QStringLiteral("Load %1").arg(ToQString(last_load_.bot.Name()))
+               : QStringLiteral("Load a file"));
+  if (is_whole) {
+    target_.reset();
+    on_disk_.Forget();
+    if (source->name.empty()) {
+      const bool is_in_layout = IsInLayout(source->path);
+      const fs::path folder = source->path.parent_path();
+      target_ =
+          Target{is_in_layout ? folder.parent_path().parent_path() : folder,
+                 {.uses_layout = is_in_layout, .makes_package = false}};
+      on_disk_.Remember(
+          TargetFiles(current_.bot(), target_->folder, target_->options));
+    }
+    if (last_load_.files_read > 0) recent_.Add(*source);
+  }
+  emit Loaded(last_load_.notes, !last_load_.plain_values.empty());
+}
+
+void BotCommands::OpenPath(const fs::path& path) {
+  const fs::path whole = fs::absolute(path).lexically_normal();
+  if (IsFolder(whole)) return OpenFolder(whole);
+  const bool is_package =
+      EndsWithIgnoringCase(BytesFromPath(whole.filename()), ".pk3");
+  if (!IsFile(whole) || !(is_package || BotNameOfFile(whole))) {
+    emit StatusText(QStringLiteral("%1 is no bot: give a folder, a *_c.c file "
+                                   "or a *.pk3 package.")
+                        .arg(Shown(whole)));
+    return;
+  }
+  if (is_package) return OpenPackage(whole, {});
+  if (!MayLoseChanges(kLoadQuestion)) return;
+  OpenChoice choice;
+  choice.file = whole;
+  choice.options.loads_with_layout = IsInLayout(whole);
+  frmOpenBot_GiveBot(kWholeBotKind, choice);
+}
+
+void BotCommands::OpenFolder(const fs::path& folder) {
+  for (const fs::path& place : {folder, folder / kBotFilesFolder}) {
+    const std::vector<fs::path> files =
+        ListFiles(place, FileSuffix(BotFile::kCharacteristics));
+    if (files.empty()) continue;
+    last_folder_ = place;
+    if (files.size() == 1) return OpenPath(place / files.front());
+    return ShowOpenSaveForm(kWholeBotKind);
+  }
+  emit StatusText(QStringLiteral("There is no bot in %1.").arg(Shown(folder)));
+}
+
+void BotCommands::OpenPackage(const fs::path& package,
+                              const std::string& wanted) {
+  Notes notes;
+  const Result<BotList> bots = BotsInPackage(package, notes);
+  if (!bots) {
+    state_.prompts.Show({.title = std::string(kProgramTitle),
+                         .text = Describe(bots.error()),
+                         .icon = MessageIcon::kExclamation});
+    return;
+  }
+  if (bots->entries().empty()) {
+    emit StatusText(
+        QStringLiteral("There is no bot in %1.").arg(Shown(package)));
+    return;
+  }
+  if (!MayLoseChanges(kLoadQuestion)) return;
+  std::size_t place = bots->Find(wanted).value_or(0);
+  OpenOptions options;
+  if (wanted.empty() && bots->entries().size() > 1) {
+    const std::optional<OpenChoice> choice = AskForFiles(kWholeBotKind, *bots);
+    if (!choice) return;
+    if (!choice->bot_of_list) return frmOpenBot_GiveBot(kWholeBotKind, *choice);
+    place = *choice->bot_of_list;
+    options = choice->options;
+  }
+  const BotListEntry& entry = bots->entries()[place];
+  Take(kWholeBotKind,
+       loader_.FromPackage(kWholeBotKind, entry, package, options,
+                           current_.bot()),
+       RecentBot{package, entry.Name});
+}
+
+void BotCommands::OpenRecent(const RecentBot& bot) {
+  if (bot.name.empty()) {
+    OpenPath(bot.path);
+  } else {
+    OpenPackage(bot.path, bot.name);
+  }
+}
+
+void BotCommands::SaveAgain() {
+  if (target_) {
+    Save(Target(*target_));
+  } else {
+    ShowOpenSaveForm(kSaveKind);
+  }
+}
+
+void BotCommands::Save(const Target& target) {
+  const std::vector<fs::path> files =
+      TargetFiles(current_.bot(), target.folder, target.options);
+  const std::optional<fs::path> changed = on_disk_.FirstChanged(files);
+  if (changed && !state_.prompts.Confirm(
+                     std::string(kProgramTitle),
+                     Utf8FromPath(*changed) +
+                         " was changed by another program since the bot was "
+                         "loaded. Do you want to overwrite it?")) {
+    return;
+  }
+  const SavedBot saved = SaveBot(current_.bot(), target.folder, target.options,
+                                 AuthorOf(state_.settings), state_.prompts);
   if (saved.counts_package) ++state_.settings.Bots;
-  constexpr std::size_t kFilesOfSet = 5;
-  if (saved.written.size() >= kFilesOfSet) {
+  on_disk_.Remember(files);
+  if (saved.written.size() >= files.size()) {
+    target_ = target;
+    recent_.Add({files.front(), {}});
     current_.SetChanged(false);
     emit StatusText(
-        QStringLiteral("The bot was written to %1.")
-            .arg(QString::fromStdString(Utf8FromPath(choice.folder))));
+        QStringLiteral("The bot was written to %1.").arg(Shown(target.folder)));
   } else if (saved.error) {
     state_.prompts.Show({.title = std::string(kProgramTitle),
                          .text = Describe(*saved.error),
@@ -213,7 +279,8 @@ void BotCommands::TakeValuesAsGame() {
   // What was edited since the load stays; only the odd values give way.
   last_load_.bot = current_.bot();
   fragsmith::TakeValuesAsGame(last_load_, state_.lists.models);
-  current_.Replace(last_load_.bot, true);
+  current_.Replace(last_load_.bot, true,
+                   QStringLiteral("Take the values as the game reads them"));
 }
 
 }  // namespace fragsmith

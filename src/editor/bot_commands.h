@@ -3,13 +3,18 @@
 
 #include <QWidget>
 #include <filesystem>
-#include <functional>
 #include <optional>
+#include <string>
+#include <utility>
 
+#include "editor/bot_loader.h"
 #include "editor/current_bot.h"
 #include "editor/dialogs/open_dialog.h"
 #include "editor/program_state.h"
+#include "editor/recent_bots.h"
+#include "session/disk_state.h"
 #include "session/load_bot.h"
+#include "session/save_bot.h"
 
 namespace fragsmith {
 
@@ -33,13 +38,31 @@ class BotCommands : public QObject {
   /// the open dialog.
   void ShowOpenSaveForm(int kind);
 
-  /// Loads the bot of a characteristic file. The description is looked for
-  /// where the game's layout has it when the file lies in one.
-  void OpenFile(const std::filesystem::path& path);
+  /// Loads what a path leads to: a characteristic file, the bot of a folder
+  /// or package, or one that is chosen where there are several. The
+  /// description is looked for where the game's layout has it when a file
+  /// lies in one.
+  void OpenPath(const std::filesystem::path& path);
+
+  void OpenRecent(const RecentBot& bot);
+
+  /// Writes the bot to where it was last written or loaded from, with the
+  /// options of then; opens the dialog when there is no such place.
+  void SaveAgain();
+
+  /// Puts a bot that was never saved in the place of the current one. False
+  /// when the user would rather keep that.
+  bool TakeDraft(const Bot& bot);
+
+  /// Lets the user choose and loads another bot, with what it is called; the
+  /// current one stays as it is. Nothing when that came to nothing, told.
+  std::optional<std::pair<Bot, QString>> LoadToCompare();
 
   /// Puts the values that the game reads in the place of those that the last
   /// load took otherwise.
   void TakeValuesAsGame();
+
+  RecentBots& recent() { return recent_; }
 
  signals:
   /// A load came to its end; its notes are to be shown.
@@ -47,22 +70,36 @@ class BotCommands : public QObject {
   void StatusText(const QString& text);
 
  private:
-  bool MayLoseChanges(const std::string& question);
-  void ShowNewBot(Bot bot);
-  std::optional<OpenChoice> AskForFiles(int kind);
+  /// Where a bot was written, and how.
+  struct Target {
+    std::filesystem::path folder;
+    SaveOptions options;
+  };
 
+  bool MayLoseChanges(const std::string& question);
+  void ShowNewBot(Bot bot, const QString& name);
+  std::optional<OpenChoice> AskForFiles(int kind, const BotList& bots);
+
+  std::optional<LoadedBot> Load(int kind, const OpenChoice& choice);
   void frmOpenBot_GiveBot(int kind, const OpenChoice& choice);
-  std::optional<LoadedBot> LoadListed(int kind, const OpenChoice& choice);
-  std::optional<LoadedBot> LoadChosenFile(int kind, const OpenChoice& choice);
-  void Save(const OpenChoice& choice);
+  void OpenFolder(const std::filesystem::path& folder);
+  void OpenPackage(const std::filesystem::path& package,
+                   const std::string& wanted);
+  void Take(int kind, std::optional<LoadedBot> loaded,
+            const std::optional<RecentBot>& source);
+  void Save(const Target& target);
 
   CurrentBot& current_;
   ProgramState& state_;
   QWidget& window_;
+  BotLoader loader_;
+  RecentBots recent_;
   /// The folder of the open dialog within this run; empty at its start.
   std::filesystem::path last_folder_;
   OpenOptions options_;
   LoadedBot last_load_;
+  std::optional<Target> target_;
+  DiskState on_disk_;
 };
 
 }  // namespace fragsmith

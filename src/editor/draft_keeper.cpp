@@ -1,5 +1,7 @@
 #include "editor/draft_keeper.h"
 
+#include <optional>
+#include <string>
 #include <system_error>
 #include <utility>
 
@@ -7,29 +9,17 @@
 #include "support/files.h"
 
 namespace fragsmith {
+namespace fs = std::filesystem;
 namespace {
 
 /// Long enough not to write at each step of a slider that is dragged.
 constexpr int kPauseMilliseconds = 1000;
 
-}  // namespace
+/// With so many editors and crashes one may go without a draft.
+constexpr int kMostDrafts = 9;
 
-DraftKeeper::DraftKeeper(std::filesystem::path program_folder,
-                         CurrentBot& current, QObject* parent)
-    : QObject(parent),
-      file_(std::move(program_folder) / "fgs.draft"),
-      current_(current) {
-  timer_.setSingleShot(true);
-  timer_.setInterval(kPauseMilliseconds);
-  connect(&timer_, &QTimer::timeout, this, &DraftKeeper::SaveNow);
-  connect(&current, &CurrentBot::ParameterEdited, this, &DraftKeeper::Schedule);
-  connect(&current, &CurrentBot::ChatsEdited, this, &DraftKeeper::Schedule);
-  connect(&current, &CurrentBot::Replaced, this, &DraftKeeper::Schedule);
-  connect(&current, &CurrentBot::ChangedFlagSet, this, &DraftKeeper::Schedule);
-}
-
-std::optional<Bot> DraftKeeper::LeftBehind() const {
-  const Result<std::string> bytes = ReadFile(file_, kMostDocumentBytes);
+std::optional<Bot> ReadDraft(const fs::path& file) {
+  const Result<std::string> bytes = ReadFile(file, kMostDocumentBytes);
   if (!bytes) return std::nullopt;
   Result<BotDocument> document = ReadBotDocument(*bytes);
   if (!document) return std::nullopt;
@@ -40,10 +30,58 @@ std::optional<Bot> DraftKeeper::LeftBehind() const {
   return std::move(document->bot);
 }
 
+void Remove(const fs::path& file) {
+  std::error_code ignored;
+  fs::remove(file, ignored);
+}
+
+}  // namespace
+
+DraftKeeper::DraftKeeper(const fs::path& program_folder, CurrentBot& current,
+                         QObject* parent)
+    : QObject(parent), current_(current) {
+  for (int number = 1; number <= kMostDrafts; ++number) {
+    Draft draft;
+    draft.file =
+        program_folder / (number == 1 ? std::string("fgs.draft")
+                                      : "fgs.draft" + std::to_string(number));
+    if (!own_.file.empty() && !IsFile(draft.file)) continue;
+    draft.lock = std::make_unique<QLockFile>(
+        QString::fromStdString(BytesFromPath(draft.file)) +
+        QStringLiteral(".lock"));
+    // A lock is as old as its program runs; it is let go when that is gone.
+    draft.lock->setStaleLockTime(0);
+    if (!draft.lock->tryLock(0)) continue;
+    if (std::optional<Bot> bot = ReadDraft(draft.file)) {
+      draft.bot = std::move(*bot);
+      left_behind_.push_back(std::move(draft));
+    } else if (own_.file.empty()) {
+      own_ = std::move(draft);
+    }
+  }
+  timer_.setSingleShot(true);
+  timer_.setInterval(kPauseMilliseconds);
+  connect(&timer_, &QTimer::timeout, this, &DraftKeeper::SaveNow);
+  connect(&current, &CurrentBot::ParameterEdited, this, &DraftKeeper::Schedule);
+  connect(&current, &CurrentBot::ChatsEdited, this, &DraftKeeper::Schedule);
+  connect(&current, &CurrentBot::Replaced, this, &DraftKeeper::Schedule);
+  connect(&current, &CurrentBot::Stepped, this, &DraftKeeper::Schedule);
+  connect(&current, &CurrentBot::ChangedFlagSet, this, &DraftKeeper::Schedule);
+}
+
+const Bot* DraftKeeper::LeftBehind() const {
+  return left_behind_.empty() ? nullptr : &left_behind_.front().bot;
+}
+
+void DraftKeeper::DropLeftBehind() {
+  if (left_behind_.empty()) return;
+  Remove(left_behind_.front().file);
+  left_behind_.pop_front();
+}
+
 void DraftKeeper::Discard() {
   timer_.stop();
-  std::error_code ignored;
-  std::filesystem::remove(file_, ignored);
+  if (!own_.file.empty()) Remove(own_.file);
 }
 
 void DraftKeeper::Schedule() { timer_.start(); }
@@ -53,7 +91,9 @@ void DraftKeeper::SaveNow() {
   if (!current_.is_changed()) return Discard();
   // A draft that cannot be written is no reason to disturb the user, who has
   // the bot before him.
-  (void)SaveFile(file_, WriteBotDocument(current_.bot()));
+  if (!own_.file.empty()) {
+    (void)SaveFile(own_.file, WriteBotDocument(current_.bot()));
+  }
 }
 
 }  // namespace fragsmith

@@ -1,22 +1,31 @@
 #include "editor/frm_main.h"
 
 #include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QDropEvent>
 #include <QGuiApplication>
 #include <QHBoxLayout>
+#include <QMimeData>
 #include <QScreen>
 #include <QStatusBar>
+#include <QTimer>
+#include <QUrl>
 #include <QVBoxLayout>
+#include <utility>
 
 #include "editor/dialogs/about_dialog.h"
-#include "editor/dialogs/model_dialog.h"
+#include "editor/dialogs/compare_dialog.h"
 #include "editor/dialogs/options_dialog.h"
 #include "editor/dialogs/search_progress.h"
+#include "editor/dialogs/try_dialog.h"
+#include "editor/finding_marks.h"
 #include "editor/game_text_conversion.h"
 #include "editor/main_menu.h"
 #include "editor/pages/page_table.h"
 #include "editor/window_state.h"
 #include "install/model_commands.h"
 #include "session/presets.h"
+#include "support/files.h"
 
 namespace fragsmith {
 namespace {
@@ -41,21 +50,33 @@ frmMain::frmMain(ProgramState& state) : state_(state) {
   auto* const column = new QVBoxLayout(content);
   auto* const panel = new QHBoxLayout;
   panel->setSpacing(18);
-  panel->addWidget(identity_, 3);
-  panel->addWidget(models_, 2);
+  panel->addWidget(identity_, 8);
+  panel->addWidget(models_, 5);
   column->addLayout(panel);
   column->addWidget(notes_);
   column->addWidget(tbsBotPara_, 1);
   setCentralWidget(content);
   statusBar();
 
+  navigator_ =
+      std::make_unique<PageNavigator>(*this, *tbsBotPara_, *chat_page_);
   commands_ = new BotCommands(current_, state_, *this);
+  edits_ = new EditCommands(current_, *identity_, *navigator_, *this);
+  edits_->Attach(*menuBar());
   draft_ = new DraftKeeper(state_.folders.program, current_, this);
+  model_list_ = std::make_unique<ModelListCommands>(state_, *models_, *this);
+  BuildFindings();
   Connect();
   RestoreLook();
   models_->RefreshIcon();
   commands_->CreateZeroBot();
-  if (const std::optional<Bot> left = draft_->LeftBehind()) {
+  current_.ForgetSteps();
+  setAcceptDrops(true);
+  OfferDraft();
+}
+
+void frmMain::OfferDraft() {
+  if (const Bot* const left = draft_->LeftBehind()) {
     notes_->OfferDraft(ToQString(left->Name()));
   }
 }
@@ -80,6 +101,27 @@ void frmMain::BuildMenu() {
       {QStringLiteral("mnuOptions"), [this] { ShowOptions(); }},
       {QStringLiteral("mnuAbout"), [this] { frmAbout(this).exec(); }},
       {QStringLiteral("mnuExit"), [this] { close(); }},
+      {QStringLiteral("mnuTry"), [this] { TryInGame(); }},
+      {QStringLiteral("mnuCompareAverage"),
+       [this] {
+         Compare(CreateAverageBot(state_.random), QStringLiteral("Average"));
+       }},
+      {QStringLiteral("mnuCompareZero"),
+       [this] { Compare(CreateZeroBot(), QStringLiteral("All zeros")); }},
+      {QStringLiteral("mnuCompareOther"),
+       [this] {
+         const auto other = commands_->LoadToCompare();
+         if (other) Compare(other->first, other->second);
+       }},
+      {QStringLiteral("mnuFindings"), [this] { findings_->Toggle(); }},
+      {QStringLiteral("mnuUndo"), [this] { edits_->Undo(); }},
+      {QStringLiteral("mnuRedo"), [this] { edits_->Redo(); }},
+      {QStringLiteral("mnuFind"), [this] { edits_->Find(); }},
+      {QStringLiteral("mnuReset"), [this] { edits_->ResetFocused(); }},
+      {QStringLiteral("mnuSaveAgain"),
+       [this] {
+         if (!identity_->CheckAllIn()) commands_->SaveAgain();
+       }},
       {QStringLiteral("mnuNewZero"), [this] { commands_->CreateZeroBot(); }},
       {QStringLiteral("mnuNewAverage"),
        [this] { commands_->CreateAverageBot(); }},
@@ -96,10 +138,11 @@ void frmMain::BuildMenu() {
       {QStringLiteral("mnuChatFile"),
        [this] { commands_->ShowOpenSaveForm(2); }},
       {QStringLiteral("mnuCheck"), [this] { CheckBaseq3(); }},
-      {QStringLiteral("mnuModelAdd"), [this] { AddModel(); }},
-      {QStringLiteral("mnuSkinAdd"), [this] { AddSkin(); }},
-      {QStringLiteral("mnuModelRemove"), [this] { RemoveModel(); }},
-      {QStringLiteral("mnuSkinRemove"), [this] { RemoveSkin(); }},
+      {QStringLiteral("mnuModelAdd"), [this] { model_list_->AddModel(); }},
+      {QStringLiteral("mnuSkinAdd"), [this] { model_list_->AddSkin(); }},
+      {QStringLiteral("mnuModelRemove"),
+       [this] { model_list_->RemoveModel(); }},
+      {QStringLiteral("mnuSkinRemove"), [this] { model_list_->RemoveSkin(); }},
       {QStringLiteral("mnuExtraChat"),
        [this] { chat_page_->AddExtraChatsToBot(); }},
       {QStringLiteral("mnuDeleteChats"),
@@ -107,7 +150,15 @@ void frmMain::BuildMenu() {
       {QStringLiteral("mnuSyn"),
        [this] { AskForSynonym(state_.synonyms, state_.prompts); }},
   };
+  for (const int from : kSkillLevels) {
+    for (const int to : kSkillLevels) {
+      menu_[QStringLiteral("mnuCopyLevel_%1_%2").arg(from).arg(to)] =
+          [this, from, to] { edits_->CopyLevel(from, to); };
+    }
+  }
   FillMainMenu(*menuBar(), [this](const QString& name) { menu_.at(name)(); });
+  connect(menuBar()->findChild<QMenu*>(QStringLiteral("mnuRecent")),
+          &QMenu::aboutToShow, this, &frmMain::FillRecentBots);
 }
 
 void frmMain::Connect() {
@@ -120,13 +171,24 @@ void frmMain::Connect() {
   connect(commands_, &BotCommands::Loaded, notes_, &NotesBar::ShowNotes);
   connect(notes_, &NotesBar::TakeAsGame, commands_,
           &BotCommands::TakeValuesAsGame);
-  connect(notes_, &NotesBar::DiscardDraft, draft_, &DraftKeeper::Discard);
   connect(notes_, &NotesBar::TakeDraft, this, [this] {
-    if (std::optional<Bot> left = draft_->LeftBehind()) {
-      current_.Replace(std::move(*left), true);
+    const Bot* const left = draft_->LeftBehind();
+    if (left != nullptr && commands_->TakeDraft(*left)) {
+      draft_->SaveNow();
+      draft_->DropLeftBehind();
     }
+    OfferDraft();
+  });
+  connect(notes_, &NotesBar::DiscardDraft, this, [this] {
+    draft_->DropLeftBehind();
+    OfferDraft();
   });
   connect(&current_, &CurrentBot::Replaced, this, &frmMain::FillBotDataToForm);
+  connect(&current_, &CurrentBot::Stepped, this, &frmMain::ShowStep);
+  for (ParameterPage* const page : pages_) {
+    connect(page, &ParameterPage::ParameterMenuWanted, edits_,
+            &EditCommands::ShowParameterMenu);
+  }
   connect(&current_, &CurrentBot::ChangedFlagSet, this, &frmMain::ShowTitle);
   ShowTitle();
 }
@@ -144,6 +206,7 @@ void frmMain::RestoreLook() {
     resize(kFirstSize.boundedTo(screen.size()));
     move(screen.center() - rect().center());
   }
+  commands_->recent() = RecentBots(look.recent);
   tbsBotPara_->setCurrentIndex(qBound(0, look.page, tbsBotPara_->count() - 1));
 }
 
@@ -155,6 +218,94 @@ void frmMain::FillBotDataToForm() {
   chat_page_->ShowBot();
 }
 
+void frmMain::ShowStep(const FindingPlace& place) {
+  const CurrentBot::Filling filling(current_);
+  models_->ShowBot();
+  identity_->ShowBot();
+  for (ParameterPage* const page : pages_) page->ShowBot();
+  chat_page_->ShowAgain();
+  navigator_->Show(place);
+}
+
+void frmMain::BuildFindings() {
+  checker_ = new BotChecker(current_, this);
+  findings_ = new FindingsDock(this);
+  picture_ = new GamePicture(current_, findings_);
+  findings_->SetPicture(picture_);
+  addDockWidget(Qt::BottomDockWidgetArea, findings_);
+  statusBar()->addPermanentWidget(findings_->counter());
+  connect(checker_, &BotChecker::Checked, this, &frmMain::ShowFindings);
+  connect(findings_, &QDockWidget::visibilityChanged, picture_,
+          &GamePicture::ShowBot);
+  connect(findings_, &FindingsDock::GoTo, this,
+          [this](const FindingPlace& place) { navigator_->GoTo(place); });
+  connect(findings_, &FindingsDock::MendWanted, this,
+          [this](const FindingPlace& place, const Mend& mend) {
+            current_.Edit({.text = QString::fromStdString(mend.title),
+                           .place = place,
+                           .merges = false},
+                          mend.apply);
+          });
+}
+
+void frmMain::paintEvent(QPaintEvent* event) {
+  QMainWindow::paintEvent(event);
+  // The game's lists take some tenths of a second: the window is to be there
+  // first.
+  if (!std::exchange(has_read_game_, true)) {
+    QTimer::singleShot(0, this, &frmMain::ReadGame);
+  }
+}
+
+void frmMain::ReadGame() {
+  chat_page_->SetGame(nullptr);
+  checker_->ReadGame(PathFromBytes(state_.settings.Q3Baseq3));
+  chat_page_->SetGame(checker_->game());
+}
+
+void frmMain::ShowFindings() {
+  findings_->ShowFindings(checker_->findings());
+  MarkControls(*this, checker_->findings());
+  chat_page_->ShowMarks(checker_->findings());
+  picture_->ShowBot();
+}
+
+void frmMain::TryInGame() {
+  if (identity_->CheckAllIn()) return;
+  frmTry(current_.bot(), state_, this).exec();
+}
+
+void frmMain::Compare(const Bot& other, const QString& title) {
+  frmCompare(current_, other, title, this).exec();
+}
+
+void frmMain::FillRecentBots() {
+  auto* const menu = menuBar()->findChild<QMenu*>(QStringLiteral("mnuRecent"));
+  menu->clear();
+  for (const RecentBot& bot : commands_->recent().Present()) {
+    connect(menu->addAction(MenuText(bot)), &QAction::triggered, this,
+            [this, bot] { commands_->OpenRecent(bot); });
+  }
+  if (menu->isEmpty()) {
+    menu->addAction(QStringLiteral("(none)"))->setEnabled(false);
+  }
+}
+
+void frmMain::dragEnterEvent(QDragEnterEvent* event) {
+  const QList<QUrl> urls = event->mimeData()->urls();
+  if (urls.size() == 1 && urls.front().isLocalFile()) {
+    event->acceptProposedAction();
+  }
+}
+
+void frmMain::dropEvent(QDropEvent* event) {
+  event->acceptProposedAction();
+  const std::filesystem::path path = PathFromBytes(
+      event->mimeData()->urls().front().toLocalFile().toStdString());
+  // Its questions are not to keep the other program waiting.
+  QTimer::singleShot(0, this, [this, path] { commands_->OpenPath(path); });
+}
+
 void frmMain::closeEvent(QCloseEvent* event) {
   if (current_.is_changed() &&
       !state_.prompts.Confirm(std::string(kProgramTitle),
@@ -163,9 +314,10 @@ void frmMain::closeEvent(QCloseEvent* event) {
     event->ignore();
     return;
   }
-  SaveWindowState(
-      state_.folders.program,
-      {.geometry = saveGeometry(), .page = tbsBotPara_->currentIndex()});
+  SaveWindowState(state_.folders.program,
+                  {.geometry = saveGeometry(),
+                   .page = tbsBotPara_->currentIndex(),
+                   .recent = commands_->recent().ToStrings()});
   const Result<void> saved = state_.Save();
   if (!saved) {
     state_.prompts.Show({.title = std::string(kProgramTitle),
@@ -195,6 +347,7 @@ void frmMain::frmOption_SaveValues(const frmOptions& dialog) {
   }
   state_.InitByValues();
   models_->RefreshIcon();
+  ReadGame();
 }
 
 void frmMain::CheckBaseq3() {
@@ -215,43 +368,7 @@ void frmMain::CheckBaseq3() {
   if (!is_done) return;
   models_->RefillModelSelector(selection.modelIndex, selection.skinIndex);
   notes_->ShowNotes(notes, false);
-}
-
-void frmMain::AddModel() {
-  frmModelDialog dialog(state_.prompts, this);
-  if (dialog.exec() == QDialog::Accepted) frmModel_GiveName(dialog);
-}
-
-void frmMain::frmModel_GiveName(const frmModelDialog& dialog) {
-  const CatalogueSelection place = models_->Selection();
-  if (fragsmith::AddModel(state_.lists.models, dialog.Name(),
-                          dialog.CreatesRedAndBlue(), state_.prompts)) {
-    models_->RefillModelSelector(place.modelIndex, place.skinIndex);
-  }
-}
-
-void frmMain::AddSkin() {
-  const CatalogueSelection place = models_->Selection();
-  if (fragsmith::AddSkin(state_.lists.models, place.modelIndex,
-                         state_.prompts)) {
-    models_->RefillModelSelector(place.modelIndex, place.skinIndex);
-  }
-}
-
-void frmMain::RemoveModel() {
-  const CatalogueSelection place = models_->Selection();
-  if (fragsmith::RemoveModel(state_.lists.models, place.modelIndex,
-                             state_.prompts)) {
-    models_->RefillModelSelector(0, 0);
-  }
-}
-
-void frmMain::RemoveSkin() {
-  const CatalogueSelection place = models_->Selection();
-  if (fragsmith::RemoveSkin(state_.lists.models, place.modelIndex,
-                            place.skinIndex, state_.prompts)) {
-    models_->RefillModelSelector(place.modelIndex, 0);
-  }
+  ReadGame();
 }
 
 }  // namespace fragsmith

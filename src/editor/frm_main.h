@@ -7,12 +7,18 @@
 #include <memory>
 #include <vector>
 
+#include "editor/bot_checker.h"
 #include "editor/bot_commands.h"
 #include "editor/current_bot.h"
 #include "editor/draft_keeper.h"
+#include "editor/edit_commands.h"
+#include "editor/findings_dock.h"
+#include "editor/game_picture.h"
 #include "editor/identity_panel.h"
+#include "editor/model_list_commands.h"
 #include "editor/model_selector.h"
 #include "editor/notes_bar.h"
+#include "editor/page_navigator.h"
 #include "editor/page_strip.h"
 #include "editor/pages/chat_page.h"
 #include "editor/pages/parameter_page.h"
@@ -32,9 +38,10 @@ class frmMain : public QMainWindow {
 
   CurrentBot& current() { return current_; }
 
-  /// Loads the bot of a characteristic file, with its description.
-  void OpenFile(const std::filesystem::path& path) {
-    commands_->OpenFile(path);
+  /// Loads the bot that a path leads to: a characteristic file, a folder or a
+  /// package.
+  void OpenPath(const std::filesystem::path& path) {
+    commands_->OpenPath(path);
   }
 
   /// Shows the current bot in all controls; asks about a model or skin that
@@ -43,6 +50,9 @@ class frmMain : public QMainWindow {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
 
  private:
   void BuildPages();
@@ -50,18 +60,22 @@ class frmMain : public QMainWindow {
   void Connect();
   void RestoreLook();
   void ShowTitle();
+  /// After an edit that was made or taken back elsewhere than at its control.
+  void ShowStep(const FindingPlace& place);
+  void FillRecentBots();
+  void BuildFindings();
+  void ShowFindings();
+  void ReadGame();
+  void TryInGame();
+  void Compare(const Bot& other, const QString& title);
+  void OfferDraft();
 
   void ShowOptions();
   void CheckBaseq3();
-  void AddModel();
-  void AddSkin();
-  void RemoveModel();
-  void RemoveSkin();
   void MakeBotFiles();
 
-  /// The callbacks of the dialogs.
+  /// The callback of the dialog.
   void frmOption_SaveValues(const class frmOptions& dialog);
-  void frmModel_GiveName(const class frmModelDialog& dialog);
 
   ProgramState& state_;
   CurrentBot current_;
@@ -71,7 +85,14 @@ class frmMain : public QMainWindow {
   PageStrip* tbsBotPara_ = nullptr;
   std::vector<ParameterPage*> pages_;
   ChatPage* chat_page_ = nullptr;
+  std::unique_ptr<PageNavigator> navigator_;
   BotCommands* commands_ = nullptr;
+  std::unique_ptr<ModelListCommands> model_list_;
+  EditCommands* edits_ = nullptr;
+  BotChecker* checker_ = nullptr;
+  FindingsDock* findings_ = nullptr;
+  GamePicture* picture_ = nullptr;
+  bool has_read_game_ = false;
   DraftKeeper* draft_ = nullptr;
   std::map<QString, std::function<void()>> menu_;
 };

@@ -15,6 +15,7 @@
 #include "editor/captioned_field.h"
 #include "editor/code_page_validator.h"
 #include "editor/game_text_conversion.h"
+#include "editor/undo_keys.h"
 #include "model/characteristic_catalogue.h"
 #include "session/identity_checks.h"
 
@@ -26,25 +27,15 @@ struct Gender {
   const char* value;
 };
 constexpr std::array<Gender, 3> kGenders = {
-    {{"&Male", "male"}, {"&Female", "female"}, {"I&t", "it"}}};
+    {{"&Male", "male"}, {"Female", "female"}, {"It", "it"}}};
 
 // The last colour is the first one again: so the list is known to players.
 constexpr std::array<const char*, 9> kRailColors = {
     "None", "White",   "Blue",   "Green", "Cyan",
     "Red",  "Magenta", "Yellow", "White"};
 
-struct FunColor {
-  const char* name;
-  QRgb color;
-};
-constexpr std::array<FunColor, 8> kFunColors = {{{"Black", 0xFF000000},
-                                                 {"Red", 0xFFFF0000},
-                                                 {"Green", 0xFF00FF00},
-                                                 {"Yellow", 0xFFFFFF00},
-                                                 {"Blue", 0xFF0000FF},
-                                                 {"Cyan", 0xFF00FFFF},
-                                                 {"Magenta", 0xFFFF00FF},
-                                                 {"White", 0xFFFFFFFF}}};
+constexpr std::array<const char*, kFunNameColors.size()> kFunColorNames = {
+    "Black", "Red", "Green", "Yellow", "Blue", "Cyan", "Magenta", "White"};
 
 QIcon ColorIcon(QRgb color, int size) {
   QPixmap pixmap(size, size);
@@ -65,17 +56,20 @@ IdentityPanel::IdentityPanel(CurrentBot& current, Prompts& prompts,
   grid->setHorizontalSpacing(18);
   grid->setVerticalSpacing(8);
   grid->addWidget(NameField(), 0, 0);
-  grid->addWidget(FunNameField(), 1, 0, 2, 1);
+  grid->addWidget(FunNameField(), 1, 0);
+  grid->addWidget(PreviewField(), 2, 0);
   grid->addWidget(GenderField(), 0, 1);
   grid->addWidget(RailField(), 1, 1);
-  grid->addWidget(CommentField(), 2, 1);
   grid->addWidget(VersionField(), 0, 2);
   arena_lord_ = new QCheckBox(QStringLiteral("Arenalo&rd"), this);
   arena_lord_->setObjectName(QStringLiteral("chkArenalord"));
   arena_lord_->setToolTip(
       QStringLiteral("Written into the description file. The game itself does "
                      "not read it."));
-  grid->addWidget(arena_lord_, 1, 2, Qt::AlignBottom);
+  auto* const arena_lord = new CaptionedField({}, nullptr, this);
+  arena_lord->AddControl(arena_lord_);
+  grid->addWidget(arena_lord, 1, 2);
+  grid->addWidget(CommentField(), 2, 1, 1, 2);
   grid->setColumnStretch(0, 4);
   grid->setColumnStretch(1, 3);
 
@@ -92,6 +86,7 @@ QLineEdit* IdentityPanel::AddBox(int field, const QString& accessible_name) {
   box->setAccessibleName(accessible_name);
   box->setValidator(new CodePageValidator(box));
   box->installEventFilter(this);
+  LeaveUndoToWindow(*box, UndoOfBox::kWhileModified);
   connect(box, &QLineEdit::inputRejected, this,
           [this] { emit StatusText(QLatin1String(kRefusedCharacter)); });
   // The box is stored when it is left; that it differs counts at once.
@@ -107,7 +102,7 @@ QWidget* IdentityPanel::NameField() {
       QStringLiteral("What the game's menus and addbot call the bot. No "
                      "blanks; up to 15 letters show in the skirmish menu."));
   auto* const field = new CaptionedField(QStringLiteral("&Name"), box, this);
-  field->column()->addWidget(box);
+  field->AddControl(box);
   return field;
 }
 
@@ -117,18 +112,23 @@ QWidget* IdentityPanel::FunNameField() {
       QStringLiteral("The name that players see, with colour codes such as "
                      "^1. The game cuts it at 35 characters."));
   auto* const field = new CaptionedField(QStringLiteral("F&unname"), box, this);
-  field->column()->addWidget(box);
+  field->AddControl(box);
+  return field;
+}
+
+QWidget* IdentityPanel::PreviewField() {
+  auto* const field = new CaptionedField({}, nullptr, this);
   auto* const row = new QHBoxLayout;
   row->setSpacing(2);
-  const int size = fontMetrics().height();
-  for (std::size_t color = 0; color < kFunColors.size(); ++color) {
+  const int size = fontMetrics().ascent();
+  for (std::size_t color = 0; color < kFunNameColors.size(); ++color) {
     auto* const button = new QToolButton(field);
     button->setObjectName(QStringLiteral("cmdColor_%1").arg(color));
-    button->setIcon(ColorIcon(kFunColors.at(color).color, size));
+    button->setIcon(ColorIcon(kFunNameColors.at(color), size));
     button->setIconSize(QSize(size, size));
     button->setAutoRaise(true);
     button->setFocusPolicy(Qt::TabFocus);
-    const QString name = QLatin1String(kFunColors.at(color).name);
+    const QString name = QLatin1String(kFunColorNames.at(color));
     button->setAccessibleName(QStringLiteral("Colour %1").arg(name));
     button->setToolTip(QStringLiteral("%1 (^%2)").arg(name).arg(color));
     connect(button, &QToolButton::clicked, this,
@@ -136,11 +136,12 @@ QWidget* IdentityPanel::FunNameField() {
     row->addWidget(button);
   }
   row->addStretch(1);
-  field->column()->addLayout(row);
+  field->ReplaceCaption(row);
   preview_ = new FunNamePreview(field);
   preview_->setObjectName(QStringLiteral("picFunName"));
-  field->column()->addWidget(preview_);
-  connect(box, &QLineEdit::textChanged, preview_, &FunNamePreview::DrawFunName);
+  field->AddControl(preview_);
+  connect(boxes_.at(kFunNameField), &QLineEdit::textChanged, preview_,
+          &FunNamePreview::DrawFunName);
   return field;
 }
 
@@ -157,7 +158,7 @@ QWidget* IdentityPanel::GenderField() {
     row->addWidget(button);
   }
   row->addStretch(1);
-  field->column()->addLayout(row);
+  field->AddControls(row);
   connect(genders_, &QButtonGroup::idClicked, this, [this](int place) {
     current_.SetParameter(
         kGenderIndex,
@@ -178,7 +179,7 @@ QWidget* IdentityPanel::RailField() {
   }
   auto* const field =
       new CaptionedField(QStringLiteral("Rail&gun color"), rail_, this);
-  field->column()->addWidget(rail_);
+  field->AddControl(rail_);
   connect(rail_, &QComboBox::activated, this, [this](int place) {
     const Value value = place == 0 ? Value(std::string(kNoRailColor))
                                    : Value(static_cast<double>(place - 1));
@@ -196,18 +197,20 @@ QWidget* IdentityPanel::VersionField() {
       new CaptionedField(QStringLiteral("&Version"), major, this);
   auto* const row = new QHBoxLayout;
   for (QLineEdit* const box : {major, minor}) {
-    box->setMaximumWidth(fontMetrics().horizontalAdvance(u'0') * 8);
+    if (box == minor) row->addWidget(new QLabel(QStringLiteral("."), field));
+    box->setFixedWidth(fontMetrics().horizontalAdvance(u'0') * 7);
     row->addWidget(box);
   }
+  row->setSpacing(4);
   row->addStretch(1);
-  field->column()->addLayout(row);
+  field->AddControls(row);
   return field;
 }
 
 QWidget* IdentityPanel::CommentField() {
   QLineEdit* const box = AddBox(kCommentField, QStringLiteral("Comment"));
   auto* const field = new CaptionedField(QStringLiteral("&Comment"), box, this);
-  field->column()->addWidget(box);
+  field->AddControl(box);
   return field;
 }
 
@@ -258,6 +261,18 @@ bool IdentityPanel::LeaveBox(int field) {
   return is_good;
 }
 
+bool IdentityPanel::RevertTyping() {
+  const IdentityTexts texts = BoxTextsOf(current_.bot());
+  bool has_reverted = false;
+  for (const auto& [field, box] : boxes_) {
+    if (!box->isModified()) continue;
+    box->setText(ToQString(texts.at(field)));
+    box->setModified(false);
+    has_reverted = true;
+  }
+  return has_reverted;
+}
+
 std::optional<int> IdentityPanel::CheckAllIn() {
   is_checking_ = true;
   IdentityTexts texts = BoxTextsOf(current_.bot());
@@ -274,16 +289,27 @@ std::optional<int> IdentityPanel::CheckAllIn() {
     for (const auto& [field, box] : boxes_) {
       // A box that was not touched stores nothing; only the fun name may
       // need its quotes.
-      const bool stores = box->isModified() || field == kFunNameField;
-      if (stores &&
-          current_.bot().Parameter(field) != checked.Parameter(field)) {
+      if (box->isModified()) {
         current_.SetParameter(field, checked.Parameter(field));
+      } else if (field == kFunNameField) {
+        PutQuotesOn(checked.Parameter(field));
       }
       box->setModified(false);
     }
   }
   is_checking_ = false;
   return refused;
+}
+
+void IdentityPanel::PutQuotesOn(const Value& fun_name) {
+  if (current_.bot().Parameter(kFunNameField) == fun_name) return;
+  const bool was_changed = current_.is_changed();
+  {
+    // Needed in the file, and nothing that the user did.
+    const CurrentBot::Filling filling(current_);
+    current_.SetParameter(kFunNameField, fun_name);
+  }
+  if (!was_changed) current_.SetChanged(false);
 }
 
 void IdentityPanel::ShowBot() {

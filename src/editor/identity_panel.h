@@ -30,7 +30,9 @@ class IdentityPanel : public QWidget {
   /// the number of the box that was refused, which then has the focus.
   std::optional<int> CheckAllIn();
 
-  QLineEdit* Box(int field) { return boxes_.at(field); }
+  /// Puts the bot's texts back into boxes whose text was not stored yet; false
+  /// when there are none.
+  bool RevertTyping();
 
  signals:
   void StatusText(const QString& text);
@@ -43,11 +45,13 @@ class IdentityPanel : public QWidget {
   QLineEdit* AddBox(int field, const QString& accessible_name);
   QWidget* NameField();
   QWidget* FunNameField();
+  QWidget* PreviewField();
   QWidget* GenderField();
   QWidget* RailField();
   QWidget* VersionField();
   QWidget* CommentField();
   void InsertColor(int color);
+  void PutQuotesOn(const Value& fun_name);
   /// False when the box refuses its text; it then gets the focus back.
   bool LeaveBox(int field);
 

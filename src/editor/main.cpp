@@ -1,5 +1,8 @@
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QIcon>
+#include <QPalette>
+#include <algorithm>
 #include <exception>
 #include <iostream>
 #include <optional>
@@ -18,15 +21,19 @@ struct Arguments {
   std::optional<std::filesystem::path> program_folder;
   /// Shows the window just long enough for a picture of it in this file.
   QString picture;
-  /// A characteristic file to begin with.
+  /// A characteristic file, folder or package to begin with.
   QString file;
 };
 
-Arguments ReadArguments(const QApplication& application) {
+/// Prints help or version and ends where these are asked for.
+Arguments ReadArguments() {
+  QCoreApplication::setApplicationName(QStringLiteral("fragsmith"));
+  QCoreApplication::setApplicationVersion(QStringLiteral("0.97b BETA"));
   QCommandLineParser parser;
   parser.setApplicationDescription(
       QStringLiteral("Makes and edits bots for Quake III Arena."));
   parser.addHelpOption();
+  parser.addVersionOption();
   const QCommandLineOption folder(
       QStringLiteral("program-folder"),
       QStringLiteral("Folder with fgs.ini and the program's lists"),
@@ -36,10 +43,11 @@ Arguments ReadArguments(const QApplication& application) {
       QStringLiteral("Save a picture of the window and end"),
       QStringLiteral("FILE"));
   parser.addOptions({folder, picture});
-  parser.addPositionalArgument(QStringLiteral("FILE"),
-                               QStringLiteral("A *_c.c file to load"),
-                               QStringLiteral("[FILE]"));
-  parser.process(application);
+  parser.addPositionalArgument(
+      QStringLiteral("FILE"),
+      QStringLiteral("A *_c.c file, a folder or a *.pk3 package with a bot"),
+      QStringLiteral("[FILE]"));
+  parser.process(QCoreApplication::arguments());
   Arguments arguments;
   if (parser.isSet(folder)) {
     arguments.program_folder =
@@ -50,19 +58,61 @@ Arguments ReadArguments(const QApplication& application) {
   return arguments;
 }
 
+/// Without one the toolkit gives up in a way that looks like a crash.
+bool HasDisplay() {
+#if defined(Q_OS_UNIX) && !defined(Q_OS_MACOS)
+  const char* const choices[] = {"DISPLAY", "WAYLAND_DISPLAY",
+                                 "QT_QPA_PLATFORM"};
+  return std::any_of(
+      std::begin(choices), std::end(choices),
+      [](const char* name) { return !qEnvironmentVariableIsEmpty(name); });
+#else
+  return true;
+#endif
+}
+
+QIcon ProgramIcon() {
+  QIcon icon;
+  for (const int size : {16, 32, 48, 128}) {
+    icon.addFile(QStringLiteral(":/icon/%1x%1/apps/fragsmith.png").arg(size));
+  }
+  return icon;
+}
+
+/// Some dark themes leave the colour of hints at black.
+void MakeHintsReadable() {
+  QPalette palette = QApplication::palette();
+  QColor hint = palette.color(QPalette::Text);
+  hint.setAlphaF(0.6F);
+  palette.setColor(QPalette::PlaceholderText, hint);
+  QApplication::setPalette(palette);
+}
+
+int Fail(const std::string& reason) {
+  std::cerr << "fragsmith: " << reason << '\n';
+  return 1;
+}
+
 }  // namespace
 
 int main(int count, char** words) try {
   fragsmith::PrepareTimeZone();
-  QApplication application(count, words);
-  QApplication::setApplicationName(QStringLiteral("fragsmith"));
-  const Arguments arguments = ReadArguments(application);
+  if (!HasDisplay()) {
+    // Help and pictures need none.
+    const QCoreApplication application(count, words);
+    if (ReadArguments().picture.isEmpty()) {
+      return Fail("There is no display. fragsmith-cli needs none.");
+    }
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+  }
+  const QApplication application(count, words);
+  const Arguments arguments = ReadArguments();
+  QApplication::setWindowIcon(ProgramIcon());
+  QApplication::setDesktopFileName(QStringLiteral("fragsmith"));
+  MakeHintsReadable();
   const auto folders = fragsmith::FindProgramFolders(
       arguments.program_folder, fragsmith::FindProgramPlace());
-  if (!folders) {
-    std::cerr << "fragsmith: " << fragsmith::Describe(folders.error()) << '\n';
-    return 1;
-  }
+  if (!folders) return Fail(fragsmith::Describe(folders.error()));
   fragsmith::QtPrompts prompts;
   fragsmith::ProgramState state(*folders, prompts,
                                 fragsmith::UnpredictableRandom());
@@ -70,13 +120,14 @@ int main(int count, char** words) try {
   prompts.SetParent(&window);
   window.show();
   if (!arguments.file.isEmpty()) {
-    window.OpenFile(fragsmith::PathFromBytes(arguments.file.toStdString()));
+    window.OpenPath(fragsmith::PathFromBytes(arguments.file.toStdString()));
   }
   if (!arguments.picture.isEmpty()) {
-    return window.grab().save(arguments.picture) ? 0 : 1;
+    if (window.grab().save(arguments.picture)) return 0;
+    return Fail("The picture could not be saved as " +
+                arguments.picture.toStdString());
   }
   return QApplication::exec();
 } catch (const std::exception& failure) {
-  std::cerr << "fragsmith: " << failure.what() << '\n';
-  return 1;
+  return Fail(failure.what());
 }

@@ -20,6 +20,7 @@ QComboBox* MakeList(const QString& name, const QString& accessible_name,
   list->setAccessibleName(accessible_name);
   list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   list->setMinimumContentsLength(14);
+  list->setIconSize(QSize(0, 0));  // No room for what is not there.
   list->setMaxVisibleItems(24);
   return list;
 }
@@ -49,15 +50,19 @@ ModelSelector::ModelSelector(CurrentBot& current, ProgramState& state,
   models_ = MakeList(QStringLiteral("cmbModel"), QStringLiteral("Model"), this);
   skins_ = MakeList(QStringLiteral("cmbSkin"), QStringLiteral("Skin"), this);
   auto* const model_field = new CaptionedField({}, models_, this);
-  model_field->column()->addWidget(models_);
+  model_field->AddControl(models_);
   model_caption_ = model_field->caption();
   model_caption_->setObjectName(QStringLiteral("fraModel"));
   auto* const skin_field = new CaptionedField({}, skins_, this);
-  skin_field->column()->addWidget(skins_);
+  skin_field->AddControl(skins_);
   skin_caption_ = skin_field->caption();
   skin_caption_->setObjectName(QStringLiteral("fraSkin"));
   icon_ = new IconBox(this);
   icon_->setObjectName(QStringLiteral("picIcon"));
+  icon_text_ = new QLabel(this);
+  icon_text_->setObjectName(QStringLiteral("lblIcon"));
+  icon_text_->setWordWrap(true);
+  icon_text_->setForegroundRole(QPalette::PlaceholderText);
 
   auto* const row = new QHBoxLayout(this);
   row->setContentsMargins(0, 0, 0, 0);
@@ -66,7 +71,7 @@ ModelSelector::ModelSelector(CurrentBot& current, ProgramState& state,
   column->setSpacing(8);
   column->addWidget(model_field);
   column->addWidget(skin_field);
-  column->addStretch(1);
+  column->addWidget(icon_text_, 1, Qt::AlignTop);
   row->addLayout(column, 1);
   row->addWidget(icon_, 0, Qt::AlignTop);
 
@@ -115,11 +120,13 @@ void ModelSelector::RefillModelSelector(std::size_t modelIndex,
 }
 
 void ModelSelector::StoreSelection() {
-  const Bot& bot = current_.bot();
   for (const auto& [field, list] :
        {std::pair{kModelField, models_}, std::pair{kSkinField, skins_}}) {
     const std::optional<std::string> name = ToGameText(list->currentText());
-    if (!name || list->currentIndex() < 0 || bot.Text(field) == *name) continue;
+    if (!name || list->currentIndex() < 0 ||
+        current_.bot().Text(field) == *name) {
+      continue;
+    }
     current_.SetParameter(field, *name);
   }
 }
@@ -178,6 +185,7 @@ void ModelSelector::ShowBot() {
 
 void ModelSelector::ShowIcon(const IconResult& icon) {
   const QString description = IconDescription(icon.kind);
+  icon_text_->setText(icon.kind == IconKind::kIcon ? QString() : description);
   if (icon.kind == IconKind::kIcon) {
     return icon_->ShowPicture(icon.picture, description);
   }

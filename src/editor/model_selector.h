@@ -53,6 +53,7 @@ class ModelSelector : public QWidget {
   QComboBox* models_;
   QComboBox* skins_;
   IconBox* icon_;
+  QLabel* icon_text_;  ///< Why it is not the icon of the skin.
 };
 
 }  // namespace fragsmith

@@ -33,17 +33,17 @@ NotesBar::NotesBar(QWidget* parent) : QFrame(parent) {
   text_->setForegroundRole(QPalette::ToolTipText);
   text_->setTextFormat(Qt::PlainText);
   row->addWidget(text_, 1);
-  list_button_ = AddButton(QStringLiteral("Show &list"),
+  list_button_ = AddButton(QStringLiteral("Show list"),
                            QStringLiteral("cmdNotesList"), row, this);
   list_button_->setCheckable(true);
   as_game_button_ =
-      AddButton(QStringLiteral("Take the &values as the game reads them"),
+      AddButton(QStringLiteral("Take the values as the game reads them"),
                 QStringLiteral("cmdAsGame"), row, this);
-  draft_button_ = AddButton(QStringLiteral("&Restore it"),
+  draft_button_ = AddButton(QStringLiteral("Restore it"),
                             QStringLiteral("cmdTakeDraft"), row, this);
-  discard_button_ = AddButton(QStringLiteral("&Discard it"),
+  discard_button_ = AddButton(QStringLiteral("Discard it"),
                               QStringLiteral("cmdDiscardDraft"), row, this);
-  close_button_ = AddButton(QStringLiteral("&Close"),
+  close_button_ = AddButton(QStringLiteral("Close"),
                             QStringLiteral("cmdCloseNotes"), row, this);
   list_ = new QListWidget(this);
   list_->setObjectName(QStringLiteral("lstNotes"));

@@ -10,7 +10,7 @@ namespace fragsmith {
 namespace {
 
 struct HelpRow {
-  IndexRange indices;
+  IndexRange indices = {};
   ParameterHelp help;
 };
 
@@ -241,7 +241,7 @@ QString RangeText(const ControlRow& control, std::string_view unit) {
 }  // namespace
 
 const ParameterHelp& HelpFor(int index) {
-  const auto found = std::find_if(
+  const auto* const found = std::find_if(
       kHelp.begin(), kHelp.end(),
       [index](const HelpRow& row) { return row.indices.Contains(index); });
   if (found == kHelp.end()) {

@@ -20,7 +20,7 @@ namespace fragsmith {
 /// stands. Filled once at its start, written back at its end.
 class ProgramState {
  public:
-  ProgramState(ProgramFolders folders, Prompts& prompts, RandomSource random);
+  ProgramState(ProgramFolders where, Prompts& whom, RandomSource chance);
 
   /// Settings first, then the lists, in the order of their files' messages.
   void LoadIniFile();

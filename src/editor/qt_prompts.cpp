@@ -1,6 +1,8 @@
 #include "editor/qt_prompts.h"
 
 #include <QApplication>
+#include <QFontMetrics>
+#include <QGridLayout>
 #include <QInputDialog>
 #include <QMessageBox>
 
@@ -19,6 +21,20 @@ QMessageBox::Icon IconOf(MessageIcon icon) {
   return QMessageBox::NoIcon;
 }
 
+/// Shows a box wide enough for its title, which says what it is about.
+int Ask(QMessageBox& box) {
+  // A name may hold what looks like markup.
+  box.setTextFormat(Qt::PlainText);
+  const QFontMetrics metrics = box.fontMetrics();
+  const int width = metrics.horizontalAdvance(box.windowTitle()) +
+                    16 * metrics.averageCharWidth();
+  if (auto* const grid = qobject_cast<QGridLayout*>(box.layout())) {
+    grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1,
+                  grid->columnCount());
+  }
+  return box.exec();
+}
+
 }  // namespace
 
 QWidget* QtPrompts::TopWindow() const {
@@ -30,20 +46,17 @@ void QtPrompts::Show(const Message& message) {
   QMessageBox box(IconOf(message.icon), QString::fromStdString(message.title),
                   QString::fromStdString(message.text), QMessageBox::Ok,
                   TopWindow());
-  // A name may hold what looks like markup.
-  box.setTextFormat(Qt::PlainText);
-  box.exec();
+  Ask(box);
 }
 
 bool QtPrompts::Confirm(const std::string& title, const std::string& text) {
   QMessageBox box(QMessageBox::Question, QString::fromStdString(title),
                   QString::fromStdString(text),
                   QMessageBox::Yes | QMessageBox::No, TopWindow());
-  box.setTextFormat(Qt::PlainText);
   // What loses nothing is what Enter and Escape answer.
   box.setDefaultButton(QMessageBox::No);
   box.setEscapeButton(QMessageBox::No);
-  return box.exec() == QMessageBox::Yes;
+  return Ask(box) == QMessageBox::Yes;
 }
 
 std::optional<std::string> QtPrompts::AskText(const std::string& title,

@@ -9,6 +9,7 @@ namespace {
 
 constexpr const char* kGeometry = "geometry";
 constexpr const char* kPage = "page";
+constexpr const char* kRecent = "recent";
 
 QString FileIn(const std::filesystem::path& program_folder) {
   return QString::fromStdString(BytesFromPath(program_folder / "fgs.window"));
@@ -19,7 +20,8 @@ QString FileIn(const std::filesystem::path& program_folder) {
 WindowState LoadWindowState(const std::filesystem::path& program_folder) {
   const QSettings file(FileIn(program_folder), QSettings::IniFormat);
   return {.geometry = file.value(QLatin1String(kGeometry)).toByteArray(),
-          .page = file.value(QLatin1String(kPage), 0).toInt()};
+          .page = file.value(QLatin1String(kPage), 0).toInt(),
+          .recent = file.value(QLatin1String(kRecent)).toStringList()};
 }
 
 void SaveWindowState(const std::filesystem::path& program_folder,
@@ -27,6 +29,7 @@ void SaveWindowState(const std::filesystem::path& program_folder,
   QSettings file(FileIn(program_folder), QSettings::IniFormat);
   file.setValue(QLatin1String(kGeometry), state.geometry);
   file.setValue(QLatin1String(kPage), state.page);
+  file.setValue(QLatin1String(kRecent), state.recent);
 }
 
 }  // namespace fragsmith

@@ -2,7 +2,7 @@
 #define FRAGSMITH_EDITOR_WINDOW_STATE_H_
 
 #include <QByteArray>
-#include <QWidget>
+#include <QStringList>
 #include <filesystem>
 
 namespace fragsmith {
@@ -12,6 +12,7 @@ namespace fragsmith {
 struct WindowState {
   QByteArray geometry;  ///< As QWidget::saveGeometry gives it; may be empty.
   int page = 0;         ///< The parameter page that was shown.
+  QStringList recent;   ///< As RecentBots gives them.
 };
 
 WindowState LoadWindowState(const std::filesystem::path& program_folder);

@@ -53,9 +53,8 @@ bool CheckBox(int field, const std::string& text, Bot& bot, Prompts& prompts) {
     prompts.Show(*refusal);
     return false;
   }
-  const bool needs_quotes = field == kFunNameField && Contains(text, " ") &&
-                            !IsEnclosedInQuotes(text);
-  return bot.SetParameter(field, needs_quotes ? '"' + text + '"' : text)
+  return bot
+      .SetParameter(field, field == kFunNameField ? FunNameForFile(text) : text)
       .has_value();
 }
 
@@ -68,6 +67,12 @@ std::optional<int> CheckAllIn(const IdentityTexts& texts, Bot& bot,
     return field;
   }
   return std::nullopt;
+}
+
+std::string FunNameForFile(const std::string& fun_name) {
+  const bool needs_quotes =
+      Contains(fun_name, " ") && !IsEnclosedInQuotes(fun_name);
+  return needs_quotes ? '"' + fun_name + '"' : fun_name;
 }
 
 std::string FunNameForBox(const std::string& fun_name) {

@@ -29,6 +29,9 @@ bool CheckBox(int field, const std::string& text, Bot& bot, Prompts& prompts);
 std::optional<int> CheckAllIn(const IdentityTexts& texts, Bot& bot,
                               Prompts& prompts);
 
+/// A fun name as it is stored for the file: in quotes where it has a space.
+std::string FunNameForFile(const std::string& fun_name);
+
 /// A fun name as the box shows it: without an enclosing pair of quotes.
 std::string FunNameForBox(const std::string& fun_name);
 

@@ -5,6 +5,7 @@
 
 #include "botfiles/characteristic_file.h"
 #include "botfiles/description_file.h"
+#include "botfiles/header_comment.h"
 #include "botfiles/weight_file.h"
 #include "chat/chat_file.h"
 #include "model/characteristic_catalogue.h"
@@ -77,7 +78,7 @@ std::optional<FoundFile> Find(BotFile file, const std::string& name,
                Utf8FromGameText(name) + ".");
     return std::nullopt;
   }
-  Result<std::string> bytes = ReadFile(*path);
+  Result<std::string> bytes = ReadFile(*path, kMostBotFileBytes);
   if (!bytes) {
     Inform(prompts, title, Describe(bytes.error()));
     return std::nullopt;
@@ -156,6 +157,13 @@ void ReadBotFile(BotFile file, LoadScope scope, std::string_view bytes,
                bot),
            loaded);
       if (is_whole) EnsureName(name, shown, loaded);
+      if (is_whole && HeaderSaysMore(bytes)) {
+        loaded.notes.Add(
+            {.file = shown,
+             .line = 2,
+             .text = "The version and the comment in the head of the file are "
+                     "not read back; type them in again before you save."});
+      }
       return;
     case BotFile::kChat:
       if (!is_whole) bot.ClearChats();

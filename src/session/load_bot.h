@@ -1,6 +1,7 @@
 #ifndef FRAGSMITH_SESSION_LOAD_BOT_H_
 #define FRAGSMITH_SESSION_LOAD_BOT_H_
 
+#include <cstddef>
 #include <filesystem>
 #include <map>
 #include <string>
@@ -24,6 +25,11 @@ enum class BotFile {
   kItemWeights = 3,
   kWeaponWeights = 4,
 };
+
+/// The largest of a bot's files that is read. Real ones have some kilobytes,
+/// and a file of nothing but short chat lines takes forty times its size in
+/// memory until it is printed.
+inline constexpr std::size_t kMostBotFileBytes = std::size_t{4} << 20U;
 
 /// How the name of a bot's file goes on behind the bot's name.
 std::string_view FileSuffix(BotFile file);

@@ -52,7 +52,7 @@ class PackageReader {
     }
     const std::optional<fs::path> extracted = FindFile(folder_, BareName(path));
     if (!extracted) return Refuse();
-    const Result<std::string> bytes = ReadFile(*extracted);
+    const Result<std::string> bytes = ReadFile(*extracted, kMostBotFileBytes);
     std::error_code ignored;
     fs::remove(*extracted, ignored);
     if (!bytes) return Refuse();

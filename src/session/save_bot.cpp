@@ -23,23 +23,24 @@ namespace {
 /// One file of the set, by its name and place in the game's layout.
 struct SetFile {
   std::string_view folder;
-  std::string name;
-  std::string bytes;
+  int name_field;
+  std::string (*write)(const Bot& bot, const Author& author);
 };
 
 /// In the order in which they are written and packed.
-std::array<SetFile, 5> FileSetOf(const Bot& bot, const Author& author) {
-  return {{
-      {kBotFilesFolder, bot.Text(kCharacteristicFileField),
-       WriteCharacteristicFile(bot, author)},
-      {kBotFilesFolder, bot.Text(kWeaponWeightsIndex),
-       WriteWeaponWeightFile(bot, author)},
-      {kBotFilesFolder, bot.Text(kItemWeightsIndex),
-       WriteItemWeightFile(bot, author)},
-      {kBotFilesFolder, bot.Text(kChatFileIndex), WriteChatFile(bot, author)},
-      {kScriptsFolder, bot.Text(kDescriptionFileField),
-       WriteDescriptionFile(bot, author)},
-  }};
+constexpr std::array<SetFile, 5> kFileSet = {{
+    {kBotFilesFolder, kCharacteristicFileField, WriteCharacteristicFile},
+    {kBotFilesFolder, kWeaponWeightsIndex, WriteWeaponWeightFile},
+    {kBotFilesFolder, kItemWeightsIndex, WriteItemWeightFile},
+    {kBotFilesFolder, kChatFileIndex, WriteChatFile},
+    {kScriptsFolder, kDescriptionFileField, WriteDescriptionFile},
+}};
+
+fs::path TargetOf(const SetFile& file, const Bot& bot, const fs::path& folder,
+                  SaveOptions options) {
+  fs::path path = folder;
+  if (options.uses_layout) path /= fs::path(file.folder).make_preferred();
+  return path / PathFromGameText(bot.Text(file.name_field));
 }
 
 std::optional<Error> MakeFolder(const fs::path& folder) {
@@ -62,12 +63,14 @@ std::optional<Error> MakeLayout(const fs::path& folder) {
 }
 
 void MakeBotPackage(const Bot& bot, const fs::path& folder,
-                    const std::array<SetFile, 5>& files, Prompts& prompts,
-                    SavedBot& saved) {
+                    std::array<std::string, kFileSet.size()>& bytes,
+                    Prompts& prompts, SavedBot& saved) {
   std::vector<PackageEntry> entries;
-  entries.reserve(files.size());
-  for (const SetFile& file : files) {
-    entries.push_back({std::string(file.folder) + "/" + file.name, file.bytes});
+  for (std::size_t place = 0; place < kFileSet.size(); ++place) {
+    const SetFile& file = kFileSet.at(place);
+    entries.push_back(
+        {std::string(file.folder) + "/" + bot.Text(file.name_field),
+         std::move(bytes.at(place))});
   }
   const fs::path path = folder / PathFromGameText("bot-" + bot.Name() + ".pk3");
   const Result<void> packed = WritePackage(path, entries);
@@ -99,12 +102,14 @@ SavedBot SaveBot(const Bot& bot, const fs::path& folder, SaveOptions options,
     saved.error = MakeLayout(folder);
     if (saved.error) return saved;
   }
-  const std::array<SetFile, 5> files = FileSetOf(bot, author);
-  for (const SetFile& file : files) {
-    fs::path path = folder;
-    if (options.uses_layout) path /= fs::path(file.folder).make_preferred();
-    path /= PathFromGameText(file.name);
-    const Result<void> done = SaveFile(path, file.bytes);
+  std::array<std::string, kFileSet.size()> bytes;
+  for (std::size_t place = 0; place < kFileSet.size(); ++place) {
+    const SetFile& file = kFileSet.at(place);
+    bytes.at(place) = file.write(bot, author);
+  }
+  for (std::size_t place = 0; place < kFileSet.size(); ++place) {
+    fs::path path = TargetOf(kFileSet.at(place), bot, folder, options);
+    const Result<void> done = SaveFile(path, bytes.at(place));
     if (!done) {
       saved.error = done.error();
       return saved;
@@ -112,9 +117,19 @@ SavedBot SaveBot(const Bot& bot, const fs::path& folder, SaveOptions options,
     saved.written.push_back(std::move(path));
   }
   if (options.makes_package) {
-    MakeBotPackage(bot, folder, files, prompts, saved);
+    MakeBotPackage(bot, folder, bytes, prompts, saved);
   }
   return saved;
+}
+
+std::vector<fs::path> TargetFiles(const Bot& bot, const fs::path& folder,
+                                  SaveOptions options) {
+  std::vector<fs::path> paths;
+  paths.reserve(kFileSet.size());
+  for (const SetFile& file : kFileSet) {
+    paths.push_back(TargetOf(file, bot, folder, options));
+  }
+  return paths;
 }
 
 Author AuthorOf(const ProgramSettings& settings) {

@@ -36,6 +36,10 @@ struct SavedBot {
 SavedBot SaveBot(const Bot& bot, const std::filesystem::path& folder,
                  SaveOptions options, const Author& author, Prompts& prompts);
 
+/// The five files that SaveBot would write, in its order.
+std::vector<std::filesystem::path> TargetFiles(
+    const Bot& bot, const std::filesystem::path& folder, SaveOptions options);
+
 /// The author's data of the settings.
 Author AuthorOf(const ProgramSettings& settings);
 

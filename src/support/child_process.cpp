@@ -1,6 +1,8 @@
 #include "support/child_process.h"
 
+#include <chrono>
 #include <system_error>
+#include <thread>
 #include <utility>
 
 #include "support/child_process_system.h"
@@ -11,9 +13,16 @@ namespace fragsmith {
 Result<ChildProcess> ChildProcess::Start(
     const std::filesystem::path& program,
     const std::vector<std::string>& arguments) {
+  return Start(program, arguments, {});
+}
+
+Result<ChildProcess> ChildProcess::Start(
+    const std::filesystem::path& program,
+    const std::vector<std::string>& arguments,
+    const std::filesystem::path& output) {
   std::intptr_t handle = 0;
   const std::error_code reason =
-      system::StartProcess(program, arguments, handle);
+      system::StartProcess(program, arguments, output, handle);
   if (!reason) return ChildProcess(handle);
   return Failure(
       {.what = "The program cannot be started: " + reason.message() + ".",
@@ -32,6 +41,19 @@ ChildProcess::~ChildProcess() {
 bool ChildProcess::IsRunning() {
   if (handle_ != 0 && !system::IsProcessRunning(handle_)) handle_ = 0;
   return handle_ != 0;
+}
+
+void ChildProcess::End() {
+  using std::chrono::steady_clock;
+  if (!IsRunning()) return;
+  const bool may_end = system::AskProcessToEnd(handle_);
+  const auto end = steady_clock::now() + std::chrono::seconds(2);
+  while (may_end && IsRunning() && steady_clock::now() < end) {
+    std::this_thread::sleep_for(std::chrono::milliseconds(5));
+  }
+  if (!IsRunning()) return;
+  system::EndProcess(handle_);
+  handle_ = 0;
 }
 
 }  // namespace fragsmith

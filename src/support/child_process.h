@@ -21,6 +21,12 @@ class ChildProcess {
   static Result<ChildProcess> Start(const std::filesystem::path& program,
                                     const std::vector<std::string>& arguments);
 
+  /// The same, but all that the program prints goes into a file, which is
+  /// made anew, and where there are windows it gets none for it.
+  static Result<ChildProcess> Start(const std::filesystem::path& program,
+                                    const std::vector<std::string>& arguments,
+                                    const std::filesystem::path& output);
+
   ChildProcess(ChildProcess&& other) noexcept;
   ChildProcess& operator=(ChildProcess&& other) = delete;
   ChildProcess(const ChildProcess&) = delete;
@@ -30,6 +36,10 @@ class ChildProcess {
   /// Returns at once. What the system kept of a program that has ended is
   /// cleared away.
   bool IsRunning();
+
+  /// Asks the program to end, where the system has a way to ask, and makes it
+  /// end when it has not done so within two seconds. It has ended then.
+  void End();
 
  private:
   explicit ChildProcess(std::intptr_t handle) : handle_(handle) {}

@@ -28,8 +28,8 @@ std::error_code AsError(int number) {
   return {number, std::generic_category()};
 }
 
-/// How the child begins: its standard streams shut, no signal blocked or
-/// ignored because we do so.
+/// How the child begins: its standard streams shut or led into a file, no
+/// signal blocked or ignored because we do so.
 class SpawnSettings {
  public:
   SpawnSettings() {
@@ -43,13 +43,22 @@ class SpawnSettings {
     ::posix_spawn_file_actions_destroy(&actions_);
   }
 
-  int Prepare() {
-    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
-      const int flags = stream == STDIN_FILENO ? O_RDONLY : O_WRONLY;
-      const int failed = ::posix_spawn_file_actions_addopen(
-          &actions_, stream, "/dev/null", flags, 0);
-      if (failed != 0) return failed;
+  int Prepare(const std::filesystem::path& output) {
+    constexpr mode_t kOwnerOnly = 0600;
+    const char* const file = output.empty() ? "/dev/null" : output.c_str();
+    const int flags =
+        output.empty() ? O_WRONLY : O_WRONLY | O_CREAT | O_TRUNC | O_APPEND;
+    int failed = ::posix_spawn_file_actions_addopen(&actions_, STDIN_FILENO,
+                                                    "/dev/null", O_RDONLY, 0);
+    if (failed == 0) {
+      failed = ::posix_spawn_file_actions_addopen(&actions_, STDOUT_FILENO,
+                                                  file, flags, kOwnerOnly);
     }
+    if (failed == 0) {
+      failed = ::posix_spawn_file_actions_adddup2(&actions_, STDOUT_FILENO,
+                                                  STDERR_FILENO);
+    }
+    if (failed != 0) return failed;
     sigset_t none;
     sigset_t pipe;
     ::sigemptyset(&none);
@@ -73,6 +82,7 @@ class SpawnSettings {
 
 std::error_code StartProcess(const std::filesystem::path& program,
                              const std::vector<std::string>& arguments,
+                             const std::filesystem::path& output,
                              std::intptr_t& handle) {
   std::erase_if(LeftAlone(),
                 [](std::intptr_t left) { return !IsProcessRunning(left); });
@@ -84,7 +94,7 @@ std::error_code StartProcess(const std::filesystem::path& program,
   pointers.push_back(nullptr);
 
   SpawnSettings settings;
-  int failed = settings.Prepare();
+  int failed = settings.Prepare(output);
   pid_t process = 0;
   if (failed == 0) {
     failed = ::posix_spawn(&process, program.c_str(), settings.actions(),
@@ -102,6 +112,17 @@ bool IsProcessRunning(std::intptr_t handle) {
     ended = ::waitpid(process, nullptr, WNOHANG);
   } while (ended < 0 && errno == EINTR);
   return ended == 0;
+}
+
+bool AskProcessToEnd(std::intptr_t handle) {
+  return ::kill(static_cast<pid_t>(handle), SIGTERM) == 0;
+}
+
+void EndProcess(std::intptr_t handle) {
+  const auto process = static_cast<pid_t>(handle);
+  ::kill(process, SIGKILL);
+  while (::waitpid(process, nullptr, 0) < 0 && errno == EINTR) {
+  }
 }
 
 void LeaveProcess(std::intptr_t handle) { LeftAlone().push_back(handle); }

@@ -11,15 +11,25 @@
 /// family of systems.
 namespace fragsmith::system {
 
-/// Starts the program with its streams shut; the handle is valid when there
+/// Starts the program with its streams shut, or with what it prints going to
+/// the output file when there is a path of one; the handle is valid when there
 /// is no error, and never 0.
 std::error_code StartProcess(const std::filesystem::path& program,
                              const std::vector<std::string>& arguments,
+                             const std::filesystem::path& output,
                              std::intptr_t& handle);
 
 /// True while it runs. False clears away what the system kept of it; the
 /// handle is not valid any more.
 bool IsProcessRunning(std::intptr_t handle);
+
+/// Lets a process that runs know that it is to end; false when there is no
+/// way to.
+bool AskProcessToEnd(std::intptr_t handle);
+
+/// Ends a process that runs and waits for that; the handle is not valid any
+/// more.
+void EndProcess(std::intptr_t handle);
 
 /// Gives up a handle whose process still runs.
 void LeaveProcess(std::intptr_t handle);

@@ -27,10 +27,15 @@ void AppendQuoted(const std::wstring& argument, std::wstring& line) {
   line += L'"';
 }
 
+std::error_code LastError() {
+  return {static_cast<int>(::GetLastError()), std::system_category()};
+}
+
 }  // namespace
 
 std::error_code StartProcess(const std::filesystem::path& program,
                              const std::vector<std::string>& arguments,
+                             const std::filesystem::path& output,
                              std::intptr_t& handle) {
   std::wstring line;
   AppendQuoted(program.wstring(), line);
@@ -41,12 +46,27 @@ std::error_code StartProcess(const std::filesystem::path& program,
   startup.cb = sizeof startup;
   startup.dwFlags = STARTF_USESHOWWINDOW;
   startup.wShowWindow = SW_SHOWMINNOACTIVE;
-  PROCESS_INFORMATION process = {};
-  if (::CreateProcessW(program.c_str(), line.data(), nullptr, nullptr, FALSE,
-                       CREATE_NEW_CONSOLE, nullptr, nullptr, &startup,
-                       &process) == 0) {
-    return {static_cast<int>(::GetLastError()), std::system_category()};
+  HANDLE file = INVALID_HANDLE_VALUE;
+  if (!output.empty()) {
+    SECURITY_ATTRIBUTES inherited = {};
+    inherited.nLength = sizeof inherited;
+    inherited.bInheritHandle = TRUE;
+    file = ::CreateFileW(output.c_str(), FILE_APPEND_DATA,
+                         FILE_SHARE_READ | FILE_SHARE_WRITE, &inherited,
+                         CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (file == INVALID_HANDLE_VALUE) return LastError();
+    startup.dwFlags |= STARTF_USESTDHANDLES;
+    startup.hStdOutput = file;
+    startup.hStdError = file;
   }
+  PROCESS_INFORMATION process = {};
+  const BOOL is_started = ::CreateProcessW(
+      program.c_str(), line.data(), nullptr, nullptr, output.empty() ? 0 : 1,
+      output.empty() ? CREATE_NEW_CONSOLE : CREATE_NO_WINDOW, nullptr, nullptr,
+      &startup, &process);
+  const std::error_code reason = LastError();
+  if (file != INVALID_HANDLE_VALUE) ::CloseHandle(file);
+  if (is_started == 0) return reason;
   ::CloseHandle(process.hThread);
   handle = reinterpret_cast<std::intptr_t>(process.hProcess);
   return {};
@@ -57,6 +77,15 @@ bool IsProcessRunning(std::intptr_t handle) {
   if (::WaitForSingleObject(process, 0) == WAIT_TIMEOUT) return true;
   ::CloseHandle(process);
   return false;
+}
+
+bool AskProcessToEnd(std::intptr_t /*handle*/) { return false; }
+
+void EndProcess(std::intptr_t handle) {
+  const auto process = reinterpret_cast<HANDLE>(handle);
+  ::TerminateProcess(process, 1);
+  ::WaitForSingleObject(process, INFINITE);
+  ::CloseHandle(process);
 }
 
 void LeaveProcess(std::intptr_t handle) {

@@ -1,7 +1,10 @@
 #include "support/file_replacement.h"
 
+#include <chrono>
 #include <random>
+#include <set>
 #include <string>
+#include <string_view>
 #include <system_error>
 #include <utility>
 
@@ -9,28 +12,61 @@
 #include "support/files.h"
 
 namespace fragsmith {
+namespace fs = std::filesystem;
 namespace {
 
-Error CannotWrite(const std::filesystem::path& target,
-                  const std::error_code& reason) {
+/// What the names of temporary files end in, behind a "." and a number.
+constexpr std::string_view kSuffix = ".fgs-tmp";
+
+Error CannotWrite(const fs::path& target, const std::error_code& reason) {
   return {.what = "The file cannot be written: " + reason.message() + ".",
           .file = Utf8FromPath(target),
           .line = 0,
           .advice = "Check the folder, its permissions and the free space."};
 }
 
-std::filesystem::path TemporaryName(const std::filesystem::path& target) {
+fs::path TemporaryName(const fs::path& target) {
   static std::mt19937_64 generator{std::random_device{}()};
-  std::filesystem::path name = ".";
+  fs::path name = ".";
   name += target.filename();
-  name += "." + std::to_string(generator()) + ".tmp";
+  name += '.';
+  name += std::to_string(generator());
+  name += kSuffix;
   return target.parent_path() / name;
+}
+
+bool IsTemporaryName(const fs::path& path) {
+  const std::string name = Utf8FromPath(path.filename());
+  if (!name.starts_with('.') || !name.ends_with(kSuffix)) return false;
+  const std::string stem = name.substr(0, name.size() - kSuffix.size());
+  const std::size_t dot = stem.find_last_not_of("0123456789");
+  return dot > 0 && dot + 1 < stem.size() && stem[dot] == '.';
+}
+
+/// Removes what runs that were killed left behind in the folder, once in each
+/// run. A temporary file of an hour belongs to nobody any more.
+void RemoveLeftOvers(const fs::path& folder) {
+  static std::set<fs::path> tidied;
+  if (!tidied.insert(folder).second) return;
+  std::error_code reason;
+  std::error_code ignored;
+  for (fs::directory_iterator entry(folder.empty() ? "." : folder, reason), end;
+       !reason && entry != end; entry.increment(reason)) {
+    if (!IsTemporaryName(entry->path()) ||
+        !fs::is_regular_file(entry->symlink_status(ignored))) {
+      continue;
+    }
+    const fs::file_time_type written = entry->last_write_time(ignored);
+    constexpr std::chrono::hours kAge(1);
+    if (!ignored && fs::file_time_type::clock::now() - written > kAge) {
+      fs::remove(entry->path(), ignored);
+    }
+  }
 }
 
 }  // namespace
 
-FileReplacement::FileReplacement(std::filesystem::path target,
-                                 std::filesystem::path temporary)
+FileReplacement::FileReplacement(fs::path target, fs::path temporary)
     : target_(std::move(target)), temporary_(std::move(temporary)) {}
 
 FileReplacement::FileReplacement(FileReplacement&& other) noexcept
@@ -40,15 +76,15 @@ FileReplacement::FileReplacement(FileReplacement&& other) noexcept
 FileReplacement::~FileReplacement() {
   if (temporary_.empty()) return;
   std::error_code ignored;
-  std::filesystem::remove(temporary_, ignored);
+  fs::remove(temporary_, ignored);
 }
 
-Result<FileReplacement> FileReplacement::Begin(
-    const std::filesystem::path& target) {
+Result<FileReplacement> FileReplacement::Begin(const fs::path& target) {
+  RemoveLeftOvers(target.parent_path());
   constexpr int kTries = 8;
   std::error_code reason;
   for (int attempt = 0; attempt < kTries; ++attempt) {
-    std::filesystem::path temporary = TemporaryName(target);
+    fs::path temporary = TemporaryName(target);
     reason = system::CreateNewFile(temporary, target);
     if (!reason) return FileReplacement(target, std::move(temporary));
     if (reason != std::errc::file_exists) break;

@@ -10,7 +10,9 @@ namespace fragsmith {
 
 /// A new, empty file beside the target that takes the target's place when it
 /// is complete. Until Commit() succeeds the target is untouched; a
-/// replacement that is dropped removes its file.
+/// replacement that is dropped removes its file. The file is named
+/// ".TARGET.NUMBER.fgs-tmp"; one that a killed run left behind goes with the
+/// first replacement in its folder an hour later or more.
 class FileReplacement {
  public:
   /// Makes the temporary file; nobody else's file is ever opened for it.

@@ -67,19 +67,6 @@ Result<void> SaveFile(const fs::path& path, std::string_view bytes) {
   return done;
 }
 
-fs::path PathFromBytes(std::string_view bytes) {
-#ifdef _WIN32
-  return fs::path(std::u8string(bytes.begin(), bytes.end()));
-#else
-  return {bytes};
-#endif
-}
-
-std::string BytesFromPath(const fs::path& path) {
-  const std::u8string text = path.u8string();
-  return {text.begin(), text.end()};
-}
-
 std::string Utf8FromPath(const fs::path& path) { return BytesFromPath(path); }
 
 fs::path PathFromGameText(std::string_view text) {

@@ -1,7 +1,8 @@
 #ifdef _WIN32
 
-#include <shellapi.h>
 #include <windows.h>
+// The next one needs what stands in the one above.
+#include <shellapi.h>
 
 #include "support/files.h"
 #include "support/program_arguments.h"

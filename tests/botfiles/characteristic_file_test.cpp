@@ -112,7 +112,7 @@ TEST(CharacteristicFile, TakesValuesByThePaddingOfTheKey) {
       {"$JUMPER                        0.5", 0.5F, {}},
       {">>>>>>>>>$JUMPER 0.5 0.75", 0.5F, {}},
       // Nothing behind the key at all leaves it empty, not as it was.
-      {">$JUMPER>>>>>>", {}, {}},
+      {">$JUMPER>>>>>> > ", {}, {}},
       {">$JUMPER", {}, {}},
       // A comment for the game, but not for these rules.
       {">// $JUMPER>>>>>>0.5", 0.5F, 7.0},

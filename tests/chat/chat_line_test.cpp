@@ -86,7 +86,8 @@ TEST(ChatLine, ReadsOtherSpellingsAndKeepsTheRest) {
       {"\", 0, disease, \"", "0, disease;"}, {"a\", \"b", "\"a\", \"b\";"},
       {"a\" \"b", "\"a\" \"b\";"}, {"say \"no\"", "\"say \"no\"\";"},
       {"5\" nails", "\"5\" nails\";"}, {"disease", "disease;"},
-      {"{WEAPON}", "\"weapon\";"}, {"no end", "\"no end\""},
+      {"a\"; \"b", "\"a\"; \"b\";"}, {"{WEAPON}", "\"weapon\";"},
+      {"no end", "\"no end\""},
       {"Rrrrrr.", "\"Rrrrrr.\"; // growl; \"x\""}};
   for (const auto& [editor, file] : oddities) {
     EXPECT_EQ(ChatLineFromFile(kInsult, file).text, editor) << file;

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "install/settings_file.h"
+#include "support/files.h"
 #include "tests/support/package_maker.h"
 #include "tests/support/test_folder.h"
 
@@ -196,11 +197,17 @@ TEST_F(CommandLine, PrintsWhatItWroteAndCountsPackages) {
 
 TEST_F(CommandLine, RefusesToMakeWhatCannotBe) {
   const std::string field = "fragsmith-cli: standard input: Field ";
+  std::string forbidden;
+  for (const char letter : kForbiddenInFileNames) {
+    (forbidden += ' ') += letter;
+  }
   using Row = std::pair<std::string, std::string>;
   for (const auto& [document, error] :
        {Row(R"({"name": "../evil", "versionMinor": "1a"})",
-            "Name error!: Bot name can't have any of these characters: / \\\n"
-            "Error-or-or!: Errors in bot! Correct before saving!\n"),
+            "Name error!: Bot name can't have any of these characters:" +
+                forbidden +
+                "\n"
+                "Error-or-or!: Errors in bot! Correct before saving!\n"),
         Row(R"({"levels": {"1": {"SPEED": 1}}})",
             field + "levels.1.SPEED: there is no such key.\n"),
         Row(R"({"chats": {"death_bfg": ["", "\u0141"]}})",
@@ -303,14 +310,14 @@ TEST_F(CommandLine, ListsAGamesFolder) {
 
 TEST_F(CommandLine, PrintsTheSettingsAfterTheirCheck) {
   settings_ = {.Q3Baseq3 = "/no \"game\"",
-               .WorkDir = Path("work \xFF"),
+               .WorkDir = folder_.path().string() + "/work \xFF",
                .WinZipDir = "/no tool",
                .UserName = "J\xF6rg",
                .Email = "a@b",
                .Http = "https://c",
                .Bots = 12,
                .BaseQ3Check = true};
-  fs::create_directory(settings_.WorkDir);
+  fs::create_directory(PathFromBytes(settings_.WorkDir));
   SaveSettings();
   const Outcome outcome = Run("settings");
   EXPECT_EQ(outcome.status, 0);
@@ -323,12 +330,36 @@ TEST_F(CommandLine, PrintsTheSettingsAfterTheirCheck) {
       R"({"Q3Baseq3": "", "WinZipDir": "/no tool", "UserName": "J\u00f6rg",
           "Email": "a@b", "Http": "https://c", "Bots": 12,
           "BaseQ3Check": true})");
-  wanted["WorkDir"] = Path("work \xEF\xBF\xBD");
+  wanted["WorkDir"] = folder_.path().string() + "/work \xEF\xBF\xBD";
   EXPECT_EQ(json::parse(outcome.out), wanted);
   ExpectSettings();
   fs::remove(folder_ / "program/fgs.ini");
   EXPECT_EQ(json::parse(Run("settings").out)["WorkDir"], Path("program"));
   EXPECT_TRUE(fs::is_empty(folder_ / "program"));
+}
+
+TEST_F(CommandLine, LetsNoNameCommandTheTerminal) {
+  // The five codes that Windows-1252 leaves empty are controls elsewhere.
+  const std::string name = "\x1B]0;x\x07\x9D\xC4\x7F";
+  const std::string shown = "\uFFFD]0;x\uFFFD\uFFFD\u00C4\uFFFD";
+  folder_.Write("game/baseq3/a.pk3",
+                MakeZip({{"botfiles/bots/" + name + "_c.c", {}},
+                         {"models/players/" + name + "/icon_a.tga", {}}}));
+  // Elsewhere a file's name cannot have controls.
+  const std::string package = kIsUnix ? "b\x1B.pk3" : "b.pk3";
+  folder_.Write("game/baseq3/" + package, "no package");
+  const Outcome scan = Run("scan @game");
+  EXPECT_THAT(scan.out, AllOf(HasSubstr("\n  " + shown + ": A\n"),
+                              HasSubstr("\n  " + shown + " ")));
+  EXPECT_THAT(scan.err, HasSubstr(kIsUnix ? "\nb\uFFFD.pk3: " : "\nb.pk3: "));
+  const Outcome load = Run("load @game/baseq3/a.pk3");
+  EXPECT_THAT(load.err, HasSubstr("Bot " + shown + " not loaded."));
+  const Outcome none = Run("load @game/baseq3/" + package + " x");
+  for (const std::string& text : {scan.out, scan.err, load.err, none.err}) {
+    EXPECT_EQ(text.find_first_of("\x1B\x07\x7F"), std::string::npos) << text;
+  }
+  EXPECT_THAT(Run("load @game/baseq3/a.pk3 none").err,
+              HasSubstr("there are:\n" + shown + "\n"));
 }
 
 }  // namespace

@@ -8,12 +8,14 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenuBar>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTabWidget>
 #include <QTest>
 #include <QTimer>
 #include <QToolButton>
+#include <map>
 #include <memory>
 
 #include "editor/dialogs/open_dialog.h"
@@ -23,8 +25,7 @@
 #include "session/presets.h"
 #include "session/save_bot.h"
 #include "support/files.h"
-#include "tests/support/scripted_prompts.h"
-#include "tests/support/test_folder.h"
+#include "tests/editor/window_fixture.h"
 
 namespace fragsmith {
 namespace {
@@ -33,62 +34,7 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-/// The whole window over a program folder of the test's own, with a script
-/// in the place of the user at its boxes.
-class MainWindow : public testing::Test {
- protected:
-  MainWindow() { Open(); }
-
-  void Open() {
-    window_.reset();
-    state_ = std::make_unique<ProgramState>(
-        ProgramFolders{folder_.path(), folder_.path()}, prompts_,
-        SeededRandom(1));
-    window_ = std::make_unique<frmMain>(*state_);
-    window_->show();
-    // Shortcuts and the leaving of boxes need the window to be the active one.
-    QApplication::setActiveWindow(window_.get());
-    QCoreApplication::processEvents();
-  }
-
-  template <typename Widget>
-  Widget* Find(const char* name) {
-    auto* const found = window_->findChild<Widget*>(QLatin1String(name));
-    if (found == nullptr) ADD_FAILURE() << "no " << name;
-    return found;
-  }
-
-  void Choose(const char* name) { Find<QAction>(name)->trigger(); }
-
-  /// Types into a box in the place of what is there, and leaves it.
-  void Type(const char* name, const char* text) {
-    auto* const box = Find<QLineEdit>(name);
-    box->setFocus();
-    box->selectAll();
-    QTest::keyClicks(box, QLatin1String(text));
-    Find<QComboBox>("cmbRail")->setFocus();
-    QCoreApplication::processEvents();
-  }
-
-  const Bot& bot() { return window_->current().bot(); }
-  bool is_changed() { return window_->current().is_changed(); }
-
-  /// Runs a function on the next modal dialog.
-  template <typename Dialog, typename Function>
-  void OnDialog(Function function) {
-    QTimer::singleShot(0, qApp, [function] {
-      auto* const dialog =
-          qobject_cast<Dialog*>(QApplication::activeModalWidget());
-      ASSERT_NE(dialog, nullptr);
-      function(*dialog);
-    });
-  }
-
-  TestFolder folder_;
-  ScriptedPrompts prompts_;
-  std::unique_ptr<ProgramState> state_;
-  std::unique_ptr<frmMain> window_;
-};
+using MainWindow = WindowFixture;
 
 TEST_F(MainWindow, StartsWithABotOfZerosAndNothingUnsaved) {
   EXPECT_THAT(prompts_.log, IsEmpty());
@@ -172,14 +118,66 @@ TEST_F(MainWindow, AsksBeforeUnsavedWorkIsLost) {
 
 TEST_F(MainWindow, OffersTheDraftOfARunThatDidNotEnd) {
   Type("txtBotPara_0", "Lost");
-  window_->findChild<DraftKeeper*>()->SaveNow();
+  const auto save_draft = [this] {
+    window_->findChild<DraftKeeper*>()->SaveNow();
+  };
+  save_draft();
   // A crash: nothing is closed.
   Open();
   EXPECT_EQ(bot().Name(), "Bot");
   EXPECT_TRUE(Find<QPushButton>("cmdTakeDraft")->isVisible());
+  // Neither time nor other work takes the offer away, nor does an end of the
+  // program without an answer.
+  save_draft();
+  Type("txtBotPara_0", "Other");
+  save_draft();
+  prompts_.confirmations = {true};
+  EXPECT_TRUE(window_->close());
+  Open();
+  Type("txtBotPara_0", "Third");
+  prompts_.confirmations = {false};
+  Find<QPushButton>("cmdTakeDraft")->click();
+  EXPECT_EQ(bot().Name(), "Third");
+  prompts_.confirmations = {true};
   Find<QPushButton>("cmdTakeDraft")->click();
   EXPECT_EQ(bot().Name(), "Lost");
   EXPECT_TRUE(is_changed());
+  EXPECT_FALSE(Find<QPushButton>("cmdTakeDraft")->isVisible());
+
+  // The bot that was taken is safe again, and no other editor is offered what
+  // this one still holds.
+  ProgramState other(state_->folders, prompts_, SeededRandom(1));
+  EXPECT_FALSE(frmMain(other).findChild<DraftKeeper*>()->LeftBehind());
+  Open();
+  EXPECT_EQ(window_->findChild<DraftKeeper*>()->LeftBehind()->Name(), "Lost");
+  Find<QPushButton>("cmdDiscardDraft")->click();
+  Open();
+  EXPECT_FALSE(window_->findChild<DraftKeeper*>()->LeftBehind());
+}
+
+TEST_F(MainWindow, GivesEachMnemonicOnce) {
+  auto* const strip = Find<QTabWidget>("tbsBotPara");
+  for (int page = 0; page < strip->count(); ++page) {
+    strip->setCurrentIndex(page);
+    std::map<QChar, QStringList> owners;
+    const auto add = [&owners](const QString& text) {
+      const QKeySequence key = QKeySequence::mnemonic(text);
+      if (!key.isEmpty()) owners[key.toString().back()] << text;
+    };
+    for (const QAction* const action : window_->menuBar()->actions()) {
+      add(action->text());
+    }
+    for (const auto* const label : window_->findChildren<QLabel*>()) {
+      if (label->isVisible() && label->buddy()) add(label->text());
+    }
+    for (const auto* const button : window_->findChildren<QAbstractButton*>()) {
+      if (button->isVisible()) add(button->text());
+    }
+    EXPECT_GE(owners.size(), 10U);
+    for (const auto& [letter, texts] : owners) {
+      EXPECT_EQ(texts.size(), 1) << texts.join(u'/').toStdString();
+    }
+  }
 }
 
 TEST_F(MainWindow, SavesAndLoadsThroughTheDialog) {
@@ -212,7 +210,7 @@ TEST_F(MainWindow, TakesTheValuesAsTheGameReadsThem) {
   const SavedBot saved = SaveBot(odd, folder_.path(), {}, {}, prompts_);
   ASSERT_FALSE(saved.error);
   folder_.Write("bot_w.c", "#define W_RAILGUN 250\r\n");
-  window_->OpenFile(folder_ / "bot_c.c");
+  window_->OpenPath(folder_ / "bot_c.c");
   EXPECT_EQ(bot().Parameter(49), Value(0.0));
   EXPECT_TRUE(Find<QPushButton>("cmdAsGame")->isVisible());
   Find<QPushButton>("cmdAsGame")->click();
@@ -225,7 +223,7 @@ TEST_F(MainWindow, AsksAboutAModelThatNoListHas) {
   (void)stranger.SetParameter(kModelField, std::string("Penguin"));
   (void)stranger.SetParameter(kSkinField, std::string("Ice"));
   prompts_.confirmations = {true};
-  window_->current().Replace(stranger, false);
+  window_->current().Replace(stranger, false, QStringLiteral("Load"));
   EXPECT_EQ(prompts_.log.front(),
             "Model not found!: Model Penguin doesn't exist in Fragsmith's "
             "model/skin list. Do you want to add it there?");
@@ -234,7 +232,7 @@ TEST_F(MainWindow, AsksAboutAModelThatNoListHas) {
   EXPECT_FALSE(is_changed());
 
   (void)stranger.SetParameter(kModelField, std::string("Nobody"));
-  window_->current().Replace(stranger, false);
+  window_->current().Replace(stranger, false, QStringLiteral("Load"));
   EXPECT_EQ(bot().Text(kModelField), "Anarki");
   EXPECT_EQ(bot().Text(kSkinField), "Default");
 }

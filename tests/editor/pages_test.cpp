@@ -39,7 +39,7 @@ class ParameterPages : public testing::Test {
   }
 
   void Show(Bot bot) {
-    current_.Replace(std::move(bot), false);
+    current_.Replace(std::move(bot), false, QStringLiteral("Load"));
     for (const auto& page : pages_) page->ShowBot();
   }
 

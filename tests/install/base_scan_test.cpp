@@ -178,7 +178,8 @@ TEST_F(BaseScan, NeedsTheGamesFolder) {
 
 TEST_F(BaseScan, ReadsEveryPackageButTheGames) {
   WritePackage("pak0.pk3", {"botfiles/bots/own_c.c"});
-  WritePackage("PAK0.PK3", {"botfiles/bots/twin_c.c"});
+  // Where case does not count, this is the same file.
+  if (kIsUnix) WritePackage("PAK0.PK3", {"botfiles/bots/twin_c.c"});
   WritePackage("b.pk3", {"botfiles/bots/sarge_c.c", "botfiles/bots/b_c.c"});
   WritePackage("a.Pk3", {"scripts/b.bot", "models/players/b/icon_x.tga"});
   WritePackage("c.zip", {"botfiles/bots/c_c.c"});
@@ -188,15 +189,20 @@ TEST_F(BaseScan, ReadsEveryPackageButTheGames) {
   lists_.models.AddModelSkin("sarge", "old", "gone.pk3", "");
   lists_.bots.AddBot("gone", "gone.pk3", true);
   selection_ = {16, 5};
+  std::vector<std::size_t> wanted_steps = {0, 1, 2, 3};
+  std::vector<std::string> wanted_bots = {"B b.pk3 No", "Sarge b.pk3 No"};
+  if (kIsUnix) {
+    wanted_steps.push_back(4);
+    wanted_bots.emplace_back("Twin PAK0.PK3 No");
+  }
   std::vector<std::size_t> steps;
   EXPECT_TRUE(Check([&](std::size_t done, std::size_t total) {
     steps.push_back(done);
-    return total == 4;
+    return total == wanted_steps.back();
   }));
-  EXPECT_THAT(steps, ElementsAre(0U, 1U, 2U, 3U, 4U));
+  EXPECT_EQ(steps, wanted_steps);
   EXPECT_TRUE(settings_.BaseQ3Check);
-  EXPECT_THAT(Bots(lists_),
-              ElementsAre("B b.pk3 No", "Sarge b.pk3 No", "Twin PAK0.PK3 No"));
+  EXPECT_EQ(Bots(lists_), wanted_bots);
   EXPECT_THAT(Skins(lists_), ElementsAre("B/X: models\\players\\b\\icon_x.tga",
                                          "Sarge/Mine: "));
   EXPECT_EQ(prompts_.log.size(), 1U);

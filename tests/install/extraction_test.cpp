@@ -17,6 +17,10 @@ using ::testing::IsEmpty;
 
 class Extraction : public ::testing::Test {
  protected:
+  void SetUp() override {
+    if (!kIsUnix) GTEST_SKIP() << "The tool is a shell script.";
+  }
+
   void UseTool(std::string_view script) {
     folder_.WriteProgram("tool dir/wzunzip",
                          "#!/bin/sh\n" + std::string(script));

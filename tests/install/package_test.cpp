@@ -182,6 +182,8 @@ TEST_F(UnzipCommand, WritesTheBareNameOverAnOlderFile) {
   // The name is UTF-8 here and 8-bit text in the package.
   EXPECT_TRUE(Run("\xC3\xA4\xC3\x83\xC2\xB6.c"));
   EXPECT_EQ(folder_.Read("in/out/\xC3\xA4\xC3\x83\xC2\xB6.c"), "8-bit");
+  if (!kIsUnix) return;
+  // A quote cannot be in the name of a file elsewhere.
   EXPECT_TRUE(Run("BO\"T \xC3\x89.C"));
   EXPECT_EQ(folder_.Read("in/out/BO\"T \xC3\x89.C"), "quoted");
 }
@@ -195,7 +197,9 @@ TEST_F(UnzipCommand, WritesNothingOutsideTheFolder) {
   EXPECT_TRUE(std::filesystem::is_empty(target_));
   EXPECT_FALSE(std::filesystem::exists(folder_ / "evil.txt"));
 
-  // A link that was planted under the name is replaced, not followed.
+  // A link that was planted under the name is replaced, not followed. Making
+  // one takes a right elsewhere that users seldom have.
+  if (!kIsUnix) return;
   const auto victim = folder_.Write("victim", "whole");
   std::filesystem::create_symlink(victim, folder_ / "in/out/icon_x.tga");
   EXPECT_TRUE(Run("models/p/icon_x.tga"));

@@ -41,7 +41,7 @@ TEST_F(ProgramFolder, IsThatOfTheExecutableWhenItCanBeWrittenTo) {
 TEST_F(ProgramFolder, IsMadeForTheUserWithTheStarterSettings) {
   folder_.Write("usr/share/fragsmith/fgs.ini",
                 FormatSettings({.WinZipDir = "/not/here", .UserName = "You"}));
-  folder_.WriteProgram("usr/lib/fragsmith/wzunzip", "");
+  folder_.Write("usr/lib/fragsmith/wzunzip.exe", "");
   EXPECT_EQ(FindProgramFolders({}, place_)->program, place_.user_folder);
   const ProgramSettings settings =
       ParseSettings(folder_.Read("home/config/fragsmith/fgs.ini")).settings;
@@ -61,8 +61,8 @@ TEST_F(ProgramFolder, FailsWhereNoneCanBe) {
 }
 
 TEST(ProgramPlaceTest, KnowsItsOwnExecutable) {
-  EXPECT_TRUE(
-      fs::exists(FindProgramPlace().executable_folder / "test_install"));
+  const char* const own = kIsUnix ? "test_install" : "test_install.exe";
+  EXPECT_TRUE(fs::exists(FindProgramPlace().executable_folder / own));
 }
 
 }  // namespace

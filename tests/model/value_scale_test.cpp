@@ -70,6 +70,7 @@ TEST(LevelLinking, MovesNeighboursOnlyAsFarAsNeeded) {
   } cases[] = {{LevelLinking::kNone, 0, {15, 10, 5}, {15, 10, 5}, {}},
                {kRising, 0, {15, 10, 20}, {15, 15, 20}, {1}},
                {kRising, 0, {18, 10, 12}, {18, 18, 18}, {1, 2}},
+               {kRising, 0, {10, 10, 12}, {10, 10, 12}, {}},
                {kRising, 1, {5, 3, 12}, {3, 3, 12}, {0}},
                {kRising, 1, {5, 13, 12}, {5, 13, 13}, {2}},
                {kRising, 1, {8, 6, 4}, {6, 6, 6}, {0, 2}},

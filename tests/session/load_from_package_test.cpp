@@ -38,6 +38,10 @@ class LoadFromPackageTest : public ::testing::Test {
     Pack();
   }
 
+  void SetUp() override {
+    if (!kIsUnix) GTEST_SKIP() << "The tool is a shell script.";
+  }
+
   static void Set(Bot& bot, int index, Value value) {
     ASSERT_TRUE(bot.SetParameter(index, std::move(value)));
   }
@@ -164,6 +168,17 @@ TEST_F(LoadFromPackageTest, GivesNothingWhenAFileIsMissing) {
     EXPECT_THAT(prompts_.log, ElementsAre(kFailed));
   }
   EXPECT_EQ(folder_.Read("x_c.c"), "whole");
+}
+
+TEST_F(LoadFromPackageTest, GivesNothingWhenAFileIsTooLarge) {
+  const std::string file = "mod.pk3/botfiles/bots/rookie_t.c";
+  std::string chat = folder_.Read(file);
+  chat.resize(kMostBotFileBytes, '\n');
+  folder_.Write(file, chat);
+  EXPECT_TRUE(Load());
+  folder_.Write(file, chat + '\n');
+  EXPECT_FALSE(Load());
+  EXPECT_THAT(prompts_.log, ElementsAre(kFailed));
 }
 
 TEST_F(LoadFromPackageTest, GivesNothingWhenTheToolIsSlowOrStopped) {

@@ -116,7 +116,7 @@ TEST_F(SaveBotTest, StopsAtWhatCannotBeWritten) {
     const SavedBot saved = Save(folder, true, true);
     ASSERT_TRUE(saved.error) << blocked;
     EXPECT_EQ(saved.error->file, Path(folder + all[blocked]));
-    EXPECT_THAT(saved.error->what, HasSubstr("directory"));
+    EXPECT_THAT(saved.error->what, HasSubstr(kIsUnix ? "directory" : "denied"));
     EXPECT_EQ(saved.written.size(), blocked);
     EXPECT_EQ(Count(folder), before);
     for (std::size_t file = 0; file < all.size(); ++file) {
@@ -153,7 +153,9 @@ TEST_F(SaveBotTest, NeverLeavesTheFolder) {
   }
   EXPECT_EQ(Count(""), 3);
   EXPECT_THAT(prompts_.log, IsEmpty());
-  // A link is replaced, not followed.
+  // A link is replaced, not followed. Making one takes a right elsewhere that
+  // users seldom have.
+  if (!kIsUnix) return;
   Rename("Rookie");
   const fs::path victim = folder_.Write("victim", "whole");
   fs::create_symlink(victim, folder_ / "outer/target/rookie_c.c");

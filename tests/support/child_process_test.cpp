@@ -9,7 +9,10 @@
 #include <set>
 #include <string>
 #include <thread>
+#include <vector>
 
+#include "support/files.h"
+#include "support/program_arguments.h"
 #include "support/temporary_folder.h"
 #include "tests/support/test_folder.h"
 
@@ -51,6 +54,7 @@ class ChildProcessTest : public ::testing::Test {
 };
 
 TEST_F(ChildProcessTest, HasNoneOfOurStreams) {
+  if (!kIsUnix) GTEST_SKIP() << "The program is a shell script.";
   Result<ChildProcess> child =
       Start("cat; echo out; echo error >&2; ls -l /proc/$$/fd >\"$0.log\"");
   ASSERT_TRUE(child);
@@ -62,6 +66,7 @@ TEST_F(ChildProcessTest, HasNoneOfOurStreams) {
 }
 
 TEST_F(ChildProcessTest, LeavesNoZombie) {
+  if (!kIsUnix) GTEST_SKIP() << "There are none elsewhere.";
   ASSERT_TRUE(Children().empty());
   {
     Result<ChildProcess> child = Start("exit 0");
@@ -83,6 +88,38 @@ TEST_F(ChildProcessTest, LeavesNoZombie) {
   }));
 }
 
+TEST_F(ChildProcessTest, PrintsIntoAFileAndEndsWhenItIsTo) {
+  if (!kIsUnix) GTEST_SKIP() << "The program is a shell script.";
+  const fs::path output = folder_.Write("output", "of an earlier one");
+  const auto start = [&](const std::string& script) {
+    Result<ChildProcess> child = ChildProcess::Start(
+        folder_.WriteProgram("program", "#!/bin/sh\n" + script), {"a b"},
+        output);
+    EXPECT_TRUE(child);
+    EXPECT_TRUE(Within20Seconds([&] {
+      return folder_.Read("output").find("go") != std::string::npos;
+    })) << script;
+    return child;
+  };
+  Result<ChildProcess> polite = start(
+      "trap 'echo bye; exit' TERM; cat; echo \"$1\"; echo go >&2\n"
+      "while :; do sleep 0.01; done");
+  EXPECT_TRUE(polite->IsRunning());
+  polite->End();
+  EXPECT_FALSE(polite->IsRunning());
+  EXPECT_EQ(folder_.Read("output"), "a b\ngo\nbye\n");
+  polite->End();
+
+  Result<ChildProcess> stubborn =
+      start("trap '' TERM; echo go; while :; do sleep 0.01; done");
+  stubborn->End();
+  EXPECT_FALSE(stubborn->IsRunning());
+  EXPECT_TRUE(Children().empty());
+
+  EXPECT_FALSE(ChildProcess::Start(folder_ / "program", {},
+                                   folder_ / "no such folder/output"));
+}
+
 TEST_F(ChildProcessTest, SaysWhatCannotBeStarted) {
   const fs::path text = folder_.Write("text", "no program");
   for (const fs::path& path : {folder_ / "missing", text, folder_.path()}) {
@@ -92,16 +129,51 @@ TEST_F(ChildProcessTest, SaysWhatCannotBeStarted) {
   }
 }
 
+#ifdef _WIN32
+// Not a test: the program that the one below starts.
+TEST(ChildProcessArguments, DISABLED_AreWritten) {
+  const std::vector<std::string> arguments = ProgramArguments(0, nullptr);
+  std::ofstream file(PathFromBytes(arguments.back()), std::ios::binary);
+  for (const std::string& text : arguments) file << text << '\n';
+}
+
+// One line of text holds them all there, to be taken apart again.
+TEST_F(ChildProcessTest, GetsItsArgumentsAsTheyAre) {
+  const std::string log = Utf8FromPath(folder_ / "ärger 日本.log");
+  const std::vector<std::string> arguments = {
+      "--gtest_also_run_disabled_tests",
+      "--gtest_filter=ChildProcessArguments.*",
+      "",
+      "a b",
+      "C:\\dir\\",
+      "\\\\x\\y z\\\\",
+      "say \"no\"\\\"",
+      "*.exe",
+      "%PATH% ^ & | <",
+      "\t日本 €",
+      log};
+  Result<ChildProcess> child = ChildProcess::Start(
+      PathFromBytes(::testing::internal::GetArgvs().front()), arguments);
+  ASSERT_TRUE(child);
+  EXPECT_TRUE(Within20Seconds([&] { return !child->IsRunning(); }));
+  std::string lines;
+  for (const std::string& text : arguments) lines += text + '\n';
+  EXPECT_EQ(folder_.Read("ärger 日本.log"), lines);
+}
+#endif
+
 TEST(TemporaryFolderTest, IsOursAloneAndGoesWithAllInIt) {
   std::optional<TemporaryFolder> temporary(std::in_place);
   const Result<fs::path> path = temporary->GetTempFolder();
   ASSERT_TRUE(path);
   EXPECT_EQ(*temporary->GetTempFolder(), *path);
-  EXPECT_EQ(fs::status(*path).permissions(), fs::perms::owner_all);
   std::ofstream(*path / "file") << "text";
   const TestFolder other;
   other.Write("kept", "");
-  fs::create_directory_symlink(other.path(), *path / "link");
+  if (kIsUnix) {
+    EXPECT_EQ(fs::status(*path).permissions(), fs::perms::owner_all);
+    fs::create_directory_symlink(other.path(), *path / "link");
+  }
   temporary.reset();
   EXPECT_FALSE(fs::exists(*path));
   EXPECT_TRUE(fs::exists(other / "kept"));

@@ -7,6 +7,8 @@
 #include <random>
 #include <system_error>
 
+#include "support/files.h"
+
 namespace fragsmith {
 namespace fs = std::filesystem;
 
@@ -23,9 +25,13 @@ TestFolder::~TestFolder() {
   fs::remove_all(path_, ignored);
 }
 
+fs::path TestFolder::operator/(std::string_view name) const {
+  return (path_ / PathFromBytes(name)).make_preferred();
+}
+
 fs::path TestFolder::Write(std::string_view name,
                            std::string_view bytes) const {
-  fs::path path = path_ / name;
+  fs::path path = *this / name;
   fs::create_directories(path.parent_path());
   std::ofstream file(path, std::ios::binary);
   file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
@@ -40,8 +46,15 @@ fs::path TestFolder::WriteProgram(std::string_view name,
   return path;
 }
 
+bool TestFolder::Is(const std::optional<fs::path>& path,
+                    std::string_view name) const {
+  if (kIsUnix || !path) return path == *this / name;
+  std::error_code ignored;
+  return fs::equivalent(*path, *this / name, ignored);
+}
+
 std::string TestFolder::Read(std::string_view name) const {
-  std::ifstream file(path_ / name, std::ios::binary);
+  std::ifstream file(*this / name, std::ios::binary);
   EXPECT_TRUE(file.good()) << name;
   return {std::istreambuf_iterator<char>(file), {}};
 }

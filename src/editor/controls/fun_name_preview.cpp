@@ -5,17 +5,11 @@
 #include <QPainterPath>
 #include <QPen>
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <cstddef>
 
 namespace fragsmith {
 namespace {
-
-constexpr std::array<QRgb, 8> kGameColors = {
-    qRgb(0, 0, 0),   qRgb(255, 0, 0),   qRgb(0, 255, 0),   qRgb(255, 255, 0),
-    qRgb(0, 0, 255), qRgb(0, 255, 255), qRgb(255, 0, 255), qRgb(255, 255, 255),
-};
 
 /// Relative luminance of the screen colour, 0 to 1, as the web's guidelines
 /// for readable text define it.
@@ -49,9 +43,9 @@ void FunNamePreview::DrawFunName(const QString& text) {
   for (qsizetype place = 0; place < text.size(); ++place) {
     const bool has_next = text[place] == u'^' && place + 1 < text.size();
     const int digit = has_next ? text[place + 1].unicode() - u'0' : -1;
-    if (digit >= 0 && digit < static_cast<int>(kGameColors.size())) {
+    if (digit >= 0 && digit < static_cast<int>(kFunNameColors.size())) {
       runs_.push_back(
-          {QColor(kGameColors[static_cast<std::size_t>(digit)]), {}});
+          {QColor(kFunNameColors[static_cast<std::size_t>(digit)]), {}});
       ++place;
     } else {
       runs_.back().text += text[place];

@@ -4,10 +4,17 @@
 #include <QColor>
 #include <QString>
 #include <QWidget>
+#include <array>
 #include <optional>
 #include <vector>
 
 namespace fragsmith {
+
+/// The game's colours by the digits of their codes.
+inline constexpr std::array<QRgb, 8> kFunNameColors = {
+    qRgb(0, 0, 0),   qRgb(255, 0, 0),   qRgb(0, 255, 0),   qRgb(255, 255, 0),
+    qRgb(0, 0, 255), qRgb(0, 255, 255), qRgb(255, 0, 255), qRgb(255, 255, 255),
+};
 
 /// Shows a fun name in the colours that its codes ("^" and a digit 0 to 7)
 /// ask for. A colour that would sink into the window's ground, such as black

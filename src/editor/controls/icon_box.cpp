@@ -23,7 +23,8 @@ void IconBox::ShowPicture(const Picture& picture, const QString& description) {
 void IconBox::Clear() { ShowPicture({}, {}); }
 
 QSize IconBox::sizeHint() const {
-  const int side = fontMetrics().height() * 5 + 2 * frameWidth();
+  // The game's icons have 128 pixels; so they stand beside three fields.
+  const int side = fontMetrics().height() * 8 + 2 * frameWidth();
   return {side, side};
 }
 

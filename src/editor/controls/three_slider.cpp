@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <vector>
 
-#include "model/bot.h"
-
 namespace fragsmith {
 
 ThreeSlider::ThreeSlider(QWidget* parent)
@@ -37,6 +35,7 @@ void ThreeSlider::MoveOthers(std::size_t moved) {
     const auto index = static_cast<std::size_t>(place);
     sliders_[index]->ShowPosition(positions[index]);
   }
+  moving_level_ = kSkillLevels[moved];
   // All stand right before anybody hears of the first.
   places.insert(places.begin(), static_cast<int>(moved));
   for (const int place : places) {

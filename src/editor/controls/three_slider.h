@@ -5,6 +5,7 @@
 #include <cstddef>
 
 #include "editor/controls/value_control.h"
+#include "model/bot.h"
 #include "model/level_linking.h"
 #include "model/value.h"
 
@@ -25,6 +26,9 @@ class ThreeSlider : public ValueControl {
   /// program shows is never moved.
   void SetMode(LevelLinking linking) { linking_ = linking; }
 
+  /// The level that the user moves, while others follow it.
+  int MovingLevel() const { return moving_level_; }
+
   /// Sends nothing. Throws std::out_of_range for a level that bots lack.
   void ShowValue(int level, const Value& value);
 
@@ -37,6 +41,7 @@ class ThreeSlider : public ValueControl {
   void MoveOthers(std::size_t moved);
 
   std::array<ValueSlider*, 3> sliders_{};
+  int moving_level_ = kSkillLevels.front();
   LevelLinking linking_ = LevelLinking::kNone;
 };
 

@@ -4,7 +4,10 @@
 #include <QGridLayout>
 #include <QLabel>
 
+#include "editor/controls/caption_mark.h"
 #include "editor/controls/value_label.h"
+#include "model/bot.h"
+#include "model/characteristic_catalogue.h"
 
 namespace fragsmith {
 namespace {
@@ -32,7 +35,15 @@ ValueControl::ValueControl(ScaleLookup lookup, QWidget* parent)
   grid_->setAlignment(Qt::AlignTop);
   grid_->setVerticalSpacing(0);
   grid_->setColumnStretch(1, 1);
-  grid_->addWidget(caption_, 0, 0, 1, 3);
+  grid_->addWidget(caption_, 0, 0, 1, 2);
+}
+
+CaptionMark* ValueControl::NeedMark() {
+  if (mark_ == nullptr && !caption_->text().isEmpty()) {
+    mark_ = new CaptionMark(this);
+    grid_->addWidget(mark_, 0, 2, Qt::AlignRight | Qt::AlignVCenter);
+  }
+  return mark_;
 }
 
 void ValueControl::SetCaption(const QString& caption) {
@@ -104,6 +115,20 @@ void ValueControl::AlignTexts() {
     row.text->setContentsMargins(ticks);
     if (row.number != nullptr) row.number->setContentsMargins(ticks);
   }
+}
+
+std::optional<int> ParameterOf(const QWidget* widget) {
+  const QWidget* control = widget;
+  while (control != nullptr &&
+         qobject_cast<const ValueControl*>(control) == nullptr) {
+    control = control->parentWidget();
+  }
+  if (control == nullptr || control == widget) return std::nullopt;
+  const int index = static_cast<const ValueControl*>(control)->Index();
+  const QString level = widget->objectName().section(u'_', 1);
+  if (!level.isEmpty()) return LevelIndex(level.toInt(), index);
+  if (kPerLevelRange.Contains(index)) return std::nullopt;
+  return index;
 }
 
 }  // namespace fragsmith

@@ -14,6 +14,7 @@ class QLabel;
 
 namespace fragsmith {
 
+class CaptionMark;
 class ValueLabel;
 
 /// What the controls with sliders have in common: a caption on top
@@ -38,6 +39,11 @@ class ValueControl : public QWidget {
   void SetMax(int max);
   int Max() const { return max_; }
 
+  /// The sign beside the caption; null while none was needed, and for a
+  /// control without a caption.
+  CaptionMark* mark() const { return mark_; }
+  CaptionMark* NeedMark();
+
  protected:
   using ScaleLookup = std::optional<ValueScale> (*)(int max);
 
@@ -52,9 +58,9 @@ class ValueControl : public QWidget {
 
  private:
   struct Row {
-    ValueSlider* slider;
-    ValueLabel* text;
-    QLabel* number;  ///< None without a level.
+    ValueSlider* slider = nullptr;
+    ValueLabel* text = nullptr;
+    QLabel* number = nullptr;  ///< None without a level.
     std::optional<int> level;
   };
 
@@ -64,11 +70,16 @@ class ValueControl : public QWidget {
   ScaleLookup lookup_;
   QGridLayout* grid_;
   QLabel* caption_;
+  CaptionMark* mark_ = nullptr;
   std::vector<Row> rows_;
   QString spoken_name_;
   int index_ = 0;
   int max_ = 1;
 };
+
+/// The parameter, by level, that a slider of a value control or one of the
+/// texts beside it stands for; nothing for any other widget.
+std::optional<int> ParameterOf(const QWidget* widget);
 
 }  // namespace fragsmith
 

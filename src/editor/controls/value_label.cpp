@@ -1,9 +1,16 @@
 #include "editor/controls/value_label.h"
 
+#include <QEvent>
 #include <QPainter>
 #include <QStyle>
 
 namespace fragsmith {
+namespace {
+
+/// Texts up to this length, "0.65" and "1000", are never cut.
+constexpr int kPlainTextLength = 4;
+
+}  // namespace
 
 ValueLabel::ValueLabel(QWidget* parent) : QLabel(parent) {
   setTextFormat(Qt::PlainText);
@@ -12,17 +19,32 @@ ValueLabel::ValueLabel(QWidget* parent) : QLabel(parent) {
 }
 
 void ValueLabel::ShowText(const QString& text) {
+  // Hundreds of labels are filled before the first paint, mostly with the
+  // text that they have.
+  if (text == this->text()) return;
   setText(text);
-  const bool is_cut =
-      fontMetrics().horizontalAdvance(text) > sizeHint().width();
-  setToolTip(is_cut ? text.toHtmlEscaped() : QString());
+  const bool is_cut = text.size() > kPlainTextLength &&
+                      fontMetrics().horizontalAdvance(text) > Width();
+  if (is_cut || !toolTip().isEmpty()) {
+    setToolTip(is_cut ? text.toHtmlEscaped() : QString());
+  }
+}
+
+int ValueLabel::Width() const {
+  if (width_ == 0) {
+    width_ = fontMetrics().horizontalAdvance(QStringLiteral("0.0000"));
+  }
+  return width_;
+}
+
+void ValueLabel::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::FontChange) width_ = 0;
+  QLabel::changeEvent(event);
 }
 
 QSize ValueLabel::sizeHint() const {
-  const QFontMetrics metrics = fontMetrics();
   const QMargins margins = contentsMargins();
-  return {metrics.horizontalAdvance(QStringLiteral("0.0000")),
-          metrics.height() + margins.top() + margins.bottom()};
+  return {Width(), fontMetrics().height() + margins.top() + margins.bottom()};
 }
 
 void ValueLabel::paintEvent(QPaintEvent* /*event*/) {

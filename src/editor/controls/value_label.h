@@ -22,7 +22,13 @@ class ValueLabel : public QLabel {
   QSize minimumSizeHint() const override { return sizeHint(); }
 
  protected:
+  void changeEvent(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
+
+ private:
+  int Width() const;
+
+  mutable int width_ = 0;  ///< Of the room for the text; 0 before it is known.
 };
 
 }  // namespace fragsmith

@@ -135,6 +135,14 @@ void ValueSlider::initStyleOption(QStyleOptionSlider* option) const {
 
 void ValueSlider::paintEvent(QPaintEvent* event) {
   QSlider::paintEvent(event);
+  if (hasFocus()) {
+    // Some styles show nothing of the focus.
+    QStyleOptionFocusRect focus;
+    focus.initFrom(this);
+    focus.rect = rect();
+    QPainter painter(this);
+    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, this);
+  }
   if (tickInterval() == 0) return;
   // Styles cut the handle or hide the ticks on a dark ground when they draw
   // ticks below it.
@@ -190,9 +198,11 @@ void ValueSlider::TakePosition() {
 }
 
 void ValueSlider::Announce() {
-  // The toolkit has announced the position.
-  QAccessibleValueChangeEvent event(this, Number());
-  QAccessible::updateAccessibility(&event);
+  if (QAccessible::isActive()) {
+    // The toolkit has announced the position.
+    QAccessibleValueChangeEvent event(this, Number());
+    QAccessible::updateAccessibility(&event);
+  }
   emit TextChanged(Text());
 }
 

@@ -127,7 +127,7 @@ QString CharacteristicCaption(int index) {
 
 QString ChatTypeHelp(int type) {
   const TypeHelp& help = kTypeHelp.at(static_cast<std::size_t>(type));
-  const QString text = TableText(help.text);
+  QString text = TableText(help.text);
   if (help.chance == kNever) return text;
   return text +
          QStringLiteral(
@@ -138,11 +138,11 @@ QString ChatTypeHelp(int type) {
 }
 
 QString ChatPointerHelp(int type, int pointer) {
-  const auto found = std::find_if(kExceptions.begin(), kExceptions.end(),
-                                  [type, pointer](const Exception& exception) {
-                                    return exception.types.Contains(type) &&
-                                           exception.pointer == pointer;
-                                  });
+  const auto* const found = std::find_if(
+      kExceptions.begin(), kExceptions.end(),
+      [type, pointer](const Exception& exception) {
+        return exception.types.Contains(type) && exception.pointer == pointer;
+      });
   const std::string_view text =
       found == kExceptions.end()
           ? kPointerHelp.at(static_cast<std::size_t>(pointer))

@@ -4,11 +4,7 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
-#include <QLabel>
-#include <QShortcut>
 #include <QSignalBlocker>
-#include <QStyle>
-#include <QStyledItemDelegate>
 #include <QTimer>
 #include <algorithm>
 #include <optional>
@@ -16,112 +12,15 @@
 
 #include "chat/chat_catalogue.h"
 #include "chat/chat_commands.h"
-#include "editor/code_page_validator.h"
 #include "editor/game_text_conversion.h"
 #include "editor/pages/chat_help.h"
+#include "editor/pages/chat_page_parts.h"
 #include "editor/pages/page_table.h"
 #include "editor/parameter_help.h"
+#include "editor/severity_icon.h"
+#include "editor/undo_keys.h"
 
 namespace fragsmith {
-namespace {
-
-void SetHelp(QWidget& widget, const QString& help) {
-  widget.setToolTip(WrappedToolTip({}, help));
-  widget.setWhatsThis(widget.toolTip());
-  widget.setAccessibleDescription(help);
-}
-
-/// A list below its label, as wide as the longest of its entries.
-QListWidget* MakeList(const QString& name, const QString& caption,
-                      QGridLayout& grid, int column, int rows) {
-  auto* const list = new QListWidget;
-  list->setObjectName(name);
-  auto* const label = new QLabel(caption);
-  label->setBuddy(list);
-  list->setAccessibleName(label->text().remove(u'&').remove(u':'));
-  list->setMinimumHeight(list->fontMetrics().lineSpacing() * 5);
-  grid.addWidget(label, 0, column);
-  grid.addWidget(list, 1, column, rows, 1);
-  return list;
-}
-
-void FitWidth(QListWidget& list) {
-  int width = 0;
-  for (int row = 0; row < list.count(); ++row) {
-    width = std::max(
-        width, list.fontMetrics().horizontalAdvance(list.item(row)->text()));
-  }
-  list.setFixedWidth(width + list.fontMetrics().averageCharWidth() * 2 +
-                     list.style()->pixelMetric(QStyle::PM_ScrollBarExtent) +
-                     2 * list.frameWidth());
-  list.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-}
-
-void AddEntry(QListWidget& list, std::string_view text, const QString& help) {
-  auto* const item = new QListWidgetItem(TableText(text), &list);
-  item->setToolTip(WrappedToolTip(item->text(), help));
-  item->setData(Qt::AccessibleDescriptionRole, help);
-}
-
-QPushButton* MakeButton(const QString& name, const QString& caption,
-                        const QString& help) {
-  auto* const button = new QPushButton(caption);
-  button->setObjectName(name);
-  SetHelp(*button, help);
-  return button;
-}
-
-/// Shows the lines as the list has room for them.
-class LineDelegate : public QStyledItemDelegate {
- public:
-  using QStyledItemDelegate::QStyledItemDelegate;
-
- protected:
-  void initStyleOption(QStyleOptionViewItem* option,
-                       const QModelIndex& index) const override {
-    QStyledItemDelegate::initStyleOption(option, index);
-    if (option->text.isEmpty()) {
-      option->text = QStringLiteral("(empty line)");
-      option->palette.setBrush(
-          QPalette::Text, option->palette.brush(QPalette::PlaceholderText));
-    }
-    // A line of a bad file may have megabytes.
-    option->text.truncate(500);
-  }
-};
-
-/// Lets control characters stand that the line of a file may have. The box
-/// would take all of such a line for refused otherwise.
-class LineValidator : public CodePageValidator {
- public:
-  using CodePageValidator::CodePageValidator;
-
-  State validate(QString& text, int& position) const override {
-    QString plain = text;
-    for (QChar& letter : plain) {
-      const bool ends_text = letter == u'\0' || letter == u'\t' ||
-                             letter == u'\n' || letter == u'\r';
-      if (letter < u' ' && !ends_text) letter = u' ';
-    }
-    return CodePageValidator::validate(plain, position);
-  }
-};
-
-/// What a double click on an entry does, and Enter while the list has the
-/// focus. (The "activated" of a list would also be a single click on some
-/// desktops.)
-template <typename Action>
-void OnChoice(QListWidget& list, QObject* receiver, Action action) {
-  QObject::connect(&list, &QListWidget::itemDoubleClicked, receiver, action);
-  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
-    auto* const shortcut = new QShortcut(QKeySequence(key), &list);
-    shortcut->setContext(Qt::WidgetShortcut);
-    QObject::connect(shortcut, &QShortcut::activated, receiver, action);
-  }
-}
-
-}  // namespace
-
 ChatPage::ChatPage(CurrentBot& current, const SynonymList& synonyms,
                    RandomSource random, Prompts& prompts, QWidget* parent)
     : ScrollingPage(parent),
@@ -141,6 +40,8 @@ ChatPage::ChatPage(CurrentBot& current, const SynonymList& synonyms,
   MakeReadyLines(*grid);
   MakeWords(*grid);
   MakeSynonyms(*grid);
+  spoken_ = new SpokenPreview(random_);
+  grid->addWidget(spoken_, 5, 0, 1, 5);
   grid->setRowStretch(1, 1);
   grid->setColumnStretch(1, 1);
   SetContent(content);
@@ -181,6 +82,8 @@ void ChatPage::MakeLines(QGridLayout& grid) {
                          "and a double quote breaks the file for the game."));
   box_->setValidator(new LineValidator(box_));
   box_->installEventFilter(this);
+  // Each letter is in the bot at once, and the window takes it back.
+  LeaveUndoToWindow(*box_);
   connect(box_, &QLineEdit::textChanged, this, &ChatPage::StoreLine);
   connect(box_, &QLineEdit::returnPressed, this,
           &ChatPage::CheckSynonymsByItself);
@@ -269,7 +172,7 @@ void ChatPage::MakeSynonyms(QGridLayout& grid) {
   check_ = MakeButton(QStringLiteral("cmdCheckSynonyms"),
                       QStringLiteral("Chec&k synonyms"), help);
   connect(check_, &QPushButton::clicked, this, &ChatPage::CheckSynonyms);
-  checks_by_itself_ = new QCheckBox(QStringLiteral("Autoch&eck synonyms"));
+  checks_by_itself_ = new QCheckBox(QStringLiteral("Autocheck s&ynonyms"));
   checks_by_itself_->setObjectName(QStringLiteral("chkAutoSynonyms"));
   SetHelp(*checks_by_itself_,
           help + QStringLiteral(" Done whenever the line box is left or Enter "
@@ -283,6 +186,20 @@ void ChatPage::MakeSynonyms(QGridLayout& grid) {
 
 void ChatPage::ShowBot() { ShowType(); }
 
+void ChatPage::ShowAgain() {
+  const int line = Line();
+  const int cursor = box_->cursorPosition();
+  ShowType();
+  if (line < 0 || lines_->count() == 0) return;
+  SelectLine(std::min(line, lines_->count() - 1));
+  box_->setCursorPosition(cursor);
+}
+
+void ChatPage::GoTo(int type, int line) {
+  types_->setCurrentRow(type);
+  if (line >= 0 && line < lines_->count()) SelectLine(line);
+}
+
 void ChatPage::ShowType() {
   const int type = Type();
   {
@@ -295,6 +212,7 @@ void ChatPage::ShowType() {
     }
   }
   pointers_->ShowType(type);
+  MarkLines();
   SelectLine(lines_->count() > 0 ? 0 : -1);
 }
 
@@ -323,6 +241,57 @@ void ChatPage::ShowLine() {
        std::initializer_list<QWidget*>{pointers_, add_word_, check_}) {
     control->setEnabled(can_edit);
   }
+  ShowSpoken();
+}
+
+void ChatPage::ShowSpoken() {
+  // The line of a bad file may have megabytes.
+  constexpr std::size_t kMostBytes = 1024;
+  if (!isVisible() || Type() < 0) return;
+  const bool has_line = Line() >= 0;
+  spoken_->ShowLine(
+      current_.bot(), Type(),
+      has_line ? current_.bot().ChatLine(Type(), Line()).substr(0, kMostBytes)
+               : std::string());
+}
+
+void ChatPage::SetGame(const GameData* game) { spoken_->SetGame(game); }
+
+void ChatPage::showEvent(QShowEvent* event) {
+  ScrollingPage::showEvent(event);
+  ShowSpoken();
+}
+
+void ChatPage::ShowMarks(const std::vector<Finding>& findings) {
+  marks_.clear();
+  for (const Finding& finding : findings) {
+    if (finding.place.chat_type < 0) continue;
+    marks_[{finding.place.chat_type, finding.place.chat_line}].Add(finding);
+  }
+  for (int type = 0; type < types_->count(); ++type) {
+    // A type shows the gravest of its lines.
+    std::optional<Severity> gravest;
+    for (auto mark = marks_.lower_bound({type, FindingPlace::kNone});
+         mark != marks_.end() && mark->first.first == type; ++mark) {
+      gravest = gravest ? std::min(*gravest, *mark->second.gravest)
+                        : mark->second.gravest;
+    }
+    types_->item(type)->setIcon(gravest && *gravest != Severity::kHint
+                                    ? SeverityIcon(*gravest, *style())
+                                    : QIcon());
+  }
+  MarkLines();
+}
+
+void ChatPage::MarkLines() {
+  for (int line = 0; line < lines_->count(); ++line) {
+    const auto mark = marks_.find({Type(), line});
+    const bool has_mark = mark != marks_.end();
+    lines_->item(line)->setIcon(
+        has_mark ? SeverityIcon(*mark->second.gravest, *style()) : QIcon());
+    lines_->item(line)->setToolTip(
+        has_mark ? WrappedToolTip({}, mark->second.text) : QString());
+  }
 }
 
 void ChatPage::StoreLine() {
@@ -334,9 +303,20 @@ void ChatPage::StoreLine() {
     emit StatusText(QLatin1String(kRefusedCharacter));
     return;
   }
-  current_.EditChats(
-      [this, &text](Bot& bot) { bot.SetChatLine(Type(), Line(), *text); });
+  current_.EditChats(NameOf("Chat line", Line()), [this, &text](Bot& bot) {
+    bot.SetChatLine(Type(), Line(), *text);
+  });
   lines_->currentItem()->setText(box_->text());
+  ShowSpoken();
+}
+
+EditName ChatPage::NameOf(const char* text, int line) const {
+  EditName name = {.text = QLatin1String(text), .place = {}, .merges = false};
+  name.place.chat_type = Type();
+  name.place.chat_line = line;
+  // Letters that are typed into one line are one edit.
+  name.merges = line >= 0;
+  return name;
 }
 
 void ChatPage::ShowMemberNumbers() {
@@ -355,7 +335,7 @@ void ChatPage::AddSelectedList() {
   if (Type() < 0 || group < 0 || number == nullptr) return;
   const int selected = Line();
   int line = 0;
-  current_.EditChats([&](Bot& bot) {
+  current_.EditChats(NameOf("Add selected list"), [&](Bot& bot) {
     line = AddGroupMember(bot, Type(), selected, group, number->text().toInt());
   });
   const QString text = ToQString(current_.bot().ChatLine(Type(), line));
@@ -378,7 +358,8 @@ void ChatPage::AddWord() {
 void ChatPage::AddLine() {
   if (Type() < 0) return;
   int line = 0;
-  current_.EditChats([&](Bot& bot) { line = AddEmptyChatLine(bot, Type()); });
+  current_.EditChats(NameOf("New line"),
+                     [&](Bot& bot) { line = AddEmptyChatLine(bot, Type()); });
   {
     const QSignalBlocker silence(lines_);
     lines_->addItem(QString());
@@ -390,7 +371,8 @@ void ChatPage::AddLine() {
 void ChatPage::RemoveLine() {
   const int line = Line();
   if (Type() < 0 || line < 0) return;
-  current_.EditChats([&](Bot& bot) { bot.RemoveChatLine(Type(), line); });
+  current_.EditChats(NameOf("Remove line"),
+                     [&](Bot& bot) { bot.RemoveChatLine(Type(), line); });
   {
     const QSignalBlocker silence(lines_);
     delete lines_->takeItem(line);
@@ -401,19 +383,22 @@ void ChatPage::RemoveLine() {
 void ChatPage::AddRandomList() {
   if (Type() < 0) return;
   int line = 0;
-  current_.EditChats(
-      [&](Bot& bot) { line = AddRandomChatLine(bot, Type(), random_); });
+  current_.EditChats(NameOf("Add random list"), [&](Bot& bot) {
+    line = AddRandomChatLine(bot, Type(), random_);
+  });
   ShowType();
   lines_->scrollToItem(lines_->item(line));
 }
 
 void ChatPage::AddExtraChatsToBot() {
-  current_.EditChats([this](Bot& bot) { AddExtraChats(bot, random_); });
+  current_.EditChats(NameOf("Add extra chats"),
+                     [this](Bot& bot) { AddExtraChats(bot, random_); });
   ShowType();
 }
 
 void ChatPage::DeleteAllChats() {
-  current_.EditChats([](Bot& bot) { bot.ClearChats(); });
+  current_.EditChats(NameOf("Delete all chats"),
+                     [](Bot& bot) { bot.ClearChats(); });
   ShowType();
 }
 

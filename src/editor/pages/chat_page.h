@@ -5,12 +5,15 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <map>
 #include <string>
 
 #include "chat/synonym_list.h"
+#include "editor/controls/caption_mark.h"
 #include "editor/current_bot.h"
 #include "editor/pages/pointer_buttons.h"
 #include "editor/pages/scrolling_page.h"
+#include "editor/pages/spoken_preview.h"
 #include "support/prompts.h"
 #include "support/random.h"
 
@@ -32,7 +35,18 @@ class ChatPage : public ScrollingPage {
   /// Shows the lines of the bot; the selected type stays selected.
   void ShowBot();
 
- public slots:
+  /// The same after an edit was taken back: the line and the cursor stay.
+  void ShowAgain();
+
+  /// Selects a chat type and, from 0 on, a line of it.
+  void GoTo(int type, int line);
+
+  /// Shows beside types and lines what the game will do with them.
+  void ShowMarks(const std::vector<Finding>& findings);
+
+  /// Whose words the sample of a line uses; null for our own.
+  void SetGame(const GameData* game);
+
   /// One more random line for each type.
   void AddExtraChatsToBot();
   void DeleteAllChats();
@@ -44,6 +58,7 @@ class ChatPage : public ScrollingPage {
  protected:
   /// The line box is checked for synonyms when it is left.
   bool eventFilter(QObject* watched, QEvent* event) override;
+  void showEvent(QShowEvent* event) override;
 
  private:
   void MakeTypes(QGridLayout& grid);
@@ -56,10 +71,15 @@ class ChatPage : public ScrollingPage {
   int Type() const { return types_->currentRow(); }
   int Line() const { return lines_->currentRow(); }
 
+  /// The name of an edit of the selected type, or of one line of it.
+  EditName NameOf(const char* text, int line = FindingPlace::kNone) const;
+
   void ShowType();
   void SelectLine(int line);
   void ShowLine();
   void StoreLine();
+  void ShowSpoken();
+  void MarkLines();
   void ShowMemberNumbers();
 
   void AddSelectedList();
@@ -90,6 +110,9 @@ class ChatPage : public ScrollingPage {
   QPushButton* add_word_ = nullptr;
   QPushButton* check_ = nullptr;
   QCheckBox* checks_by_itself_ = nullptr;
+  SpokenPreview* spoken_ = nullptr;
+  /// By type and line.
+  std::map<std::pair<int, int>, MarkText> marks_;
   /// True until the message of the automatic check is closed: that takes the
   /// focus from the line box and would set the check off again.
   bool is_checking_ = false;

@@ -1,5 +1,7 @@
 #include "editor/pages/parameter_page.h"
 
+#include <QApplication>
+#include <QContextMenuEvent>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -8,8 +10,10 @@
 #include <algorithm>
 #include <array>
 
+#include "editor/controls/caption_mark.h"
 #include "editor/controls/value_slider.h"
 #include "editor/parameter_help.h"
+#include "editor/parameter_names.h"
 
 namespace fragsmith {
 namespace {
@@ -37,20 +41,6 @@ int RowsTogether(const FrameRow& frame) {
 int GapCount(const FrameRow& frame) {
   const int controls = static_cast<int>(frame.controls.size());
   return (controls - 1) / frame.columns / RowsTogether(frame);
-}
-
-/// "Shotgun, pickup with it"; a control without a caption goes by the one
-/// above it. Empty where the caption alone is enough.
-QString SpokenName(const FrameRow& frame, int place) {
-  const QString suffix =
-      TextOfRow(frame.spoken_suffixes, place / frame.columns);
-  if (suffix.isEmpty()) return {};
-  const auto caption = [&frame](int at) {
-    return TableText(frame.controls[static_cast<std::size_t>(at)].caption);
-  };
-  const QString own = caption(place);
-  return (own.isEmpty() ? caption(place - frame.columns) : own) +
-         QStringLiteral(", ") + suffix;
 }
 
 void SetHelp(const ControlRow& row, ValueControl& control) {
@@ -92,11 +82,25 @@ ParameterPage::ParameterPage(const PageRow& page, CurrentBot& current,
   SetContent(content);
 }
 
+void ParameterPage::contextMenuEvent(QContextMenuEvent* event) {
+  const bool is_by_key = event->reason() == QContextMenuEvent::Keyboard;
+  QWidget* const clicked =
+      is_by_key ? QApplication::focusWidget() : childAt(event->pos());
+  if (clicked == nullptr) return;
+  if (const std::optional<int> parameter = ParameterOf(clicked)) {
+    emit ParameterMenuWanted(
+        *parameter, is_by_key
+                        ? clicked->mapToGlobal(clicked->rect().bottomLeft())
+                        : event->globalPos());
+  }
+}
+
 void ParameterPage::showEvent(QShowEvent* event) {
   // Spare height goes between the rows, but not so much that they fall apart.
   for (const Frame& frame : frames_) {
     frame.box->setMaximumHeight(frame.box->sizeHint().height() +
-                                frame.gaps * 4 * fontMetrics().lineSpacing());
+                                frame.gaps * 3 * fontMetrics().lineSpacing() /
+                                    2);
   }
   ScrollingPage::showEvent(event);
 }
@@ -143,8 +147,14 @@ QGroupBox* ParameterPage::MakeFrame(const FrameRow& frame) {
     const int row = place / frame.columns;
     const int column = place % frame.columns;
     ValueControl* const control = MakeControl(entry);
-    control->SetSpokenName(SpokenName(frame, place));
+    control->SetSpokenName(ControlName(entry.index));
     SetHelp(entry, *control);
+    if (!HelpFor(entry.index).is_read && control->NeedMark() != nullptr) {
+      MarkText never_read;
+      never_read.Add(Severity::kHint,
+                     QStringLiteral("The game never reads this."));
+      control->mark()->SetAlways(never_read);
+    }
     grid->addWidget(control, 2 * row, first_column + column);
     if (first_column == 1 && column == 0) {
       auto* const heading = new QLabel(TextOfRow(frame.headings, row));
@@ -164,6 +174,9 @@ ValueControl* ParameterPage::MakeControl(const ControlRow& row) {
   control->SetCaption(CaptionText(row, row.max));
   control->SetIndex(row.index);
   control->SetMax(row.max);
+  for (ValueSlider* const slider : control->findChildren<ValueSlider*>()) {
+    connect(slider, &QSlider::sliderReleased, &current_, &CurrentBot::EndStep);
+  }
   return control;
 }
 
@@ -173,8 +186,9 @@ ThreeSlider* ParameterPage::MakeThreeSlider(const ControlRow& row) {
   control->SetOptional(row.is_optional);
   control->SetMode(row.linking);
   connect(control, &ThreeSlider::Changed, this,
-          [this](int index, int level, double value) {
-            current_.SetParameter(LevelIndex(level, index), value);
+          [this, control](int index, int level, double value) {
+            current_.SetParameter(LevelIndex(level, index), value,
+                                  LevelIndex(control->MovingLevel(), index));
           });
   three_sliders_.push_back({&row, control});
   return control;

@@ -28,7 +28,12 @@ class ParameterPage : public ScrollingPage {
   /// smallest maximum is chosen that holds them all.
   void ShowBot();
 
+ signals:
+  /// A slider or its value was clicked for its menu.
+  void ParameterMenuWanted(int parameter, QPoint global_place);
+
  protected:
+  void contextMenuEvent(QContextMenuEvent* event) override;
   void showEvent(QShowEvent* event) override;
 
  private:

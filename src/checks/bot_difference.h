@@ -1,0 +1,48 @@
+#ifndef FRAGSMITH_CHECKS_BOT_DIFFERENCE_H_
+#define FRAGSMITH_CHECKS_BOT_DIFFERENCE_H_
+
+#include <string>
+#include <vector>
+
+#include "model/bot.h"
+
+namespace fragsmith {
+
+/// Something in which two bots differ: a field or parameter by its index, or
+/// a chat line.
+struct BotDifference {
+  static constexpr int kNone = -1;
+
+  int parameter = kNone;
+  int chat_type = kNone;
+  /// The line in either bot; where it is missing, the line before which it
+  /// would stand.
+  int left_line = kNone;
+  int right_line = kNone;
+  bool is_in_left = true;
+  bool is_in_right = true;
+
+  std::string title;  ///< What it is, UTF-8: "Reaction time" at level 4.
+  std::string left;   ///< The values as shown, UTF-8; empty where missing.
+  std::string right;
+};
+
+/// Identity first, then parameters by their pages' order, then chats. Values
+/// that say the same are equal however they are held; empty chat lines, which
+/// no file holds, do not count.
+std::vector<BotDifference> CompareBots(const Bot& left, const Bot& right);
+
+/// Makes the right bot equal to the left one in this. The other differences
+/// in the same chat type hold no longer then: compare anew, or go through
+/// them from the last to the first.
+void CopyToRight(const BotDifference& difference, const Bot& left, Bot& right);
+
+/// The difference as seen from the other side.
+BotDifference Reversed(BotDifference difference);
+
+/// Gives the second bot all lines of the type.
+void CopyChatType(int type, const Bot& from, Bot& to);
+
+}  // namespace fragsmith
+
+#endif  // FRAGSMITH_CHECKS_BOT_DIFFERENCE_H_

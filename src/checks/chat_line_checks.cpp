@@ -1,0 +1,332 @@
+#include "checks/chat_line_checks.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "chat/chat_catalogue.h"
+#include "checks/chat_type_facts.h"
+#include "checks/parameter_words.h"
+#include "checks/plain_letters.h"
+#include "checks/spoken_line.h"
+#include "support/code_page.h"
+#include "support/text.h"
+
+namespace fragsmith {
+namespace {
+
+using Kind = ChatItem::Kind;
+
+bool IsControl(char letter) {
+  return static_cast<unsigned char>(letter) < ' ' && letter != '\t';
+}
+
+bool HasControl(std::string_view text) {
+  return std::any_of(text.begin(), text.end(), IsControl);
+}
+
+/// Letters behind a backslash that mean something to the game.
+constexpr std::string_view kEscapes = R"(\"'?nrtvbfax0123456789)";
+
+/// The text with each backslash doubled that the game would not understand.
+std::string WithGoodBackslashes(std::string_view text) {
+  std::string good;
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    good += text[at];
+    if (text[at] != '\\') continue;
+    if (at + 1 < text.size() && Contains(kEscapes, text.substr(at + 1, 1))) {
+      good += text[++at];
+    } else {
+      good += '\\';
+    }
+  }
+  return good;
+}
+
+bool HasBadBackslash(std::string_view text) {
+  return Contains(text, "\\") && WithGoodBackslashes(text).size() > text.size();
+}
+
+std::string Replaced(std::string text, char old_letter, char new_letter) {
+  std::replace(text.begin(), text.end(), old_letter, new_letter);
+  return text;
+}
+
+std::string ReplacedAll(std::string text, std::string_view old_part,
+                        std::string_view new_part) {
+  std::size_t at = 0;
+  while ((at = text.find(old_part, at)) != std::string::npos) {
+    text.replace(at, old_part.size(), new_part);
+    at += new_part.size();
+  }
+  return text;
+}
+
+/// The line with the plain forms of all that the game would change.
+std::string InGameCharacters(const std::string& line) {
+  std::string text = InPlainLetters(line);
+  text = Replaced(std::move(text), ';', ',');
+  text = Replaced(std::move(text), '\t', ' ');
+  text = ReplacedAll(std::move(text), "%", " percent");
+  while (Contains(text, "//") || Contains(text, "/*")) {
+    text = ReplacedAll(std::move(text), "//", "/");
+    text = ReplacedAll(std::move(text), "/*", "*");
+  }
+  while (Contains(text, "  ")) text = ReplacedAll(std::move(text), "  ", " ");
+  return std::string(TrimBlanks(text));
+}
+
+/// What happens to the characters of one text, as parts of a sentence.
+void AddChanges(std::string_view text, std::vector<std::string>& changes) {
+  const auto add = [&](bool happens, const char* change) {
+    if (happens && !std::count(changes.begin(), changes.end(), change)) {
+      changes.emplace_back(change);
+    }
+  };
+  add(HasAccents(text),
+      "letters with accents and other special signs become blanks");
+  add(Contains(text, "%"), "\"%\" becomes a dot");
+  add(Contains(text, "//"), "everything from \"//\" on is cut off");
+  add(Contains(text, "/*"), R"("/*" takes away all up to "*/")");
+  add(Contains(text, ";"), "a semicolon becomes a blank");
+  add(Contains(text, "  ") || HasControl(text) || Contains(text, "\t"),
+      "several blanks become one");
+  add(Contains(text, "\""), "double quotes are dropped");
+}
+
+/// The variable as the editor writes it, or its number.
+std::string ShownVariable(int type, int variable) {
+  for (const int pointer : ChatTypeAt(type).Pointers()) {
+    const ChatPointer& row = ChatPointerAt(pointer);
+    if (row.Item() == std::to_string(variable)) {
+      return std::string(row.Variable);
+    }
+  }
+  return "variable " + std::to_string(variable);
+}
+
+std::string ShownList(const std::string& name) {
+  const auto* const list =
+      std::find_if(kWordLists.begin(), kWordLists.end(),
+                   [&name](const WordList& row) { return row.Key == name; });
+  return list == kWordLists.end() ? "\"" + ShownText(name) + "\""
+                                  : std::string(list->Variable);
+}
+
+/// The first "{...}" of the text; empty when there is none.
+std::string_view BracedPart(std::string_view text) {
+  const std::size_t open = text.find('{');
+  if (open == std::string_view::npos) return {};
+  const std::size_t close = text.find('}', open);
+  if (close == std::string_view::npos) return {};
+  const bool is_double = text.substr(close, 2) == "}}";
+  return text.substr(open, close - open + (is_double ? 2 : 1));
+}
+
+bool IsPointerSomewhere(std::string_view variable) {
+  return std::any_of(
+      kChatPointers.begin(), kChatPointers.end(),
+      [variable](const ChatPointer& row) { return row.Variable == variable; });
+}
+
+const WordLists& ListsOf(const CheckContext& context) {
+  const bool has_game = context.game != nullptr && !context.game->words.empty();
+  return has_game ? context.game->words : WordLists::Sample();
+}
+
+/// Calls the function with each line that the game can read.
+template <typename Function>
+void ForEachReadable(const CheckContext& context, Function function) {
+  for (const CheckedLine& line : context.lines) {
+    if (!line.message.is_broken) function(line);
+  }
+}
+
+}  // namespace
+
+void CheckLineQuotes(const CheckContext& context, FindingList& findings) {
+  for (const CheckedLine& line : context.lines) {
+    if (!line.message.is_broken || HasControl(*line.text) ||
+        HasBadBackslash(*line.text)) {
+      continue;
+    }
+    const bool has_quote = Contains(*line.text, "\"");
+    std::vector<Mend> mends;
+    if (has_quote) {
+      mends.push_back(SetLine(line, Replaced(*line.text, '"', '\''),
+                              "Use single quotes in the line"));
+    }
+    findings.Add(PlaceOf(line),
+                 has_quote ? "A double quote ends the text early, the game "
+                             "cannot read the chat file and does not add the "
+                             "bot. Use single quotes."
+                           : "The game cannot read this line and does not add "
+                             "the bot. Write it anew.",
+                 std::move(mends));
+  }
+}
+
+void CheckLineBackslashes(const CheckContext& context, FindingList& findings) {
+  for (const CheckedLine& line : context.lines) {
+    if (!HasBadBackslash(*line.text)) continue;
+    const bool is_last = line.text->ends_with('\\') && line.message.is_broken;
+    std::string text =
+        is_last ? "The line ends with a backslash, which swallows the end of "
+                  "the text: the game cannot read the chat file and does not "
+                  "add the bot."
+                : "The game does not know what the backslash in this line is "
+                  "to mean, complains and cuts the text there.";
+    findings.Add(
+        PlaceOf(line), std::move(text) + " Take it out, or write two of them.",
+        {SetLine(line, WithGoodBackslashes(*line.text),
+                 "Write two backslashes, of which the game speaks one"),
+         SetLine(line, ReplacedAll(*line.text, "\\", ""),
+                 "Take the backslashes out")});
+  }
+}
+
+void CheckLineControls(const CheckContext& context, FindingList& findings) {
+  for (const CheckedLine& line : context.lines) {
+    if (!HasControl(*line.text)) continue;
+    std::string plain = *line.text;
+    std::replace_if(plain.begin(), plain.end(), IsControl, ' ');
+    findings.Add(PlaceOf(line),
+                 "The line has a line end or another control character in it: "
+                 "the game cannot read the chat file and does not add the "
+                 "bot.",
+                 {SetLine(line, std::move(plain), "Put blanks in its place")});
+  }
+}
+
+void CheckLineLength(const CheckContext& context, FindingList& findings) {
+  ForEachReadable(context, [&](const CheckedLine& line) {
+    const std::size_t length = EncodedLength(line.message);
+    if (length <= kMostEncodedBytes) return;
+    const bool has_word = std::any_of(
+        line.message.items.begin(), line.message.items.end(),
+        [](const ChatItem& item) { return item.kind == Kind::kWord; });
+    std::string text =
+        "The game has room for 255 characters in a line, and "
+        "this one takes " +
+        std::to_string(length) + ": the bot is not added";
+    if (has_word) text += ", or the game even crashes";
+    findings.Add(PlaceOf(line), text + ". Shorten the line.");
+  });
+}
+
+void CheckLineOnScreen(const CheckContext& context, FindingList& findings) {
+  const WordLists& lists = ListsOf(context);
+  ForEachReadable(context, [&](const CheckedLine& line) {
+    if (EncodedLength(line.message) > kMostEncodedBytes) return;
+    const std::size_t longest = LongestSpoken(line.type, line.message, lists);
+    if (longest <= kSafeSpokenBytes) return;
+    const bool is_always = std::all_of(
+        line.message.items.begin(), line.message.items.end(),
+        [](const ChatItem& item) { return item.kind == Kind::kText; });
+    std::string text =
+        is_always
+            ? "The line has " + std::to_string(longest) + " characters"
+            : "With the longest names and words the line has " +
+                  (longest > kMostEncodedBytes ? "more than 255"
+                                               : std::to_string(longest)) +
+                  " characters";
+    text += "; the screen shows some 130 and cuts the rest.";
+    findings.Add(PlaceOf(line), std::move(text));
+  });
+}
+
+void CheckLineCharacters(const CheckContext& context, FindingList& findings) {
+  ForEachReadable(context, [&](const CheckedLine& line) {
+    std::vector<std::string> changes;
+    for (const ChatItem& item : line.message.items) {
+      if (item.kind == Kind::kText) AddChanges(item.text, changes);
+    }
+    if (changes.empty()) return;
+    std::vector<Mend> mends;
+    std::string plain = InGameCharacters(*line.text);
+    if (plain != *line.text && !plain.empty()) {
+      mends.push_back(SetLine(line, std::move(plain),
+                              "Use plain letters and signs in the line"));
+    }
+    findings.Add(PlaceOf(line),
+                 "The game changes the line on its way to the screen: " +
+                     Enumeration(changes) + ".",
+                 std::move(mends));
+  });
+}
+
+void CheckLineWords(const CheckContext& context, FindingList& findings) {
+  if (context.game == nullptr || context.game->words.empty()) return;
+  ForEachReadable(context, [&](const CheckedLine& line) {
+    for (const ChatItem& item : line.message.items) {
+      if (item.kind != Kind::kWord ||
+          context.game->words.Find(item.text) != nullptr) {
+        continue;
+      }
+      const bool is_member = line.text->starts_with("{{");
+      std::string text = "Your game has no ";
+      text += is_member ? "ready-made line " + ShownText(*line.text)
+                        : "word list " + ShownList(item.text);
+      findings.Add(PlaceOf(line),
+                   text +
+                       ": in its place the bot speaks the remains of an "
+                       "earlier line. Use another one or write a text.");
+      return;
+    }
+  });
+}
+
+void CheckLineVariables(const CheckContext& context, FindingList& findings) {
+  ForEachReadable(context, [&](const CheckedLine& line) {
+    for (const ChatItem& item : line.message.items) {
+      if (item.kind != Kind::kVariable) continue;
+      const ChatFill fill = FillOf(line.type, item.variable);
+      if (fill != ChatFill::kNothing && fill != ChatFill::kInvalid) continue;
+      const std::string variable = ShownVariable(line.type, item.variable);
+      std::vector<Mend> mends;
+      if (Contains(*line.text, variable)) {
+        mends.push_back(SetLine(line, ReplacedAll(*line.text, variable, ""),
+                                "Take " + variable + " out of the line"));
+      }
+      findings.Add(PlaceOf(line),
+                   "In this situation the game has nothing for " + variable +
+                       (fill == ChatFill::kInvalid
+                            ? ": the bot says \"[invalid var]\" in its place."
+                            : ": the bot leaves it out."),
+                   std::move(mends));
+      return;
+    }
+  });
+}
+
+void CheckLineBraces(const CheckContext& context, FindingList& findings) {
+  ForEachReadable(context, [&](const CheckedLine& line) {
+    for (const ChatItem& item : line.message.items) {
+      if (item.kind != Kind::kText) continue;
+      const std::string_view part = BracedPart(item.text);
+      if (part.empty()) continue;
+      const std::string shown = ShownText(part);
+      std::string reason = "The game does not know " + shown;
+      if (part.starts_with("{{")) {
+        reason = "A ready-made line such as " + shown +
+                 " must stand alone, with nothing before or behind it";
+      } else if (IsPointerSomewhere(part)) {
+        reason =
+            "The situation " + QuotedChatType(line.type) + " has no " + shown;
+      }
+      findings.Add(PlaceOf(line),
+                   reason +
+                       ": the bot speaks it as it stands there, braces "
+                       "and all.",
+                   {SetLine(line, ReplacedAll(*line.text, part, ""),
+                            "Take " + shown + " out of the line")});
+      return;
+    }
+  });
+}
+
+}  // namespace fragsmith

@@ -1,0 +1,22 @@
+#ifndef FRAGSMITH_CHECKS_CHAT_LINE_CHECKS_H_
+#define FRAGSMITH_CHECKS_CHAT_LINE_CHECKS_H_
+
+#include "checks/check_context.h"
+
+namespace fragsmith {
+
+// What the game makes of each chat line.
+
+void CheckLineQuotes(const CheckContext& context, FindingList& findings);
+void CheckLineBackslashes(const CheckContext& context, FindingList& findings);
+void CheckLineControls(const CheckContext& context, FindingList& findings);
+void CheckLineLength(const CheckContext& context, FindingList& findings);
+void CheckLineOnScreen(const CheckContext& context, FindingList& findings);
+void CheckLineCharacters(const CheckContext& context, FindingList& findings);
+void CheckLineWords(const CheckContext& context, FindingList& findings);
+void CheckLineVariables(const CheckContext& context, FindingList& findings);
+void CheckLineBraces(const CheckContext& context, FindingList& findings);
+
+}  // namespace fragsmith
+
+#endif  // FRAGSMITH_CHECKS_CHAT_LINE_CHECKS_H_

@@ -1,0 +1,206 @@
+#include "checks/chat_type_facts.h"
+
+#include <array>
+
+#include "checks/game_number.h"
+#include "model/characteristic_catalogue.h"
+
+namespace fragsmith {
+namespace {
+
+using enum ChatFill;
+using Fills = std::array<ChatFill, kFilledVariables>;
+
+constexpr int kInsultShare = 32;
+constexpr int kMiscShare = 33;
+constexpr int kStartEnd = 34;
+constexpr int kEnterExit = 35;
+constexpr int kKill = 36;
+constexpr int kDeath = 37;
+constexpr int kHitTalking = 39;
+constexpr int kHitNoDeath = 40;
+constexpr int kHitNoKill = 41;
+constexpr int kRandom = 42;
+
+constexpr Fills kEntry = {kOwnName, kOpponent, kInvalid, kInvalid, kMap};
+constexpr Fills kOwnNameOnly = {kOwnName};
+constexpr Fills kEnd = {kOwnName, kOpponent, kFirst, kLast, kMap};
+constexpr Fills kVictory = {kOwnName, kOpponent, kInvalid, kLast, kMap};
+constexpr Fills kDefeat = {kOwnName, kOpponent, kFirst, kInvalid, kMap};
+constexpr Fills kHit = {kAttacker, kWeapon};
+constexpr Fills kHits = {kEnemy, kWeapon};
+constexpr Fills kAccident = {kOpponent};
+constexpr Fills kTelefragged = {kKiller};
+constexpr Fills kKilled = {kKiller, kWeapon};
+constexpr Fills kKills = {kVictim};
+constexpr Fills kNone = {};
+constexpr Fills kRoaming = {kOpponent, kLastVictim, kInvalid,
+                            kInvalid,  kMap,        kRandomWeapon};
+
+// The rate of random lines is some 0.025 a second.
+constexpr double kRandomFactor = 0.025;
+
+constexpr std::array<ChatTypeFacts, kChatTypeCount> kFacts = {{
+    {"Once, when the bot has just joined the game.", kEnterExit, 1, true,
+     kEntry},
+    {"Never: when the bot leaves, the game no longer counts it in.", kEnterExit,
+     1, false, kEntry},
+    {"Practically never: only a level that begins again without being "
+     "loaded asks for it.",
+     kStartEnd, 1, false, kOwnNameOnly},
+    {"When a level ends and the bot is neither first nor last.", kStartEnd, 1,
+     true, kEnd},
+    {"When a level ends and the bot is first.", kStartEnd, 1, true, kVictory},
+    {"When a level ends and the bot is last.", kStartEnd, 1, true, kDefeat},
+    {"Seldom: when the bot is hit while it types an answer.", kHitTalking, 0.5,
+     true, kHit},
+    {"Seldom: when the bot is hit in a fight and lives, and its enemy is out "
+     "of sight.",
+     kHitNoDeath, 0.5, true, kHit},
+    {"Seldom: when the bot has hit its enemy, who lives and is out of sight.",
+     kHitNoKill, 0.5, true, kHits},
+    {"When somebody has telefragged the bot.", kDeath, 1, true, kTelefragged},
+    {"When the bot has fallen to its death.", kDeath, 1, true, kAccident},
+    {"When the bot has died in lava.", kDeath, 1, true, kAccident},
+    {"When the bot has died in slime.", kDeath, 1, true, kAccident},
+    {"When the bot has drowned.", kDeath, 1, true, kAccident},
+    {"When the bot has killed itself or was crushed.", kDeath, 1, true,
+     kAccident},
+    {"Every second time when the bot was killed with the gauntlet.", kDeath, 1,
+     true, kKilled},
+    {"Every second time when the bot was killed with the railgun.", kDeath, 1,
+     true, kKilled},
+    {"Every second time when the bot was killed with the BFG10K.", kDeath, 1,
+     true, kKilled},
+    {"After any other death; \"Insult\" is the share of this type against "
+     "\"Bot dies (positive)\".",
+     kDeath, 1, true, kKilled},
+    {"After any other death; \"Insult\" is the share of \"Bot dies "
+     "(negative)\" against this type.",
+     kDeath, 1, true, kKilled},
+    {"Seldom: a second after a kill with the railgun, when no enemy is in "
+     "sight.",
+     kKill, 1, true, kKills},
+    {"Seldom: a second after a kill with the gauntlet, when no enemy is in "
+     "sight.",
+     kKill, 1, true, kKills},
+    {"Seldom: a second after the bot has telefragged somebody, when no enemy "
+     "is in sight.",
+     kKill, 1, true, kKills},
+    {"Never: the game does not ask for lines of this type.", 0, 0, false,
+     kNone},
+    {"A second after any other kill, when no enemy is in sight; \"Insult\" is "
+     "the share of this type against \"Bot kills (positive)\".",
+     kKill, 1, true, kKills},
+    {"A second after any other kill, when no enemy is in sight; \"Insult\" is "
+     "the share of \"Bot kills (negative)\" against this type.",
+     kKill, 1, true, kKills},
+    {"Now and then while the bot roams and no enemy is in sight; \"Misc\" is "
+     "the share of \"Random misc\" against this type.",
+     kRandom, kRandomFactor, true, kRoaming},
+    {"Now and then while the bot roams and no enemy is in sight; \"Misc\" is "
+     "the share of this type against \"Random insult\".",
+     kRandom, kRandomFactor, true, kRoaming},
+}};
+
+constexpr std::array kOfStartEnd = {2, 3, 4, 5};
+constexpr std::array kOfEnterExit = {0, 1};
+constexpr std::array kOfKill = {20, 21, 22, 24, 25};
+constexpr std::array kOfDeath = {9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19};
+constexpr std::array kOfHitTalking = {6};
+constexpr std::array kOfHitNoDeath = {7};
+constexpr std::array kOfHitNoKill = {8};
+constexpr std::array kOfRandom = {26, 27};
+
+}  // namespace
+
+const std::string_view kWhenBotsSpeak =
+    "In free-for-all games only, with two players or more, and never within "
+    "25 seconds of its last line or of the start of the level.";
+
+const ChatTypeFacts& FactsOfChatType(int type) {
+  return kFacts.at(static_cast<std::size_t>(type));
+}
+
+ChatFill FillOf(int type, int variable) {
+  const Fills& fills = FactsOfChatType(type).variables;
+  const auto place = static_cast<std::size_t>(variable);
+  return place < fills.size() ? fills.at(place) : kNothing;
+}
+
+std::string_view FillText(ChatFill fill) {
+  switch (fill) {
+    case kNothing:
+      return "nothing";
+    case kInvalid:
+      return "the words \"[invalid var]\"";
+    case kOwnName:
+      return "the bot's own name";
+    case kOpponent:
+      return "the name of some opponent";
+    case kFirst:
+      return "the name of the first in score";
+    case kLast:
+      return "the name of the last in score";
+    case kMap:
+      return "the file name of the map";
+    case kAttacker:
+      return "the name of the attacker";
+    case kEnemy:
+      return "the name of the enemy";
+    case kKiller:
+      return "the name of the killer";
+    case kVictim:
+      return "the name of the victim";
+    case kLastVictim:
+      return "the name of the bot's last victim";
+    case kWeapon:
+      return "the weapon that was used";
+    case kRandomWeapon:
+      return "the name of some weapon";
+  }
+  return {};
+}
+
+bool IsDrawn(const Bot& bot, int type) {
+  constexpr std::array kInsults = {18, 24};
+  constexpr std::array kPraises = {19, 25};
+  constexpr int kRandomInsult = 26;
+  constexpr int kRandomMisc = 27;
+  const double insults = NumberInGame(bot, kInsultShare);
+  const double misc = NumberInGame(bot, kMiscShare);
+  for (const int insult : kInsults) {
+    if (type == insult) return insults > 0;
+  }
+  for (const int praise : kPraises) {
+    if (type == praise) return insults < 1;
+  }
+  if (type == kRandomInsult) return misc < 1;
+  if (type == kRandomMisc) return misc > 0;
+  return FactsOfChatType(type).is_heard;
+}
+
+std::span<const int> TypesOfChance(int index) {
+  switch (index) {
+    case kStartEnd:
+      return kOfStartEnd;
+    case kEnterExit:
+      return kOfEnterExit;
+    case kKill:
+      return kOfKill;
+    case kDeath:
+      return kOfDeath;
+    case kHitTalking:
+      return kOfHitTalking;
+    case kHitNoDeath:
+      return kOfHitNoDeath;
+    case kHitNoKill:
+      return kOfHitNoKill;
+    case kRandom:
+      return kOfRandom;
+    default:
+      return {};
+  }
+}
+
+}  // namespace fragsmith

@@ -1,0 +1,338 @@
+#include "checks/trial_reader.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <utility>
+
+#include "support/code_page.h"
+#include "support/text.h"
+
+namespace fragsmith {
+namespace {
+
+/// A message of the engine by a part of it, and what it means.
+struct Explanation {
+  std::string_view words;
+  std::string_view sentence;
+};
+
+/// Messages that come without a word of how bad they are.
+struct BareMessage {
+  Explanation explanation;
+  Severity severity = Severity::kError;
+  bool is_refusal = false;
+};
+
+constexpr std::array kBareMessages = {
+    BareMessage{{"BotAISetupClient failed",
+                 "The game does not add the bot, for the reasons above."},
+                Severity::kError,
+                true},
+    BareMessage{
+        {"Unable to add bot", "The game has no free place for another player."},
+        Severity::kError,
+        true},
+    BareMessage{{"Can't use keys or values with",
+                 "A value in the description file has a ; or \\ or \" in it. "
+                 "The game throws that line away."},
+                Severity::kWarning,
+                false},
+    BareMessage{{"Missing { in info file",
+                 "The description file has something in front of its {. The "
+                 "game ignores the file from there on."},
+                Severity::kWarning,
+                false},
+    BareMessage{{"Unexpected end of info file",
+                 "The description file lacks the } at its end. The game takes "
+                 "it all the same."},
+                Severity::kWarning,
+                false},
+    BareMessage{{"file too large",
+                 "A description file of 8192 bytes or more is ignored. Make "
+                 "it shorter."},
+                Severity::kWarning,
+                false},
+    BareMessage{{"Max infos exceeded",
+                 "The game knows as many bots as it can. The others are left "
+                 "out."},
+                Severity::kWarning,
+                false},
+    BareMessage{{"Info string length exceeded",
+                 "The description is too long. What does not fit is lost."},
+                Severity::kWarning,
+                false},
+};
+
+/// The first whose words are in the message counts.
+constexpr std::array kExplanations = {
+    Explanation{"no aifile specified",
+                "The description file does not say where the bot's character "
+                "is. The game does not add the bot."},
+    Explanation{"AAS not initialized",
+                "The map has no file by which bots find their way (.aas), so "
+                "no bot can play there. Choose another map."},
+    Explanation{"couldn't find skill",
+                "The character file has no block for this skill, or a mistake "
+                "in it. The bot gets the game's default character."},
+    Explanation{"couldn't load skill",
+                "The game found no character for this skill and does not add "
+                "the bot."},
+    Explanation{"couldn't find chat",
+                "The chat file has no chat of the name that the character "
+                "file asks for."},
+    Explanation{"couldn't load chat",
+                "The game could not read the bot's chat and does not add the "
+                "bot."},
+    Explanation{"couldn't load weapon config",
+                "The game could not read the weapon weights and does not add "
+                "the bot."},
+    Explanation{"couldn't load the weights",
+                "The game could not read the weights and does not add the "
+                "bot."},
+    Explanation{"couldn't load weights",
+                "The game could not read the weights and does not add the "
+                "bot."},
+    Explanation{"couldn't load", "The game does not find this file."},
+    Explanation{"counldn't load", "The game does not find this file."},
+    Explanation{"expected integer index",
+                "The game does not know this characteristic. The bot gets the "
+                "game's default character."},
+    Explanation{"expected integer, float or string",
+                "This value is neither a plain number nor a text in quotes. "
+                "The bot gets the game's default character."},
+    Explanation{"already initialized",
+                "The same characteristic stands twice at one skill. The bot "
+                "gets the game's default character."},
+    Explanation{"is not initialized",
+                "The game has no value for this characteristic at this skill "
+                "and takes 0. Write it with a \".\" at all levels, or at "
+                "none."},
+    Explanation{"is not a string",
+                "Here the game wants a text in quotes, not a number."},
+    Explanation{"unknown definition",
+                "The game does not know this word. It ignores the file."},
+    Explanation{"newline inside string",
+                "A text does not end on the line on which it begins: a quote "
+                "is missing."},
+    Explanation{"missing trailing quote",
+                "A text has no quote at its end. The game cannot read the "
+                "file."},
+    Explanation{"unknown escape char",
+                "A backslash stands where the game knows none. The text ends "
+                "there."},
+    Explanation{"can't read token",
+                "The game cannot make sense of the file "
+                "from here on."},
+    Explanation{"couldn't read expected token",
+                "The file ends too early, or an error above spoiled it."},
+    Explanation{"invalid return value",
+                "A weight is missing or is not a plain number. The game does "
+                "not add the bot."},
+    Explanation{"can't evaluate",
+                "A weight is missing or is not a plain number. The game does "
+                "not add the bot."},
+    Explanation{"expected ;",
+                "A weight is missing or is not a plain number. The game does "
+                "not add the bot."},
+    Explanation{"invalid name",
+                "A weight is missing or is not a plain number. The game does "
+                "not add the bot."},
+    Explanation{"negative value set to zero",
+                "The game ignores the sign of a weight."},
+    Explanation{"redefinition of",
+                "A weight stands twice in the file. The last one counts."},
+    Explanation{"weapon number out of range",
+                "None of the weapons that the bot carries has a weight above "
+                "0. It aims badly."},
+    Explanation{"expected type",
+                "The chat file is not as the game wants it. The game does not "
+                "add the bot."},
+    Explanation{"expected ,",
+                "Something is wrong in a chat line. The game does not add the "
+                "bot."},
+    Explanation{"unknown message component",
+                "Something is wrong in a chat line. The game does not add the "
+                "bot."},
+    Explanation{"chat message too long",
+                "A chat line is too long. The game does not add the bot."},
+    Explanation{"unknown random string",
+                "A chat line takes words from a list that this game does not "
+                "have. The line is garbled when it is spoken."},
+    Explanation{"too many expansions",
+                "A chat line leads from one word list to the next without "
+                "end."},
+    Explanation{"out of range",
+                "A chat line has a variable that the game does not know."},
+    Explanation{" not found",
+                "A file asks for another one that this game does not have."},
+};
+
+constexpr std::array<std::string_view, 2> kErrorPrefixes = {"Error:", "Fatal:"};
+constexpr std::string_view kWarningPrefix = "Warning:";
+
+bool BeginsWith(std::string_view text, std::string_view beginning) {
+  return text.substr(0, beginning.size()) == beginning;
+}
+
+/// The words of a line: without colours and what a server puts around that
+/// which it sends to all players.
+std::string WordsOf(std::string_view line) {
+  constexpr std::string_view kBroadcast = "broadcast: print \"";
+  constexpr std::string_view kBroadcastEnd = "\\n\"";
+  if (BeginsWith(line, kBroadcast)) {
+    line.remove_prefix(kBroadcast.size());
+    if (EndsWithIgnoringCase(line, kBroadcastEnd)) {
+      line.remove_suffix(kBroadcastEnd.size());
+    }
+  }
+  std::string words;
+  for (std::size_t at = 0; at < line.size(); ++at) {
+    if (line[at] == '^' && at + 1 < line.size() && line[at + 1] != '^') {
+      ++at;
+    } else {
+      words += line[at];
+    }
+  }
+  return words;
+}
+
+std::string_view SentenceFor(std::string_view line) {
+  for (const Explanation& explanation : kExplanations) {
+    if (Contains(line, explanation.words)) return explanation.sentence;
+  }
+  return {};
+}
+
+}  // namespace
+
+std::string VerdictText(TrialVerdict verdict, const std::string& bot_name) {
+  const std::string name = Utf8FromGameText(bot_name);
+  switch (verdict) {
+    case TrialVerdict::kEntered:
+      return name + " entered the game.";
+    case TrialVerdict::kDefaultCharacter:
+      return name +
+             " entered the game, but with the game's default character in "
+             "place of its own.";
+    case TrialVerdict::kNotAdded:
+      return "The game did not add " + name + ".";
+    case TrialVerdict::kUnknown:
+      break;
+  }
+  return "It is not known what the game makes of " + name + ".";
+}
+
+TrialReader::TrialReader(const TrialSetup& setup, const std::string& bot_name)
+    : name_(bot_name),
+      own_files_("bots/" + ToLower(bot_name) + "_"),
+      is_dedicated_(setup.is_dedicated),
+      has_opponents_(!setup.opponents.empty()) {}
+
+std::vector<TrialLine> TrialReader::Read(std::string_view bytes) {
+  // No line of interest is as long; what never ends is not kept.
+  constexpr std::size_t kMostLineBytes = 4096;
+  while (!bytes.empty()) {
+    const std::size_t end = std::min(bytes.find('\n'), bytes.size());
+    if (rest_.size() < kMostLineBytes) {
+      rest_ += bytes.substr(0, std::min(end, kMostLineBytes));
+    }
+    if (end < bytes.size()) {
+      if (!rest_.empty() && rest_.back() == '\r') rest_.pop_back();
+      TakeLine(rest_);
+      rest_.clear();
+    }
+    bytes.remove_prefix(std::min(end + 1, bytes.size()));
+  }
+  return std::exchange(new_lines_, {});
+}
+
+void TrialReader::TakeLine(std::string_view bytes) {
+  const std::string line = WordsOf(bytes);
+  if (BeginsWith(line, "loaded ")) {
+    TakeLoaded(line);
+  } else if (Contains(line, " entered the game")) {
+    // The first that enters once the bot's files are read is the bot.
+    if (is_over_ || !has_chat_) return;
+    Add(Severity::kHint, line, {});
+    End(TrialVerdict::kEntered);
+  } else if (Contains(line, "Can't find map ")) {
+    Add(Severity::kError, line,
+        "The game has no map of this name. Choose another one.");
+    is_over_ = true;
+  } else {
+    TakeComplaint(line);
+  }
+}
+
+void TrialReader::TakeLoaded(const std::string& line) {
+  const bool is_default = Contains(line, "default skill ");
+  // The default character itself is read with every bot.
+  if (!Contains(line, "bots/") || Contains(line, "bots/default_c.c")) return;
+  if (is_over_) return;
+  has_default_character_ = has_default_character_ || is_default;
+  Add(is_default ? Severity::kError : Severity::kHint, line,
+      is_default ? "The bot gets the game's default character in place of its "
+                   "own."
+                 : "");
+  has_chat_ = has_chat_ || EndsWithIgnoringCase(line, "_t.c");
+  // Nothing can go wrong with the bot any more. Its entrance is told to the
+  // players who are there, and a player of this game is not yet.
+  if (has_chat_ && !is_dedicated_) End(TrialVerdict::kEntered);
+}
+
+void TrialReader::TakeComplaint(const std::string& line) {
+  for (const BareMessage& message : kBareMessages) {
+    if (!Contains(line, message.explanation.words)) continue;
+    if (is_over_ && has_opponents_ && !IsOwn(line)) return;
+    Add(message.severity, line, message.explanation.sentence);
+    if (message.is_refusal) End(TrialVerdict::kNotAdded);
+    return;
+  }
+  if (Contains(line, "Bot '") && Contains(line, "' not defined")) {
+    // The bots are added one after the other, ours first.
+    const bool is_own = !is_over_;
+    Add(is_own ? Severity::kError : Severity::kWarning, line,
+        is_own ? "The game did not read the bot's description file."
+               : "The game has no bot of this name to play against.");
+    if (is_own) End(TrialVerdict::kNotAdded);
+    return;
+  }
+  const bool is_error = std::any_of(
+      kErrorPrefixes.begin(), kErrorPrefixes.end(),
+      [&line](std::string_view prefix) { return BeginsWith(line, prefix); });
+  if (!is_error && !BeginsWith(line, kWarningPrefix)) return;
+  // Later ones may be about the other bots.
+  if (is_over_ && !IsOwn(line) && (has_opponents_ || Contains(line, "bots/"))) {
+    return;
+  }
+  Add(is_error ? Severity::kError : Severity::kWarning, line,
+      SentenceFor(line));
+  if (BeginsWith(line, kErrorPrefixes.back()) ||
+      Contains(line, "no aifile specified")) {
+    End(TrialVerdict::kNotAdded);
+  }
+}
+
+bool TrialReader::IsOwn(std::string_view line) const {
+  return Contains(ToLower(line), own_files_) ||
+         BeginsWith(line, name_ + " BotAISetupClient");
+}
+
+void TrialReader::Add(Severity severity, const std::string& line,
+                      std::string_view sentence) {
+  constexpr std::size_t kMostLines = 200;
+  if (seen_.size() >= kMostLines || !seen_.insert(line).second) return;
+  new_lines_.push_back(
+      {severity, Utf8FromGameText(line), std::string(sentence)});
+}
+
+void TrialReader::End(TrialVerdict verdict) {
+  if (is_over_) return;
+  is_over_ = true;
+  verdict_ = verdict == TrialVerdict::kEntered && has_default_character_
+                 ? TrialVerdict::kDefaultCharacter
+                 : verdict;
+}
+
+}  // namespace fragsmith

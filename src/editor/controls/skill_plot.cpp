@@ -1,0 +1,153 @@
+#include "editor/controls/skill_plot.h"
+
+#include <QPainter>
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include "editor/pages/page_table.h"
+#include "editor/parameter_names.h"
+
+namespace fragsmith {
+namespace {
+
+constexpr std::array<double, 5> kWholeSkills = {1, 2, 3, 4, 5};
+
+QString Number(double value) { return QString::number(value, 'g', 4); }
+
+/// What is to be said of the value at a skill beside its number.
+QString OriginText(ValueOrigin origin) {
+  switch (origin) {
+    case ValueOrigin::kNone:
+      return QStringLiteral(
+          " (no value: a fraction below and a whole number "
+          "above are not mixed)");
+    case ValueOrigin::kText:
+      return QStringLiteral(" (a text is no value)");
+    case ValueOrigin::kDefault:
+      return QStringLiteral(" (the game's default character decides)");
+    case ValueOrigin::kLower:
+      return QStringLiteral(" (whole numbers are not mixed)");
+    case ValueOrigin::kLevel:
+    case ValueOrigin::kMixed:
+      break;
+  }
+  return {};
+}
+
+}  // namespace
+
+SkillPlot::SkillPlot(QWidget* parent) : QWidget(parent) {
+  setObjectName(QStringLiteral("picSkills"));
+}
+
+void SkillPlot::ShowCharacteristic(const Bot& bot, int index) {
+  index_ = index;
+  title_ = ControlName(index);
+  values_ = MixShownSkills(bot, index);
+  thresholds_ = ThresholdsOf(index);
+  setAccessibleName(title_ + QStringLiteral(" by skill"));
+  setAccessibleDescription(Words());
+  setToolTip(Words().toHtmlEscaped());
+  update();
+}
+
+QString SkillPlot::Words() const {
+  QStringList words;
+  for (const ValueAtSkill& value : values_) {
+    words << QStringLiteral("Skill %1: %2%3")
+                 .arg(Number(value.skill), Number(value.used),
+                      OriginText(value.origin));
+  }
+  for (const Threshold& threshold : thresholds_) {
+    words << QStringLiteral("At %1: %2")
+                 .arg(Number(threshold.value), TableText(threshold.text));
+  }
+  return words.join(QStringLiteral("; "));
+}
+
+double SkillPlot::Top() const {
+  double top = UsedRangeOf(index_).highest;
+  // The range of some is far beyond what anybody sets.
+  constexpr double kMostByRange = 360;
+  top = std::min(top, kMostByRange);
+  for (const ValueAtSkill& value : values_) top = std::max(top, value.value);
+  return top;
+}
+
+QSize SkillPlot::minimumSizeHint() const {
+  const int line = fontMetrics().lineSpacing();
+  return {14 * line, 7 * line};
+}
+
+void SkillPlot::paintEvent(QPaintEvent* /*event*/) {
+  if (values_.empty()) return;
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const QFontMetrics metrics = fontMetrics();
+  const int line = metrics.lineSpacing();
+  const double top = Top();
+  const QString top_text = Number(top);
+  const QRectF plot(metrics.horizontalAdvance(top_text) + line / 2.0,
+                    line * 1.4, 0, 0);
+  const QRectF area(plot.left(), plot.top(), width() - plot.left() - line / 2.0,
+                    height() - plot.top() - line * 1.3);
+  const auto place = [&area, top](double skill, double value) {
+    return QPointF(
+        area.left() + (skill - 1) / 4 * area.width(),
+        area.bottom() - std::clamp(value / top, 0.0, 1.0) * area.height());
+  };
+  const QColor text = palette().color(QPalette::WindowText);
+  QColor faint = text;
+  faint.setAlphaF(0.35F);
+
+  painter.setPen(text);
+  painter.drawText(QRectF(0, 0, width(), line), Qt::AlignLeft,
+                   metrics.elidedText(title_, Qt::ElideRight, width()));
+  painter.drawText(
+      QRectF(0, area.top() - line / 2.0, area.left() - line / 3.0, line),
+      Qt::AlignRight | Qt::AlignVCenter, top_text);
+  painter.drawText(
+      QRectF(0, area.bottom() - line / 2.0, area.left() - line / 3.0, line),
+      Qt::AlignRight | Qt::AlignVCenter, QStringLiteral("0"));
+  for (const double skill : kWholeSkills) {
+    const QPointF below = place(skill, 0);
+    painter.drawText(QRectF(below.x() - line, below.y(), 2.0 * line, line),
+                     Qt::AlignHCenter, Number(skill));
+  }
+  painter.setPen(faint);
+  painter.drawLine(area.bottomLeft(), area.bottomRight());
+  painter.drawLine(area.bottomLeft(), area.topLeft());
+  painter.setPen(QPen(faint, 1, Qt::DashLine));
+  for (const Threshold& threshold : thresholds_) {
+    if (threshold.value > top) continue;
+    const QPointF left = place(1, threshold.value);
+    painter.drawLine(left, QPointF(area.right(), left.y()));
+    // One at the very top has its text below it.
+    const double above = left.y() - line < area.top() ? 0 : line;
+    painter.drawText(
+        QRectF(left.x() + line / 3.0, left.y() - above,
+               area.width() - line / 3.0, line),
+        Qt::AlignLeft | Qt::AlignBottom,
+        metrics.elidedText(TableText(threshold.text), Qt::ElideRight,
+                           static_cast<int>(area.width())));
+  }
+
+  const QColor color = palette().color(QPalette::Highlight);
+  painter.setPen(QPen(color, 2));
+  for (std::size_t at = 1; at < values_.size(); ++at) {
+    painter.drawLine(place(values_[at - 1].skill, values_[at - 1].used),
+                     place(values_[at].skill, values_[at].used));
+  }
+  for (const ValueAtSkill& value : values_) {
+    const bool is_sure = value.origin == ValueOrigin::kLevel;
+    const bool is_missing = value.origin == ValueOrigin::kNone ||
+                            value.origin == ValueOrigin::kText;
+    painter.setPen(QPen(is_missing ? QColor(Qt::red) : color, 2));
+    painter.setBrush(is_sure ? QBrush(color) : palette().window());
+    const double radius = is_sure ? line / 4.0 : line / 5.0;
+    painter.drawEllipse(place(value.skill, value.used), radius, radius);
+  }
+}
+
+}  // namespace fragsmith

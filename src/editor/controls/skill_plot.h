@@ -1,0 +1,43 @@
+#ifndef FRAGSMITH_EDITOR_CONTROLS_SKILL_PLOT_H_
+#define FRAGSMITH_EDITOR_CONTROLS_SKILL_PLOT_H_
+
+#include <QString>
+#include <QWidget>
+#include <span>
+#include <vector>
+
+#include "checks/skill_mix.h"
+#include "model/bot.h"
+
+namespace fragsmith {
+
+/// Draws what a characteristic is at the skills 1 to 5, as the game mixes it
+/// from the levels, with the values at which the bot begins to act otherwise.
+class SkillPlot : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit SkillPlot(QWidget* parent = nullptr);
+
+  /// A catalogue index of 2 to 30.
+  void ShowCharacteristic(const Bot& bot, int index);
+
+  QSize minimumSizeHint() const override;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  /// The picture in words, for those who do not see it.
+  QString Words() const;
+  double Top() const;
+
+  int index_ = 0;
+  QString title_;
+  std::vector<ValueAtSkill> values_;
+  std::span<const Threshold> thresholds_;
+};
+
+}  // namespace fragsmith
+
+#endif  // FRAGSMITH_EDITOR_CONTROLS_SKILL_PLOT_H_

@@ -1,0 +1,121 @@
+#include "editor/controls/weapon_bars.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPainter>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <array>
+#include <optional>
+
+#include "editor/parameter_names.h"
+
+namespace fragsmith {
+namespace {
+
+/// Between the reaches of OpenArena's weapons, in map units; 0 for any.
+constexpr std::array<int, 6> kDistances = {0, 500, 700, 1000, 3000, 5000};
+
+QString WeaponName(const WeaponRank& rank) {
+  return ControlName(rank.index).section(u',', 0, 0);
+}
+
+QString WeightText(const WeaponRank& rank) {
+  return rank.weight <= 0 ? QStringLiteral("never")
+                          : QString::number(rank.weight, 'g', 5);
+}
+
+constexpr const char* kTie = " (tie)";
+
+}  // namespace
+
+WeaponBars::WeaponBars(QWidget* parent)
+    : QWidget(parent), distance_(new QComboBox(this)) {
+  setObjectName(QStringLiteral("picWeapons"));
+  setAccessibleName(QStringLiteral("Weapons in the order of their weights"));
+  distance_->setObjectName(QStringLiteral("cmbDistance"));
+  distance_->setAccessibleName(QStringLiteral("Distance to the enemy"));
+  for (const int distance : kDistances) {
+    distance_->addItem(
+        distance == 0
+            ? QStringLiteral("at any distance")
+            : QStringLiteral("at %1 units, OpenArena's data").arg(distance));
+  }
+  auto* const row = new QHBoxLayout;
+  auto* const label = new QLabel(QStringLiteral("Weapons"), this);
+  label->setBuddy(distance_);
+  row->addWidget(label);
+  row->addWidget(distance_);
+  row->addStretch(1);
+  auto* const column = new QVBoxLayout(this);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->addLayout(row);
+  column->addStretch(1);
+  connect(distance_, &QComboBox::activated, this, &WeaponBars::ShowOrder);
+  const int line = fontMetrics().lineSpacing();
+  setMinimumSize(14 * line, 2 * line + 10 * fontMetrics().height());
+}
+
+void WeaponBars::ShowBot(const Bot& bot) {
+  bot_ = bot;
+  ShowOrder();
+}
+
+void WeaponBars::ShowOrder() {
+  const int distance =
+      kDistances.at(static_cast<std::size_t>(distance_->currentIndex()));
+  order_ = WeaponOrder(
+      bot_, distance == 0 ? std::nullopt : std::optional<double>(distance));
+  QStringList words;
+  for (const WeaponRank& rank : order_) {
+    words << QStringLiteral("%1: %2%3")
+                 .arg(WeaponName(rank), WeightText(rank),
+                      rank.is_tied ? QStringLiteral(
+                                         ", a tie: drawn only without the one "
+                                         "before it")
+                                   : QString());
+  }
+  const QString description = words.join(QStringLiteral("; "));
+  setAccessibleDescription(description);
+  setToolTip(description);
+  update();
+}
+
+void WeaponBars::paintEvent(QPaintEvent* /*event*/) {
+  if (order_.empty()) return;
+  QPainter painter(this);
+  const QFontMetrics metrics = fontMetrics();
+  int names = 0;
+  for (const WeaponRank& rank : order_) {
+    names = std::max(names, metrics.horizontalAdvance(WeaponName(rank)));
+  }
+  const int gap = metrics.averageCharWidth();
+  const int left = names + gap;
+  const int above = distance_->geometry().bottom() + gap;
+  const double step = static_cast<double>(height() - above) /
+                      static_cast<double>(order_.size());
+  const double most = std::max(order_.front().weight, 1.0);
+  // Room for the numbers behind the bars.
+  const double room =
+      width() - left -
+      metrics.horizontalAdvance(QStringLiteral("00000") + QLatin1String(kTie));
+  double top = above;
+  for (const WeaponRank& rank : order_) {
+    const QRectF row(0, top, width(), step);
+    painter.setPen(palette().color(QPalette::WindowText));
+    painter.drawText(QRectF(0, top, names, step),
+                     Qt::AlignRight | Qt::AlignVCenter, WeaponName(rank));
+    const double length = rank.weight <= 0 ? 0 : rank.weight / most * room;
+    QColor color = palette().color(QPalette::Highlight);
+    if (rank.is_tied) color.setAlphaF(0.5F);
+    painter.fillRect(QRectF(left, top + step * 0.15, length, step * 0.7),
+                     color);
+    const QString weight =
+        WeightText(rank) + QLatin1String(rank.is_tied ? kTie : "");
+    painter.drawText(row.adjusted(left + length + gap / 2.0, 0, 0, 0),
+                     Qt::AlignLeft | Qt::AlignVCenter, weight);
+    top += step;
+  }
+}
+
+}  // namespace fragsmith

@@ -1,0 +1,149 @@
+#include "editor/findings_dock.h"
+
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "checks/bot_checks.h"
+#include "editor/severity_icon.h"
+
+namespace fragsmith {
+namespace {
+
+QString Utf8(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+/// "2 errors", "1 hint"; nothing for none.
+void AddCount(QStringList& counts, qsizetype count, const char* word) {
+  if (count == 0) return;
+  counts << QStringLiteral("%1 %2%3").arg(count).arg(
+      QLatin1String(word), count == 1 ? QString() : QStringLiteral("s"));
+}
+
+QString TextOf(const Finding& finding) {
+  const QString place = Utf8(ChatPlaceText(finding.place));
+  const QString text = Utf8(finding.text);
+  return place.isEmpty() ? text : place + QStringLiteral(": ") + text;
+}
+
+}  // namespace
+
+FindingsDock::FindingsDock(QWidget* parent)
+    : QDockWidget(QStringLiteral("What the game will do"), parent),
+      list_(new QListWidget),
+      columns_(new QHBoxLayout),
+      mends_(new QHBoxLayout),
+      counter_(new QToolButton) {
+  setObjectName(QStringLiteral("dockFindings"));
+  setFeatures(QDockWidget::DockWidgetClosable);
+  setAllowedAreas(Qt::BottomDockWidgetArea);
+  list_->setObjectName(QStringLiteral("lstFindings"));
+  list_->setAccessibleName(windowTitle());
+  list_->setWordWrap(true);
+  const int icon = fontMetrics().height();
+  list_->setIconSize(QSize(icon, icon));
+  list_->setMinimumHeight(5 * fontMetrics().lineSpacing());
+
+  auto* const content = new QWidget(this);
+  content->setLayout(columns_);
+  auto* const column = new QVBoxLayout;
+  column->addWidget(list_, 1);
+  column->addLayout(mends_);
+  columns_->addLayout(column, 3);
+  setWidget(content);
+
+  counter_->setObjectName(QStringLiteral("cmdFindings"));
+  counter_->setAutoRaise(true);
+  counter_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  counter_->setToolTip(
+      QStringLiteral("What the game will do with this bot (F8)"));
+  connect(counter_, &QToolButton::clicked, this, &FindingsDock::Toggle);
+  connect(list_, &QListWidget::itemClicked, this, &FindingsDock::GoToSelected);
+  connect(list_, &QListWidget::itemActivated, this,
+          &FindingsDock::GoToSelected);
+  connect(list_, &QListWidget::currentRowChanged, this,
+          &FindingsDock::ShowMends);
+  ShowCounts();
+  hide();
+}
+
+void FindingsDock::Toggle() {
+  setVisible(!isVisible());
+  if (isVisible()) list_->setFocus();
+}
+
+void FindingsDock::SetPicture(QWidget* picture) {
+  columns_->addWidget(picture, 2);
+}
+
+void FindingsDock::ShowFindings(const std::vector<Finding>& findings) {
+  const int row = list_->currentRow();
+  const Finding selected =
+      row < 0 ? Finding() : findings_[static_cast<std::size_t>(row)];
+  findings_ = findings;
+  {
+    const QSignalBlocker silence(list_);
+    list_->clear();
+    for (const Finding& finding : findings_) {
+      new QListWidgetItem(SeverityIcon(finding.severity, *style()),
+                          TextOf(finding), list_);
+    }
+    const auto same = std::find_if(
+        findings_.begin(), findings_.end(), [&selected](const Finding& one) {
+          return one.id == selected.id && one.place == selected.place;
+        });
+    list_->setCurrentRow(same == findings_.end()
+                             ? -1
+                             : static_cast<int>(same - findings_.begin()));
+  }
+  ShowMends();
+  ShowCounts();
+}
+
+void FindingsDock::ShowCounts() {
+  const auto count = [this](Severity severity) {
+    return std::count_if(findings_.begin(), findings_.end(),
+                         [severity](const Finding& finding) {
+                           return finding.severity == severity;
+                         });
+  };
+  QStringList counts;
+  AddCount(counts, count(Severity::kError), "error");
+  AddCount(counts, count(Severity::kWarning), "warning");
+  AddCount(counts, count(Severity::kHint), "hint");
+  counter_->setText(counts.isEmpty() ? QStringLiteral("Nothing to tell")
+                                     : counts.join(QStringLiteral(", ")));
+  counter_->setIcon(findings_.empty()
+                        ? style()->standardIcon(QStyle::SP_DialogApplyButton)
+                        : SeverityIcon(findings_.front().severity, *style()));
+  counter_->setAccessibleName(windowTitle() + QStringLiteral(": ") +
+                              counter_->text());
+}
+
+void FindingsDock::ShowMends() {
+  while (QLayoutItem* const item = mends_->takeAt(0)) {
+    if (item->widget() != nullptr) item->widget()->deleteLater();
+    delete item;
+  }
+  const int row = list_->currentRow();
+  if (row < 0) return;
+  const Finding& finding = findings_[static_cast<std::size_t>(row)];
+  for (const Mend& mend : finding.mends) {
+    auto* const button =
+        new QPushButton(Utf8(mend.title).replace(u'&', QLatin1String("&&")));
+    // The list is made anew by the mend itself.
+    connect(
+        button, &QPushButton::clicked, this,
+        [this, place = finding.place, mend] { emit MendWanted(place, mend); });
+    mends_->addWidget(button);
+  }
+  mends_->addStretch(1);
+}
+
+void FindingsDock::GoToSelected() {
+  const int row = list_->currentRow();
+  if (row >= 0) emit GoTo(findings_[static_cast<std::size_t>(row)].place);
+}
+
+}  // namespace fragsmith

@@ -1,0 +1,84 @@
+#ifndef FRAGSMITH_EDITOR_PAGES_CHAT_PAGE_PARTS_H_
+#define FRAGSMITH_EDITOR_PAGES_CHAT_PAGE_PARTS_H_
+
+#include <QGridLayout>
+#include <QListWidget>
+#include <QPushButton>
+#include <QShortcut>
+#include <QString>
+#include <QStyledItemDelegate>
+#include <string_view>
+
+#include "editor/code_page_validator.h"
+
+namespace fragsmith {
+
+// What the chat page is put together from.
+
+/// The same words for the tool tip, the help and assistive tools.
+void SetHelp(QWidget& widget, const QString& help);
+
+/// A list below its label.
+QListWidget* MakeList(const QString& name, const QString& caption,
+                      QGridLayout& grid, int column, int rows);
+
+/// Makes the list as wide as the longest of its entries.
+void FitWidth(QListWidget& list);
+
+void AddEntry(QListWidget& list, std::string_view text, const QString& help);
+
+QPushButton* MakeButton(const QString& name, const QString& caption,
+                        const QString& help);
+
+/// Shows the lines as the list has room for them.
+class LineDelegate : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+ protected:
+  void initStyleOption(QStyleOptionViewItem* option,
+                       const QModelIndex& index) const override {
+    QStyledItemDelegate::initStyleOption(option, index);
+    if (option->text.isEmpty()) {
+      option->text = QStringLiteral("(empty line)");
+      option->palette.setBrush(
+          QPalette::Text, option->palette.brush(QPalette::PlaceholderText));
+    }
+    // A line of a bad file may have megabytes.
+    option->text.truncate(500);
+  }
+};
+
+/// Lets control characters stand that the line of a file may have. The box
+/// would take all of such a line for refused otherwise.
+class LineValidator : public CodePageValidator {
+ public:
+  using CodePageValidator::CodePageValidator;
+
+  State validate(QString& text, int& position) const override {
+    QString plain = text;
+    for (QChar& letter : plain) {
+      const bool ends_text = letter == u'\0' || letter == u'\t' ||
+                             letter == u'\n' || letter == u'\r';
+      if (letter < u' ' && !ends_text) letter = u' ';
+    }
+    return CodePageValidator::validate(plain, position);
+  }
+};
+
+/// What a double click on an entry does, and Enter while the list has the
+/// focus. (The "activated" of a list would also be a single click on some
+/// desktops.)
+template <typename Action>
+void OnChoice(QListWidget& list, QObject* receiver, Action action) {
+  QObject::connect(&list, &QListWidget::itemDoubleClicked, receiver, action);
+  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+    auto* const shortcut = new QShortcut(QKeySequence(key), &list);
+    shortcut->setContext(Qt::WidgetShortcut);
+    QObject::connect(shortcut, &QShortcut::activated, receiver, action);
+  }
+}
+
+}  // namespace fragsmith
+
+#endif  // FRAGSMITH_EDITOR_PAGES_CHAT_PAGE_PARTS_H_

@@ -1,0 +1,134 @@
+#include "editor/pages/spoken_preview.h"
+
+#include <QGridLayout>
+#include <QPushButton>
+#include <QStyle>
+#include <algorithm>
+#include <utility>
+
+#include "checks/chat_type_facts.h"
+#include "checks/spoken_line.h"
+#include "editor/game_text_conversion.h"
+#include "editor/pages/page_table.h"
+#include "editor/parameter_help.h"
+#include "editor/parameter_names.h"
+
+namespace fragsmith {
+namespace {
+
+/// A line this much below a limit is told of.
+constexpr std::size_t kNearLimit = 20;
+
+QString Counter(const QString& name, std::size_t count, std::size_t limit) {
+  QString text = QStringLiteral("%1: %2 of %3").arg(name).arg(count).arg(limit);
+  // In words and weight, not by colour alone.
+  if (count > limit) return QStringLiteral("<b>%1, too long</b>").arg(text);
+  if (count + kNearLimit > limit) {
+    return QStringLiteral("<b>%1, nearly full</b>").arg(text);
+  }
+  return text;
+}
+
+}  // namespace
+
+SpokenPreview::SpokenPreview(RandomSource random, QWidget* parent)
+    : QWidget(parent),
+      random_(std::move(random)),
+      source_(new QLabel(this)),
+      text_(new FunNamePreview(this)),
+      lengths_(new QLabel(this)),
+      when_(new QLabel(this)) {
+  source_->setObjectName(QStringLiteral("lblSpokenSource"));
+  text_->setObjectName(QStringLiteral("picSpoken"));
+  text_->setAccessibleName(QStringLiteral("What the game would say"));
+  lengths_->setObjectName(QStringLiteral("lblLengths"));
+  lengths_->setTextFormat(Qt::RichText);
+  when_->setObjectName(QStringLiteral("lblWhen"));
+  when_->setTextFormat(Qt::PlainText);
+  when_->setWordWrap(true);
+  auto* const another = new QPushButton(QStringLiteral("Say another"), this);
+  another->setObjectName(QStringLiteral("cmdSayAnother"));
+  another->setToolTip(WrappedToolTip(
+      {}, QStringLiteral("Draws other words and says the line again.")));
+  connect(another, &QPushButton::clicked, this, &SpokenPreview::SayAnother);
+
+  auto* const grid = new QGridLayout(this);
+  grid->setContentsMargins(0, 0, 0, 0);
+  grid->addWidget(source_, 0, 0);
+  grid->addWidget(text_, 0, 1);
+  grid->addWidget(another, 0, 2);
+  grid->addWidget(when_, 1, 0, 1, 2);
+  grid->addWidget(lengths_, 1, 2, Qt::AlignRight | Qt::AlignTop);
+  grid->setColumnStretch(1, 1);
+  SetGame(nullptr);
+}
+
+void SpokenPreview::SetGame(const GameData* game) {
+  game_ = game != nullptr && !game->words.empty() ? game : nullptr;
+  source_->setText(game_ != nullptr
+                       ? QStringLiteral("In the game:")
+                       : QStringLiteral("In a game (our sample words):"));
+  SayAnother();
+}
+
+void SpokenPreview::ShowLine(const Bot& bot, int type,
+                             const std::string& line) {
+  type_ = type;
+  line_ = line;
+  own_name_ = SimpleName(bot.FunName().empty() ? bot.Name() : bot.FunName());
+  ShowWhen(bot);
+  SayAnother();
+}
+
+void SpokenPreview::SayAnother() {
+  SampleNames names;
+  if (!own_name_.empty()) names.own_name = own_name_;
+  const SpokenLine spoken =
+      SpeakLine(type_, line_, names,
+                game_ != nullptr ? game_->words : WordLists::Sample(), random_);
+  QString text = ToQString(spoken.text);
+  if (spoken.is_broken) {
+    text = QStringLiteral("(the line breaks the chat file)");
+  } else if (line_.empty()) {
+    text = QStringLiteral("(nothing)");
+  } else if (text.isEmpty() && !spoken.unknown_lists.empty()) {
+    text = QStringLiteral("(the game has no list %1)")
+               .arg(ToQString(spoken.unknown_lists.front()));
+  }
+  text_->DrawFunName(text);
+  lengths_->setText(
+      Counter(QStringLiteral("encoded"), spoken.encoded_length,
+              kMostEncodedBytes) +
+      QStringLiteral("&nbsp;&nbsp; ") +
+      Counter(QStringLiteral("spoken"),
+              std::max(spoken.spoken_length, spoken.longest_length),
+              kMostSpokenBytes));
+}
+
+void SpokenPreview::ShowWhen(const Bot& bot) {
+  const ChatTypeFacts& facts = FactsOfChatType(type_);
+  QString text = TableText(facts.when);
+  if (facts.is_heard && facts.chance_index > 0) {
+    const double chance =
+        std::clamp(ToNumber(bot.Parameter(facts.chance_index)).value_or(0), 0.0,
+                   1.0) *
+        facts.chance_factor;
+    text += QStringLiteral(" Chance: %1 % (%2).")
+                .arg(QString::number(chance * 100, 'f', 0),
+                     ControlName(facts.chance_index));
+  }
+  QStringList variables;
+  for (std::size_t number = 0; number < facts.variables.size(); ++number) {
+    const ChatFill fill = facts.variables.at(number);
+    if (fill == ChatFill::kNothing || fill == ChatFill::kInvalid) continue;
+    variables << QStringLiteral("%1 %2").arg(number).arg(
+        TableText(FillText(fill)));
+  }
+  when_->setText(text);
+  when_->setToolTip(WrappedToolTip(
+      QStringLiteral("Variables of this situation"),
+      variables.isEmpty() ? QStringLiteral("none")
+                          : variables.join(QStringLiteral("\n"))));
+}
+
+}  // namespace fragsmith

@@ -1,0 +1,395 @@
+#include "checks/bot_checks.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <chrono>
+#include <functional>
+#include <set>
+#include <string>
+#include <tuple>
+#include <vector>
+
+#include "model/characteristic_catalogue.h"
+#include "session/presets.h"
+
+namespace fragsmith {
+namespace {
+
+using ::testing::HasSubstr;
+
+constexpr int kLevelStart = 2;
+constexpr int kVictory = 4;
+constexpr int kDeathInsult = 18;
+constexpr int kKillSuicide = 23;
+constexpr int kKillInsult = 24;
+constexpr int kKillPraise = 25;
+constexpr int kRandomMisc = 27;
+
+/// A bot that no check has anything to say about.
+Bot CleanBot() {
+  Bot bot = CreateAverageBot([] { return 0.5; });
+  bot.ClearChats();
+  const auto set = [&bot](int index, Value value) {
+    ASSERT_TRUE(bot.SetParameter(index, std::move(value)));
+  };
+  set(kNameIndex, "Rookie");
+  for (const int level : kSkillLevels) {
+    set(LevelIndex(level, kReactionTimeIndex), 0.5);
+    set(LevelIndex(level, kViewMaxChangeIndex), 360.0);
+  }
+  for (int index = kChatRange.first; index <= kChatRange.last; ++index) {
+    set(index, 0.0);
+  }
+  set(44, 10.0);  // The gauntlet is the last resort.
+  return bot;
+}
+
+GameData SomeGame() {
+  GameData game;
+  game.names_taken = {"grism"};
+  game.bot_packages = {{"shadow", "pak6.pk3"}, {"early", "aaa.pk3"}};
+  for (int number = 10; number < 87; ++number) {
+    game.description_files.insert("aaaaaa" + std::to_string(number) + ".bot");
+  }
+  game.models = {"sarge", "biker"};
+  game.skins = {"sarge/default", "biker/default"};
+  game.words =
+      WordLists::Parse("food = { \"soup\"; \"a very " + std::string(100, 'x') +
+                       " cake\"; }\n"
+                       "TAUNT = { \"Ha!\"; } HELLO = { 0, \" says\"; }");
+  game.has_weapon_script = true;
+  game.has_item_script = true;
+  game.uses_owned_weights = true;
+  return game;
+}
+
+using Edit = std::function<void(Bot&, GameData&)>;
+
+Edit Set(int index, Value value) {
+  return [index, value](Bot& bot, GameData&) {
+    ASSERT_TRUE(bot.SetParameter(index, value));
+  };
+}
+
+Edit SetAll(IndexRange range, double value) {
+  return [range, value](Bot& bot, GameData&) {
+    for (int index = range.first; index <= range.last; ++index) {
+      ASSERT_TRUE(bot.SetParameter(index, value));
+    }
+  };
+}
+
+/// The line, and the chance that the type needs.
+Edit Chat(int type, const std::string& text) {
+  return [type, text](Bot& bot, GameData&) {
+    bot.SetChatLine(type, 0, text);
+    for (int index = 34; index <= 42; ++index) {
+      if (index != 38) (void)bot.SetParameter(index, 0.5);
+    }
+  };
+}
+
+Edit Both(const Edit& first, const Edit& second) {
+  return [first, second](Bot& bot, GameData& game) {
+    first(bot, game);
+    second(bot, game);
+  };
+}
+
+Edit OnlyChance(int index) {
+  return [index](Bot& bot, GameData& game) {
+    SetAll({32, 42}, 0)(bot, game);
+    Set(index, 0.5)(bot, game);
+  };
+}
+
+Edit InGame(const std::function<void(GameData&)>& change) {
+  return [change](Bot&, GameData& game) { change(game); };
+}
+
+/// What brings a finding, and what nearly does.
+struct Case {
+  std::string id;
+  Edit brings;
+  Edit nearly;
+};
+
+const std::string kLong(31, 'x');
+const std::string kText252(252, 'x');
+
+std::vector<Case> Cases() {
+  const Edit own_weight = Set(64, 5.0);
+  return {
+      {"name-unusable", Set(0, "Roo kie"), Set(0, "Roo.kie")},
+      {"name-unusable", Set(0, ""), Set(0, "R")},
+      {"name-numeric", Set(0, "47"), Set(0, "47a")},
+      {"name-numeric", Set(0, "1.5"), Set(0, "1.5.")},
+      {"name-too-long", Set(0, std::string(46, 'x')),
+       Set(0, std::string(45, 'x'))},
+      {"name-too-long-for-menus", Set(0, std::string(16, 'x')),
+       Set(0, std::string(15, 'x'))},
+      {"name-forbidden-character", Set(0, "Roo;kie"), Set(0, "Roo:kie")},
+      {"name-forbidden-character", Set(0, "\"R\""), Set(0, "'R'")},
+      {"name-accent", Set(0, "R\xF6kie"), Set(0, "R~kie")},
+      {"name-taken", Set(0, "gRISM"), Set(0, "Grisms")},
+      {"name-taken", Set(0, "Xaero"), Set(0, "Xaeros")},
+      {"fun-name-forbidden-character", Set(2, "\"a;b c\""), Set(2, "\"a b\"")},
+      {"fun-name-forbidden-character", Set(2, "a\\b"), Set(2, "a/b")},
+      {"description-too-large", Set(9, std::string(8100, 'x')),
+       Set(9, std::string(7000, 'x'))},
+      {"text-breaks-file", Set(36, "a\"b"), Set(36, "0.5")},
+      {"text-breaks-file", Set(kGenderIndex, "ma\\le"),
+       Set(kGenderIndex, "male")},
+      {"level-mix-gap", Both(Set(107, 1.5), Set(407, 2.0)),
+       Both(Set(107, 2.0), Set(407, 1.5))},
+      {"level-mix-gap", Both(Set(406, 1.0), Set(506, 300.0)),
+       Both(Set(406, 2.0), Set(506, 300.0))},
+      {"level-mix-gap", Set(403, 7.0), Set(403, 1.0)},
+      {"weight-not-a-number", Set(45, "much"), Set(45, "1")},
+      {"no-weapon-at-start", Both(Set(44, 0.0), Set(46, 0.0)), Set(46, 0.0)},
+      {"chat-quote", Chat(kDeathInsult, "say \"hi\" to me"),
+       Chat(kDeathInsult, "say ', \", food, \"'")},
+      {"chat-backslash", Chat(kDeathInsult, "\\o/"),
+       Chat(kDeathInsult, "\\\\o/ \\n")},
+      {"chat-backslash", Chat(kDeathInsult, "end\\"),
+       Chat(kDeathInsult, "end\\\\")},
+      {"chat-control-character", Chat(kDeathInsult, "a\nb"),
+       Chat(kDeathInsult, "a\tb")},
+      {"chat-too-long", Chat(kDeathInsult, kText252 + "{ATTACKER}"),
+       Chat(kDeathInsult, kText252 + "xxx")},
+      {"chat-too-long", Chat(kDeathInsult, kText252 + "{FOOD}"),
+       Chat(kDeathInsult, std::string(248, 'x') + "{FOOD}")},
+
+      {"files-shadowed", Set(0, "Shadow"), Set(0, "Early")},
+      {"too-many-bots", Set(0, std::string(17, 'x')),
+       Set(0, std::string(16, 'x'))},
+      {"model-not-installed", Set(5, "Visor"), Set(5, "Biker")},
+      {"model-not-installed", Set(6, "Red"), Set(6, "default")},
+      {"model-unreadable", Set(5, "Sar ge"), Set(5, "Sar-ge")},
+      {"model-unreadable", Set(6, "a;b"), Set(6, "a.b")},
+      {"model-unreadable", Set(5, ""), Set(6, "")},
+      {"gender-unknown", Set(1, "Male"), Set(1, "female")},
+      {"gender-unknown", Set(1, ""), Set(1, "it")},
+      {"fun-name-too-long", Set(2, std::string(36, 'x')),
+       Set(2, "\"" + std::string(33, 'x') + " x\"")},
+      {"fun-name-black", Set(2, "^1a^0b"), Set(2, "^1a^2b")},
+      {"fun-name-black", Set(2, "^xa"), Set(2, "^ya")},
+      {"fun-name-black", Set(2, "^1^2"), Set(2, "^1^2a")},
+      {"fun-name-empty", Set(2, "//x"), Set(2, "\"//x\"")},
+      {"fun-name-empty", Set(2, "\t"), Set(2, "")},
+      {"fun-name-dots", Set(2, "\"100%\""), Set(2, "100")},
+      {"fun-name-dots", Set(2, "\"caf\xE9\""), Set(2, "\"cafe\"")},
+      {"fun-name-unquoted", Set(2, "caf\xE9s"), Set(2, "The New")},
+      {"rail-colour-not-read", Set(3, 5.0), Set(3, "None")},
+      {"arena-lord-not-read", Set(10, 1.0), Set(10, 0.0)},
+      {"value-not-a-number", Set(36, "much"), Set(36, "0")},
+      {"value-negative", Set(45, -10.0), Set(45, 0.0)},
+      {"value-negative", Set(104, -0.5), Set(124, -0.5)},
+      {"reaction-time-clamped", Set(107, 1.25), Set(107, 1.0)},
+      {"view-change-clamped", Set(506, 239.0), Set(506, 240.0)},
+      {"value-clamped", Set(103, 1.5), Set(103, 1.0)},
+      {"value-clamped", Set(406, 1801.0), Set(406, 1800.0)},
+      {"value-not-read", Set(412, 0.25), Set(412, 0.5)},
+      {"value-not-read", Set(31, 300.0), Set(31, 200.0)},
+      {"gauntlet-fighter", Set(44, 50.0), Set(44, 49.0)},
+      {"no-item-wanted", SetAll(kItemWeightRange, 0),
+       SetAll({55, kItemWeightRange.last}, 0)},
+      {"chat-never-heard", Chat(kKillSuicide, "ha"), Chat(kKillPraise, "ha")},
+      {"chat-never-heard", Chat(1, "bye"), Chat(0, "hi")},
+      {"chat-cut-on-screen", Chat(kDeathInsult, std::string(131, 'x')),
+       Chat(kDeathInsult, std::string(130, 'x'))},
+      {"chat-cut-on-screen",
+       Chat(kDeathInsult, std::string(96, 'x') + "{ATTACKER}"),
+       Chat(kDeathInsult, std::string(95, 'x') + "{ATTACKER}")},
+      {"chat-cut-on-screen", Chat(kDeathInsult, kLong + "{FOOD}"),
+       Chat(kDeathInsult, "{FOOD}")},
+      {"chat-characters-changed", Chat(kDeathInsult, "caf\xE9; 5 %"),
+       Chat(kDeathInsult, "cafe, 5 / ^1~x")},
+      {"chat-characters-changed", Chat(kDeathInsult, "a  b"),
+       Chat(kDeathInsult, "a b")},
+      {"chat-characters-changed", Chat(kDeathInsult, "see //x /*y*/"),
+       Chat(kDeathInsult, "see / x * y")},
+      {"chat-list-missing", Chat(kDeathInsult, "my {CURSE}"),
+       Chat(kDeathInsult, "my {FOOD}")},
+      {"chat-list-missing", Chat(kDeathInsult, "{{TAUNT3}}"),
+       Chat(kDeathInsult, "{{TAUNT0}}")},
+      {"chat-variable-empty", Chat(kKillInsult, "my {WEAPONUSED}"),
+       Chat(kDeathInsult, "my {WEAPONUSED}")},
+      {"chat-variable-empty", Chat(kLevelStart, "on {LEVELTITLE}"),
+       Chat(kVictory, "on {LEVELTITLE}")},
+      {"chat-variable-empty", Chat(kVictory, "{LEVELWINNER} won"),
+       Chat(kVictory, "{LEVELLOSER} lost")},
+      {"chat-variable-empty", Chat(kRandomMisc, "a\", 6, \"b"),
+       Chat(kRandomMisc, "a\", 5, \"b")},
+      {"chat-variable-unknown", Chat(kRandomMisc, "{ATTACKER}!"),
+       Chat(kDeathInsult, "{ATTACKER}!")},
+      {"chat-variable-unknown", Chat(kRandomMisc, "so {{TAUNT0}}"),
+       Chat(kRandomMisc, "so } {")},
+
+      {"chat-without-chance", Both(Chat(0, "hi"), Set(35, 0.0)), Chat(0, "hi")},
+      {"chat-without-chance",
+       Both(Both(Set(32, 1.0), Chat(19, "a")), Chat(9, "a")),
+       Both(Both(Set(32, 0.9), Chat(19, "a")), Chat(9, "a"))},
+      {"chat-without-lines", Set(35, 0.1), Both(Chat(0, "a"), OnlyChance(35))},
+      {"chat-enemy-suicide", Set(38, 0.1), Set(38, 0.0)},
+      {"default-character-decides", Set(420, 0.0), Set(420, 0.1)},
+      {"firing-speed-without-pauses", Set(130, 0.1), Set(130, 0.2)},
+      {"weapon-not-fetched", Both(Set(49, 51.0), Set(60, 0.0)),
+       Both(Set(49, 50.0), Set(60, 0.0))},
+      {"owned-weights-not-used",
+       InGame([](GameData& game) { game.uses_owned_weights = false; }),
+       Both(InGame([](GameData& game) { game.uses_owned_weights = false; }),
+            SetAll({64, 71}, 0))},
+      {"weight-scripts-missing",
+       InGame([](GameData& game) { game.has_item_script = false; }),
+       own_weight},
+  };
+}
+
+std::vector<Finding> Only(std::vector<Finding> findings,
+                          const std::string& id) {
+  std::erase_if(findings,
+                [&id](const Finding& finding) { return finding.id != id; });
+  return findings;
+}
+
+TEST(BotChecks, SayNothingOfACleanBot) {
+  const GameData game = SomeGame();
+  for (const Finding& finding : CheckBot(CleanBot(), &game)) {
+    ADD_FAILURE() << finding.id << ": " << finding.text;
+  }
+  const std::vector<Finding> without_game = CheckBot(CleanBot(), nullptr);
+  ASSERT_EQ(without_game.size(), 1U);
+  EXPECT_EQ(without_game[0].id, "game-not-checked");
+  EXPECT_EQ(without_game[0].severity, Severity::kHint);
+}
+
+TEST(BotChecks, FindWhatIsThereAndNothingMore) {
+  std::set<std::string> seen = {"game-not-checked"};
+  for (const Case& row : Cases()) {
+    seen.insert(row.id);
+    Bot bot = CleanBot();
+    GameData game = SomeGame();
+    row.brings(bot, game);
+    const std::vector<Finding> found = Only(CheckBot(bot, &game), row.id);
+    EXPECT_FALSE(found.empty()) << row.id;
+    for (const Finding& finding : found) {
+      EXPECT_TRUE(finding.text.ends_with('.')) << finding.text;
+      // Every mend does what it says: the same is not found again.
+      for (const Mend& mend : finding.mends) {
+        Bot mended = bot;
+        mend.apply(mended);
+        for (const Finding& left : Only(CheckBot(mended, &game), row.id)) {
+          EXPECT_FALSE(left.place == finding.place)
+              << mend.title << ": " << left.text;
+        }
+      }
+    }
+    Bot other = CleanBot();
+    GameData other_game = SomeGame();
+    row.nearly(other, other_game);
+    for (const Finding& finding : Only(CheckBot(other, &other_game), row.id)) {
+      ADD_FAILURE() << row.id << ": " << finding.text;
+    }
+  }
+  for (const Check& check : BotChecks()) {
+    EXPECT_TRUE(seen.contains(std::string(check.id)))
+        << check.id << " is not tried";
+  }
+}
+
+TEST(BotChecks, NameThePlaceAndItsFile) {
+  Bot bot = CleanBot();
+  GameData game = SomeGame();
+  Chat(kDeathInsult, "fine")(bot, game);
+  bot.SetChatLine(kDeathInsult, 2, "\\o/");
+  Set(107, 2.0)(bot, game);
+  Set(60, "much")(bot, game);
+  Set(45, "much")(bot, game);
+  const auto place = [&](const std::string& id) {
+    return Only(CheckBot(bot, &game), id).at(0).place;
+  };
+  const FindingPlace line = place("chat-backslash");
+  EXPECT_EQ(line.chat_type, kDeathInsult);
+  EXPECT_EQ(line.chat_line, 2);
+  EXPECT_EQ(ChatPlaceText(line), "\"Bot dies (negative)\", line 3");
+  EXPECT_EQ(FileOfPlace(bot, line), "rookie_t.c");
+  EXPECT_EQ(place("reaction-time-clamped").parameter, 107);
+  EXPECT_EQ(FileOfPlace(bot, place("reaction-time-clamped")), "rookie_c.c");
+  EXPECT_EQ(FileOfPlace(bot, place("weight-not-a-number")), "rookie_w.c");
+  EXPECT_EQ(FileOfPlace(bot, {.parameter = 60, .file = {}}), "rookie_i.c");
+  EXPECT_EQ(FileOfPlace(bot, {.parameter = 2, .file = {}}), "rookie.bot");
+}
+
+TEST(BotChecks, MendTextsAsTheirTitlesSay) {
+  const GameData game = SomeGame();
+  const auto mended = [&game](const std::string& line, const std::string& id,
+                              std::size_t which = 0) {
+    Bot bot = CleanBot();
+    bot.SetChatLine(kDeathInsult, 0, line);
+    Only(CheckBot(bot, &game), id).at(0).mends.at(which).apply(bot);
+    return bot.ChatLine(kDeathInsult, 0);
+  };
+  EXPECT_EQ(mended("caf\xE9;  50% // \x84hm\x93", "chat-characters-changed"),
+            "cafe, 50 percent / 'hm'");
+  EXPECT_EQ(mended("\\o/ \\\\ \\n \\", "chat-backslash"),
+            "\\\\o/ \\\\ \\n \\\\");
+  EXPECT_EQ(mended("\\o/", "chat-backslash", 1), "o/");
+  EXPECT_EQ(mended("a \"b\"", "chat-quote"), "a 'b'");
+}
+
+TEST(BotChecks, NameParametersAsTheWindowDoes) {
+  Bot bot = CleanBot();
+  const GameData game = SomeGame();
+  for (const auto& [index, value, id, text] :
+       {std::tuple(407, 2.0, "level-mix-gap",
+                   "has no \"Reaction time\" at all"),
+        std::tuple(520, 0.0, "default-character-decides",
+                   "\"Rocket launcher aim accuracy\" is \"No\" at level 5:"),
+        std::tuple(511, 0.9, "value-not-read", "reads \"Grapple user\""),
+        std::tuple(104, 2.0, "value-clamped", "\"Aim accuracy\" at level 1"),
+        std::tuple(80, -1.0, "value-negative", "\"CTF Flag pickup\" is -1,"),
+        std::tuple(38, 1.0, "chat-enemy-suicide", "\"Enemy suicide\"")}) {
+    ASSERT_TRUE(bot.SetParameter(index, value));
+    EXPECT_THAT(Only(CheckBot(bot, &game), id).at(0).text, HasSubstr(text));
+  }
+}
+
+TEST(BotChecks, ReadNegativeNumbersAsTheGameDoes) {
+  // A written -10 is 010, which the game takes for eight.
+  Bot bot = CleanBot();
+  const GameData game = SomeGame();
+  for (const auto& [value, read] :
+       {std::pair(-10.0, "will read 8"), std::pair(-8.0, "will read 8"),
+        std::pair(-2.5, "will read 2.5"), std::pair(-0.5, "will read 0.5")}) {
+    ASSERT_TRUE(bot.SetParameter(45, value));
+    EXPECT_THAT(Only(CheckBot(bot, &game), "value-negative").at(0).text,
+                HasSubstr(read));
+  }
+}
+
+TEST(BotChecks, BearHostileBotsAndAreQuick) {
+  Bot bot = CleanBot();
+  for (int type = 0; type < kChatTypeCount; ++type) {
+    for (int line = 0; line < 10; ++line) {
+      bot.SetChatLine(type, line,
+                      "{EXCLAMATION}, {ATTACKER}! PROFESSION; {FOOD} " +
+                          std::to_string(line));
+    }
+  }
+  const auto start = std::chrono::steady_clock::now();
+  EXPECT_FALSE(CheckBot(bot, nullptr).empty());
+  // Ten times what it takes, for slow machines and sanitizers.
+  EXPECT_LT(std::chrono::steady_clock::now() - start,
+            std::chrono::milliseconds(200));
+  for (int line = 0; line < 5000; ++line) {
+    bot.SetChatLine(3, line, "\"\\ \x01 {");
+  }
+  EXPECT_LT(CheckBot(bot, nullptr).size(),
+            BotChecks().size() * FindingList::kMostOfOneCheck);
+}
+
+}  // namespace
+}  // namespace fragsmith

@@ -1,0 +1,86 @@
+#!/usr/bin/env bash
+# Lets "fragsmith-cli try" ask a real game about a good bot and bad ones:
+#   try.sh [FRAGSMITH_CLI]
+# Exit status 77 when the game is not installed.
+set -euo pipefail
+
+here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+cli=$(realpath -m "${1:-$here/../../build/dev/bin/fragsmith-cli}")
+if [[ ! -x $cli ]]; then
+  echo "${0##*/}: there is no program $cli" >&2
+  exit 2
+fi
+
+for package in ioquake3-server openarena-server openarena-088-data; do
+  status=$(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null) ||
+    status=missing
+  if [[ $status != installed ]]; then
+    echo "${0##*/}: Debian package $package is not installed" >&2
+    exit 77
+  fi
+done
+
+scratch=$(mktemp -d)
+trap 'rm -rf "$scratch"' EXIT
+mkdir "$scratch/program" "$scratch/tmp" "$scratch/home"
+# Nothing may be left in either of them.
+export TMPDIR=$scratch/tmp HOME=$scratch/home
+"$cli" new --preset average --name Rookie --seed 1 \
+  --program-folder "$scratch/program" >"$scratch/good.json"
+python3 - "$scratch" <<'PYTHON'
+import json
+import sys
+
+with open(sys.argv[1] + "/good.json", encoding="utf-8") as file:
+    text = file.read()
+quote = json.loads(text)
+quote["chats"]["kill_insult"] = ['say "hi" there']
+# The chat file names it without quotes, where the game wants no number.
+number = json.loads(text)
+number["name"] = "42"
+for name, bot in ("quote", quote), ("number", number):
+    with open(f"{sys.argv[1]}/{name}.json", "w", encoding="utf-8") as file:
+        json.dump(bot, file)
+PYTHON
+
+failures=0
+# expect STATUS PATTERN ARGUMENT...: the exit status, and a line of the output.
+expect() {
+  local status=$1 pattern=$2 got=0
+  shift 2
+  "$cli" try "$@" --program-folder "$scratch/program" >"$scratch/out" 2>&1 ||
+    got=$?
+  if ((got == status)) && grep -qE -e "$pattern" "$scratch/out"; then
+    echo "ok: $status, $pattern"
+  else
+    echo "FAIL: try $*: exit status $got in place of $status, or no $pattern"
+    cat "$scratch/out"
+    failures=$((failures + 1))
+  fi
+}
+
+server=(--engine /usr/lib/ioquake3/ioq3ded --data /usr/lib/openarena-server)
+for skill in 1 2 4 5; do
+  expect 0 '^Rookie entered the game\.$' "$scratch/good.json" "${server[@]}" \
+    --skill "$skill"
+done
+expect 0 '^Rookie entered the game\.$' "$scratch/good.json" \
+  --engine /usr/games/openarena-server --opponent gargoyle --opponent sarge
+expect 1 'does not add the bot' "$scratch/quote.json" "${server[@]}" \
+  --opponent gargoyle
+expect 1 'The game did not add 42' "$scratch/number.json" "${server[@]}"
+expect 1 'no map of this name' "$scratch/good.json" "${server[@]}" --map nosuch
+expect 1 'The engine ended' "$scratch/good.json" "${server[@]}" --game nosuch \
+  --seconds 20
+expect 2 'does not exist' "$scratch/good.json" --engine "$scratch/none"
+
+left=$(find "$scratch/tmp" "$scratch/home" -mindepth 1)
+if [[ -n $left ]]; then
+  echo "FAIL: left behind: $left"
+  failures=$((failures + 1))
+fi
+if ((failures > 0)); then
+  echo "$failures failure(s)"
+  exit 1
+fi
+echo "a real game says what it makes of our bots"

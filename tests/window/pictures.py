@@ -1,0 +1,257 @@
+"""pictures.py PROGRAM-FOLDER PICTURE-FOLDER: pictures of the real windows, with
+bots, a model and an icon of our own."""
+
+import json
+import os
+import pathlib
+import shutil
+import struct
+import subprocess
+import sys
+import time
+import warnings
+import zipfile
+
+from screen import Editor, key, text, until, write, xdotool
+
+# The bus has two sets of names for the same calls.
+warnings.simplefilter("ignore", DeprecationWarning)
+
+TITLE = "Fragsmith 0.97b BETA"
+# Its name can be read in the pictures.
+HOME = pathlib.Path("/tmp/fragsmith-home")
+WIDTH, HEIGHT = 1024, 700
+
+# A theme of the desktop that says all there is to say, so that no other
+# setting of the machine shows. The caret does not blink.
+THEME = """[General]
+font=DejaVu Sans,9,-1,5,50,0,0,0,0,0
+fixed=DejaVu Sans Mono,9,-1,5,50,0,0,0,0,0
+[KDE]
+CursorBlinkRate=0
+ShowIconsOnPushButtons=false
+widgetStyle=Fusion
+"""
+GROUNDS = {
+    "light": {"Window": "239,240,241", "View": "255,255,255",
+              "Button": "246,247,248", "Text": "35,38,41"},
+    "dark": {"Window": "35,38,41", "View": "27,30,32",
+             "Button": "49,54,59", "Text": "239,240,241"},
+}
+
+FUN_NAME = "^1Cin^3der ^7the ^5Forge"
+CHATS = {
+    "game_enter": ["Who let the fire go out?", "{RANDOMOPP}, you are overdue.",
+                   "I have been hammering on {LEVELTITLE} all week."],
+    "level_end_victory": ["Tempered. Quenched. Undefeated."],
+    "death_rail": ["Straight through the bellows, {ATTACKER}.",
+                   "I felt a draught.",
+                   "Put that {WEAPONUSED} down, it is not yours.",
+                   "{{DEATHRAIL1}}"],
+    "kill_insult": ["{TARGET}, back into the fire with you.",
+                    "You bend too easily, {TARGET}."],
+    "random_misc": ["Strike while the {FOOD} is hot."],
+}
+# What the other bots of the list are called, and by whom they are packed.
+OTHERS = ["Anvil", "Bellows", "Clinker", "Rivet", "Tongs"]
+
+
+def themes():
+    """A folder with the theme for each ground."""
+    for ground, colors in GROUNDS.items():
+        lines = [THEME]
+        for group in ("Window", "View", "Button", "Tooltip"):
+            background = colors.get(group, colors["Button"])
+            lines += [f"[Colors:{group}]", f"BackgroundNormal={background}",
+                      f"ForegroundNormal={colors['Text']}",
+                      f"BackgroundAlternate={colors['Window']}"]
+        lines += ["[Colors:Selection]", "BackgroundNormal=61,174,233",
+                  "ForegroundNormal=252,252,252", ""]
+        (HOME / ground).mkdir()
+        (HOME / ground / "kdeglobals").write_text("\n".join(lines))
+
+
+def icon():
+    """A targa file: the glowing head of a bot."""
+    ground, glow, eye = (0x26, 0x20, 0x1b), (0x2d, 0x8c, 0xf8), (0, 0, 0)
+    parts = [((20, 20, 44, 44), glow), ((30, 12, 34, 20), glow),
+             ((14, 26, 18, 38), glow), ((46, 26, 50, 38), glow),
+             ((26, 27, 30, 31), eye), ((34, 27, 38, 31), eye),
+             ((26, 36, 38, 39), eye)]
+    points = bytearray()
+    for y in range(64):
+        for x in range(64):
+            color = ground
+            for (left, top, right, bottom), its in parts:
+                if left <= x < right and top <= y < bottom:
+                    color = its
+            points += bytes(color)
+    head = struct.pack("<BBB5sHHHHBB", 0, 0, 2, bytes(5), 0, 0, 64, 64, 24,
+                       0x20)
+    return head + bytes(points)
+
+
+def cinder(cli):
+    """The document of the bot that the pictures show."""
+    document = json.loads(subprocess.check_output(
+        [cli, "new", "--preset", "average", "--name", "Cinder", "--seed", "1"]))
+    document.update(funName=FUN_NAME, model="Cinder", skin="default",
+                    gender="it")
+    for level, share in (("1", 0.35), ("4", 0.65), ("5", 0.85)):
+        values = document["levels"][level]
+        for place, name in enumerate(values):
+            values[name] = round(share + 0.05 * (place % 4 - 1), 2)
+        values["CHARACTERISTIC_VIEW_MAXCHANGE"] = 240 + round(120 * share)
+        values["CHARACTERISTIC_REACTIONTIME"] = {"1": 1.0, "4": 0.5}.get(
+            level, 0.25)
+    weapons = document["weaponWeights"]
+    for place, name in enumerate(weapons):
+        weapons[name] = 60 + place * 37 % 190
+    weapons.update(W_GAUNTLET=10, W_ROCKETLAUNCHER=320, W_RAILGUN=260)
+    document["chats"].update(CHATS)
+    return document
+
+
+def make(cli, document, *arguments):
+    subprocess.run([cli, "make", "-", *arguments],
+                   input=json.dumps(document).encode(),
+                   stdout=subprocess.DEVNULL, check=True)
+
+
+def prepare(built, cli):
+    themes()
+    packages = HOME / "quake3" / "baseq3"
+    own = HOME / "own"
+    for folder in (packages, own, HOME / "bots"):
+        folder.mkdir(parents=True)
+    (HOME / "quake3" / "quake3.exe").touch()
+    for picture in built.glob("*.tga"):
+        shutil.copy(picture, own)
+    lines = ["[Fragsmith settings]", f"Q3Baseq3 = {HOME}/quake3",
+             f"WorkDir = {HOME}/bots", f"WinZipDir = {HOME}/tools", "",
+             "UserName = Player", "Email = player@example.org", "Http = ",
+             "Bots = 12", "", "BaseQ3Check = False"]
+    (own / "fgs.ini").write_bytes("\r\n".join([*lines, ""]).encode())
+    (HOME / "tools").symlink_to(built)
+    with zipfile.ZipFile(packages / "md3-cinder.pk3", "w") as package:
+        package.writestr("models/players/Cinder/icon_default.tga", icon())
+    arguments = ["--program-folder", str(own)]
+    document = cinder(cli)
+    make(cli, document, "--into", str(HOME / "bots"), *arguments)
+    for name in OTHERS:
+        make(cli, {**document, "name": name, "funName": name},
+             "--into", str(packages), "--layout", "--pk3", *arguments)
+    return arguments
+
+
+def take(name, folder, title):
+    """A picture of the window of this title, which is active."""
+    xdotool("mousemove", "1279", "1023")
+    time.sleep(0.4)
+    window = subprocess.check_output(["xdotool", "getactivewindow"],
+                                     text=True).strip()
+    picture = folder / f"{name}.png"
+    subprocess.run(
+        ["import", "-frame", "-window", window, "-strip", "-depth", "8",
+         "-quality", "91", "-define", "png:exclude-chunks=date,time",
+         f"png24:{picture}"], check=True)
+    print(f"{picture.name}: {title}, {picture.stat().st_size // 1024} KiB")
+
+
+def resize():
+    window = subprocess.check_output(["xdotool", "getactivewindow"],
+                                     text=True).strip()
+    xdotool("windowsize", window, str(WIDTH), str(HEIGHT))
+    xdotool("windowmove", window, "60", "60")
+    until("the size of the window", lambda: f"{WIDTH}x{HEIGHT}" in
+          subprocess.check_output(["xdotool", "getwindowgeometry", window],
+                                  text=True))
+    time.sleep(0.3)
+
+
+def start(program, ground, *arguments):
+    os.environ["XDG_CONFIG_HOME"] = str(HOME / ground)
+    (HOME / "own" / "fgs.window").unlink(missing_ok=True)
+    editor = Editor(program, *arguments)
+    resize()
+    return editor
+
+
+def end(editor):
+    key("ctrl+q")
+    editor.end()
+
+
+def main():
+    built, folder = (pathlib.Path(name).resolve() for name in sys.argv[1:3])
+    folder.mkdir(exist_ok=True)
+    program, cli = str(built / "fragsmith"), str(built / "fragsmith-cli")
+    os.environ.update(XDG_CURRENT_DESKTOP="KDE", KDE_SESSION_VERSION="5")
+    arguments = prepare(built, cli)
+    bot = str(HOME / "bots" / "cinder_c.c")
+
+    # The scan first, by itself: the bot's model is known from it.
+    editor = start(program, "light", *arguments)
+    key("alt+t", "c")
+    editor.gone("Please stand by")
+    end(editor)
+
+    editor = start(program, "light", *arguments, bot)
+    assert text(editor.find("Funname", "text")) == FUN_NAME
+    editor.focus("Attack skill, level 1", "slider")
+    take("window", folder, TITLE)
+
+    key("F8")
+    editor.find("What the game will do", "list")
+    editor.focus("Reaction time s, level 4", "slider")
+    take("findings", folder, TITLE)
+    key("F8")
+
+    key(*["ctrl+Tab"] * 7)
+    editor.click("Death by rail", "list item")
+    take("chat", folder, TITLE)
+
+    key("ctrl+f")
+    editor.window("Find")
+    write("rail")
+    take("find", folder, "Find")
+    key("Escape")
+    editor.window(TITLE)
+
+    key("ctrl+o")
+    editor.window("Load bot")
+    key("alt+b", "Down", "Down")
+    take("open", folder, "Load bot")
+    key("Escape")
+    editor.window(TITLE)
+
+    key("ctrl+comma")
+    editor.window("Fragsmith options")
+    take("options", folder, "Fragsmith options")
+    key("Escape")
+    editor.window(TITLE)
+
+    key("ctrl+shift+s")
+    editor.window("Make botfiles for Cinder")
+    for option in ("Save using the correct directory structure",
+                   "Make *.pk3-file"):
+        editor.click(option, "check box")
+    take("make", folder, "Make botfiles for Cinder")
+    key("Return")
+    editor.find(f"{HOME}/bots/bot-Cinder.pk3 created succesfully")
+    key("Return")
+    editor.window(TITLE)
+    end(editor)
+
+    editor = start(program, "dark", *arguments, bot)
+    editor.focus("Attack skill, level 1", "slider")
+    take("window-dark", folder, TITLE)
+    end(editor)
+
+
+# Made here alone, so that nobody else's folder of that name is used.
+HOME.mkdir(mode=0o700)
+try:
+    main()
+finally:
+    shutil.rmtree(HOME)
