@@ -83,7 +83,6 @@ class OnePageWindow : public QMainWindow {
     current_.Replace(CreateZeroBot(), false, {});
     models->ShowBot();
     identity->ShowBot();
-    page->ShowBot();
   }
 
  private:

@@ -11,13 +11,16 @@
 namespace {
 
 constexpr std::string_view kPaint = "--paint=";
+constexpr int kLongestStart = 10'000;  // Milliseconds.
 const char* own_path = nullptr;
 
 void StartUp(benchmark::State& state, const char* kind) {
   const QStringList arguments = {
       QString::fromUtf8(kPaint.data(), kPaint.size()) + QLatin1String(kind)};
   for ([[maybe_unused]] auto step : state) {
-    if (QProcess::execute(QString::fromLocal8Bit(own_path), arguments) != 0) {
+    QProcess start;
+    start.start(QString::fromLocal8Bit(own_path), arguments);
+    if (!start.waitForFinished(kLongestStart) || start.exitCode() != 0) {
       state.SkipWithError("the window was not painted");
       break;
     }

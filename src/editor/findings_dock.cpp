@@ -64,7 +64,6 @@ FindingsDock::FindingsDock(QWidget* parent)
           &FindingsDock::GoToSelected);
   connect(list_, &QListWidget::currentRowChanged, this,
           &FindingsDock::ShowMends);
-  ShowCounts();
   hide();
 }
 

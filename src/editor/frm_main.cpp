@@ -65,7 +65,6 @@ frmMain::frmMain(ProgramState& state) : state_(state) {
   edits_->Attach(*menuBar());
   draft_ = new DraftKeeper(state_.folders.program, current_, this);
   model_list_ = std::make_unique<ModelListCommands>(state_, *models_, *this);
-  BuildFindings();
   Connect();
   RestoreLook();
   models_->RefreshIcon();
@@ -156,7 +155,10 @@ void frmMain::BuildMenu() {
           [this, from, to] { edits_->CopyLevel(from, to); };
     }
   }
-  FillMainMenu(*menuBar(), [this](const QString& name) { menu_.at(name)(); });
+  FillMainMenu(*menuBar(), [this](const QString& name) {
+    FinishStart();
+    menu_.at(name)();
+  });
   connect(menuBar()->findChild<QMenu*>(QStringLiteral("mnuRecent")),
           &QMenu::aboutToShow, this, &frmMain::FillRecentBots);
 }
@@ -250,11 +252,15 @@ void frmMain::BuildFindings() {
 
 void frmMain::paintEvent(QPaintEvent* event) {
   QMainWindow::paintEvent(event);
-  // The game's lists take some tenths of a second: the window is to be there
-  // first.
-  if (!std::exchange(has_read_game_, true)) {
-    QTimer::singleShot(0, this, &frmMain::ReadGame);
-  }
+  if (!has_started_) QTimer::singleShot(0, this, &frmMain::FinishStart);
+}
+
+void frmMain::FinishStart() {
+  if (std::exchange(has_started_, true)) return;
+  navigator_->CompletePages();
+  // Behind the pages, for the Tab key too.
+  BuildFindings();
+  ReadGame();
 }
 
 void frmMain::ReadGame() {

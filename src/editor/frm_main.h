@@ -38,6 +38,11 @@ class frmMain : public QMainWindow {
 
   CurrentBot& current() { return current_; }
 
+  /// Makes the pages out of sight and the list of findings and reads the game's
+  /// lists, which takes some tenths of a second: done behind the first painting
+  /// of the window, or earlier by this call.
+  void FinishStart();
+
   /// Loads the bot that a path leads to: a characteristic file, a folder or a
   /// package.
   void OpenPath(const std::filesystem::path& path) {
@@ -92,7 +97,7 @@ class frmMain : public QMainWindow {
   BotChecker* checker_ = nullptr;
   FindingsDock* findings_ = nullptr;
   GamePicture* picture_ = nullptr;
-  bool has_read_game_ = false;
+  bool has_started_ = false;
   DraftKeeper* draft_ = nullptr;
   std::map<QString, std::function<void()>> menu_;
 };

@@ -123,6 +123,7 @@ int main(int count, char** words) try {
     window.OpenPath(fragsmith::PathFromBytes(arguments.file.toStdString()));
   }
   if (!arguments.picture.isEmpty()) {
+    window.FinishStart();
     if (window.grab().save(arguments.picture)) return 0;
     return Fail("The picture could not be saved as " +
                 arguments.picture.toStdString());

@@ -1,8 +1,6 @@
 #include "editor/page_navigator.h"
 
-#include <QRadioButton>
-#include <QScrollArea>
-
+#include "editor/pages/scrolling_page.h"
 #include "model/bot.h"
 #include "model/characteristic_catalogue.h"
 
@@ -30,7 +28,14 @@ QString FieldControl(int field) {
   }
 }
 
+void PageNavigator::CompletePages() {
+  for (int number = 0; number < strip_.count(); ++number) {
+    qobject_cast<ScrollingPage*>(strip_.widget(number))->Complete();
+  }
+}
+
 QWidget* PageNavigator::Find(const FindingPlace& place) {
+  CompletePages();
   const auto named = [this](const QString& name) {
     return window_.findChild<QWidget*>(name);
   };
@@ -60,8 +65,8 @@ void PageNavigator::Show(const FindingPlace& place) {
   QWidget* const control = Find(place);
   if (control == nullptr) return;
   for (int number = 0; number < strip_.count(); ++number) {
-    auto* const page = qobject_cast<QScrollArea*>(strip_.widget(number));
-    if (page == nullptr || !page->isAncestorOf(control)) continue;
+    auto* const page = qobject_cast<ScrollingPage*>(strip_.widget(number));
+    if (!page->isAncestorOf(control)) continue;
     strip_.setCurrentIndex(number);
     page->ensureWidgetVisible(control);
   }

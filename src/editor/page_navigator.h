@@ -17,6 +17,9 @@ class PageNavigator {
   PageNavigator(QWidget& window, PageStrip& strip, ChatPage& chat_page)
       : window_(window), strip_(strip), chat_page_(chat_page) {}
 
+  /// Makes the controls of the pages that were not shown yet.
+  void CompletePages();
+
   /// Turns to the page and moves into sight what the place is about.
   void Show(const FindingPlace& place);
 

@@ -3,6 +3,7 @@
 #include <QProxyStyle>
 #include <QShortcut>
 #include <QTabBar>
+#include <QToolButton>
 
 namespace fragsmith {
 namespace {
@@ -27,6 +28,11 @@ PageStrip::PageStrip(QWidget* parent) : QTabWidget(parent) {
   auto* const style = new CompactTabs;
   style->setParent(this);
   tabBar()->setStyle(style);
+  // The arrow keys turn the pages: the Tab key need not stop at the buttons
+  // that scroll the strip.
+  for (auto* const button : tabBar()->findChildren<QToolButton*>()) {
+    button->setFocusPolicy(Qt::NoFocus);
+  }
 
   auto* const next =
       new QShortcut(QKeySequence(QStringLiteral("Ctrl+Tab")), window());

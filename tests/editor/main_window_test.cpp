@@ -180,6 +180,23 @@ TEST_F(MainWindow, GivesEachMnemonicOnce) {
   }
 }
 
+TEST_F(MainWindow, LeadsTheTabKeyFromTheStripThroughThePage) {
+  auto* const strip = Find<QTabWidget>("tbsBotPara");
+  for (int page = 0; page < strip->count(); ++page) {
+    strip->setCurrentIndex(page);
+    strip->tabBar()->setFocus();
+    QTest::keyClick(strip->tabBar(), Qt::Key_Tab);
+    int stops = 0;
+    while (strip->currentWidget()->isAncestorOf(QApplication::focusWidget()) &&
+           ++stops < 100) {
+      QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    }
+    EXPECT_GE(stops, 7) << page;
+    EXPECT_EQ(QApplication::focusWidget(), Find<QWidget>("cmdFindings"))
+        << page;
+  }
+}
+
 TEST_F(MainWindow, SavesAndLoadsThroughTheDialog) {
   Type("txtBotPara_0", "Rookie");
   Choose("mnuExtraChat");

@@ -34,6 +34,7 @@ class ParameterPages : public testing::Test {
     for (const PageRow& row : kPages) {
       if (row.frames.front().controls.empty()) continue;
       pages_.push_back(std::make_unique<ParameterPage>(row, current_));
+      pages_.back()->Complete();
     }
     Show(CreateZeroBot());
   }

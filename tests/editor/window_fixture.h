@@ -31,6 +31,7 @@ class WindowFixture : public testing::Test {
         SeededRandom(1));
     window_ = std::make_unique<frmMain>(*state_);
     window_->show();
+    window_->FinishStart();
     // Shortcuts and the leaving of boxes need the window to be the active one.
     QApplication::setActiveWindow(window_.get());
     QCoreApplication::processEvents();

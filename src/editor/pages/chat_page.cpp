@@ -27,7 +27,10 @@ ChatPage::ChatPage(CurrentBot& current, const SynonymList& synonyms,
       current_(current),
       synonyms_(synonyms),
       random_(std::move(random)),
-      prompts_(prompts) {
+      prompts_(prompts) {}
+
+QWidget* ChatPage::MakeContent() {
+  const CurrentBot::Filling filling(current_);
   auto* const content = new QWidget;
   auto* const column = new QVBoxLayout(content);
   auto* const frame = new QGroupBox(TableText(
@@ -44,11 +47,10 @@ ChatPage::ChatPage(CurrentBot& current, const SynonymList& synonyms,
   grid->addWidget(spoken_, 5, 0, 1, 5);
   grid->setRowStretch(1, 1);
   grid->setColumnStretch(1, 1);
-  SetContent(content);
-
   types_->setCurrentRow(0);
   groups_->setCurrentRow(0);
   words_->setCurrentRow(0);
+  return content;
 }
 
 void ChatPage::MakeTypes(QGridLayout& grid) {
@@ -184,9 +186,12 @@ void ChatPage::MakeSynonyms(QGridLayout& grid) {
   grid.addLayout(row, 4, 2, 1, 3);
 }
 
-void ChatPage::ShowBot() { ShowType(); }
+void ChatPage::ShowBot() {
+  if (IsComplete()) ShowType();
+}
 
 void ChatPage::ShowAgain() {
+  if (!IsComplete()) return;
   const int line = Line();
   const int cursor = box_->cursorPosition();
   ShowType();
@@ -196,6 +201,7 @@ void ChatPage::ShowAgain() {
 }
 
 void ChatPage::GoTo(int type, int line) {
+  Complete();
   types_->setCurrentRow(type);
   if (line >= 0 && line < lines_->count()) SelectLine(line);
 }
@@ -255,7 +261,10 @@ void ChatPage::ShowSpoken() {
                : std::string());
 }
 
-void ChatPage::SetGame(const GameData* game) { spoken_->SetGame(game); }
+void ChatPage::SetGame(const GameData* game) {
+  Complete();
+  spoken_->SetGame(game);
+}
 
 void ChatPage::showEvent(QShowEvent* event) {
   ScrollingPage::showEvent(event);
@@ -263,6 +272,7 @@ void ChatPage::showEvent(QShowEvent* event) {
 }
 
 void ChatPage::ShowMarks(const std::vector<Finding>& findings) {
+  Complete();
   marks_.clear();
   for (const Finding& finding : findings) {
     if (finding.place.chat_type < 0) continue;
@@ -391,12 +401,14 @@ void ChatPage::AddRandomList() {
 }
 
 void ChatPage::AddExtraChatsToBot() {
+  Complete();
   current_.EditChats(NameOf("Add extra chats"),
                      [this](Bot& bot) { AddExtraChats(bot, random_); });
   ShowType();
 }
 
 void ChatPage::DeleteAllChats() {
+  Complete();
   current_.EditChats(NameOf("Delete all chats"),
                      [](Bot& bot) { bot.ClearChats(); });
   ShowType();

@@ -33,7 +33,7 @@ class ChatPage : public ScrollingPage {
            RandomSource random, Prompts& prompts, QWidget* parent = nullptr);
 
   /// Shows the lines of the bot; the selected type stays selected.
-  void ShowBot();
+  void ShowBot() override;
 
   /// The same after an edit was taken back: the line and the cursor stay.
   void ShowAgain();
@@ -56,6 +56,7 @@ class ChatPage : public ScrollingPage {
   void StatusText(const QString& text);
 
  protected:
+  QWidget* MakeContent() override;
   /// The line box is checked for synonyms when it is left.
   bool eventFilter(QObject* watched, QEvent* event) override;
   void showEvent(QShowEvent* event) override;

@@ -65,21 +65,20 @@ void SetHelp(const ControlRow& row, ValueControl& control) {
 
 }  // namespace
 
-ParameterPage::ParameterPage(const PageRow& page, CurrentBot& current,
-                             QWidget* parent)
-    : ScrollingPage(parent), current_(current) {
+QWidget* ParameterPage::MakeContent() {
+  const CurrentBot::Filling filling(current_);
   auto* const content = new QWidget;
   auto* const column = new QVBoxLayout(content);
-  if (page.scale_selector != kNoScaleSelector) {
-    column->addWidget(MakeScaleSelector(page.scale_selector));
+  if (page_.scale_selector != kNoScaleSelector) {
+    column->addWidget(MakeScaleSelector(page_.scale_selector));
   }
-  for (const FrameRow& frame : page.frames) {
+  for (const FrameRow& frame : page_.frames) {
     const int gaps = GapCount(frame);
     frames_.push_back({MakeFrame(frame), gaps});
     column->addWidget(frames_.back().box, 100 * gaps);
   }
   column->addStretch(1);
-  SetContent(content);
+  return content;
 }
 
 void ParameterPage::contextMenuEvent(QContextMenuEvent* event) {
@@ -96,13 +95,13 @@ void ParameterPage::contextMenuEvent(QContextMenuEvent* event) {
 }
 
 void ParameterPage::showEvent(QShowEvent* event) {
+  ScrollingPage::showEvent(event);
   // Spare height goes between the rows, but not so much that they fall apart.
   for (const Frame& frame : frames_) {
     frame.box->setMaximumHeight(frame.box->sizeHint().height() +
                                 frame.gaps * 3 * fontMetrics().lineSpacing() /
                                     2);
   }
-  ScrollingPage::showEvent(event);
 }
 
 QWidget* ParameterPage::MakeScaleSelector(int number) {
@@ -205,6 +204,8 @@ OneSlider* ParameterPage::MakeOneSlider(const ControlRow& row) {
 }
 
 void ParameterPage::ShowBot() {
+  if (!IsComplete()) return;
+  const CurrentBot::Filling filling(current_);
   const Bot& bot = current_.bot();
   if (scale_selector_ != nullptr) {
     scale_selector_->Select(SmallestScale());

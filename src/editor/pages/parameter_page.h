@@ -22,17 +22,19 @@ class ParameterPage : public ScrollingPage {
  public:
   /// The page keeps references to both.
   ParameterPage(const PageRow& page, CurrentBot& current,
-                QWidget* parent = nullptr);
+                QWidget* parent = nullptr)
+      : ScrollingPage(parent), page_(page), current_(current) {}
 
   /// Shows the values of the bot. On a page with a scale selector the
   /// smallest maximum is chosen that holds them all.
-  void ShowBot();
+  void ShowBot() override;
 
  signals:
   /// A slider or its value was clicked for its menu.
   void ParameterMenuWanted(int parameter, QPoint global_place);
 
  protected:
+  QWidget* MakeContent() override;
   void contextMenuEvent(QContextMenuEvent* event) override;
   void showEvent(QShowEvent* event) override;
 
@@ -57,6 +59,7 @@ class ParameterPage : public ScrollingPage {
   void SetScale(int max);
   int SmallestScale() const;
 
+  const PageRow& page_;
   CurrentBot& current_;
   std::vector<Frame> frames_;
   std::vector<Placed<ThreeSlider>> three_sliders_;

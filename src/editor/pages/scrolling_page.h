@@ -11,34 +11,24 @@ class ScrollingPage : public QScrollArea {
   Q_OBJECT
 
  public:
-  explicit ScrollingPage(QWidget* parent = nullptr) : QScrollArea(parent) {
-    setFrameShape(QFrame::NoFrame);
-    setWidgetResizable(true);
-    // The focus moves from control to control, and the page scrolls after it.
-    setFocusPolicy(Qt::NoFocus);
-    // The ground of the page strip shows through.
-    viewport()->setAutoFillBackground(false);
-  }
+  explicit ScrollingPage(QWidget* parent = nullptr);
+
+  /// Makes the controls of the page, which has none before. Done when the page
+  /// is shown for the first time, or earlier by this call: the start of the
+  /// program is not to wait for pages that nobody sees yet.
+  void Complete();
 
  protected:
-  /// The content is laid out when the page is shown for the first time: the
-  /// start of the program is not to wait for pages that nobody sees yet.
-  void SetContent(QWidget* content) {
-    content_ = content;
-    content_->setParent(viewport());
-    content_->hide();
-  }
+  /// The widget with the controls, with no parent; made in the order of the
+  /// Tab key.
+  virtual QWidget* MakeContent() = 0;
 
-  void showEvent(QShowEvent* event) override {
-    if (widget() == nullptr) {
-      setWidget(content_);
-      content_->setAutoFillBackground(false);
-    }
-    QScrollArea::showEvent(event);
-  }
+  /// Called once the content is in its place.
+  virtual void ShowBot() = 0;
 
- private:
-  QWidget* content_ = nullptr;
+  bool IsComplete() const { return widget() != nullptr; }
+
+  void showEvent(QShowEvent* event) override;
 };
 
 }  // namespace fragsmith
