@@ -52,10 +52,11 @@ constexpr std::array<ChatTypeFacts, kChatTypeCount> kFacts = {{
      true, kEnd},
     {"When a level ends and the bot is first.", kStartEnd, 1, true, kVictory},
     {"When a level ends and the bot is last.", kStartEnd, 1, true, kDefeat},
-    {"Seldom: when the bot is hit while it types an answer.", kHitTalking, 0.5,
-     true, kHit},
+    {"Seldom: when the bot is hit while it types an answer, but not by the "
+     "host of a local game.",
+     kHitTalking, 0.5, true, kHit},
     {"Seldom: when the bot is hit in a fight and lives, and its enemy is out "
-     "of sight.",
+     "of sight and not the host of a local game.",
      kHitNoDeath, 0.5, true, kHit},
     {"Seldom: when the bot has hit its enemy, who lives and is out of sight.",
      kHitNoKill, 0.5, true, kHits},
@@ -143,7 +144,7 @@ std::string_view FillText(ChatFill fill) {
     case kLast:
       return "the name of the last in score";
     case kMap:
-      return "the file name of the map";
+      return "the file name of the map, not its title";
     case kAttacker:
       return "the name of the attacker";
     case kEnemy:
@@ -153,7 +154,8 @@ std::string_view FillText(ChatFill fill) {
     case kVictim:
       return "the name of the victim";
     case kLastVictim:
-      return "the name of the bot's last victim";
+      return "the name of the bot's last victim, or of anybody before its "
+             "first kill";
     case kWeapon:
       return "the weapon that was used";
     case kRandomWeapon:

@@ -21,17 +21,11 @@ void AddCount(QStringList& counts, qsizetype count, const char* word) {
       QLatin1String(word), count == 1 ? QString() : QStringLiteral("s"));
 }
 
-QString TextOf(const Finding& finding) {
-  const QString place = Utf8(ChatPlaceText(finding.place));
-  const QString text = Utf8(finding.text);
-  return place.isEmpty() ? text : place + QStringLiteral(": ") + text;
-}
-
 }  // namespace
 
 FindingsDock::FindingsDock(QWidget* parent)
     : QDockWidget(QStringLiteral("What the game will do"), parent),
-      list_(new QListWidget),
+      list_(new FindingsView),
       columns_(new QHBoxLayout),
       mends_(new QHBoxLayout),
       counter_(new QToolButton) {
@@ -40,10 +34,6 @@ FindingsDock::FindingsDock(QWidget* parent)
   setAllowedAreas(Qt::BottomDockWidgetArea);
   list_->setObjectName(QStringLiteral("lstFindings"));
   list_->setAccessibleName(windowTitle());
-  list_->setWordWrap(true);
-  const int icon = fontMetrics().height();
-  list_->setIconSize(QSize(icon, icon));
-  list_->setMinimumHeight(5 * fontMetrics().lineSpacing());
 
   auto* const content = new QWidget(this);
   content->setLayout(columns_);
@@ -62,8 +52,7 @@ FindingsDock::FindingsDock(QWidget* parent)
   connect(list_, &QListWidget::itemClicked, this, &FindingsDock::GoToSelected);
   connect(list_, &QListWidget::itemActivated, this,
           &FindingsDock::GoToSelected);
-  connect(list_, &QListWidget::currentRowChanged, this,
-          &FindingsDock::ShowMends);
+  connect(list_, &FindingsView::SelectionShown, this, &FindingsDock::ShowMends);
   hide();
 }
 
@@ -77,32 +66,14 @@ void FindingsDock::SetPicture(QWidget* picture) {
 }
 
 void FindingsDock::ShowFindings(const std::vector<Finding>& findings) {
-  const int row = list_->currentRow();
-  const Finding selected =
-      row < 0 ? Finding() : findings_[static_cast<std::size_t>(row)];
-  findings_ = findings;
-  {
-    const QSignalBlocker silence(list_);
-    list_->clear();
-    for (const Finding& finding : findings_) {
-      new QListWidgetItem(SeverityIcon(finding.severity, *style()),
-                          TextOf(finding), list_);
-    }
-    const auto same = std::find_if(
-        findings_.begin(), findings_.end(), [&selected](const Finding& one) {
-          return one.id == selected.id && one.place == selected.place;
-        });
-    list_->setCurrentRow(same == findings_.end()
-                             ? -1
-                             : static_cast<int>(same - findings_.begin()));
-  }
-  ShowMends();
+  list_->ShowFindings(findings);
   ShowCounts();
 }
 
 void FindingsDock::ShowCounts() {
-  const auto count = [this](Severity severity) {
-    return std::count_if(findings_.begin(), findings_.end(),
+  const std::vector<Finding>& findings = list_->findings();
+  const auto count = [&findings](Severity severity) {
+    return std::count_if(findings.begin(), findings.end(),
                          [severity](const Finding& finding) {
                            return finding.severity == severity;
                          });
@@ -113,9 +84,9 @@ void FindingsDock::ShowCounts() {
   AddCount(counts, count(Severity::kHint), "hint");
   counter_->setText(counts.isEmpty() ? QStringLiteral("Nothing to tell")
                                      : counts.join(QStringLiteral(", ")));
-  counter_->setIcon(findings_.empty()
+  counter_->setIcon(findings.empty()
                         ? style()->standardIcon(QStyle::SP_DialogApplyButton)
-                        : SeverityIcon(findings_.front().severity, *style()));
+                        : SeverityIcon(findings.front().severity, *style()));
   counter_->setAccessibleName(windowTitle() + QStringLiteral(": ") +
                               counter_->text());
 }
@@ -125,24 +96,35 @@ void FindingsDock::ShowMends() {
     if (item->widget() != nullptr) item->widget()->deleteLater();
     delete item;
   }
-  const int row = list_->currentRow();
-  if (row < 0) return;
-  const Finding& finding = findings_[static_cast<std::size_t>(row)];
-  for (const Mend& mend : finding.mends) {
+  const Finding* const finding = list_->Selected();
+  if (finding == nullptr) return;
+  for (const Mend& mend : finding->mends) {
     auto* const button =
         new QPushButton(Utf8(mend.title).replace(u'&', QLatin1String("&&")));
     // The list is made anew by the mend itself.
     connect(
         button, &QPushButton::clicked, this,
-        [this, place = finding.place, mend] { emit MendWanted(place, mend); });
+        [this, place = finding->place, mend] { emit MendWanted(place, mend); });
+    mends_->addWidget(button);
+  }
+  if (const std::size_t count = list_->FoldableCount(); count > 0) {
+    const bool is_folded = list_->IsFolded();
+    auto* const button =
+        new QPushButton(is_folded ? QStringLiteral("Show all %1").arg(count)
+                                  : QStringLiteral("Show as one"));
+    button->setObjectName(QStringLiteral("cmdFold"));
+    connect(
+        button, &QPushButton::clicked, list_,
+        [this, is_folded] { list_->Fold(!is_folded); }, Qt::QueuedConnection);
     mends_->addWidget(button);
   }
   mends_->addStretch(1);
 }
 
 void FindingsDock::GoToSelected() {
-  const int row = list_->currentRow();
-  if (row >= 0) emit GoTo(findings_[static_cast<std::size_t>(row)].place);
+  if (const Finding* const finding = list_->Selected()) {
+    emit GoTo(finding->place);
+  }
 }
 
 }  // namespace fragsmith

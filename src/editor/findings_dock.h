@@ -3,11 +3,11 @@
 
 #include <QDockWidget>
 #include <QHBoxLayout>
-#include <QListWidget>
 #include <QToolButton>
 #include <vector>
 
 #include "checks/finding.h"
+#include "editor/controls/findings_view.h"
 
 namespace fragsmith {
 
@@ -40,8 +40,7 @@ class FindingsDock : public QDockWidget {
   void ShowMends();
   void ShowCounts();
 
-  std::vector<Finding> findings_;
-  QListWidget* list_;
+  FindingsView* list_;
   QHBoxLayout* columns_;
   QHBoxLayout* mends_;
   QToolButton* counter_;

@@ -278,7 +278,7 @@ void frmMain::ShowFindings() {
 
 void frmMain::TryInGame() {
   if (identity_->CheckAllIn()) return;
-  frmTry(current_.bot(), state_, this).exec();
+  frmTry(current_.bot(), checker_->findings(), state_, this).exec();
 }
 
 void frmMain::Compare(const Bot& other, const QString& title) {

@@ -416,16 +416,18 @@ TEST_F(ChatPageTest, SaysWhenTheGameSpeaks) {
   const auto tip = [this](int type) {
     return List("lstChatGroups")->item(type)->toolTip().toStdString();
   };
-  EXPECT_THAT(tip(1), HasSubstr("Never heard"));
-  EXPECT_THAT(tip(23), HasSubstr("Never spoken"));
+  EXPECT_THAT(tip(1), HasSubstr("Never: when the bot leaves"));
+  EXPECT_THAT(tip(23), HasSubstr("Never: the game"));
   EXPECT_THAT(tip(kPummel), HasSubstr("&quot;Kills&quot;"));
   EXPECT_THAT(tip(kCratered), HasSubstr("&quot;Dies&quot;"));
   const auto pointer_tip = [this](int type) {
     SelectType(type);
     return Button("cmdPointer_7")->toolTip().toStdString();
   };
-  EXPECT_THAT(pointer_tip(15), HasSubstr("the name of the weapon"));
+  EXPECT_THAT(pointer_tip(15), HasSubstr("the weapon that was used"));
   EXPECT_THAT(pointer_tip(kPummel), HasSubstr("nothing"));
+  EXPECT_THAT(page_.findChild<QLabel*>("lblWhen")->text().toStdString(),
+              HasSubstr("{TARGET} is the name of the victim; {WEAPONUSED} is"));
 }
 
 }  // namespace

@@ -101,6 +101,34 @@ TEST_F(Findings, LeadToTheControlAndMendIt) {
   EXPECT_EQ(bot().Parameter(507), Value(2.0));
 }
 
+TEST_F(Findings, StandInOneRowWhenManyAreOfOneKind) {
+  window_->current().EditChats({}, [](Bot& bot) {
+    for (const int type : {3, 4, 5}) bot.SetChatLine(type, 0, "say \"no\"");
+  });
+  Wait();
+  auto* const list = Find<QListWidget>("lstFindings");
+  const int folded = list->count();
+  const int row = RowOf("(And 2 more of this kind.)");
+  ASSERT_GE(row, 0);
+  EXPECT_TRUE(list->item(row)->text().startsWith("\"Level ends\", line 1:"));
+  list->setCurrentRow(row);
+  QTest::keyClick(list, Qt::Key_Right);
+  EXPECT_EQ(list->count(), folded + 2);
+  EXPECT_EQ(list->currentRow(), row);
+  EXPECT_EQ(RowOf("(And 2 more"), -1);
+
+  // Another edit leaves it unfolded.
+  window_->current().EditChats(
+      {}, [](Bot& bot) { bot.SetChatLine(5, 1, "say \"no\""); });
+  Wait();
+  EXPECT_EQ(list->count(), folded + 3);
+  EXPECT_EQ(list->currentRow(), row);
+  Find<QPushButton>("cmdFold")->click();
+  QCoreApplication::processEvents();
+  EXPECT_EQ(list->count(), folded);
+  EXPECT_EQ(RowOf("(And 3 more of this kind.)"), row);
+}
+
 TEST_F(Findings, MarkChatLinesAndSayThem) {
   Find<QTabWidget>("tbsBotPara")->setCurrentIndex(7);
   window_->current().EditChats({}, [](Bot& bot) {

@@ -8,6 +8,7 @@
 #include <QTest>
 #include <memory>
 
+#include "checks/bot_checks.h"
 #include "model/characteristic_catalogue.h"
 #include "session/presets.h"
 #include "support/files.h"
@@ -45,7 +46,7 @@ class TryDialog : public testing::Test {
   }
 
   void Open() {
-    dialog_ = std::make_unique<frmTry>(bot_, state_);
+    dialog_ = std::make_unique<frmTry>(bot_, CheckBot(bot_, nullptr), state_);
     dialog_->show();
     QCoreApplication::processEvents();
   }
@@ -101,6 +102,7 @@ TEST_F(TryDialog, ShowsWhatTheEngineSaysAndEndsIt) {
   Enter("txtMap", "oa_dm1");
   Enter("txtOpponents", " sarge  grunt ");
   Find<QComboBox>("cmbSkill").setCurrentIndex(4);
+  EXPECT_GT(Find<QListWidget>("lstFound").count(), 0);
   Press("cmdStart");
   auto& lines = Find<QListWidget>("lstLines");
   ASSERT_TRUE(QTest::qWaitFor([&] { return lines.count() == 4; }, 20000));

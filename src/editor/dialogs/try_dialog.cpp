@@ -4,12 +4,14 @@
 #include <QLabel>
 #include <QRegularExpression>
 #include <QSettings>
+#include <QSplitter>
 #include <QStyle>
 #include <QVBoxLayout>
 #include <filesystem>
 #include <string>
 #include <vector>
 
+#include "editor/controls/findings_view.h"
 #include "editor/game_text_conversion.h"
 #include "editor/severity_icon.h"
 #include "session/save_bot.h"
@@ -52,7 +54,8 @@ fs::path PathOf(const QString& text) {
 
 }  // namespace
 
-frmTry::frmTry(const Bot& bot, ProgramState& state, QWidget* parent)
+frmTry::frmTry(const Bot& bot, const std::vector<Finding>& findings,
+               ProgramState& state, QWidget* parent)
     : QDialog(parent),
       bot_(bot),
       state_(state),
@@ -62,25 +65,14 @@ frmTry::frmTry(const Bot& bot, ProgramState& state, QWidget* parent)
       lines_(new QListWidget(this)),
       verdict_(new HintLine(2, this)) {
   setObjectName(QStringLiteral("frmTry"));
-  const QString name = ToQString(bot.Name());
-  setWindowTitle(QStringLiteral("Try %1 in game").arg(name));
+  setWindowTitle(QStringLiteral("Try %1 in game").arg(ToQString(bot.Name())));
   auto* const column = new QVBoxLayout(this);
   column->addLayout(MakeFields());
-  auto* const heading =
-      new QLabel(QStringLiteral("&What the game says of %1:")
-                     .arg(QString(name).replace(u'&', QStringLiteral("&&"))),
-                 this);
-  heading->setTextFormat(Qt::PlainText);
-  heading->setBuddy(lines_);
-  lines_->setObjectName(QStringLiteral("lstLines"));
-  lines_->setAccessibleName(QStringLiteral("What the game says"));
-  lines_->setWordWrap(true);
-  column->addWidget(heading);
-  column->addWidget(lines_, 1);
+  column->addWidget(MakeLists(findings), 1);
   column->addWidget(verdict_);
   column->addWidget(MakeButtonRow());
   const int line = fontMetrics().lineSpacing();
-  resize(36 * line, 32 * line);
+  resize(50 * line, 32 * line);
 
   patience_.setSingleShot(true);
   patience_.setInterval(kPatienceMilliseconds);
@@ -137,6 +129,30 @@ QLayout* frmTry::MakeFields() {
   opponents_->setPlaceholderText(
       QStringLiteral("names of bots, with blanks between"));
   return fields;
+}
+
+QWidget* frmTry::MakeLists(const std::vector<Finding>& findings) {
+  auto* const found = new FindingsView(this);
+  found->setObjectName(QStringLiteral("lstFound"));
+  found->ShowFindings(findings);
+  lines_->setObjectName(QStringLiteral("lstLines"));
+  lines_->setWordWrap(true);
+  auto* const sides = new QSplitter(this);
+  sides->setChildrenCollapsible(false);
+  const auto add = [sides](const QString& caption, QListWidget* list) {
+    auto* const side = new QWidget(sides);
+    auto* const column = new QVBoxLayout(side);
+    column->setContentsMargins(0, 0, 0, 0);
+    auto* const heading = new QLabel(caption, side);
+    heading->setBuddy(list);
+    list->setAccessibleName(QString(caption).remove(u'&').remove(u':'));
+    column->addWidget(heading);
+    column->addWidget(list, 1);
+    sides->addWidget(side);
+  };
+  add(QStringLiteral("&What the game says:"), lines_);
+  add(QStringLiteral("What our c&hecks say:"), found);
+  return sides;
 }
 
 QWidget* frmTry::MakeButtonRow() {

@@ -10,7 +10,9 @@
 #include <QPushButton>
 #include <QTimer>
 #include <optional>
+#include <vector>
 
+#include "checks/finding.h"
 #include "checks/game_trial.h"
 #include "checks/trial_reader.h"
 #include "editor/dialogs/dialog_parts.h"
@@ -28,8 +30,10 @@ class frmTry : public QDialog {
   Q_OBJECT
 
  public:
-  /// The bot is copied: later edits take no part.
-  frmTry(const Bot& bot, ProgramState& state, QWidget* parent = nullptr);
+  /// Shows beside the game's words what the checks found in the bot. Both are
+  /// copied: later edits take no part.
+  frmTry(const Bot& bot, const std::vector<Finding>& findings,
+         ProgramState& state, QWidget* parent = nullptr);
   ~frmTry() override;
 
   /// Ends the game and keeps the choices, however the dialog is closed.
@@ -37,6 +41,7 @@ class frmTry : public QDialog {
 
  private:
   QLayout* MakeFields();
+  QWidget* MakeLists(const std::vector<Finding>& findings);
   QWidget* MakeButtonRow();
   QLineEdit* AddField(const char* caption, const char* name,
                       QFormLayout* fields);

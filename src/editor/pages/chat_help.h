@@ -14,6 +14,10 @@ QString ChatTypeHelp(int type);
 /// What stands in place of the pointer variable in a line of the type.
 QString ChatPointerHelp(int type, int pointer);
 
+/// The same for all pointer variables of the type: "{ATTACKER} is the name of
+/// the killer; ...". Empty where there are none.
+QString ChatVariables(int type);
+
 }  // namespace fragsmith
 
 #endif  // FRAGSMITH_EDITOR_PAGES_CHAT_HELP_H_

@@ -9,6 +9,7 @@
 #include "checks/chat_type_facts.h"
 #include "checks/spoken_line.h"
 #include "editor/game_text_conversion.h"
+#include "editor/pages/chat_help.h"
 #include "editor/pages/page_table.h"
 #include "editor/parameter_help.h"
 #include "editor/parameter_names.h"
@@ -117,18 +118,9 @@ void SpokenPreview::ShowWhen(const Bot& bot) {
                 .arg(QString::number(chance * 100, 'f', 0),
                      ControlName(facts.chance_index));
   }
-  QStringList variables;
-  for (std::size_t number = 0; number < facts.variables.size(); ++number) {
-    const ChatFill fill = facts.variables.at(number);
-    if (fill == ChatFill::kNothing || fill == ChatFill::kInvalid) continue;
-    variables << QStringLiteral("%1 %2").arg(number).arg(
-        TableText(FillText(fill)));
-  }
+  const QString variables = ChatVariables(type_);
+  if (!variables.isEmpty()) text += u'\n' + variables + u'.';
   when_->setText(text);
-  when_->setToolTip(WrappedToolTip(
-      QStringLiteral("Variables of this situation"),
-      variables.isEmpty() ? QStringLiteral("none")
-                          : variables.join(QStringLiteral("\n"))));
 }
 
 }  // namespace fragsmith
