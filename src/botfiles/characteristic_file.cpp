@@ -1,9 +1,11 @@
 #include "botfiles/characteristic_file.h"
 
 #include <algorithm>
-#include <bitset>
+#include <array>
+#include <bit>
 #include <charconv>
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <system_error>
 
@@ -120,31 +122,44 @@ bool IsKnownLevel(std::optional<int> level) {
   return level && std::count(kSkillLevels.begin(), kSkillLevels.end(), *level);
 }
 
+/// Every key begins so, and one walk over a line is enough for them all.
+constexpr std::string_view kStart = "CHARACTERISTIC_";
+constexpr std::size_t kKeyCount = kChatRange.last + 1;
+
+/// What tells most keys apart at once: the letter behind their beginning.
+constexpr std::array<char, kKeyCount> kLetters = [] {
+  std::array<char, kKeyCount> letters{};
+  for (std::size_t index = 0; index < kKeyCount; ++index) {
+    letters[index] = BareKey(static_cast<int>(index))[kStart.size()];
+  }
+  return letters;
+}();
+
 /// The first catalogue entry, in the order of the catalogue, that stands
 /// anywhere in the line. The two general aim keys are also the beginnings of
 /// the weapon-specific ones and do not count there.
 std::optional<int> KeyIn(std::string_view line) {
-  // Every key begins so, and one walk over a line is enough for them all.
-  constexpr std::string_view kStart = "CHARACTERISTIC_";
-  std::bitset<kChatRange.last + 1> stands;
-  std::bitset<kChatRange.last + 1> is_continued;
+  // A bit for each key.
+  std::uint64_t stands = 0;
+  std::uint64_t is_continued = 0;
+  static_assert(kKeyCount <= 64);
   for (std::size_t place = line.find(kStart); place != std::string_view::npos;
        place = line.find(kStart, place + kStart.size())) {
     const std::string_view rest = line.substr(place);
-    for (std::size_t index = 0; index < stands.size(); ++index) {
+    if (rest.size() == kStart.size()) break;
+    for (std::size_t index = 0; index < kKeyCount; ++index) {
+      if (kLetters[index] != rest[kStart.size()]) continue;
       const std::string_view key = BareKey(static_cast<int>(index));
       if (!StartsWithKey(rest, key)) continue;
-      stands.set(index);
-      if (rest.substr(key.size()).starts_with('_')) is_continued.set(index);
+      const std::uint64_t bit = std::uint64_t{1} << index;
+      stands |= bit;
+      if (rest.substr(key.size()).starts_with('_')) is_continued |= bit;
     }
   }
-  for (const std::size_t general_aim : {3U, 4U}) {
-    if (is_continued[general_aim]) stands.reset(general_aim);
-  }
-  for (std::size_t index = 0; index < stands.size(); ++index) {
-    if (stands[index]) return static_cast<int>(index);
-  }
-  return std::nullopt;
+  constexpr std::uint64_t kGeneralAim = 1U << 3U | 1U << 4U;
+  stands &= ~(is_continued & kGeneralAim);
+  if (stands == 0) return std::nullopt;
+  return std::countr_zero(stands);
 }
 
 std::string SkippedLevelText(std::optional<int> level) {

@@ -289,16 +289,19 @@ std::string ChatLineToFile(int type, std::string_view line) {
   OpenLine open = {std::string(line)};
   // Most lines are plain text; nothing that is put in has a brace.
   const bool has_brace = Contains(line, "{");
+  const auto holds = [has_brace, &open](std::string_view variable) {
+    return (has_brace || !variable.starts_with('{')) &&
+           Contains(open.text, variable);
+  };
   for (const WordList& list : kWordLists) {
-    if (!has_brace && list.Variable.starts_with('{')) continue;
-    if (!Contains(open.text, list.Variable)) continue;
+    if (!holds(list.Variable)) continue;
     const std::string key(list.Key);
     if (line == list.Variable) return key + ';';
     Replace({list.Variable, key + ", \"", "\", " + key + ", \"", "\", " + key},
             open);
   }
   for (const int pointer : ChatTypeAt(type).Pointers()) {
-    if (!Contains(open.text, ChatPointerAt(pointer).Variable)) continue;
+    if (!holds(ChatPointerAt(pointer).Variable)) continue;
     const std::string_view code = ChatPointerAt(pointer).Code;
     Replace({ChatPointerAt(pointer).Variable, std::string(code.substr(2)),
              std::string(code), std::string(code.substr(0, code.size() - 3))},

@@ -8,7 +8,6 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <thread>
 #include <utility>
 #include <vector>
 
@@ -102,7 +101,7 @@ Result<void> Play(const TrialSetup& setup, const std::string& bot_name,
   LastLines last;
   bool is_running = true;
   while (is_running && !reader.is_over() && steady_clock::now() < end) {
-    std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    engine->Wait(std::chrono::milliseconds(50));
     // What it printed before it went is read all the same.
     is_running = engine->IsRunning();
     for (std::string_view more = file.ReadMore(); !more.empty();

@@ -2,7 +2,6 @@
 
 #include <optional>
 #include <string>
-#include <thread>
 
 #include "install/game_folder.h"
 #include "support/child_process.h"
@@ -24,7 +23,8 @@ ExtractionEnd RunUnzipTool(const UnzipTool& tool,
   if (!child) return ExtractionEnd::kNotStarted;
 
   const auto start = std::chrono::steady_clock::now();
-  constexpr std::chrono::milliseconds kPause(2);
+  // How soon a cancelled one is given up.
+  constexpr std::chrono::milliseconds kPause(20);
   while (child->IsRunning()) {
     if (std::chrono::steady_clock::now() - start >= tool.patience) {
       return ExtractionEnd::kTooLong;
@@ -32,7 +32,7 @@ ExtractionEnd RunUnzipTool(const UnzipTool& tool,
     if (tool.keep_going && !tool.keep_going()) {
       return ExtractionEnd::kCancelled;
     }
-    std::this_thread::sleep_for(kPause);
+    child->Wait(kPause);
   }
   return ExtractionEnd::kEnded;
 }

@@ -7,6 +7,7 @@
 
 #include "install/package.h"
 #include "support/code_page.h"
+#include "support/file_replacement.h"
 #include "support/files.h"
 #include "support/text.h"
 
@@ -63,7 +64,11 @@ Result<void> RunUnzipCommand(const std::vector<std::string>& arguments) {
   const Result<std::string> bytes =
       ReadEntry(PathFromBytes(arguments[1]), file);
   if (!bytes) return Failure(bytes.error());
-  return SaveFile(folder / PathFromBytes(name), *bytes);
+  Result<FileReplacement> target =
+      FileReplacement::Begin(folder / PathFromBytes(name));
+  if (!target) return Failure(target.error());
+  const Result<void> written = target->Write(*bytes);
+  return written ? target->CommitUnflushed() : written;
 }
 
 }  // namespace fragsmith

@@ -2,7 +2,6 @@
 
 #include <chrono>
 #include <system_error>
-#include <thread>
 #include <utility>
 
 #include "support/child_process_system.h"
@@ -43,13 +42,17 @@ bool ChildProcess::IsRunning() {
   return handle_ != 0;
 }
 
+void ChildProcess::Wait(std::chrono::milliseconds longest) {
+  if (IsRunning()) system::WaitForProcess(handle_, longest);
+}
+
 void ChildProcess::End() {
   using std::chrono::steady_clock;
   if (!IsRunning()) return;
   const bool may_end = system::AskProcessToEnd(handle_);
   const auto end = steady_clock::now() + std::chrono::seconds(2);
   while (may_end && IsRunning() && steady_clock::now() < end) {
-    std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    Wait(std::chrono::milliseconds(50));
   }
   if (!IsRunning()) return;
   system::EndProcess(handle_);

@@ -1,6 +1,7 @@
 #ifndef FRAGSMITH_SUPPORT_CHILD_PROCESS_H_
 #define FRAGSMITH_SUPPORT_CHILD_PROCESS_H_
 
+#include <chrono>
 #include <cstdint>
 #include <filesystem>
 #include <string>
@@ -36,6 +37,9 @@ class ChildProcess {
   /// Returns at once. What the system kept of a program that has ended is
   /// cleared away.
   bool IsRunning();
+
+  /// Waits for the end of the program, or for about so long.
+  void Wait(std::chrono::milliseconds longest);
 
   /// Asks the program to end, where the system has a way to ask, and makes it
   /// end when it has not done so within two seconds. It has ended then.

@@ -1,13 +1,18 @@
 #ifndef _WIN32
 
 #include <fcntl.h>
+#include <poll.h>
 #include <spawn.h>
+#include <sys/syscall.h>
 #include <sys/types.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
+#include <chrono>
 #include <csignal>
+#include <thread>
 
 #include "support/child_process_system.h"
 
@@ -112,6 +117,22 @@ bool IsProcessRunning(std::intptr_t handle) {
     ended = ::waitpid(process, nullptr, WNOHANG);
   } while (ended < 0 && errno == EINTR);
   return ended == 0;
+}
+
+void WaitForProcess(std::intptr_t handle, std::chrono::milliseconds longest) {
+#ifdef SYS_pidfd_open
+  const auto descriptor = static_cast<int>(
+      ::syscall(SYS_pidfd_open, static_cast<pid_t>(handle), 0));
+  if (descriptor >= 0) {
+    pollfd end = {.fd = descriptor, .events = POLLIN, .revents = 0};
+    ::poll(&end, 1, static_cast<int>(longest.count()));
+    ::close(descriptor);
+    return;
+  }
+#endif
+  // Where nothing tells of the end, a short nap.
+  constexpr std::chrono::milliseconds kNap(2);
+  std::this_thread::sleep_for(std::min(kNap, longest));
 }
 
 bool AskProcessToEnd(std::intptr_t handle) {

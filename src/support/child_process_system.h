@@ -1,6 +1,7 @@
 #ifndef FRAGSMITH_SUPPORT_CHILD_PROCESS_SYSTEM_H_
 #define FRAGSMITH_SUPPORT_CHILD_PROCESS_SYSTEM_H_
 
+#include <chrono>
 #include <cstdint>
 #include <filesystem>
 #include <string>
@@ -22,6 +23,10 @@ std::error_code StartProcess(const std::filesystem::path& program,
 /// True while it runs. False clears away what the system kept of it; the
 /// handle is not valid any more.
 bool IsProcessRunning(std::intptr_t handle);
+
+/// Returns when the process that runs has ended or the time is over, on some
+/// systems earlier.
+void WaitForProcess(std::intptr_t handle, std::chrono::milliseconds longest);
 
 /// Lets a process that runs know that it is to end; false when there is no
 /// way to.

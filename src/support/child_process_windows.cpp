@@ -79,6 +79,11 @@ bool IsProcessRunning(std::intptr_t handle) {
   return false;
 }
 
+void WaitForProcess(std::intptr_t handle, std::chrono::milliseconds longest) {
+  ::WaitForSingleObject(reinterpret_cast<HANDLE>(handle),
+                        static_cast<DWORD>(longest.count()));
+}
+
 bool AskProcessToEnd(std::intptr_t /*handle*/) { return false; }
 
 void EndProcess(std::intptr_t handle) {

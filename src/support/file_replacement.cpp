@@ -99,8 +99,13 @@ Result<void> FileReplacement::Write(std::string_view bytes) {
 }
 
 Result<void> FileReplacement::Commit() {
-  std::error_code reason = system::FlushToDisk(temporary_);
-  if (!reason) reason = system::RenameOver(temporary_, target_);
+  const std::error_code reason = system::FlushToDisk(temporary_);
+  if (reason) return Failure(CannotWrite(target_, reason));
+  return CommitUnflushed();
+}
+
+Result<void> FileReplacement::CommitUnflushed() {
+  const std::error_code reason = system::RenameOver(temporary_, target_);
   if (reason) return Failure(CannotWrite(target_, reason));
   temporary_.clear();
   return {};

@@ -18,6 +18,12 @@ bool IsDigit(char letter) { return letter >= '0' && letter <= '9'; }
 /// allowed by the caller's check.
 std::optional<double> ReadDecimal(const char* first, const char* last) {
   double number = 0;
+  // Most numbers of a bot are whole and short: each step is exact then.
+  constexpr std::ptrdiff_t kExactDigits = 15;
+  if (last - first <= kExactDigits && std::all_of(first, last, IsDigit)) {
+    for (; first != last; ++first) number = number * 10 + (*first - '0');
+    return number;
+  }
   const auto read =
       std::from_chars(first, last, number, std::chars_format::fixed);
   if (read.ec == std::errc() && std::isfinite(number)) return number;

@@ -6,11 +6,13 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QSlider>
 #include <QTabWidget>
 #include <QTest>
 #include <QToolButton>
 
+#include "editor/bot_checker.h"
 #include "editor/controls/caption_mark.h"
 #include "editor/findings_dock.h"
 #include "editor/game_picture.h"
@@ -36,8 +38,11 @@ class Findings : public WindowFixture {
     Choose("mnuFindings");
   }
 
-  /// Until the list has followed; it has a tenth of a second for it.
-  void Wait() { QTest::qWait(90); }
+  /// Until the list has followed the last edit.
+  void Wait() {
+    QSignalSpy checked(window_->findChild<BotChecker*>(), &BotChecker::Checked);
+    EXPECT_TRUE(checked.wait());
+  }
 
   /// The row of the finding that has this in its text; -1 for none.
   int RowOf(const char* words) {

@@ -65,7 +65,7 @@ std::size_t FindingsView::FoldableCount() const {
 }
 
 bool FindingsView::IsFolded() const {
-  return FoldableCount() > 0 && unfolded_.count(Selected()->id) == 0;
+  return FoldableCount() > 0 && !unfolded_.contains(Selected()->id);
 }
 
 void FindingsView::Fold(bool is_folded) {
@@ -92,7 +92,7 @@ void FindingsView::FillRows(const Finding& selected) {
       const Finding& finding = findings_[number];
       const std::size_t count = counts[finding.id];
       const bool is_folded =
-          count > kMostAlone && unfolded_.count(finding.id) == 0;
+          count > kMostAlone && !unfolded_.contains(finding.id);
       if (is_folded && !told.insert(finding.id).second) continue;
       const bool is_selected = finding.id == selected.id &&
                                (is_folded || finding.place == selected.place);
