@@ -19,6 +19,13 @@ constexpr std::array kIdentity = {
     kSkinField,    kRailColorField, kVersionMajorField, kVersionMinorField,
     kCommentField, kArenaLordField};
 
+bool IsTextField(int parameter) {
+  constexpr std::array kTexts = {kNameIndex,   kGenderIndex, kFunNameField,
+                                 kModelField,  kSkinField,   kRailColorField,
+                                 kCommentField};
+  return std::count(kTexts.begin(), kTexts.end(), parameter) > 0;
+}
+
 bool SaysTheSame(const Value& left, const Value& right) {
   const std::optional<double> number = ToNumber(left);
   if (number != ToNumber(right)) return false;
@@ -27,8 +34,13 @@ bool SaysTheSame(const Value& left, const Value& right) {
 
 void ComparePair(int parameter, const Bot& left, const Bot& right,
                  std::vector<BotDifference>& differences) {
-  const Value& of_left = left.Parameter(parameter);
-  const Value& of_right = right.Parameter(parameter);
+  Value of_left = left.Parameter(parameter);
+  Value of_right = right.Parameter(parameter);
+  if (IsTextField(parameter)) {
+    // With nothing in it, a field is an empty text and no 0.
+    of_left = ToText(of_left);
+    of_right = ToText(of_right);
+  }
   if (SaysTheSame(of_left, of_right)) return;
   differences.push_back({.parameter = parameter,
                          .title = QuotedName(parameter),

@@ -48,6 +48,9 @@ TEST(BotDifference, ShowsValuesAndTexts) {
   ASSERT_TRUE(left.SetParameter(0, "R\xF6kie"));
   right.RemoveChatLine(3, 0);
   EXPECT_THAT(Shown(left, right), IsEmpty());
+  // An empty field is no number.
+  ASSERT_TRUE(right.SetParameter(kCommentField, "0"));
+  EXPECT_THAT(Shown(left, right), ElementsAre("\"Comment\": \"\" -> 0"));
 }
 
 TEST(BotDifference, SetsEqualChatLinesSideBySide) {
