@@ -11,6 +11,8 @@
 namespace fragsmith {
 namespace {
 
+constexpr std::size_t kMostLastLines = 10;
+
 /// A message of the engine by a part of it, and what it means.
 struct Explanation {
   std::string_view words;
@@ -240,11 +242,23 @@ std::vector<TrialLine> TrialReader::Read(std::string_view bytes) {
     if (end < bytes.size()) {
       if (!rest_.empty() && rest_.back() == '\r') rest_.pop_back();
       TakeLine(rest_);
-      rest_.clear();
+      last_lines_.push_back(std::exchange(rest_, {}));
+      if (last_lines_.size() > kMostLastLines) last_lines_.pop_front();
     }
     bytes.remove_prefix(std::min(end + 1, bytes.size()));
   }
   return std::exchange(new_lines_, {});
+}
+
+std::vector<std::string> TrialReader::LastLines() const {
+  constexpr std::size_t kMostShown = 500;  // Bytes of a line.
+  std::vector<std::string> lines;
+  const auto add = [&lines](const std::string& line) {
+    lines.push_back(Utf8FromGameText(line.substr(0, kMostShown)));
+  };
+  std::for_each(last_lines_.begin(), last_lines_.end(), add);
+  if (!rest_.empty()) add(rest_);
+  return lines;
 }
 
 void TrialReader::TakeLine(std::string_view bytes) {

@@ -2,6 +2,7 @@
 #define FRAGSMITH_CHECKS_TRIAL_READER_H_
 
 #include <cstdint>
+#include <deque>
 #include <set>
 #include <string>
 #include <string_view>
@@ -40,6 +41,10 @@ class TrialReader {
   /// bot. Each line comes once, however often the engine repeats it.
   std::vector<TrialLine> Read(std::string_view bytes);
 
+  /// What the engine printed last, about whatever it was: for when it ends and
+  /// says nothing of the bot. A few lines, UTF-8.
+  std::vector<std::string> LastLines() const;
+
   TrialVerdict verdict() const { return verdict_; }
   /// The verdict will not change any more.
   bool is_over() const { return is_over_; }
@@ -61,7 +66,8 @@ class TrialReader {
   bool has_chat_ = false;
   bool is_over_ = false;
   TrialVerdict verdict_ = TrialVerdict::kUnknown;
-  std::string rest_;  ///< A line whose end has not come yet.
+  std::deque<std::string> last_lines_;  ///< As they came.
+  std::string rest_;                    ///< A line whose end has not come yet.
   std::set<std::string> seen_;
   std::vector<TrialLine> new_lines_;
 };

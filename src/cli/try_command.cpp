@@ -1,14 +1,12 @@
 #include <chrono>
 #include <cstddef>
 #include <cstdlib>
-#include <deque>
 #include <filesystem>
 #include <fstream>
 #include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 #include "checks/game_trial.h"
@@ -18,7 +16,6 @@
 #include "cli/terminal.h"
 #include "session/save_bot.h"
 #include "support/child_process.h"
-#include "support/code_page.h"
 #include "support/files.h"
 #include "support/temporary_folder.h"
 
@@ -35,33 +32,6 @@ struct TryOptions {
   std::vector<std::string> opponents;
   double skill = 4;
   int seconds = 30;
-};
-
-/// What the engine printed last, for when that says nothing of the bot.
-class LastLines {
- public:
-  void Add(std::string_view bytes) {
-    constexpr std::size_t kMostLines = 10;
-    constexpr std::size_t kMostBytes = 500;
-    for (const char byte : bytes) {
-      if (byte == '\n') {
-        lines_.push_back(std::exchange(line_, {}));
-        if (lines_.size() > kMostLines) lines_.pop_front();
-      } else if (byte != '\r' && line_.size() < kMostBytes) {
-        line_ += byte;
-      }
-    }
-  }
-  void Print(std::ostream& out) {
-    if (!line_.empty()) lines_.push_back(std::exchange(line_, {}));
-    for (const std::string& line : lines_) {
-      out << "  " << Printable(Utf8FromGameText(line)) << '\n';
-    }
-  }
-
- private:
-  std::deque<std::string> lines_;
-  std::string line_;
 };
 
 /// What a file has more than when it was last read, a piece at a time.
@@ -98,7 +68,6 @@ Result<void> Play(const TrialSetup& setup, const std::string& bot_name,
   if (!engine) return Failure(engine.error());
   const auto end = steady_clock::now() + std::chrono::seconds(setup.seconds);
   GrowingFile file(output);
-  LastLines last;
   bool is_running = true;
   while (is_running && !reader.is_over() && steady_clock::now() < end) {
     engine->Wait(std::chrono::milliseconds(50));
@@ -106,7 +75,6 @@ Result<void> Play(const TrialSetup& setup, const std::string& bot_name,
     is_running = engine->IsRunning();
     for (std::string_view more = file.ReadMore(); !more.empty();
          more = file.ReadMore()) {
-      last.Add(more);
       Print(reader.Read(more), context);
       if (steady_clock::now() >= end) break;
     }
@@ -115,7 +83,9 @@ Result<void> Play(const TrialSetup& setup, const std::string& bot_name,
   if (reader.is_over()) return {};
   context.err << (is_running ? "The time is over. " : "The engine ended. ")
               << "What it printed last:\n";
-  last.Print(context.err);
+  for (const std::string& line : reader.LastLines()) {
+    context.err << "  " << Printable(line) << '\n';
+  }
   return {};
 }
 

@@ -137,6 +137,7 @@ QWidget* frmTry::MakeLists(const std::vector<Finding>& findings) {
   found->ShowFindings(findings);
   lines_->setObjectName(QStringLiteral("lstLines"));
   lines_->setWordWrap(true);
+  lines_->setIconSize(found->iconSize());
   auto* const sides = new QSplitter(this);
   sides->setChildrenCollapsible(false);
   const auto add = [sides](const QString& caption, QListWidget* list) {
@@ -318,9 +319,13 @@ void frmTry::ShowEnd() {
     QString text = Shown(VerdictText(reader_->verdict(), bot_.Name()));
     if (!is_stopped_) {
       text = QStringLiteral(
-                 "The engine ended before the bot was added. %1 "
-                 "Look at the data folder and the game folder.")
+                 "The engine ended before the bot was added; its last words "
+                 "stand above. %1 Look at the data folder and the game folder.")
                  .arg(text);
+      for (const std::string& line : reader_->LastLines()) {
+        lines_->addItem(Shown(line));
+      }
+      lines_->scrollToBottom();
     }
     verdict_->Say(text);
   }
