@@ -14,11 +14,6 @@
 namespace fragsmith {
 namespace {
 
-constexpr std::array kIdentity = {
-    kNameIndex,    kGenderIndex,    kFunNameField,      kModelField,
-    kSkinField,    kRailColorField, kVersionMajorField, kVersionMinorField,
-    kCommentField, kArenaLordField};
-
 bool IsTextField(int parameter) {
   constexpr std::array kTexts = {kNameIndex,   kGenderIndex, kFunNameField,
                                  kModelField,  kSkinField,   kRailColorField,
@@ -181,7 +176,7 @@ std::vector<BotDifference> CompareBots(const Bot& left, const Bot& right) {
   const auto compare = [&](int parameter) {
     ComparePair(parameter, left, right, differences);
   };
-  for (const int field : kIdentity) compare(field);
+  for (const int field : kIdentityFields) compare(field);
   for (int index = kPerLevelRange.first; index <= kPerLevelRange.last;
        ++index) {
     for (const int level : kSkillLevels) compare(LevelIndex(level, index));

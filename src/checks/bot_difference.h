@@ -1,12 +1,20 @@
 #ifndef FRAGSMITH_CHECKS_BOT_DIFFERENCE_H_
 #define FRAGSMITH_CHECKS_BOT_DIFFERENCE_H_
 
+#include <array>
 #include <string>
 #include <vector>
 
 #include "model/bot.h"
+#include "model/characteristic_catalogue.h"
 
 namespace fragsmith {
+
+/// The fields of a bot that are no parameters, in the order of lists.
+inline constexpr std::array kIdentityFields = {
+    kNameIndex,    kGenderIndex,    kFunNameField,      kModelField,
+    kSkinField,    kRailColorField, kVersionMajorField, kVersionMinorField,
+    kCommentField, kArenaLordField};
 
 /// Something in which two bots differ: a field or parameter by its index, or
 /// a chat line.

@@ -62,16 +62,6 @@ bool ReadValues(GameSource& source, CharacterBlock& block) {
   return !source.is_endless();
 }
 
-bool SkipBlock(GameSource& source) {
-  GameToken token;
-  for (int depth = 1; depth > 0;) {
-    if (!source.ReadAny(token)) return false;
-    if (token.Is("{")) ++depth;
-    if (token.Is("}")) --depth;
-  }
-  return true;
-}
-
 /// The default character, of the level or any; it is not the bot's, so what
 /// is wrong with it is not told.
 std::optional<CharacterBlock> ReadDefault(std::optional<int> level,
@@ -117,7 +107,7 @@ std::optional<CharacterBlock> ReadCharacterBlock(const GameFile& file,
       if (!ReadValues(source, block)) return std::nullopt;
       return block;
     }
-    if (!SkipBlock(source)) return std::nullopt;
+    if (!source.SkipBlock()) return std::nullopt;
   }
   return std::nullopt;
 }

@@ -85,16 +85,6 @@ bool ReadTypes(GameSource& source) {
   return false;
 }
 
-bool SkipChat(GameSource& source) {
-  GameToken token;
-  for (int depth = 1; depth > 0;) {
-    if (!source.ReadAny(token)) return false;
-    if (token.Is("{")) ++depth;
-    if (token.Is("}")) --depth;
-  }
-  return true;
-}
-
 }  // namespace
 
 bool ReadGameChat(const GameFile& file, std::string_view chat_name,
@@ -118,7 +108,7 @@ bool ReadGameChat(const GameFile& file, std::string_view chat_name,
       is_found = true;
     } else {
       other = token.text;
-      if (!SkipChat(source)) return false;
+      if (!source.SkipBlock()) return false;
     }
   }
   if (source.is_endless()) return false;

@@ -72,6 +72,16 @@ void GameSource::Unread(GameToken token) {
   unread_.push_front(std::move(token));
 }
 
+bool GameSource::SkipBlock() {
+  GameToken token;
+  for (int depth = 1; depth > 0;) {
+    if (!ReadAny(token)) return false;
+    if (token.Is("{")) ++depth;
+    if (token.Is("}")) --depth;
+  }
+  return true;
+}
+
 bool GameSource::ReadAny(GameToken& token) {
   has_complained_ = false;
   if (Read(token)) return true;

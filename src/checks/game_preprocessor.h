@@ -51,6 +51,9 @@ class GameSource {
 
   /// Read() with a finding where there is nothing more.
   bool ReadAny(GameToken& token);
+  /// Passes over a block in braces of which the first was read; false, with a
+  /// finding, where its end is missing.
+  bool SkipBlock();
   /// Reads what must be this name or sign; a finding otherwise.
   bool Expect(std::string_view word);
   bool ExpectString(GameToken& token);

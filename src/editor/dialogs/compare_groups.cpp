@@ -11,11 +11,6 @@
 namespace fragsmith {
 namespace {
 
-constexpr std::array kIdentity = {
-    kNameIndex,    kGenderIndex,    kFunNameField,      kModelField,
-    kSkinField,    kRailColorField, kVersionMajorField, kVersionMinorField,
-    kCommentField, kArenaLordField};
-
 const PageRow& PageOf(int group) {
   return kPages.at(static_cast<std::size_t>(group - kFirstPageGroup));
 }
@@ -38,7 +33,9 @@ QString GroupTitle(int group) {
 }
 
 std::vector<int> ParametersOf(int group) {
-  if (group == kIdentityGroup) return {kIdentity.begin(), kIdentity.end()};
+  if (group == kIdentityGroup) {
+    return {kIdentityFields.begin(), kIdentityFields.end()};
+  }
   std::vector<int> indices;
   for (const FrameRow& frame : PageOf(group).frames) {
     for (const ControlRow& control : frame.controls) {
@@ -67,8 +64,8 @@ int GroupOf(const BotDifference& difference) {
 }
 
 bool IsIdentityField(int parameter) {
-  return std::find(kIdentity.begin(), kIdentity.end(), parameter) !=
-         kIdentity.end();
+  return std::count(kIdentityFields.begin(), kIdentityFields.end(), parameter) >
+         0;
 }
 
 }  // namespace fragsmith
