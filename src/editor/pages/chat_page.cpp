@@ -56,6 +56,8 @@ QWidget* ChatPage::MakeContent() {
 void ChatPage::MakeTypes(QGridLayout& grid) {
   types_ = MakeList(QStringLiteral("lstChatGroups"),
                     QStringLiteral("C&hat groups"), grid, 0, 4);
+  type_marks_ = new MarkedDelegate(types_);
+  types_->setItemDelegate(type_marks_);
   for (int type = 0; type < kChatTypeCount; ++type) {
     AddEntry(*types_, ChatTypeAt(type).Caption, ChatTypeHelp(type));
   }
@@ -66,7 +68,8 @@ void ChatPage::MakeTypes(QGridLayout& grid) {
 void ChatPage::MakeLines(QGridLayout& grid) {
   lines_ = MakeList(QStringLiteral("lstChatLines"),
                     QStringLiteral("Chat group te&xts"), grid, 1, 1);
-  lines_->setItemDelegate(new LineDelegate(lines_));
+  line_marks_ = new LineDelegate(lines_);
+  lines_->setItemDelegate(line_marks_);
   connect(lines_, &QListWidget::currentRowChanged, this, &ChatPage::ShowLine);
   OnChoice(*lines_, this, [this] { box_->setFocus(Qt::OtherFocusReason); });
   auto* const erase = new QShortcut(QKeySequence::Delete, lines_);
@@ -278,6 +281,7 @@ void ChatPage::ShowMarks(const std::vector<Finding>& findings) {
     if (finding.place.chat_type < 0) continue;
     marks_[{finding.place.chat_type, finding.place.chat_line}].Add(finding);
   }
+  bool has_marks = false;
   for (int type = 0; type < types_->count(); ++type) {
     // A type shows the gravest of its lines.
     std::optional<Severity> gravest;
@@ -286,14 +290,18 @@ void ChatPage::ShowMarks(const std::vector<Finding>& findings) {
       gravest = gravest ? std::min(*gravest, *mark->second.gravest)
                         : mark->second.gravest;
     }
-    types_->item(type)->setIcon(gravest && *gravest != Severity::kHint
-                                    ? SeverityIcon(*gravest, *style())
-                                    : QIcon());
+    const bool is_marked = gravest && *gravest != Severity::kHint;
+    types_->item(type)->setIcon(is_marked ? SeverityIcon(*gravest, *style())
+                                          : QIcon());
+    has_marks = has_marks || is_marked;
   }
+  type_marks_->ReserveMarks(has_marks);
+  types_->viewport()->update();
   MarkLines();
 }
 
 void ChatPage::MarkLines() {
+  bool has_marks = false;
   for (int line = 0; line < lines_->count(); ++line) {
     const auto mark = marks_.find({Type(), line});
     const bool has_mark = mark != marks_.end();
@@ -301,7 +309,10 @@ void ChatPage::MarkLines() {
         has_mark ? SeverityIcon(*mark->second.gravest, *style()) : QIcon());
     lines_->item(line)->setToolTip(
         has_mark ? WrappedToolTip({}, mark->second.text) : QString());
+    has_marks = has_marks || has_mark;
   }
+  line_marks_->ReserveMarks(has_marks);
+  lines_->viewport()->update();
 }
 
 void ChatPage::StoreLine() {

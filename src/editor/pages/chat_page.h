@@ -21,6 +21,8 @@ class QGridLayout;
 
 namespace fragsmith {
 
+class MarkedDelegate;
+
 /// The page on which the bot's chat lines are written: the chat types, the
 /// lines of the selected type, a box for the selected line, and the lists and
 /// buttons that put ready-made lines and variables in.
@@ -101,7 +103,9 @@ class ChatPage : public ScrollingPage {
   Prompts& prompts_;
 
   QListWidget* types_ = nullptr;
+  MarkedDelegate* type_marks_ = nullptr;
   QListWidget* lines_ = nullptr;
+  MarkedDelegate* line_marks_ = nullptr;
   QLineEdit* box_ = nullptr;
   PointerButtons* pointers_ = nullptr;
   QPushButton* remove_line_ = nullptr;

@@ -30,15 +30,37 @@ void AddEntry(QListWidget& list, std::string_view text, const QString& help);
 QPushButton* MakeButton(const QString& name, const QString& caption,
                         const QString& help);
 
-/// Shows the lines as the list has room for them.
-class LineDelegate : public QStyledItemDelegate {
+/// Keeps the texts of a list in line where only some have a mark in front.
+class MarkedDelegate : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
+
+  /// Whether there is any mark in the list.
+  void ReserveMarks(bool has_marks) { has_marks_ = has_marks; }
 
  protected:
   void initStyleOption(QStyleOptionViewItem* option,
                        const QModelIndex& index) const override {
     QStyledItemDelegate::initStyleOption(option, index);
+    if (!has_marks_) return;
+    option->features |= QStyleOptionViewItem::HasDecoration;
+    const int side = option->fontMetrics.ascent();
+    option->decorationSize = QSize(side, side);
+  }
+
+ private:
+  bool has_marks_ = false;
+};
+
+/// Shows the lines as the list has room for them.
+class LineDelegate : public MarkedDelegate {
+ public:
+  using MarkedDelegate::MarkedDelegate;
+
+ protected:
+  void initStyleOption(QStyleOptionViewItem* option,
+                       const QModelIndex& index) const override {
+    MarkedDelegate::initStyleOption(option, index);
     if (option->text.isEmpty()) {
       option->text = QStringLiteral("(empty line)");
       option->palette.setBrush(
