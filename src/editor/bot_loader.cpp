@@ -1,6 +1,7 @@
 #include "editor/bot_loader.h"
 
 #include <QCoreApplication>
+#include <QLabel>
 #include <QProgressDialog>
 
 #include "editor/busy.h"
@@ -41,9 +42,13 @@ std::optional<LoadedBot> BotLoader::FromPackage(
          .icon = MessageIcon::kInformation});
     return std::nullopt;
   }
-  QProgressDialog progress(
-      QStringLiteral("Loading %1...").arg(ToQString(entry.Name)),
-      QStringLiteral("Cancel"), 0, 0, &window_);
+  QProgressDialog progress(QString(), QStringLiteral("Cancel"), 0, 0, &window_);
+  // A name may hold what looks like markup.
+  auto* const text = new QLabel(
+      QStringLiteral("Loading %1...").arg(ToQString(entry.Name)), &progress);
+  text->setTextFormat(Qt::PlainText);
+  text->setAlignment(Qt::AlignCenter);
+  progress.setLabel(text);
   progress.setMinimumDuration(400);
   const Busy busy(window_);
   const UnzipTool tool = state_.Tool([&progress] {

@@ -5,9 +5,18 @@
 #include <optional>
 #include <stdexcept>
 #include <string>
+#include <string_view>
+
+#include "checks/skill_mix.h"
 
 namespace fragsmith {
 namespace {
+
+/// What a parameter of the pages does in the game.
+struct ParameterHelp {
+  std::string_view text;  ///< Sentences, UTF-8.
+  std::string_view unit;  ///< Of the value; empty when it has none.
+};
 
 struct HelpRow {
   IndexRange indices = {};
@@ -69,15 +78,13 @@ constexpr std::array kHelp = {
              "it does to get about, with 3 rockets, no Quad damage and health "
              "90 (or 60 with 40 armor), unless the server forbids it.",
              {}}},
-    HelpRow{
-        {11, 11},
-        {"The server's setting bot_grapple decides for all bots.", {}, false}},
+    HelpRow{{11, 11},
+            {"The server's setting bot_grapple decides for all bots.", {}}},
     HelpRow{{12, 12},
             {"Whether the bot fights or retreats follows from its health, "
              "armor, weapon and ammunition.",
-             {},
-             false}},
-    HelpRow{{13, 14}, {"It has no effect on how the bot plays.", {}, false}},
+             {}}},
+    HelpRow{{13, 14}, {"It has no effect on how the bot plays.", {}}},
     HelpRow{{15, 15},
             {"Whether and how long the bot camps, on maps with camp spots. It "
              "needs good health and 10 rounds for rocket launcher, railgun or "
@@ -120,9 +127,9 @@ constexpr std::array kHelp = {
              "0.1. From 0.3 to 0.9 the bot fires some 60 to 70 % of the time, "
              "with pauses that grow longer with the value.",
              {}}},
-    HelpRow{{31, 31},
-            {"Typing always takes the bot 2 seconds.", "characters per minute",
-             false}},
+    HelpRow{
+        {31, 31},
+        {"Typing always takes the bot 2 seconds.", "characters per minute"}},
     HelpRow{{32, 32},
             {"The share of insults in what the bot says when it kills or "
              "dies: 0 takes only the positive texts, 1 only the negative "
@@ -225,6 +232,16 @@ constexpr std::array kHelp = {
 constexpr IndexRange kSituationRange = {34, 42};
 constexpr int kEnemySuicideIndex = 38;
 
+const ParameterHelp& HelpFor(int index) {
+  const auto* const found = std::find_if(
+      kHelp.begin(), kHelp.end(),
+      [index](const HelpRow& row) { return row.indices.Contains(index); });
+  if (found == kHelp.end()) {
+    throw std::out_of_range("no help for parameter " + std::to_string(index));
+  }
+  return found->help;
+}
+
 /// "From 0 to 5 seconds in steps of 0.25."
 QString RangeText(const ControlRow& control, std::string_view unit) {
   const std::optional<ValueScale> scale = control.HasLevels()
@@ -240,20 +257,10 @@ QString RangeText(const ControlRow& control, std::string_view unit) {
 
 }  // namespace
 
-const ParameterHelp& HelpFor(int index) {
-  const auto* const found = std::find_if(
-      kHelp.begin(), kHelp.end(),
-      [index](const HelpRow& row) { return row.indices.Contains(index); });
-  if (found == kHelp.end()) {
-    throw std::out_of_range("no help for parameter " + std::to_string(index));
-  }
-  return found->help;
-}
-
 QString PlainHelp(const ControlRow& control) {
   const ParameterHelp& help = HelpFor(control.index);
   QString text = TableText(help.text);
-  if (!help.is_read) {
+  if (!IsReadByGame(control.index)) {
     text.prepend(QStringLiteral("The game never reads this value. "));
   }
   if (kSituationRange.Contains(control.index) &&

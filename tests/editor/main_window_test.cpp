@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenuBar>
+#include <QProgressDialog>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTabWidget>
@@ -26,6 +27,7 @@
 #include "session/save_bot.h"
 #include "support/files.h"
 #include "tests/editor/window_fixture.h"
+#include "tests/support/package_maker.h"
 
 namespace fragsmith {
 namespace {
@@ -252,6 +254,24 @@ TEST_F(MainWindow, AsksAboutAModelThatNoListHas) {
   window_->current().Replace(stranger, false, QStringLiteral("Load"));
   EXPECT_EQ(bot().Text(kModelField), "Anarki");
   EXPECT_EQ(bot().Text(kSkinField), "Default");
+}
+
+TEST_F(MainWindow, TakesNoNameForMarkupWhileItLoads) {
+  folder_.WriteProgram("wzunzip", "#!/bin/sh\nsleep 0.1\n");
+  state_->settings.WinZipDir = BytesFromPath(folder_.path());
+  state_->InitByValues();
+  QString shown;
+  QTimer::singleShot(0, window_.get(), [this, &shown] {
+    const auto* const progress = window_->findChild<QProgressDialog*>();
+    ASSERT_NE(progress, nullptr);
+    const auto* const label = progress->findChild<QLabel*>();
+    ASSERT_NE(label, nullptr);
+    EXPECT_EQ(label->textFormat(), Qt::PlainText);
+    shown = label->text();
+  });
+  window_->OpenPath(folder_.Write(
+      "a.pk3", MakeZipOfNames({"botfiles/bots/<s>Struck & out_c.c"})));
+  EXPECT_EQ(shown, "Loading <s>Struck & out...");
 }
 
 TEST_F(MainWindow, ChecksTheFoldersAfterTheOptions) {

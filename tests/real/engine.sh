@@ -5,25 +5,10 @@
 # name, model and chat lines, all without a complaint; broken copies of the
 # package must be refused, or the check itself is worth nothing. Everything
 # stays on the loopback device. Exit status 77 when the game is not installed.
-set -euo pipefail
-
-here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
-cli=$(realpath -m "${1:-$here/../../build/dev/bin/fragsmith-cli}")
-if [[ ! -x $cli ]]; then
-  echo "${0##*/}: there is no program $cli" >&2
-  exit 2
-fi
-
-# openarena-088-data has the scripts fw_weap.c and fw_items.c that our weight
-# files include; without them no bot of ours can enter.
-for package in ioquake3-server openarena-server openarena-088-data; do
-  status=$(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null) ||
-    status=missing
-  if [[ $status != installed ]]; then
-    echo "${0##*/}: Debian package $package is not installed" >&2
-    exit 77
-  fi
-done
+source "$(dirname "${BASH_SOURCE[0]}")/set_up.sh"
+need_program "${1:-$build/bin/fragsmith-cli}"
+cli=$program
+need_installed "${server_packages[@]}"
 
 scratch=$(mktemp -d)
 server=

@@ -3,7 +3,7 @@
 # real packages:  game_folder.sh DIR
 # DIR gets a file quake3.exe and baseq3/ with links to the packages. Exit
 # status 77 when the data is not installed.
-set -euo pipefail
+source "$(dirname "${BASH_SOURCE[0]}")/set_up.sh"
 
 if [[ $# -ne 1 || $1 == -* ]]; then
   echo "usage: ${0##*/} DIR" >&2
@@ -16,14 +16,7 @@ packages=(openarena-data openarena-085-data openarena-081-maps
   openarena-081-misc openarena-081-players openarena-081-players-mature
   openarena-081-textures)
 
-for package in "${packages[@]}"; do
-  status=$(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null) ||
-    status=missing
-  if [[ $status != installed ]]; then
-    echo "${0##*/}: Debian package $package is not installed" >&2
-    exit 77
-  fi
-done
+need_installed "${packages[@]}"
 
 mkdir -p "$1/baseq3"
 : >"$1/quake3.exe"

@@ -2,14 +2,9 @@
 # Reads real models and bots out of the packages of Debian's free game data
 # and makes every bot again:  openarena.sh [FRAGSMITH_CLI]
 # Exit status 77 when the data is not installed.
-set -euo pipefail
-
-here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
-cli=$(realpath -m "${1:-$here/../../build/dev/bin/fragsmith-cli}")
-if [[ ! -x $cli ]]; then
-  echo "${0##*/}: there is no program $cli" >&2
-  exit 2
-fi
+source "$(dirname "${BASH_SOURCE[0]}")/set_up.sh"
+need_program "${1:-$build/bin/fragsmith-cli}"
+cli=$program
 
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT

@@ -195,6 +195,16 @@ class Maker:
         return build(entries + bot(letters + name.encode()) +
                      bot(name.encode() + b"\x81\x1b\x7f"))
 
+    def markup(self, name):
+        """Names that would show as something else in a rich text."""
+        model = f"<u>hostile{name}"
+        return build(bot(model, t=CHAT % b"<u>hostile" + b'type "death_bfg"\n'
+                         b'{\n"<u>hostile<img src=/dev/zero>";\n}\n',
+                         bot=DESCRIPTION.replace(b"sarge", b"<u>hostile")
+                         % (b"^1<u>hostile", b"x"),
+                         w=WEAPONS + b"#define <u>hostile <u>hostile\n")
+                     + [icon(model, "<u>hostile")])
+
     def long_names(self, name):
         length = self.random.choice([200, 230, 250, 256, 1000, 4096, 60000])
         return build(bot(name + "l" * length) + [
@@ -423,7 +433,7 @@ class Maker:
         return build(bot(name) + [icon(f"picture{name}", data=data),
                                   icon(f"picture{name}", "text", b"no picture")])
 
-    KINDS = (paths_that_climb, backslashes, duplicated_names, odd_names,
+    KINDS = (paths_that_climb, backslashes, duplicated_names, odd_names, markup,
              long_names, folders_as_files, symbolic_links, wrong_sizes,
              wrong_sums, odd_methods, broken_directory, overlapping_entries,
              long_end_record, cut_or_flipped, no_archive, odd_values, odd_chats,
@@ -435,11 +445,11 @@ class Maker:
         if number % 40 == 39:
             return "honest", build(bot(f"honest{number}") +
                                    [icon(f"honest{number}")])
-        kinds = self.KINDS
-        if number % 20 == 0:
-            number //= 20
-            kinds = self.HEAVY_KINDS
-        kind = kinds[number % len(kinds)]
+        heavy, rest = divmod(number, 20)
+        if rest == 0:
+            kind = self.HEAVY_KINDS[heavy % len(self.HEAVY_KINDS)]
+        else:
+            kind = self.KINDS[(number - heavy) % len(self.KINDS)]
         return kind.__name__, kind
 
 

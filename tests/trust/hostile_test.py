@@ -13,93 +13,18 @@ import concurrent.futures
 import json
 import os
 import pathlib
-import resource
 import shutil
-import subprocess
-import sys
 import tempfile
-import threading
 import time
 
 import hostile_packages
+import hostile_trial
+from hostile_trial import MOST_SECONDS, failures, figures
 
-MOST_SECONDS = 5 + 3
-MOST_MEMORY = 1 << 30
 MOST_ICONS = 3  # of one package
 
-failures = []
-figures = {"runs": 0, "slowest": (0, ""), "largest": (0, "")}
-lock = threading.Lock()
 
-
-def limit_memory():
-    resource.setrlimit(resource.RLIMIT_AS, (MOST_MEMORY, MOST_MEMORY))
-
-
-class Trial:
-    """A game's folder within a tree that is watched as a whole."""
-
-    def __init__(self, bin_folder, tree):
-        self.bin = bin_folder
-        self.tree = tree
-        self.packages = tree / "games" / "game" / "baseq3"
-        self.packages.mkdir(parents=True)
-        for name in ("program", "home", "tmp", "run", "icons"):
-            (tree / name).mkdir()
-        for folder in (tree, tree / "games", tree / "home", tree / "run"):
-            for name in ("escaped", "escaped_c.c", "escaped.bot"):
-                (folder / name).write_text("as it was")
-        (tree / "program" / "fgs.ini").write_text(
-            "[Fragsmith settings]\r\nQ3Baseq3 = \r\nWorkDir = \r\n"
-            f"WinZipDir = {bin_folder}\r\n\r\nUserName = \r\nEmail = \r\n"
-            "Http = \r\nBots = 0\r\n\r\nBaseQ3Check = False\r\n")
-        self.environment = {
-            "PATH": "/usr/bin:/bin", "LC_ALL": "C.UTF-8",
-            "HOME": str(tree / "home"), "XDG_CONFIG_HOME": str(tree / "home"),
-            "TMPDIR": str(tree / "tmp")}
-
-    def snapshot(self):
-        """All that there is, but for what is in the temporary folder and the
-        one for icons, with size and time."""
-        found = {}
-        for path in self.tree.rglob("*"):
-            if path.parent.name in ("tmp", "icons"):
-                continue
-            state = path.lstat()
-            found[str(path.relative_to(self.tree))] = (
-                state.st_mode, state.st_size, state.st_ino,
-                0 if path.name in ("tmp", "icons") else state.st_mtime_ns)
-        return found
-
-    def run(self, what, command, statuses, most_seconds=MOST_SECONDS):
-        start = time.monotonic()
-        with tempfile.TemporaryFile() as out, tempfile.TemporaryFile() as err:
-            process = subprocess.Popen(
-                command, stdin=subprocess.DEVNULL, stdout=out, stderr=err,
-                cwd=self.tree / "run", env=self.environment,
-                preexec_fn=limit_memory)
-            timer = threading.Timer(3 * most_seconds, process.kill)
-            timer.start()
-            _, status, usage = os.wait4(process.pid, 0)
-            timer.cancel()
-            process.returncode = os.waitstatus_to_exitcode(status)
-            seconds = time.monotonic() - start
-            out.seek(0)
-            err.seek(0)
-            text, errors = out.read(), err.read()
-        with lock:
-            figures["runs"] += 1
-            figures["slowest"] = max(figures["slowest"], (seconds, what))
-            figures["largest"] = max(figures["largest"],
-                                     (usage.ru_maxrss / 1024, what))
-            if process.returncode not in statuses:
-                failures.append(f"{what}: ended with {process.returncode}")
-            if b"bad_alloc" in errors or b"terminate called" in errors:
-                failures.append(f"{what}: {errors[-200:]!r}")
-            if seconds > most_seconds:
-                failures.append(f"{what}: took {seconds:.1f} s")
-        return process.returncode, text, errors
-
+class CommandLineTrial(hostile_trial.Trial):
     def command_line(self, what, arguments, statuses=(0, 1),
                      most_seconds=MOST_SECONDS):
         command, *rest = arguments
@@ -162,7 +87,8 @@ def wanted_work(trial, listing):
     return work
 
 
-def try_all(trial, count, seed):
+def try_all(bin_folder, tree, count, seed):
+    trial = CommandLineTrial(bin_folder, tree)
     hostile_packages.make_packages(trial.packages, count, seed)
     before = trial.snapshot()
     start = time.monotonic()
@@ -175,16 +101,7 @@ def try_all(trial, count, seed):
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
         results = [(task[0], pool.submit(*task)) for task in work]
     loaded = [result.result() for kind, result in results if kind == trial.load]
-    # A tool that was left alone may be at its end only now.
-    time.sleep(0.5)
-    after = trial.snapshot()
-    for name in sorted(set(before) | set(after)):
-        if before.get(name) != after.get(name):
-            failures.append(f"{name!r} was changed: {before.get(name)} became"
-                            f" {after.get(name)}")
-    left = list((trial.tree / "tmp").iterdir())
-    if left:
-        failures.append(f"left in the temporary folder: {left[:5]}")
+    trial.check_unchanged(before)
     honest = sum(bot["name"].lower().startswith("honest")
                  for bot in listing["bots"])
     if honest != count // 40:
@@ -192,25 +109,6 @@ def try_all(trial, count, seed):
     print(f"{len(loaded)} loads, {loaded.count(0)} of them gave a bot;"
           f" {len(work) - len(loaded)} icons taken out;"
           f" {figures['runs']} runs in all")
-    for key, unit in (("slowest", "s"), ("largest", "MiB")):
-        print(f"{key}: {figures[key][0]:.1f} {unit}, {figures[key][1][:120]}")
 
 
-def main():
-    bin_folder = pathlib.Path(sys.argv[1]).resolve()
-    count = int(sys.argv[2]) if len(sys.argv) > 2 else 1000
-    seed = int(sys.argv[3]) if len(sys.argv) > 3 else 8
-    print(f"seed {seed}", flush=True)
-    tree = pathlib.Path(tempfile.mkdtemp(prefix="fragsmith-hostile-"))
-    try:
-        try_all(Trial(bin_folder, tree), count, seed)
-    finally:
-        shutil.rmtree(tree)
-    for failure in failures[:30]:
-        print(f"FAILED: {failure}")
-    if failures:
-        sys.exit(f"{len(failures)} failures")
-    print("no crash, no hang, no byte outside")
-
-
-main()
+hostile_trial.run_test(__doc__, try_all)

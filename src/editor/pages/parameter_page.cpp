@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <array>
 
+#include "checks/skill_mix.h"
 #include "editor/controls/caption_mark.h"
 #include "editor/controls/value_slider.h"
 #include "editor/parameter_help.h"
@@ -148,7 +149,7 @@ QGroupBox* ParameterPage::MakeFrame(const FrameRow& frame) {
     ValueControl* const control = MakeControl(entry);
     control->SetSpokenName(ControlName(entry.index));
     SetHelp(entry, *control);
-    if (!HelpFor(entry.index).is_read && control->NeedMark() != nullptr) {
+    if (!IsReadByGame(entry.index) && control->NeedMark() != nullptr) {
       MarkText never_read;
       never_read.Add(Severity::kHint,
                      QStringLiteral("The game never reads this."));
