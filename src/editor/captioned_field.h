@@ -24,6 +24,7 @@ class CaptionedField : public QWidget {
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(2);
     caption_row_ = new QHBoxLayout;
+    caption_row_->setSpacing(fontMetrics().averageCharWidth());
     caption_row_->addWidget(caption_);
     caption_row_->addStretch(1);
     column->addLayout(caption_row_);

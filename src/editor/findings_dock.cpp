@@ -82,13 +82,14 @@ void FindingsDock::ShowCounts() {
   AddCount(counts, count(Severity::kError), "error");
   AddCount(counts, count(Severity::kWarning), "warning");
   AddCount(counts, count(Severity::kHint), "hint");
-  counter_->setText(counts.isEmpty() ? QStringLiteral("Nothing to tell")
-                                     : counts.join(QStringLiteral(", ")));
+  const QString text = counts.isEmpty() ? QStringLiteral("Nothing to tell")
+                                        : counts.join(QStringLiteral(", "));
+  // Styles leave hardly any room between icon and text.
+  counter_->setText(u' ' + text);
   counter_->setIcon(findings.empty()
                         ? style()->standardIcon(QStyle::SP_DialogApplyButton)
                         : SeverityIcon(findings.front().severity, *style()));
-  counter_->setAccessibleName(windowTitle() + QStringLiteral(": ") +
-                              counter_->text());
+  counter_->setAccessibleName(windowTitle() + QStringLiteral(": ") + text);
 }
 
 void FindingsDock::ShowMends() {

@@ -1,7 +1,6 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QIcon>
-#include <QPalette>
 #include <algorithm>
 #include <exception>
 #include <iostream>
@@ -10,6 +9,7 @@
 #include "editor/frm_main.h"
 #include "editor/program_state.h"
 #include "editor/qt_prompts.h"
+#include "editor/readable_palette.h"
 #include "install/program_folder.h"
 #include "install/time_zone.h"
 #include "support/files.h"
@@ -79,15 +79,6 @@ QIcon ProgramIcon() {
   return icon;
 }
 
-/// Some dark themes leave the colour of hints at black.
-void MakeHintsReadable() {
-  QPalette palette = QApplication::palette();
-  QColor hint = palette.color(QPalette::Text);
-  hint.setAlphaF(0.6F);
-  palette.setColor(QPalette::PlaceholderText, hint);
-  QApplication::setPalette(palette);
-}
-
 int Fail(const std::string& reason) {
   std::cerr << "fragsmith: " << reason << '\n';
   return 1;
@@ -109,7 +100,7 @@ int main(int count, char** words) try {
   const Arguments arguments = ReadArguments();
   QApplication::setWindowIcon(ProgramIcon());
   QApplication::setDesktopFileName(QStringLiteral("fragsmith"));
-  MakeHintsReadable();
+  fragsmith::MakePaletteReadable();
   const auto folders = fragsmith::FindProgramFolders(
       arguments.program_folder, fragsmith::FindProgramPlace());
   if (!folders) return Fail(fragsmith::Describe(folders.error()));

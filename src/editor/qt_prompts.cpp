@@ -4,6 +4,7 @@
 #include <QFontMetrics>
 #include <QGridLayout>
 #include <QInputDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 
 namespace fragsmith {
@@ -61,12 +62,16 @@ bool QtPrompts::Confirm(const std::string& title, const std::string& text) {
 
 std::optional<std::string> QtPrompts::AskText(const std::string& title,
                                               const std::string& prompt) {
-  bool is_accepted = false;
-  const QString text = QInputDialog::getText(
-      TopWindow(), QString::fromStdString(title),
-      QString::fromStdString(prompt), QLineEdit::Normal, {}, &is_accepted);
-  if (!is_accepted) return std::nullopt;
-  return text.toStdString();
+  QInputDialog box(TopWindow());
+  box.setWindowTitle(QString::fromStdString(title));
+  box.setLabelText(QString::fromStdString(prompt));
+  // It is made only now, and as wide as for the name of a model.
+  box.setInputMode(QInputDialog::TextInput);
+  if (auto* const line = box.findChild<QLineEdit*>()) {
+    line->setMinimumWidth(48 * line->fontMetrics().averageCharWidth());
+  }
+  if (box.exec() != QDialog::Accepted) return std::nullopt;
+  return box.textValue().toStdString();
 }
 
 }  // namespace fragsmith

@@ -100,6 +100,8 @@ void SkillPlot::paintEvent(QPaintEvent* /*event*/) {
   const QColor text = palette().color(QPalette::WindowText);
   QColor faint = text;
   faint.setAlphaF(0.35F);
+  QColor hint = text;
+  hint.setAlphaF(0.75F);
 
   painter.setPen(text);
   painter.drawText(QRectF(0, 0, width(), line), Qt::AlignLeft,
@@ -118,13 +120,14 @@ void SkillPlot::paintEvent(QPaintEvent* /*event*/) {
   painter.setPen(faint);
   painter.drawLine(area.bottomLeft(), area.bottomRight());
   painter.drawLine(area.bottomLeft(), area.topLeft());
-  painter.setPen(QPen(faint, 1, Qt::DashLine));
   for (const Threshold& threshold : thresholds_) {
     if (threshold.value > top) continue;
     const QPointF left = place(1, threshold.value);
+    painter.setPen(QPen(faint, 1, Qt::DashLine));
     painter.drawLine(left, QPointF(area.right(), left.y()));
     // One at the very top has its text below it.
     const double above = left.y() - line < area.top() ? 0 : line;
+    painter.setPen(hint);
     painter.drawText(
         QRectF(left.x() + line / 3.0, left.y() - above,
                area.width() - line / 3.0, line),

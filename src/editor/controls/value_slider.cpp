@@ -116,16 +116,16 @@ QString ValueSlider::Text() const {
   return ToQString(ValueText(shown_, scale_, is_optional_));
 }
 
-int ValueSlider::TickRoom() const {
-  return tickInterval() > 0 ? fontMetrics().height() / 3 : 0;
+int ValueSlider::TickLength() const {
+  return tickInterval() > 0 ? fontMetrics().height() / 6 : 0;
 }
+
+// Half of it stays free, so that the ticks are not taken for those of the
+// next slider below.
+int ValueSlider::TickRoom() const { return 4 * TickLength(); }
 
 QSize ValueSlider::sizeHint() const {
   return QSlider::sizeHint() + QSize(0, TickRoom());
-}
-
-QSize ValueSlider::minimumSizeHint() const {
-  return QSlider::minimumSizeHint() + QSize(0, TickRoom());
 }
 
 void ValueSlider::initStyleOption(QStyleOptionSlider* option) const {
@@ -159,7 +159,7 @@ void ValueSlider::paintEvent(QPaintEvent* event) {
     const int left = QStyle::sliderPositionFromValue(
         minimum(), maximum(), tick, width() - handle, option.upsideDown);
     painter.drawLine(left + handle / 2, top, left + handle / 2,
-                     top + TickRoom() / 2);
+                     top + TickLength());
   }
 }
 

@@ -41,11 +41,10 @@ class ValueSlider : public QSlider {
   /// The text to stand beside the slider.
   QString Text() const;
 
-  /// Height of the ticks at the lower edge; the groove has the rest.
+  /// Room for the ticks at the lower edge; the groove has the rest.
   int TickRoom() const;
 
   QSize sizeHint() const override;
-  QSize minimumSizeHint() const override;
 
  signals:
   /// The user moved the slider, by whatever means.
@@ -59,6 +58,7 @@ class ValueSlider : public QSlider {
   void wheelEvent(QWheelEvent* event) override;
 
  private:
+  int TickLength() const;
   void TakePosition();
   void Announce();
 

@@ -84,7 +84,8 @@ QString WholeText(int group) {
 }
 
 /// Gives a row the height that its texts need when they are broken: a tree
-/// leaves the width of its columns out of account.
+/// leaves the width of its columns out of account. What the values are of
+/// keeps its distance from them.
 class WrappingDelegate : public QStyledItemDelegate {
  public:
   explicit WrappingDelegate(QTreeView* view)
@@ -93,11 +94,14 @@ class WrappingDelegate : public QStyledItemDelegate {
   QSize sizeHint(const QStyleOptionViewItem& option,
                  const QModelIndex& index) const override {
     QStyleOptionViewItem bounded = option;
-    if (index.column() != kWhat) {
+    constexpr int kRoom = 4;
+    QSize room(0, kRoom);
+    if (index.column() == kWhat) {
+      room.setWidth(2 * option.fontMetrics.averageCharWidth());
+    } else {
       bounded.rect = QRect(0, 0, view_->columnWidth(index.column()), 1);
     }
-    constexpr int kRoom = 4;
-    return QStyledItemDelegate::sizeHint(bounded, index) + QSize(0, kRoom);
+    return QStyledItemDelegate::sizeHint(bounded, index) + room;
   }
 
  private:
@@ -294,6 +298,8 @@ void frmCompare::FillList() {
   list_->scrollToItem(list_->currentItem());
   list_->verticalScrollBar()->setValue(scroll);
   list_->scrollToItem(list_->currentItem());
+  // The heading of the very first row would stay out of sight.
+  if (old == nullptr) list_->scrollToTop();
 }
 
 QTreeWidgetItem* frmCompare::AddGroup(int group, QTreeWidgetItem* parent) {

@@ -11,7 +11,6 @@
 #include <string>
 #include <vector>
 
-#include "editor/controls/findings_view.h"
 #include "editor/game_text_conversion.h"
 #include "editor/severity_icon.h"
 #include "session/save_bot.h"
@@ -71,6 +70,11 @@ frmTry::frmTry(const Bot& bot, const std::vector<Finding>& findings,
   column->addWidget(MakeLists(findings), 1);
   column->addWidget(verdict_);
   column->addWidget(MakeButtonRow());
+  const QWidgetList in_tab_order = {engine_,    data_,  game_,  map_,   skill_,
+                                    opponents_, lines_, found_, start_, close_};
+  for (qsizetype place = 1; place < in_tab_order.size(); ++place) {
+    setTabOrder(in_tab_order[place - 1], in_tab_order[place]);
+  }
   const int line = fontMetrics().lineSpacing();
   resize(50 * line, 32 * line);
 
@@ -132,12 +136,12 @@ QLayout* frmTry::MakeFields() {
 }
 
 QWidget* frmTry::MakeLists(const std::vector<Finding>& findings) {
-  auto* const found = new FindingsView(this);
-  found->setObjectName(QStringLiteral("lstFound"));
-  found->ShowFindings(findings);
+  found_ = new FindingsView(this);
+  found_->setObjectName(QStringLiteral("lstFound"));
+  found_->ShowFindings(findings);
   lines_->setObjectName(QStringLiteral("lstLines"));
   lines_->setWordWrap(true);
-  lines_->setIconSize(found->iconSize());
+  lines_->setIconSize(found_->iconSize());
   auto* const sides = new QSplitter(this);
   sides->setChildrenCollapsible(false);
   const auto add = [sides](const QString& caption, QListWidget* list) {
@@ -152,7 +156,7 @@ QWidget* frmTry::MakeLists(const std::vector<Finding>& findings) {
     sides->addWidget(side);
   };
   add(QStringLiteral("&What the game says:"), lines_);
-  add(QStringLiteral("What our c&hecks say:"), found);
+  add(QStringLiteral("What our c&hecks say:"), found_);
   return sides;
 }
 
@@ -162,10 +166,10 @@ QWidget* frmTry::MakeButtonRow() {
   start_->setDefault(true);
   connect(start_, &QPushButton::clicked, this, &frmTry::StartOrStop);
   buttons->addButton(start_, QDialogButtonBox::ActionRole);
-  auto* const close = new QPushButton(QStringLiteral("&Close"), this);
-  close->setObjectName(QStringLiteral("cmdClose"));
-  close->setAutoDefault(false);
-  buttons->addButton(close, QDialogButtonBox::RejectRole);
+  close_ = new QPushButton(QStringLiteral("&Close"), this);
+  close_->setObjectName(QStringLiteral("cmdClose"));
+  close_->setAutoDefault(false);
+  buttons->addButton(close_, QDialogButtonBox::RejectRole);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   return buttons;
 }

@@ -15,6 +15,7 @@
 #include "checks/finding.h"
 #include "checks/game_trial.h"
 #include "checks/trial_reader.h"
+#include "editor/controls/findings_view.h"
 #include "editor/dialogs/dialog_parts.h"
 #include "editor/program_state.h"
 #include "model/bot.h"
@@ -76,7 +77,9 @@ class frmTry : public QDialog {
   QComboBox* skill_;
   QLineEdit* opponents_ = nullptr;
   QPushButton* start_;
+  QPushButton* close_ = nullptr;
   QListWidget* lines_;
+  FindingsView* found_ = nullptr;
   HintLine* verdict_;
 };
 
