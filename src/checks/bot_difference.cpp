@@ -29,18 +29,23 @@ bool SaysTheSame(const Value& left, const Value& right) {
 
 void ComparePair(int parameter, const Bot& left, const Bot& right,
                  std::vector<BotDifference>& differences) {
-  Value of_left = left.Parameter(parameter);
-  Value of_right = right.Parameter(parameter);
+  const Value& of_left = left.Parameter(parameter);
+  const Value& of_right = right.Parameter(parameter);
+  BotDifference difference = {.parameter = parameter,
+                              .title = QuotedName(parameter)};
   if (IsTextField(parameter)) {
-    // With nothing in it, a field is an empty text and no 0.
-    of_left = ToText(of_left);
-    of_right = ToText(of_right);
+    // "007" is another name than "7", and an empty one is no 0.
+    const std::string text = ToText(of_left);
+    const std::string other = ToText(of_right);
+    if (text == other) return;
+    difference.left = QuotedText(text);
+    difference.right = QuotedText(other);
+  } else {
+    if (SaysTheSame(of_left, of_right)) return;
+    difference.left = ShownValue(of_left);
+    difference.right = ShownValue(of_right);
   }
-  if (SaysTheSame(of_left, of_right)) return;
-  differences.push_back({.parameter = parameter,
-                         .title = QuotedName(parameter),
-                         .left = ShownValue(of_left),
-                         .right = ShownValue(of_right)});
+  differences.push_back(std::move(difference));
 }
 
 /// A chat line that is not empty, by its place in the bot.

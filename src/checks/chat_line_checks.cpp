@@ -113,7 +113,7 @@ std::string ShownList(const std::string& name) {
   const auto* const list =
       std::find_if(kWordLists.begin(), kWordLists.end(),
                    [&name](const WordList& row) { return row.Key == name; });
-  return list == kWordLists.end() ? "\"" + ShownText(name) + "\""
+  return list == kWordLists.end() ? QuotedText(name)
                                   : std::string(list->Variable);
 }
 

@@ -4,6 +4,7 @@
 #include <numeric>
 #include <string>
 
+#include "checks/parameter_words.h"
 #include "install/bot_list.h"
 #include "model/characteristic_catalogue.h"
 #include "support/code_page.h"
@@ -15,10 +16,6 @@ namespace {
 bool IsStandardBot(const std::string& name) {
   static const BotList kStandard = BotList::Standard();
   return kStandard.Find(name).has_value();
-}
-
-std::string Shown(const std::string& game_text) {
-  return "\"" + ShownText(game_text) + "\"";
 }
 
 }  // namespace
@@ -37,7 +34,7 @@ void CheckNameIsTaken(const CheckContext& context, FindingList& findings) {
                           context.game->names_taken.contains(ToLower(name));
   if (!is_in_game && !IsStandardBot(name)) return;
   findings.Add(kNameIndex,
-               "The game has a bot " + Shown(name) +
+               "The game has a bot " + QuotedText(name) +
                    " of its own and keeps that one: this bot will not appear. "
                    "Choose a new name.");
 }
@@ -50,10 +47,10 @@ void CheckFilesAreShadowed(const CheckContext& context, FindingList& findings) {
   const std::string own = "bot-" + name + ".pk3";
   if (ToLower(found->second) <= ToLower(own)) return;
   findings.Add(kNameIndex,
-               "The package " + Shown(found->second) +
+               "The package " + QuotedText(found->second) +
                    " of your game has bot files of the same names, and the "
                    "game takes those before the ones of " +
-                   Shown(own) +
+                   QuotedText(own) +
                    ", since of several packages the last one by name counts. "
                    "Choose a new name.");
 }
@@ -84,14 +81,15 @@ void CheckModelIsInstalled(const CheckContext& context, FindingList& findings) {
   if (model.empty()) return;
   if (!context.game->models.contains(model)) {
     findings.Add(kModelField,
-                 "The packages of your game have no model " + Shown(model) +
+                 "The packages of your game have no model " +
+                     QuotedText(model) +
                      ": the game shows the bot as another model. It plays all "
                      "the same.");
   } else if (!skin.empty() &&
              !context.game->skins.contains(model + "/" + skin)) {
     findings.Add(kSkinField,
-                 "The packages of your game have no skin " + Shown(skin) +
-                     " for the model " + Shown(model) +
+                 "The packages of your game have no skin " + QuotedText(skin) +
+                     " for the model " + QuotedText(model) +
                      ": the game shows the bot as another model. It plays all "
                      "the same.");
   }

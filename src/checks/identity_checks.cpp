@@ -49,9 +49,7 @@ std::vector<Mend> RenameTo(const std::string& name) {
   return {SetTo(kNameIndex, name, "Call the bot " + Utf8FromGameText(name))};
 }
 
-std::string ShownName(const Bot& bot) {
-  return "\"" + ShownText(bot.Name()) + "\"";
-}
+std::string ShownName(const Bot& bot) { return QuotedText(bot.Name()); }
 
 /// The fun name as the bot holds it, quotes included, and what is in them.
 struct FunName {

@@ -151,7 +151,11 @@ std::string ShownNumber(double number) {
 
 std::string ShownValue(const Value& value) {
   const std::optional<double> number = ToNumber(value);
-  return number ? ShownNumber(*number) : "\"" + ShownText(ToText(value)) + "\"";
+  return number ? ShownNumber(*number) : QuotedText(ToText(value));
+}
+
+std::string QuotedText(std::string_view text) {
+  return "\"" + ShownText(text) + "\"";
 }
 
 std::string QuotedChatType(int type) {

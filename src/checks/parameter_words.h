@@ -25,6 +25,9 @@ std::string QuotedName(int index);
 std::string ShownValue(const Value& value);
 std::string ShownNumber(double number);
 
+/// A game text in double quotes, UTF-8.
+std::string QuotedText(std::string_view text);
+
 /// The situation's caption in double quotes.
 std::string QuotedChatType(int type);
 

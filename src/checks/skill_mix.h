@@ -67,8 +67,8 @@ bool HasMixGap(const Bot& bot, int index, std::size_t upper);
 /// effect is smooth.
 std::span<const Threshold> ThresholdsOf(int index);
 
-/// False for what no known game reads. It is kept for those who play with
-/// other game code.
+/// False for what no known game reads. Such a value is kept for those who play
+/// with other game code.
 bool IsReadByGame(int index);
 
 }  // namespace fragsmith

@@ -253,7 +253,8 @@ std::vector<TrialLine> TrialReader::Read(std::string_view bytes) {
 std::vector<std::string> TrialReader::LastLines() const {
   constexpr std::size_t kMostShown = 500;  // Bytes of a line.
   std::vector<std::string> lines;
-  const auto add = [&lines](const std::string& line) {
+  const auto add = [&lines](std::string_view line) {
+    if (line.ends_with('\r')) line.remove_suffix(1);
     lines.push_back(Utf8FromGameText(line.substr(0, kMostShown)));
   };
   std::for_each(last_lines_.begin(), last_lines_.end(), add);

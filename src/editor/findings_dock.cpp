@@ -116,8 +116,19 @@ void FindingsDock::ShowMends() {
     button->setObjectName(QStringLiteral("cmdFold"));
     connect(
         button, &QPushButton::clicked, list_,
-        [this, is_folded] { list_->Fold(!is_folded); }, Qt::QueuedConnection);
+        [this, is_folded] {
+          list_->setFocus();  // The button goes.
+          list_->Fold(!is_folded);
+        },
+        Qt::QueuedConnection);
     mends_->addWidget(button);
+  }
+  // The Tab key goes from the list to its buttons.
+  QWidget* before = list_;
+  for (int place = 0; place < mends_->count(); ++place) {
+    QWidget* const button = mends_->itemAt(place)->widget();
+    setTabOrder(before, button);
+    before = button;
   }
   mends_->addStretch(1);
 }

@@ -66,6 +66,9 @@ frmMain::frmMain(ProgramState& state) : state_(state) {
   draft_ = new DraftKeeper(state_.folders.program, current_, this);
   model_list_ = std::make_unique<ModelListCommands>(state_, *models_, *this);
   Connect();
+  // Behind the connections: it checks a bot once the window has shown it, and
+  // perhaps asked about its model.
+  checker_ = new BotChecker(current_, this);
   RestoreLook();
   models_->RefreshIcon();
   commands_->CreateZeroBot();
@@ -230,7 +233,6 @@ void frmMain::ShowStep(const FindingPlace& place) {
 }
 
 void frmMain::BuildFindings() {
-  checker_ = new BotChecker(current_, this);
   findings_ = new FindingsDock(this);
   picture_ = new GamePicture(current_, findings_);
   findings_->SetPicture(picture_);
@@ -278,6 +280,7 @@ void frmMain::ShowFindings() {
 
 void frmMain::TryInGame() {
   if (identity_->CheckAllIn()) return;
+  checker_->CheckNow();  // What has just been stored counts too.
   frmTry(current_.bot(), checker_->findings(), state_, this).exec();
 }
 

@@ -34,7 +34,7 @@ class FileReplacement {
   Result<void> Commit();
 
   /// The same without the flush, which takes longer than all the rest: for
-  /// what is made again with no loss after a failure of power.
+  /// copies of what is safe elsewhere.
   Result<void> CommitUnflushed();
 
  private:

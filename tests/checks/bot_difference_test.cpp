@@ -50,7 +50,9 @@ TEST(BotDifference, ShowsValuesAndTexts) {
   EXPECT_THAT(Shown(left, right), IsEmpty());
   // An empty field is no number.
   ASSERT_TRUE(right.SetParameter(kCommentField, "0"));
-  EXPECT_THAT(Shown(left, right), ElementsAre("\"Comment\": \"\" -> 0"));
+  EXPECT_THAT(Shown(left, right), ElementsAre("\"Comment\": \"\" -> \"0\""));
+  ASSERT_TRUE(left.SetParameter(kCommentField, "00"));
+  EXPECT_THAT(Shown(left, right), ElementsAre("\"Comment\": \"00\" -> \"0\""));
 }
 
 TEST(BotDifference, SetsEqualChatLinesSideBySide) {

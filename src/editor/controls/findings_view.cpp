@@ -25,8 +25,7 @@ QString TextOf(const Finding& finding) {
 
 QString FoldedText(const Finding& first, std::size_t count) {
   return QStringLiteral("%1 (And %2 more of this kind.)")
-      .arg(TextOf(first))
-      .arg(count - 1);
+      .arg(TextOf(first), QString::number(count - 1));
 }
 
 }  // namespace
@@ -36,6 +35,11 @@ FindingsView::FindingsView(QWidget* parent) : QListWidget(parent) {
   const int icon = fontMetrics().height();
   setIconSize(QSize(icon, icon));
   setMinimumHeight(5 * fontMetrics().lineSpacing());
+  const QString help = QStringLiteral(
+      "The right arrow key or a double click unfolds what stands in one row, "
+      "the left one folds it again.");
+  setWhatsThis(help);
+  setAccessibleDescription(help);
   connect(this, &QListWidget::currentRowChanged, this,
           &FindingsView::SelectionShown);
   connect(this, &QListWidget::itemDoubleClicked, this,
@@ -96,11 +100,12 @@ void FindingsView::FillRows(const Finding& selected) {
       if (is_folded && !told.insert(finding.id).second) continue;
       const bool is_selected = finding.id == selected.id &&
                                (is_folded || finding.place == selected.place);
-      if (is_selected) current = this->count();
+      if (is_selected && current < 0) current = this->count();
       rows_.push_back(number);
-      new QListWidgetItem(
+      auto* const item = new QListWidgetItem(
           SeverityIcon(finding.severity, *style()),
           is_folded ? FoldedText(finding, count) : TextOf(finding), this);
+      if (is_folded) item->setToolTip(whatsThis());
     }
     setCurrentRow(current);
   }

@@ -323,12 +323,14 @@ void frmTry::ShowEnd() {
     QString text = Shown(VerdictText(reader_->verdict(), bot_.Name()));
     if (!is_stopped_) {
       text = QStringLiteral(
-                 "The engine ended before the bot was added; its last words "
-                 "stand above. %1 Look at the data folder and the game folder.")
+                 "The engine ended before the bot was added. %1 "
+                 "Look at the data folder and the game folder.")
                  .arg(text);
-      for (const std::string& line : reader_->LastLines()) {
-        lines_->addItem(Shown(line));
+      const std::vector<std::string> last = reader_->LastLines();
+      if (!last.empty()) {
+        lines_->addItem(QStringLiteral("What it printed last:"));
       }
+      for (const std::string& line : last) lines_->addItem(Shown(line));
       lines_->scrollToBottom();
     }
     verdict_->Say(text);
