@@ -72,8 +72,8 @@ ReadReport Read(std::string_view bytes, const std::string& file_name,
   }
   if (!has_weight) {
     reader.AddNote(0,
-                   "The file sets none of the weights that a bot has here; "
-                   "they stay as they were.");
+                   "The file sets none of the weights that a bot has here. "
+                   "Saving the bot over it would lose what it says.");
   }
   return report;
 }

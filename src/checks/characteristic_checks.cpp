@@ -46,6 +46,28 @@ Mend MendTo(int parameter, double value) {
                "Set " + QuotedName(parameter) + " to " + ShownNumber(value));
 }
 
+/// Sets the parameter to the end of the range that it is beyond. Of a per-level
+/// one all levels are set that are beyond it: one alone would be better or
+/// worse than the others, and the game could not mix a 1.0 with a 2.
+Mend MendToEnd(int parameter, double end, bool is_highest) {
+  const int index = CatalogueIndex(parameter);
+  if (!kPerLevelRange.Contains(index)) return MendTo(parameter, end);
+  return {"Set \"" + std::string(CharacteristicName(index)) + "\" to " +
+              ShownNumber(end) + " wherever it is " +
+              (is_highest ? "more" : "less"),
+          [index, end, is_highest](Bot& bot) {
+            for (const int level : kSkillLevels) {
+              const int place = LevelIndex(level, index);
+              const std::optional<double> value =
+                  ToNumber(bot.Parameter(place));
+              if (!value || *value < 0) continue;
+              if (is_highest ? *value > end : *value < end) {
+                (void)bot.SetParameter(place, end);
+              }
+            }
+          }};
+}
+
 /// The number that takes the gap away without a change of what the bot does:
 /// a value beyond the game's range gives way to the end of that range.
 std::optional<Mend> MixGapMend(const Bot& bot, int index, int lower,
@@ -164,7 +186,7 @@ void CheckReactionTime(const CheckContext& context, FindingList& findings) {
                  QuotedName(parameter) + " is " + ShownNumber(value) +
                      ", but the game takes everything above 1 second as 1 "
                      "second.",
-                 {MendTo(parameter, 1)});
+                 {MendToEnd(parameter, 1, true)});
   }
 }
 
@@ -179,7 +201,7 @@ void CheckViewChange(const CheckContext& context, FindingList& findings) {
                  QuotedName(parameter) + " is " + ShownNumber(*value) +
                      ", but the game takes everything below 240 degrees per "
                      "second as 240.",
-                 {MendTo(parameter, lowest)});
+                 {MendToEnd(parameter, lowest, false)});
   }
 }
 
@@ -194,7 +216,7 @@ void CheckValueBeyondRange(const CheckContext& context, FindingList& findings) {
                  QuotedName(parameter) + " is " + ShownNumber(value) +
                      ", but the game takes everything above " +
                      ShownNumber(highest) + " as " + ShownNumber(highest) + ".",
-                 {MendTo(parameter, highest)});
+                 {MendToEnd(parameter, highest, true)});
   };
   ForEachLevelValue(check);
   ForEachSingle(kChatRange, check);

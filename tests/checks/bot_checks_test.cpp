@@ -340,6 +340,29 @@ TEST(BotChecks, MendTextsAsTheirTitlesSay) {
   EXPECT_EQ(mended("a \"b\"", "chat-quote"), "a 'b'");
 }
 
+TEST(BotChecks, BringNoErrorByAMend) {
+  const GameData game = SomeGame();
+  const auto errors = [&game](const Bot& bot) {
+    const std::vector<Finding> findings = CheckBot(bot, &game);
+    return std::count_if(findings.begin(), findings.end(),
+                         [](const Finding& finding) {
+                           return finding.severity == Severity::kError;
+                         });
+  };
+  for (const Bot& bot : {CreateZeroBot(), CreateAverageBot(SeededRandom(1))}) {
+    int mends = 0;
+    for (const Finding& finding : CheckBot(bot, &game)) {
+      for (const Mend& mend : finding.mends) {
+        Bot mended = bot;
+        mend.apply(mended);
+        EXPECT_LE(errors(mended), errors(bot)) << mend.title;
+        ++mends;
+      }
+    }
+    EXPECT_GT(mends, 0);
+  }
+}
+
 TEST(BotChecks, NameParametersAsTheWindowDoes) {
   Bot bot = CleanBot();
   const GameData game = SomeGame();
