@@ -13,6 +13,7 @@
 #include "chat/chat_catalogue.h"
 #include "model/characteristic_catalogue.h"
 #include "support/code_page.h"
+#include "support/numbers.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -64,6 +65,8 @@ std::string_view DocumentKey(int index) {
 // Writing.
 
 OrderedJson NumberToJson(double number) {
+  // With as many digits as the files can hold.
+  number = NumberFromText(PlainDecimal(number, kDoubleDigits)).value_or(number);
   constexpr double kMostExactWhole = 9007199254740992.0;
   if (std::trunc(number) == number && std::fabs(number) <= kMostExactWhole) {
     return static_cast<std::int64_t>(number);
