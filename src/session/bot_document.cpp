@@ -13,7 +13,6 @@
 #include "chat/chat_catalogue.h"
 #include "model/characteristic_catalogue.h"
 #include "support/code_page.h"
-#include "support/numbers.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -65,8 +64,6 @@ std::string_view DocumentKey(int index) {
 // Writing.
 
 OrderedJson NumberToJson(double number) {
-  // With as many digits as the files can hold.
-  number = NumberFromText(PlainDecimal(number, kDoubleDigits)).value_or(number);
   constexpr double kMostExactWhole = 9007199254740992.0;
   if (std::trunc(number) == number && std::fabs(number) <= kMostExactWhole) {
     return static_cast<std::int64_t>(number);
@@ -85,9 +82,11 @@ OrderedJson IdentityToJson(const Bot& bot, int field) {
   switch (field) {
     case kFunNameField:
       return Utf8FromGameText(FunNameForBox(bot.FunName()));
-    case kRailColorField:
     case kVersionMajorField:
     case kVersionMinorField:
+      // By its text, as it stands in a box and is read.
+      return ValueToJson(bot.Text(field));
+    case kRailColorField:
     case kArenaLordField:
       return ValueToJson(bot.Parameter(field));
     default:
