@@ -39,7 +39,9 @@ void Remove(const fs::path& file) {
 
 DraftKeeper::DraftKeeper(const fs::path& program_folder, CurrentBot& current,
                          QObject* parent)
-    : QObject(parent), current_(current) {
+    : QObject(parent),
+      current_(current),
+      source_([&current] { return current.bot(); }) {
   for (int number = 1; number <= kMostDrafts; ++number) {
     Draft draft;
     draft.file =
@@ -92,7 +94,7 @@ void DraftKeeper::SaveNow() {
   // A draft that cannot be written is no reason to disturb the user, who has
   // the bot before him.
   if (!own_.file.empty()) {
-    (void)SaveFile(own_.file, WriteBotDocument(current_.bot()));
+    (void)SaveFile(own_.file, WriteBotDocument(source_()));
   }
 }
 

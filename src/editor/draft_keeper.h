@@ -6,7 +6,9 @@
 #include <QTimer>
 #include <deque>
 #include <filesystem>
+#include <functional>
 #include <memory>
+#include <utility>
 
 #include "editor/current_bot.h"
 
@@ -24,6 +26,13 @@ class DraftKeeper : public QObject {
  public:
   DraftKeeper(const std::filesystem::path& program_folder, CurrentBot& current,
               QObject* parent);
+
+  /// What gives the bot to be kept, with what the current one does not hold
+  /// yet.
+  void SetSource(std::function<Bot()> source) { source_ = std::move(source); }
+
+  /// Lets the bot be kept soon.
+  void Schedule();
 
   /// The bot that an earlier run left behind and that the user has not
   /// decided on; null when there is none.
@@ -45,11 +54,10 @@ class DraftKeeper : public QObject {
     Bot bot;
   };
 
-  void Schedule();
-
   std::deque<Draft> left_behind_;
   Draft own_;  ///< Without a file where none can be locked.
   CurrentBot& current_;
+  std::function<Bot()> source_;
   QTimer timer_;
 };
 

@@ -64,6 +64,8 @@ frmMain::frmMain(ProgramState& state) : state_(state) {
   edits_ = new EditCommands(current_, *identity_, *navigator_, *this);
   edits_->Attach(*menuBar());
   draft_ = new DraftKeeper(state_.folders.program, current_, this);
+  draft_->SetSource([this] { return identity_->WithTyping(); });
+  connect(identity_, &IdentityPanel::Typed, draft_, &DraftKeeper::Schedule);
   model_list_ = std::make_unique<ModelListCommands>(state_, *models_, *this);
   Connect();
   // Behind the connections: it checks a bot once the window has shown it, and

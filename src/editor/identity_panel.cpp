@@ -18,6 +18,7 @@
 #include "editor/undo_keys.h"
 #include "model/characteristic_catalogue.h"
 #include "session/identity_checks.h"
+#include "support/no_prompts.h"
 
 namespace fragsmith {
 namespace {
@@ -92,6 +93,7 @@ QLineEdit* IdentityPanel::AddBox(int field, const QString& accessible_name) {
   // The box is stored when it is left; that it differs counts at once.
   connect(box, &QLineEdit::textEdited, this,
           [this] { current_.SetChanged(true); });
+  connect(box, &QLineEdit::textEdited, this, &IdentityPanel::Typed);
   boxes_[field] = box;
   return box;
 }
@@ -271,6 +273,17 @@ bool IdentityPanel::RevertTyping() {
     has_reverted = true;
   }
   return has_reverted;
+}
+
+Bot IdentityPanel::WithTyping() const {
+  Bot bot = current_.bot();
+  NoPrompts silent;
+  for (const auto& [field, box] : boxes_) {
+    if (box->isModified()) {
+      (void)CheckBox(field, *ToGameText(box->text()), bot, silent);
+    }
+  }
+  return bot;
 }
 
 std::optional<int> IdentityPanel::CheckAllIn() {

@@ -34,7 +34,13 @@ class IdentityPanel : public QWidget {
   /// when there are none.
   bool RevertTyping();
 
+  /// The bot with what stands in the boxes and will be stored when they are
+  /// left; what they would refuse is left out.
+  Bot WithTyping() const;
+
  signals:
+  /// A letter was typed that is not stored yet.
+  void Typed();
   void StatusText(const QString& text);
 
  protected:

@@ -155,6 +155,15 @@ TEST_F(MainWindow, OffersTheDraftOfARunThatDidNotEnd) {
   Find<QPushButton>("cmdDiscardDraft")->click();
   Open();
   EXPECT_FALSE(window_->findChild<DraftKeeper*>()->LeftBehind());
+
+  // What is being typed is kept before the box is left.
+  auto* const box = Find<QLineEdit>("txtBotPara_2");
+  box->setFocus();
+  QTest::keyClicks(box, "^2Ton");
+  save_draft();
+  Open();
+  EXPECT_EQ(window_->findChild<DraftKeeper*>()->LeftBehind()->FunName(),
+            "^2Ton");
 }
 
 TEST_F(MainWindow, GivesEachMnemonicOnce) {
