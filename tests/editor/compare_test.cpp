@@ -188,6 +188,11 @@ TEST_F(Compare, GoesOnWithTheNextRow) {
   Press("cmdCopySelected");
   // It is closed: its rows are out of sight.
   EXPECT_EQ(list().currentItem()->text(0), "Behavioural characteristics");
+
+  // A whole group that is gone leads nowhere: what is next was not chosen.
+  Select("Shotgun usage");
+  Press("cmdCopyPage");
+  EXPECT_FALSE(Find<QPushButton>("cmdCopyPage").isEnabled());
 }
 
 TEST_F(Compare, BreaksLongLines) {

@@ -211,7 +211,12 @@ QLayout* frmCompare::MakeButtonRows() {
       [this] { Copy(QStringLiteral("all chats"), WhichAreIn(kChatGroup)); });
   copies->addWidget(chats_);
   page_ = MakeButton({}, QStringLiteral("cmdCopyPage"), [this] {
-    Copy(GroupTitle(CurrentGroup()), WhichAreIn(CurrentGroup()));
+    const int group = CurrentGroup();
+    Copy(GroupTitle(group), WhichAreIn(group));
+    if (CurrentGroup() == group) return;
+    // Pressed once more, it is not to copy what has come to the place.
+    list_->setCurrentItem(nullptr);
+    ShowButtons();
   });
   // No button moves when its text changes.
   int width = 0;
