@@ -6,7 +6,8 @@
 namespace fragsmith {
 
 /// Lets only characters of the game's code page into a text box, and none
-/// that ends a line. The box says "inputRejected" for others.
+/// that ends a line. The box says "inputRejected" for others. Lines that are
+/// pasted become one.
 class CodePageValidator : public QValidator {
   Q_OBJECT
 
@@ -14,6 +15,9 @@ class CodePageValidator : public QValidator {
   using QValidator::QValidator;
 
   State validate(QString& text, int& position) const override;
+
+ protected:
+  static void JoinLines(QString& text, int& position);
 };
 
 /// What the status bar says when a character was refused.

@@ -163,6 +163,11 @@ TEST_F(ChatPageTest, RefusesWhatTheGameTextCannotHold) {
   QApplication::clipboard()->setText(QStringLiteral("\u20ac"));
   QTest::keyClick(Box(), Qt::Key_V, Qt::ControlModifier);
   EXPECT_THAT(Stored(kGameEntry), ElementsAre("Hi\x80"));
+  // Lines out of a text file become one.
+  QApplication::clipboard()->setText(QStringLiteral(" you\r\nthere\n"));
+  QTest::keyClick(Box(), Qt::Key_V, Qt::ControlModifier);
+  EXPECT_THAT(Stored(kGameEntry), ElementsAre("Hi\x80 you there"));
+  EXPECT_EQ(Box()->cursorPosition(), Box()->text().size());
 }
 
 TEST_F(ChatPageTest, KeepsOddBytesAndStillRefusesCharacters) {

@@ -78,6 +78,7 @@ class LineValidator : public CodePageValidator {
   using CodePageValidator::CodePageValidator;
 
   State validate(QString& text, int& position) const override {
+    JoinLines(text, position);
     QString plain = text;
     for (QChar& letter : plain) {
       const bool ends_text = letter == u'\0' || letter == u'\t' ||
