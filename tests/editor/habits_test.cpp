@@ -5,6 +5,7 @@
 #include <QCheckBox>
 #include <QDragEnterEvent>
 #include <QDropEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
@@ -226,6 +227,9 @@ TEST_F(Habits, FindsAParameterOrALineAndGoesThere) {
       auto* const box = dialog.findChild<QLineEdit*>(QStringLiteral("txtFind"));
       QTest::keyClicks(box, QLatin1String(words));
       QTest::keyClick(box, Qt::Key_Return);
+      const auto* const hint =
+          dialog.findChild<QLabel*>(QStringLiteral("lblHint"));
+      EXPECT_EQ(hint->text().isEmpty(), !dialog.isVisible());
       if (dialog.isVisible()) dialog.reject();
     });
     Choose("mnuFind");

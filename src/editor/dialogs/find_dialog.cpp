@@ -7,7 +7,6 @@
 #include <algorithm>
 
 #include "chat/chat_catalogue.h"
-#include "editor/dialogs/dialog_parts.h"
 #include "editor/game_text_conversion.h"
 #include "editor/pages/page_table.h"
 #include "editor/parameter_names.h"
@@ -24,7 +23,10 @@ constexpr int kMostLineLetters = 120;
 }  // namespace
 
 frmFind::frmFind(const Bot& bot, QWidget* parent)
-    : QDialog(parent), box_(new QLineEdit(this)), list_(new QListWidget(this)) {
+    : QDialog(parent),
+      box_(new QLineEdit(this)),
+      list_(new QListWidget(this)),
+      hint_(new HintLine(1, this)) {
   setObjectName(QStringLiteral("frmFind"));
   setWindowTitle(QStringLiteral("Find"));
   auto* const label = new QLabel(
@@ -41,6 +43,7 @@ frmFind::frmFind(const Bot& bot, QWidget* parent)
   column->addWidget(label);
   column->addWidget(box_);
   column->addWidget(list_, 1);
+  column->addWidget(hint_);
   column->addWidget(
       MakeButtons(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this));
   connect(box_, &QLineEdit::textChanged, this, &frmFind::ShowMatches);
@@ -125,6 +128,9 @@ void frmFind::ShowMatches() {
     list_->addItem(entry.text);
   }
   list_->setCurrentRow(0);
+  hint_->Say(list_->count() > 0
+                 ? QString()
+                 : QStringLiteral("No parameter and no chat line has this."));
 }
 
 FindingPlace frmFind::Chosen() const {

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "checks/finding.h"
+#include "editor/dialogs/dialog_parts.h"
 #include "model/bot.h"
 
 namespace fragsmith {
@@ -44,6 +45,7 @@ class frmFind : public QDialog {
   std::vector<std::size_t> matches_;
   QLineEdit* box_;
   QListWidget* list_;
+  HintLine* hint_;
 };
 
 }  // namespace fragsmith
