@@ -15,6 +15,7 @@
 #include "botfiles/weight_file.h"
 #include "chat/chat_catalogue.h"
 #include "chat/chat_file.h"
+#include "checks/bot_checks.h"
 #include "model/characteristic_catalogue.h"
 #include "session/load_bot.h"
 #include "session/load_from_package.h"
@@ -38,14 +39,15 @@ Author TheAuthor() {
 /// line, a text and a text with variables.
 Bot MakeBot() {
   Bot bot = CreateAverageBot(SeededRandom(1));
-  for (int type = 0; type < kChatTypeCount; ++type) {
+  for (const ChatTypeId type : kAllChatTypes) {
     const int pointer = ChatTypeAt(type).Pointers().front();
     bot.SetChatLine(type, 1, "I have seen worse on days that were better.");
     bot.SetChatLine(type, 2,
                     std::string(ChatPointerAt(pointer).Variable) +
                         " should try the {WEAPON}, it is good for {ANIMAL}s.");
   }
-  (void)bot.SetParameter(kNameIndex, std::string("Rookie"));
+  // A bot takes any names.
+  (void)bot.SetParameter(kNameField, std::string("Rookie"));
   (void)bot.SetParameter(kFunNameField, std::string("^1Rookie"));
   return bot;
 }
@@ -87,7 +89,8 @@ using Place = const BotOnDisk& (*)();
 
 void CheckLoaded(const LoadedBot& loaded, const SilentPrompts& prompts,
                  benchmark::State& state) {
-  if (loaded.files_read != 5 || !loaded.notes.empty() || prompts.shown() > 0) {
+  if (loaded.files.size() != 5 || !loaded.notes.empty() ||
+      prompts.shown() > 0) {
     state.SkipWithError("the bot was not read whole");
   }
 }
@@ -135,8 +138,8 @@ void BotParse(benchmark::State& state) {
   for ([[maybe_unused]] auto _ : state) {
     loaded = LoadedBot();
     for (std::size_t file = 0; file < kFiles.size(); ++file) {
-      ReadBotFile(kFiles.at(file), LoadScope::kWholeBot, disk.bytes.at(file),
-                  "rookie", "rookie", loaded);
+      ReadBotFile(kFiles.at(file), WholeBot{}, disk.bytes.at(file), "rookie",
+                  "rookie", loaded);
     }
   }
   CheckLoaded(loaded, prompts, state);
@@ -238,6 +241,15 @@ void FiveEmptyPrograms(benchmark::State& state) {
   }
 }
 
+// What the window does after each edit. No game is there to be asked.
+
+void BotCheck(benchmark::State& state) {
+  const Bot bot = MakeBot();
+  for ([[maybe_unused]] auto _ : state) {
+    benchmark::DoNotOptimize(CheckBot(bot, nullptr));
+  }
+}
+
 BENCHMARK(BotRead)->UseRealTime();
 BENCHMARK(BotReadFloor)->UseRealTime();
 BENCHMARK(BotReadPlain)->UseRealTime();
@@ -250,6 +262,7 @@ BENCHMARK_CAPTURE(BotWriteFloor, memory, &InMemory)->UseRealTime();
 BENCHMARK(BotFormat)->UseRealTime();
 BENCHMARK(BotFormatFloor)->UseRealTime();
 BENCHMARK(BotFromPackage)->UseRealTime();
+BENCHMARK(BotCheck)->UseRealTime();
 BENCHMARK(FiveEmptyPrograms)->UseRealTime();
 
 }  // namespace

@@ -8,8 +8,8 @@
 #include <tuple>
 #include <vector>
 
-#include "install/bot_list.h"
-#include "install/model_catalogue.h"
+#include "install/program/bot_list.h"
+#include "install/program/model_catalogue.h"
 
 namespace fragsmith::bench {
 namespace {

@@ -169,11 +169,11 @@ class ContentsMaker {
   Contents contents_;
 };
 
-constexpr std::size_t kMostFileSize = 8192;
+constexpr std::size_t kMaxFileSize = 8192;
 
 std::string RandomBytes() {
   std::mt19937 generator(1);
-  std::string bytes(8 * kMostFileSize, '\0');
+  std::string bytes(8 * kMaxFileSize, '\0');
   for (char& byte : bytes) byte = static_cast<char>(generator() & 0xFFU);
   return bytes;
 }
@@ -186,7 +186,7 @@ std::string FormatArchive(const std::vector<std::string>& names,
   std::string directory;
   for (const std::string& name : names) {
     const bool is_folder = name.ends_with('/');
-    const std::size_t size = is_folder ? 0 : random.Between(64, kMostFileSize);
+    const std::size_t size = is_folder ? 0 : random.Between(64, kMaxFileSize);
     // A moment of the years 1999 to 2004.
     const std::size_t date = random.Between(19, 24) << 9U |
                              random.Between(1, 12) << 5U |
@@ -204,7 +204,7 @@ std::string FormatArchive(const std::vector<std::string>& names,
     archive += "PK\x03\x04";
     archive += header;
     archive += name;
-    archive.append(kRandomBytes, random.Between(0, 7 * kMostFileSize), size);
+    archive.append(kRandomBytes, random.Between(0, 7 * kMaxFileSize), size);
   }
   const std::string count = Number(names.size(), 2);
   const std::string end = "PK\x05\x06" + Number(0, 4) + count + count +

@@ -1,6 +1,6 @@
 #include <benchmark/benchmark.h>
 
-#include "install/time_zone.h"
+#include "support/system/time_zone.h"
 
 int main(int count, char** arguments) {
   // As the programs do at their start.

@@ -5,13 +5,17 @@ The files are what fragsmith-bench and fragsmith-window-bench wrote with
 --benchmark_out_format=json and some repetitions. Each ratio stands three
 times: of the medians, of the fastest repetitions, which other work on the
 machine disturbs least, and as it was stored before (stored_ratios.json beside
-this script, which --store writes).
+this script, which --store writes). Without --store, what has become clearly
+slower by both is named in the end, and the exit status is 1.
 """
 
 import json
 import pathlib
 import statistics
 import sys
+
+# A ratio of one tree differs by so much between quiet runs.
+TOLERANCE = 1.25
 
 STORED = pathlib.Path(__file__).with_name("stored_ratios.json")
 
@@ -36,6 +40,11 @@ PAIRS = [
     ]),
     ("Load a bot out of a package", [
         ("BotFromPackage", "FiveEmptyPrograms", "start five programs", None),
+        ("BotFromOthers/found", "BotFromOthers/plain",
+         "without looking for its weights", 1.3),
+    ]),
+    ("Edit four of a bot's files in place", [
+        ("BotEdit", "BotEditReading", "read them by both readers", 3),
     ]),
     *[(f"Scan {count} packages, {cache} cache", [
         (f"Scan{cache.title()}/fragsmith/{count}",
@@ -116,6 +125,7 @@ class Table:
     def __init__(self, times):
         self.times = times
         self.medians = {}
+        self.slower = []
         self.before = (json.loads(STORED.read_text(encoding="utf-8"))
                        if STORED.exists() else {})
 
@@ -129,6 +139,8 @@ class Table:
         key = f"{what} : {against}"
         self.medians[key] = round(median, 2)
         before = self.before.get(key)
+        if before is not None and min(median, fastest) > before * TOLERANCE:
+            self.slower.append(f"{key} is {median:.2f}, was {before:.2f}")
         shown = f"{before:9.2f}" if before is not None else f"{'-':>9}"
         verdict = "" if most is None else ("met" if median <= most
                                            else "missed")
@@ -157,6 +169,8 @@ def main():
     if "--store" in sys.argv:
         STORED.write_text(json.dumps(table.before | table.medians, indent=1)
                           + "\n", encoding="utf-8")
+    elif table.slower:
+        sys.exit("\n".join(["", "Slower than stored:", *table.slower]))
 
 
 if __name__ == "__main__":

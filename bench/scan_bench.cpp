@@ -9,7 +9,7 @@
 #include "bench/package_peers.h"
 #include "bench/silent_prompts.h"
 #include "bench/work_folder.h"
-#include "install/base_scan.h"
+#include "install/program/base_scan.h"
 
 namespace fragsmith::bench {
 namespace {

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "support/prompts.h"
 
@@ -20,6 +21,11 @@ class SilentPrompts : public Prompts {
                const std::string& /*text*/) override {
     ++shown_;
     return false;
+  }
+  std::size_t Choose(const std::string& /*title*/, const std::string& /*text*/,
+                     const std::vector<std::string>& /*buttons*/) override {
+    ++shown_;
+    return 0;
   }
   std::optional<std::string> AskText(const std::string& /*title*/,
                                      const std::string& /*prompt*/) override {

@@ -2,7 +2,7 @@
 
 #include <system_error>
 
-#include "support/temporary_folder_system.h"
+#include "support/system/temporary_folder_system.h"
 
 namespace fragsmith::bench {
 

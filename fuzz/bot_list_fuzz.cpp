@@ -2,7 +2,7 @@
 #include <vector>
 
 #include "fuzz/oracle.h"
-#include "install/bot_list_file.h"
+#include "install/program/bot_list_file.h"
 #include "support/text.h"
 
 namespace fragsmith {

@@ -3,13 +3,13 @@
 #include "botfiles/characteristic_file.h"
 #include "fuzz/kept_values.h"
 #include "fuzz/oracle.h"
-#include "session/identity_checks.h"
+#include "session/identity_rules.h"
 #include "support/text.h"
 
 namespace fragsmith {
 namespace {
 
-constexpr IndexRange kIdentity = {kNameIndex, kGenderIndex};
+constexpr IndexRange kIdentity = {kNameField.index(), kGenderField.index()};
 constexpr IndexRange kParameters = {kPerLevelRange.first, kChatRange.last};
 
 ReadReport Read(std::string_view bytes, Bot& bot) {
@@ -29,19 +29,20 @@ void FuzzOne(std::string_view bytes) {
   Bot other;
   ReadCharacteristicFile(bytes, "file", ReadIdentity::kNo, other);
   ExpectEqual("Bot", other.Name(), "the name is not asked for");
-  Expect(first.Parameter(LevelIndex(4, kAttackSkillIndex)) ==
-             other.Parameter(LevelIndex(4, kAttackSkillIndex)),
+  Expect(first.Parameter(ParameterId(Level::k4, kAttackSkillIndex)) ==
+             other.Parameter(ParameterId(Level::k4, kAttackSkillIndex)),
          "values do not hang on the identity");
 
-  if (NameRefusal(first.Name())) (void)first.SetParameter(kNameIndex, "Bot");
+  if (NameRefusal(first.Name())) first.Put(kNameField, "Bot");
   const std::string written = WriteCharacteristicFile(first, {});
   // A text that holds a key feeds that key's parameter.
   if (HasTextWith(first, "CHARACTERISTIC_")) return;
 
   Bot second;
   const ReadReport report = Read(written, second);
-  for (int index = kIdentity.first; index <= kIdentity.last; ++index) {
-    ExpectKept(first.Parameter(index), second.Parameter(index), index);
+  for (const int index : kIdentity) {
+    const ParameterId id(index);
+    ExpectKept(first.Parameter(id), second.Parameter(id), id);
   }
   ExpectKept(first, second, kParameters);
   const bool reads_alike = !HasTextWith(first, "\"") &&

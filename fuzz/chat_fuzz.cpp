@@ -10,11 +10,11 @@ namespace fragsmith {
 
 void FuzzOne(std::string_view bytes) {
   Bot first;
-  ExpectShowable(ReadChatFile(bytes, "file", first));
+  ExpectShowable(ReadChatFile(bytes, "file", first).notes);
   const std::string written = WriteChatFile(first, {});
   Bot second;
   ReadChatFile(written, "file", second);
-  for (int type = 0; type < kChatTypeCount; ++type) {
+  for (const ChatTypeId type : kAllChatTypes) {
     const std::vector<std::string>& lines = first.ChatLines(type);
     const auto count =
         std::count_if(lines.begin(), lines.end(),

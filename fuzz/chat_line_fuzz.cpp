@@ -26,7 +26,7 @@ bool HasFewPieces(std::string_view in_file) {
 }
 
 /// Editor form, file form and back.
-void RoundTrip(int type, const std::string& line) {
+void RoundTrip(ChatTypeId type, const std::string& line) {
   const std::string in_file = ChatLineToFile(type, line);
   const std::string back = ChatLineFromFile(type, in_file).text;
   const std::string again = ChatLineToFile(type, back);
@@ -45,7 +45,8 @@ void RoundTrip(int type, const std::string& line) {
 // The first byte chooses the chat type, the others are a line.
 void FuzzOne(std::string_view bytes) {
   if (bytes.empty()) return;
-  const int type = static_cast<unsigned char>(bytes.front()) % kChatTypeCount;
+  const ChatTypeId type = kAllChatTypes.at(
+      static_cast<unsigned char>(bytes.front()) % kChatTypeCount);
   std::string line = RemoveTabs(bytes.substr(1));
   std::erase_if(line,
                 [](char letter) { return letter == '\r' || letter == '\n'; });

@@ -11,16 +11,19 @@
 namespace fragsmith {
 namespace {
 
-constexpr std::array<int, 4> kTextFields = {kFunNameField, kRailColorField,
-                                            kModelField, kSkinField};
+constexpr std::array kTextFields = {kFunNameField, kRailColorField, kModelField,
+                                    kSkinField};
 
-/// A key within a text feeds its field, wherever it stands.
+/// A key within a text feeds its field, wherever it stands, and a brace by
+/// itself begins another bot.
 bool HasKey(const Bot& bot) {
-  return std::any_of(kTextFields.begin(), kTextFields.end(), [&](int field) {
-    const std::string text = ToLower(bot.Text(field));
-    return Contains(text, "funname") || Contains(text, "color") ||
-           Contains(text, "model") || Contains(text, "arenalord");
-  });
+  return std::any_of(
+      kTextFields.begin(), kTextFields.end(), [&](ParameterId field) {
+        const std::string text = ToLower(bot.Text(field));
+        return Contains(text, "funname") || Contains(text, "color") ||
+               Contains(text, "model") || Contains(text, "arenalord") ||
+               Contains(text, "{");
+      });
 }
 
 /// The game takes one word behind a key, which must not be its own syntax; the

@@ -19,16 +19,18 @@ namespace {
 
 constexpr IndexRange kParameters = {kPerLevelRange.first,
                                     kItemWeightRange.last};
-constexpr std::array<int, 6> kWrittenFields = {kNameIndex,    kGenderIndex,
-                                               kFunNameField, kRailColorField,
-                                               kModelField,   kSkinField};
+constexpr std::array kWrittenFields = {kNameField,    kGenderField,
+                                       kFunNameField, kRailColorField,
+                                       kModelField,   kSkinField};
 constexpr std::array<std::string_view, 8> kSyntax = {
     "\"",        "funname", "color",           "model",
     "arenalord", "type",    "characteristic_", "#define "};
 
 /// The bot of a document that passes all checks.
 std::optional<Bot> BotOf(std::string_view json) {
-  Result<BotDocument> document = ReadBotDocument(json);
+  Notes notes;
+  Result<BotDocument> document = ReadBotDocument(json, "file", notes);
+  ExpectShowable(notes);
   if (!document) {
     ExpectShowable(Describe(document.error()));
     return std::nullopt;
@@ -41,7 +43,7 @@ std::optional<Bot> BotOf(std::string_view json) {
 /// True for texts with syntax of the files in them, which say something else
 /// there.
 bool IsAmbiguous(const Bot& bot) {
-  const auto is_ambiguous = [&bot](int field) {
+  const auto is_ambiguous = [&bot](ParameterId field) {
     const std::string text = ToLower(bot.Text(field));
     return text.ends_with(';') || std::any_of(kSyntax.begin(), kSyntax.end(),
                                               [&](std::string_view part) {
@@ -58,7 +60,7 @@ bool IsAmbiguous(const Bot& bot) {
 Bot ThroughFiles(const Bot& bot) {
   LoadedBot loaded;
   const auto read = [&](BotFile file, const std::string& bytes) {
-    ReadBotFile(file, LoadScope::kWholeBot, bytes, bot.Name(), "file", loaded);
+    ReadBotFile(file, WholeBot{}, bytes, bot.Name(), "file", loaded);
   };
   read(BotFile::kCharacteristics, WriteCharacteristicFile(bot, {}));
   read(BotFile::kItemWeights, WriteItemWeightFile(bot, {}));

@@ -15,16 +15,16 @@
 namespace fragsmith {
 namespace {
 
-/// The indices that the bot's accessor takes for a range of the catalogue.
-std::vector<int> ParametersOf(IndexRange range) {
-  std::vector<int> parameters;
-  for (int index = range.first; index <= range.last; ++index) {
+/// All parameters of a range of the catalogue.
+std::vector<ParameterId> ParametersOf(IndexRange range) {
+  std::vector<ParameterId> parameters;
+  for (const int index : range) {
     if (!kPerLevelRange.Contains(index)) {
-      parameters.push_back(index);
+      parameters.emplace_back(index);
       continue;
     }
-    for (const int level : kSkillLevels) {
-      parameters.push_back(LevelIndex(level, index));
+    for (const Level level : kLevels) {
+      parameters.emplace_back(level, index);
     }
   }
   return parameters;
@@ -37,17 +37,16 @@ bool IsPointText(const Value& value) {
 
 bool AnyValue(const Bot& bot, IndexRange range,
               const std::function<bool(const Value&)>& holds) {
-  const std::vector<int> parameters = ParametersOf(range);
-  return std::any_of(parameters.begin(), parameters.end(), [&](int parameter) {
-    return holds(bot.Parameter(parameter));
-  });
+  const std::vector<ParameterId> parameters = ParametersOf(range);
+  return std::any_of(parameters.begin(), parameters.end(),
+                     [&](ParameterId id) { return holds(bot.Parameter(id)); });
 }
 
 }  // namespace
 
-void ExpectKept(const Value& before, const Value& after, int parameter) {
+void ExpectKept(const Value& before, const Value& after, ParameterId id) {
   if (IsPointText(before)) return;
-  const std::string place = "parameter " + std::to_string(parameter);
+  const std::string place = "parameter " + std::to_string(id.number());
   const std::optional<double> number = ToNumber(before);
   if (!number) return ExpectEqual(ToText(before), ToText(after), place);
   const std::optional<double> kept = ToNumber(after);
@@ -59,13 +58,11 @@ void ExpectKept(const Value& before, const Value& after, int parameter) {
 }
 
 void ExpectKept(const Bot& before, const Bot& after, IndexRange range) {
-  for (const int parameter : ParametersOf(range)) {
-    const Value& value = before.Parameter(parameter);
-    const bool is_written = IsAboveZero(value) ||
-                            !kOptionalRange.Contains(parameter % 100) ||
-                            !kPerLevelRange.Contains(parameter % 100);
-    ExpectKept(is_written ? value : Value(), after.Parameter(parameter),
-               parameter);
+  for (const ParameterId id : ParametersOf(range)) {
+    const Value& value = before.Parameter(id);
+    const bool is_written = IsAboveZero(value) || !id.level() ||
+                            !kOptionalRange.Contains(id.index());
+    ExpectKept(is_written ? value : Value(), after.Parameter(id), id);
   }
 }
 

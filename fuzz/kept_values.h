@@ -13,7 +13,7 @@ namespace fragsmith {
 /// the same text, or the number without its sign in the digits that a file
 /// has. A text that is a number with a point is not compared: files hold
 /// numbers, and of these they lose the fourth digit behind the point.
-void ExpectKept(const Value& before, const Value& after, int parameter);
+void ExpectKept(const Value& before, const Value& after, ParameterId id);
 
 /// The same for all parameters of the range. Values that a file has only when
 /// they are above 0 are empty without.

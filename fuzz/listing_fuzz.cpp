@@ -1,9 +1,9 @@
 #include <string>
 
 #include "fuzz/oracle.h"
-#include "install/base_scan.h"
-#include "install/bot_list_file.h"
-#include "install/model_list_file.h"
+#include "install/program/base_scan.h"
+#include "install/program/bot_list_file.h"
+#include "install/program/model_list_file.h"
 #include "tests/support/scripted_prompts.h"
 
 namespace fragsmith {

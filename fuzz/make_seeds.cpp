@@ -17,13 +17,14 @@
 #include "chat/chat_file.h"
 #include "chat/chat_line.h"
 #include "chat/synonym_list.h"
-#include "install/bot_list_file.h"
-#include "install/model_list_file.h"
-#include "install/package.h"
-#include "install/package_directory.h"
-#include "install/settings_file.h"
+#include "install/packages/package_directory.h"
+#include "install/packages/package_writer.h"
+#include "install/program/bot_list_file.h"
+#include "install/program/model_list_file.h"
+#include "install/program/settings_file.h"
 #include "model/characteristic_catalogue.h"
 #include "session/bot_document.h"
+#include "session/draft.h"
 #include "session/presets.h"
 
 namespace fragsmith {
@@ -34,28 +35,29 @@ using Seeds = std::map<std::string, std::vector<std::string>>;
 /// A bot with every kind of value and every group, word list and pointer.
 Bot MakeOddBot() {
   Bot bot = CreateZeroBot();
-  (void)bot.SetParameter(kNameIndex, "Odd");
+  // What a bot refuses is not among these.
+  (void)bot.SetParameter(kNameField, "Odd");
   (void)bot.SetParameter(kFunNameField, "\"^1O d^2d\"");
   (void)bot.SetParameter(kRailColorField, 4.0);
   (void)bot.SetParameter(kModelField, "TankJr");
   (void)bot.SetParameter(kSkinField, "Red");
   (void)bot.SetParameter(kArenaLordField, 1.0);
   int step = 0;
-  for (const int level : kSkillLevels) {
-    for (int index = kPerLevelRange.first; index <= kPerLevelRange.last;
-         ++index) {
+  for (const Level level : kLevels) {
+    for (const int index : kPerLevelRange) {
       const std::vector<Value> values = {0.5F,   -2.5F,   250.0, -1.0,
                                          "word", Value(), " 7 ", "0.1234"};
       const auto place = static_cast<std::size_t>(step++) % values.size();
-      (void)bot.SetParameter(LevelIndex(level, index), values[place]);
+      (void)bot.SetParameter(ParameterId(level, index), values[place]);
     }
   }
   for (int group = 0; group < static_cast<int>(kChatGroups.size()); ++group) {
-    bot.SetChatLine(group % kChatTypeCount,
-                    bot.HighestChatLine(group % kChatTypeCount) + 1,
+    const ChatTypeId type =
+        kAllChatTypes.at(static_cast<std::size_t>(group) % kChatTypeCount);
+    bot.SetChatLine(type, bot.HighestChatLine(type) + 1,
                     GroupMember(group, std::to_string(group % 4)));
   }
-  for (int type = 0; type < kChatTypeCount; ++type) {
+  for (const ChatTypeId type : kAllChatTypes) {
     const auto add = [&](const std::string& line) {
       bot.SetChatLine(type, bot.HighestChatLine(type) + 1, line);
     };
@@ -90,12 +92,24 @@ void AddBotSeeds(const Bot& bot, Seeds& seeds) {
     seeds["game_files"].push_back(std::string(1, file++) + seeds[kind].back());
   }
   seeds["document"].push_back(WriteBotDocument(bot));
-  for (int type = 0; type < kChatTypeCount; ++type) {
+  seeds["draft"].push_back(WriteDraft({.bot = bot}));
+  for (const ChatTypeId type : kAllChatTypes) {
     const std::string choice(1, static_cast<char>(type));
     for (const std::string& line : bot.ChatLines(type)) {
       seeds["chat_line"].push_back(choice + line);
       seeds["chat_line"].push_back(choice + ChatLineToFile(type, line));
     }
+  }
+}
+
+/// The kind of file, which value of it is edited, to what, and the last file
+/// of each kind: see edit_fuzz.cpp.
+void AddEditSeeds(Seeds& seeds) {
+  char kind = 0;
+  for (const char* const name : {"description", "characteristic", "chat",
+                                 "item_weights", "weapon_weights"}) {
+    seeds["edit"].push_back(std::string{kind, '\5', kind} + seeds[name].back());
+    ++kind;
   }
 }
 
@@ -143,6 +157,12 @@ void AddHandMadeSeeds(Seeds& seeds) {
       "\"versionMajor\":\"1.5\",\"levels\":{\"4\":"
       "{\"CHARACTERISTIC_AIM_SKILL\":-0.25,\"CHARACTERISTIC_CAMPER\":\"\\u20ac"
       "\"}},\"chats\":{\"random_misc\":[\"\",\"{WEATHER} or {RANDOMOPP2}\"]}}");
+  seeds["document"].push_back(
+      R"({"format": 2, "name": "Newt", "tags": [1], "levels": {"3": {}, "4": )"
+      R"({"CHARACTERISTIC_FLY": 1}}, "chats": {"game_pause": ["x"]}})");
+  seeds["draft"].push_back(
+      R"({"format": 2, "bot": {"format": 2, "name": "a / b", "x": 1}, "y": 2})");
+  seeds["draft"].push_back(R"({"funName": "\"a\"", "versionMajor": "x"})");
   const std::string many_digits(400, '9');
   for (const std::string& document : std::initializer_list<std::string>{
            "{\"levels\":{\"2\":{}}}", "{\"comment\":\"a\\nb\"}",
@@ -200,11 +220,11 @@ std::string LowestFirst(std::uint64_t number, int count) {
 /// The end of a package that claims a huge table of contents, once in the
 /// record of small archives and once in that of large ones.
 std::string LongEnd() {
-  const std::string claim = LowestFirst(kMostDirectoryBytes + 1, 8);
+  const std::string claim = LowestFirst(kMaxDirectoryBytes + 1, 8);
   const std::string end = "PK\x05\x06" + std::string(8, '\0');
   return "PK\x06\x06" + std::string(36, '\0') + claim + std::string(8, '\0') +
          "PK\x06\x07" + std::string(4, '\0') +
-         LowestFirst(kMostDirectoryBytes, 8) + std::string(4, '\0') + end +
+         LowestFirst(kMaxDirectoryBytes, 8) + std::string(4, '\0') + end +
          std::string(10, '\xFF') + end + claim.substr(0, 4) +
          std::string(6, '\0');
 }
@@ -290,8 +310,10 @@ int main(int count, char** arguments) {
   }
   Seeds seeds;
   AddBotSeeds(MakeOddBot(), seeds);
+  AddEditSeeds(seeds);
   AddBotSeeds(CreateAverageBot([] { return 0.5; }), seeds);
   AddHandMadeSeeds(seeds);
+  AddEditSeeds(seeds);
   AddListSeeds(seeds);
   AddPackageSeeds(seeds);
   AddTargaSeeds(seeds);

@@ -2,8 +2,8 @@
 #include <vector>
 
 #include "fuzz/oracle.h"
-#include "install/game_folder.h"
-#include "install/model_list_file.h"
+#include "install/program/game_folder.h"
+#include "install/program/model_list_file.h"
 #include "support/text.h"
 
 namespace fragsmith {

@@ -7,9 +7,10 @@
 #include <vector>
 
 #include "fuzz/oracle.h"
-#include "install/package.h"
-#include "install/package_directory.h"
-#include "install/unzip_command.h"
+#include "install/packages/package.h"
+#include "install/packages/package_directory.h"
+#include "install/packages/package_writer.h"
+#include "install/packages/unzip_command.h"
 #include "support/files.h"
 #include "support/temporary_folder.h"
 #include "support/text.h"
@@ -77,8 +78,8 @@ void ReadHostile(const Place& place, std::string_view bytes,
   }
   ExpectEqual(listing, *ListPackage(place.package, notes), "the listing");
 
-  constexpr std::size_t kMostNames = 4;
-  for (std::size_t at = 0; at < std::min(names->size(), kMostNames); ++at) {
+  constexpr std::size_t kMaxNames = 4;
+  for (std::size_t at = 0; at < std::min(names->size(), kMaxNames); ++at) {
     for (const std::string& name : {names->at(at), ToLower(names->at(at))}) {
       const auto entry = ReadPackageEntry(place.package, name, kLimit);
       if (!entry) {
@@ -95,10 +96,10 @@ void ReadHostile(const Place& place, std::string_view bytes,
 std::vector<PackageEntry> EntriesFrom(std::string_view bytes) {
   constexpr std::size_t kNameBytes = 12;
   constexpr std::size_t kEntryBytes = 80;
-  constexpr std::size_t kMostEntries = 8;
+  constexpr std::size_t kMaxEntries = 8;
   std::vector<PackageEntry> entries;
   std::set<std::string> used;
-  for (; !bytes.empty() && entries.size() < kMostEntries;
+  for (; !bytes.empty() && entries.size() < kMaxEntries;
        bytes.remove_prefix(std::min(bytes.size(), kEntryBytes))) {
     const std::string name(bytes.substr(0, kNameBytes));
     const bool is_usable =
@@ -142,7 +143,7 @@ void FuzzOne(std::string_view bytes) {
   static const Place place;
   ReadHostile(place, bytes, 0);
   // From this size on the end of the file is looked at first.
-  ReadHostile(place, bytes, kMostDirectoryBytes);
+  ReadHostile(place, bytes, kMaxDirectoryBytes);
   const std::vector<PackageEntry> entries = EntriesFrom(bytes);
   if (!entries.empty()) WriteAndRead(place, entries);
 }

@@ -1,7 +1,7 @@
 #include <string>
 
 #include "fuzz/oracle.h"
-#include "install/settings_file.h"
+#include "install/program/settings_file.h"
 #include "support/text.h"
 
 namespace fragsmith {

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "fuzz/oracle.h"
-#include "install/targa.h"
+#include "install/packages/targa.h"
 
 namespace fragsmith {
 namespace {
@@ -34,8 +34,8 @@ void FuzzOne(std::string_view bytes) {
   const Result<Picture> picture = DecodeTarga(bytes);
   if (!picture) return;
   const bool is_bounded =
-      picture->width > 0 && picture->width <= kMostPictureSide &&
-      picture->height > 0 && picture->height <= kMostPictureSide;
+      picture->width > 0 && picture->width <= kMaxPictureSide &&
+      picture->height > 0 && picture->height <= kMaxPictureSide;
   Expect(is_bounded, "the size is within its bounds");
   Expect(picture->pixels.size() ==
              static_cast<std::size_t>(picture->width) *

@@ -13,7 +13,7 @@ namespace fragsmith {
 /// Both weight files are read and written in the same way.
 inline void FuzzWeightFile(std::string_view bytes, IndexRange range,
                            decltype(ReadItemWeightFile) read,
-                           decltype(WriteItemWeightFile) write) {
+                           std::string (*write)(const Bot&, const Author&)) {
   Bot first;
   ExpectShowable(read(bytes, "file", first).notes);
   const std::string written = write(first, {});

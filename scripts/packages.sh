@@ -4,8 +4,10 @@
 packages_build=(g++ cmake ninja-build pkg-config libzip-dev libstb-dev
   libexpected-dev libcli11-dev nlohmann-json3-dev libgtest-dev libgmock-dev
   qt6-base-dev libgl-dev fonts-dejavu-core)
-packages_checks=(clang clang-format clang-tidy libclang-rt-dev git python3)
+packages_checks=(clang clang-format clang-tidy libclang-rt-dev libclang-dev
+  llvm-dev python3-clang ccache git python3)
 packages_bench=(libbenchmark-dev libarchive-dev libminizip-dev unzip)
+packages_fonts=(fonts-dejavu-core fonts-noto-mono)
 packages_window=(xvfb xauth openbox xdotool dbus at-spi2-core python3-gi
   gir1.2-atspi-2.0)
 packages_pictures=(imagemagick python3)
@@ -13,6 +15,7 @@ packages_trust=(python3 valgrind)
 packages_windows=(cmake ninja-build pkg-config dpkg-dev
   g++-mingw-w64-x86-64-posix libz-mingw-w64-dev libstb-dev libexpected-dev
   libcli11-dev nlohmann-json3-dev googletest)
+packages_installer=(nsis)
 packages_wine=(wine wine64 python3)
 packages_packaging=(dpkg-dev lintian desktop-file-utils appstream file
   shared-mime-info libglib2.0-bin passwd util-linux gzip python3)

@@ -12,16 +12,16 @@
 #include <memory>
 
 #include "bench/silent_prompts.h"
-#include "editor/current_bot.h"
 #include "editor/frm_main.h"
-#include "editor/identity_panel.h"
 #include "editor/main_menu.h"
-#include "editor/model_selector.h"
-#include "editor/notes_bar.h"
-#include "editor/page_strip.h"
-#include "editor/pages/page_table.h"
+#include "editor/pages/page_strip.h"
 #include "editor/pages/parameter_page.h"
-#include "editor/program_state.h"
+#include "editor/panels/identity_panel.h"
+#include "editor/panels/model_selector.h"
+#include "editor/panels/notes_bar.h"
+#include "editor/state/current_bot.h"
+#include "editor/state/program_state.h"
+#include "editor/toolkit/page_table.h"
 #include "session/presets.h"
 
 namespace fragsmith::bench {

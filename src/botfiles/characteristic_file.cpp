@@ -8,8 +8,11 @@
 #include <cstdint>
 #include <optional>
 #include <system_error>
+#include <utility>
 
+#include "botfiles/character_words.h"
 #include "botfiles/keyed_line.h"
+#include "botfiles/left_out.h"
 #include "botfiles/value_format.h"
 #include "model/characteristic_catalogue.h"
 #include "support/numbers.h"
@@ -21,32 +24,32 @@ namespace {
 /// Writes the lines of one level's block.
 class BlockWriter {
  public:
-  BlockWriter(const Bot& bot, int level, std::string& text)
+  BlockWriter(const Bot& bot, Level level, std::string& text)
       : bot_(bot), level_(level), text_(text) {}
 
   void Write() {
     EndLine();
-    text_ += "skill " + std::to_string(level_);
+    text_ += "skill " + std::to_string(NumberOf(level_));
     EndLine();
     text_ += '{';
     EndLine();
 
-    Entry(kNameIndex, bot_.Parameter(kNameIndex));
-    Entry(kGenderIndex, bot_.Parameter(kGenderIndex));
+    SingleEntry(kNameField);
+    SingleEntry(kGenderField);
     Entry(kAttackSkillIndex, LevelValue(kAttackSkillIndex));
-    FileEntry(kWeaponWeightsIndex);
+    FileEntry(kWeaponFileField);
     LevelEntries({3, 6});
     Entry(kReactionTimeIndex, WithDoublePrecision(kReactionTimeIndex));
     EndLine();
-    FileEntry(kChatFileIndex);
-    Entry(kChatNameIndex, bot_.Parameter(kChatNameIndex));
-    for (int index = kChatRange.first; index <= kChatRange.last; ++index) {
-      Entry(index, bot_.Parameter(index));
+    FileEntry(kChatFileField);
+    SingleEntry(kChatNameField);
+    for (const int index : kChatRange) {
+      SingleEntry(ParameterId(index));
     }
     EndLine();
     LevelEntries({8, 11});
     EndLine();
-    FileEntry(kItemWeightsIndex);
+    FileEntry(kItemFileField);
     LevelEntries({12, 15});
     EndLine();
     LevelEntries({16, 17});
@@ -65,7 +68,7 @@ class BlockWriter {
 
  private:
   const Value& LevelValue(int index) const {
-    return bot_.Parameter(LevelIndex(level_, index));
+    return bot_.Parameter(ParameterId(level_, index));
   }
 
   /// The value that the user sees, free of the float's own limits.
@@ -84,16 +87,16 @@ class BlockWriter {
     EndLine();
   }
 
-  void FileEntry(int index) { Entry(index, "bots/" + bot_.Text(index)); }
+  void SingleEntry(ParameterId id) { Entry(id.index(), bot_.Parameter(id)); }
+
+  void FileEntry(ParameterId id) { Entry(id.index(), "bots/" + bot_.Text(id)); }
 
   void LevelEntries(IndexRange range) {
-    for (int index = range.first; index <= range.last; ++index) {
-      Entry(index, LevelValue(index));
-    }
+    for (const int index : range) Entry(index, LevelValue(index));
   }
 
   const Bot& bot_;
-  int level_;
+  Level level_;
   std::string& text_;
 };
 
@@ -118,8 +121,16 @@ std::optional<int> SkillLevelOf(std::string_view line) {
   return read.ec == std::errc() ? level : -1;
 }
 
-bool IsKnownLevel(std::optional<int> level) {
-  return level && std::count(kSkillLevels.begin(), kSkillLevels.end(), *level);
+/// What is left of a line when all is taken off that the game passes over in
+/// front of a block. Comments and a byte order mark are off already.
+std::string_view WithoutBraces(std::string_view code) {
+  const std::size_t start = code.find_first_not_of("} \t");
+  return start == std::string_view::npos ? std::string_view()
+                                         : code.substr(start);
+}
+
+std::optional<Level> KnownLevel(std::optional<int> number) {
+  return number ? LevelOfNumber(*number) : std::nullopt;
 }
 
 /// Every key begins so, and one walk over a line is enough for them all.
@@ -143,9 +154,9 @@ std::optional<int> KeyIn(std::string_view line) {
   std::uint64_t stands = 0;
   std::uint64_t is_continued = 0;
   static_assert(kKeyCount <= 64);
-  for (std::size_t place = line.find(kStart); place != std::string_view::npos;
-       place = line.find(kStart, place + kStart.size())) {
-    const std::string_view rest = line.substr(place);
+  for (std::size_t offset = line.find(kStart); offset != std::string_view::npos;
+       offset = line.find(kStart, offset + kStart.size())) {
+    const std::string_view rest = line.substr(offset);
     if (rest.size() == kStart.size()) break;
     for (std::size_t index = 0; index < kKeyCount; ++index) {
       if (kLetters[index] != rest[kStart.size()]) continue;
@@ -162,12 +173,147 @@ std::optional<int> KeyIn(std::string_view line) {
   return std::countr_zero(stands);
 }
 
-std::string SkippedLevelText(std::optional<int> level) {
-  return level ? "A bot holds the levels 1, 4 and 5 only: the values of this "
-                 "block are passed over."
-               : "Values before the first \"skill\" line belong to no level "
-                 "and are passed over.";
+std::string LevelText(std::optional<int> level) {
+  return level ? "level " + std::to_string(*level) : "no level";
 }
+
+/// One characteristic file on its way into a bot: line by line by the reading
+/// rules, and beside it word by word as the game reads it.
+class CharacterReader {
+ public:
+  CharacterReader(const std::string& file, ReadIdentity identity, Bot& bot)
+      : identity_(identity),
+        left_out_(file, {"chars.h"}),
+        reader_(file, bot, report_),
+        words_(left_out_) {}
+
+  ReadReport Read(std::string_view bytes) {
+    const std::size_t header_end = HeaderLineCount(bytes);
+    LineReader lines(bytes);
+    while (const std::optional<std::string_view> line = lines.Next()) {
+      const std::string_view code = comments_.Strip(*line);
+      const auto start = static_cast<std::size_t>(line->data() - bytes.data());
+      const KeyedLine keyed = {lines.number(), *line, code, start};
+      if (comments_.had_words() && keyed.number > header_end) {
+        left_out_.AddComment(keyed.number);
+      }
+      // The game first: a line may begin a block for both.
+      const auto& found = words_.TakeLine(code, keyed.number);
+      TakeByRules(keyed);
+      for (const CharacterWords::Found& value : found) TakeAsGame(value);
+    }
+    for (const CharacterWords::Found& value : words_.Finish()) {
+      TakeAsGame(value);
+    }
+    if (!bare_.empty()) {
+      reader_.AddNote(first_bare_,
+                      "Without quotes around these texts the game does not "
+                      "read the file; a save puts them on: " +
+                          bare_.Text() + ".");
+    }
+    reader_.Finish();
+    left_out_.Tell(report_.notes);
+    report_.missing_includes = left_out_.missing_includes();
+    return std::move(report_);
+  }
+
+ private:
+  void TakeByRules(const KeyedLine& line) {
+    if (OpensLevel(line)) return;
+    if (IsPassedOver(line.text)) return;
+    const std::optional<int> key = KeyIn(line.text);
+    if (!key) return;
+    if (*key <= kGenderField.index()) {
+      if (identity_ == ReadIdentity::kYes)
+        reader_.Take(line, ParameterId(*key));
+    } else if (!kPerLevelRange.Contains(*key)) {
+      reader_.Take(line, ParameterId(*key));
+    } else if (const auto level = KnownLevel(level_)) {
+      const IsTold is_told = TellOtherLevel();
+      reader_.Take(line, {*level, *key}, is_told);
+    } else if (!is_skip_noted_) {
+      reader_.AddNote(
+          line.number,
+          level_ ? "A bot holds the levels 1, 4 and 5 only: the values of " +
+                       LevelText(level_) + " are passed over."
+                 : "Values before the first \"skill\" line belong to no level "
+                   "and are passed over.");
+      is_skip_noted_ = true;
+    }
+  }
+
+  bool OpensLevel(const KeyedLine& line) {
+    std::optional<int> opened = SkillLevelOf(line.text);
+    if (!opened) {
+      opened = SkillLevelOf(WithoutBraces(line.code));
+      if (!opened) return false;
+      reader_.AddNote(line.number,
+                      "As in the game, " + LevelText(opened) +
+                          " begins here, though something stands in front of "
+                          "\"skill\". A save leaves that out.");
+    }
+    level_ = opened;
+    level_line_ = line.number;
+    is_skip_noted_ = false;
+    return true;
+  }
+
+  void TakeAsGame(const CharacterWords::Found& found) {
+    const std::optional<Level> level = KnownLevel(words_.level());
+    if (level) report_.given.insert({*level, found.key});
+    const bool is_text = found.key <= kGenderField.index() ||
+                         found.key >= kChatFileField.index();
+    if (is_text && found.is_bare) {
+      if (bare_.empty()) first_bare_ = found.line;
+      bare_.Add(std::string(BareKey(found.key)));
+    }
+    if (found.key >= kChatFileField.index()) {
+      return report_.names.push_back({std::string(BareKey(found.key)),
+                                      found.line, ParameterId(found.key),
+                                      ToText(found.value)});
+    }
+    if (found.key <= kGenderField.index() && identity_ == ReadIdentity::kNo)
+      return;
+    if (!kPerLevelRange.Contains(found.key)) {
+      return reader_.TakeAsGame(found.line, ParameterId(found.key),
+                                found.value);
+    }
+    const IsTold is_told = TellOtherLevel();
+    if (!level || words_.is_repeated()) return;
+    reader_.TakeAsGame(found.line, {*level, found.key}, found.value, is_told);
+  }
+
+  /// Tells once of each block whose level is another to the game.
+  IsTold TellOtherLevel() {
+    const bool is_other = words_.level() != level_;
+    if (!is_other && !words_.is_repeated()) return IsTold::kNo;
+    const std::size_t line =
+        is_other ? std::max(words_.level_line(), level_line_) : level_line_;
+    if (std::exchange(told_line_, line) == line) return IsTold::kYes;
+    reader_.AddNote(
+        line, is_other
+                  ? "The values from here on are read as those of " +
+                        LevelText(level_) + ", but the game takes them for " +
+                        LevelText(words_.level()) + "."
+                  : "There was a block of " + LevelText(level_) +
+                        " before. The values of this one count here, but the "
+                        "game takes the first.");
+    return IsTold::kYes;
+  }
+
+  ReadIdentity identity_;
+  ReadReport report_;
+  LeftOut left_out_;
+  ValueReader reader_;
+  CharacterWords words_;
+  CommentStripper comments_;
+  std::optional<int> level_;
+  std::size_t level_line_ = 0;
+  std::size_t told_line_ = 0;
+  bool is_skip_noted_ = false;
+  NameList bare_;  ///< Keys of texts without quotes.
+  std::size_t first_bare_ = 0;
+};
 
 }  // namespace
 
@@ -176,7 +322,7 @@ std::string WriteCharacteristicFile(const Bot& bot, const Author& author) {
   text += kLineEnd;
   text += "#include \"chars.h\"";
   text += kLineEnd;
-  for (const int level : kSkillLevels) BlockWriter(bot, level, text).Write();
+  for (const Level level : kLevels) BlockWriter(bot, level, text).Write();
   return text;
 }
 
@@ -184,40 +330,11 @@ ReadReport ReadCharacteristicFile(std::string_view bytes,
                                   const std::string& file_name,
                                   ReadIdentity identity, Bot& bot) {
   if (identity == ReadIdentity::kYes) {
-    (void)bot.SetParameter(kCommentField, std::string());
-    (void)bot.SetParameter(kVersionMajorField, 0.0);
-    (void)bot.SetParameter(kVersionMinorField, 0.0);
+    bot.Put(kCommentField, std::string());
+    bot.Put(kVersionMajorField, 0.0);
+    bot.Put(kVersionMinorField, 0.0);
   }
-  ReadReport report;
-  ValueReader reader(file_name, bot, report);
-  CommentStripper comments;
-  std::optional<int> level;
-  bool is_skip_noted = false;
-
-  LineReader lines(bytes);
-  while (const std::optional<std::string_view> line = lines.Next()) {
-    const std::string_view code = comments.Strip(*line);
-    if (IsPassedOver(*line)) continue;
-    if (const std::optional<int> opened = SkillLevelOf(*line)) {
-      level = opened;
-      is_skip_noted = false;
-      continue;
-    }
-    const std::optional<int> key = KeyIn(*line);
-    if (!key) continue;
-    const KeyedLine keyed = {lines.number(), *line, code};
-    if (*key <= kGenderIndex) {
-      if (identity == ReadIdentity::kYes) reader.Take(keyed, *key, *key);
-    } else if (!kPerLevelRange.Contains(*key)) {
-      reader.Take(keyed, *key, *key);
-    } else if (IsKnownLevel(level)) {
-      reader.Take(keyed, *key, LevelIndex(*level, *key));
-    } else if (!is_skip_noted) {
-      reader.AddNote(lines.number(), SkippedLevelText(level));
-      is_skip_noted = true;
-    }
-  }
-  return report;
+  return CharacterReader(file_name, identity, bot).Read(bytes);
 }
 
 }  // namespace fragsmith

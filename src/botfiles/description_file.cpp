@@ -5,8 +5,11 @@
 #include <optional>
 #include <utility>
 
+#include "botfiles/description_blocks.h"
 #include "botfiles/game_text.h"
+#include "botfiles/left_out.h"
 #include "botfiles/value_format.h"
+#include "model/characteristic_catalogue.h"
 #include "support/code_page.h"
 #include "support/numbers.h"
 #include "support/text.h"
@@ -40,40 +43,45 @@ ModelAndSkin SplitModel(std::string_view text) {
 std::optional<std::string_view> TextBehind(std::string_view line,
                                            std::string_view lower_line,
                                            std::string_view key) {
-  const std::size_t place = lower_line.find(key);
-  if (place == std::string_view::npos) return std::nullopt;
-  return line.substr(place + key.size());
+  const std::size_t offset = lower_line.find(key);
+  if (offset == std::string_view::npos) return std::nullopt;
+  return line.substr(offset + key.size());
 }
 
-std::string_view FieldName(int field) {
-  switch (field) {
-    case kFunNameField:
+std::string_view FieldName(ParameterId field) {
+  switch (field.index()) {
+    case kFunNameField.index():
       return "funname";
-    case kRailColorField:
+    case kRailColorField.index():
       return "color";
-    case kModelField:
+    case kModelField.index():
       return "model";
-    case kSkinField:
+    case kSkinField.index():
       return "skin";
     default:
       return "arenaLord";
   }
 }
 
+constexpr ParameterId kReadFields[] = {
+    kFunNameField, kRailColorField, kModelField, kSkinField, kArenaLordField};
+
 /// One description on its way into a bot.
 class DescriptionReader {
  public:
   DescriptionReader(const std::string& file, Bot& bot)
-      : file_(file), bot_(bot) {
-    for (const int field : {kFunNameField, kRailColorField, kModelField,
-                            kSkinField, kArenaLordField}) {
-      plain_.emplace(field, bot.Parameter(field));
+      : file_(file), left_out_(file), bot_(bot) {
+    for (const ParameterId field : kReadFields) {
+      plain_.insert_or_assign(field,
+                              std::pair(bot.Parameter(field), std::size_t{0}));
     }
   }
 
-  void TakeLine(std::string_view line, std::size_t number) {
+  void TakeLine(std::string_view line, std::size_t number, std::size_t start) {
     line_ = number;
-    TakePlainPairs(comments_.Strip(line));
+    line_span_ = {start, start + line.size()};
+    if (report_.block.empty()) report_.block = line_span_;
+    report_.block.end = line_span_.end;
     if (line == "{" || line == "}") return;
     const std::string without_tabs = RemoveTabs(line);
     const std::string lower = ToLower(without_tabs);
@@ -87,30 +95,98 @@ class DescriptionReader {
       Store(kRailColorField, NumberOrText(*text));
     }
     if (const auto text = behind("model")) TakeModel(without_tabs, *text);
-    if (const auto text = behind("arenalord")) TakeArenaLord(*text);
+    if (const auto text = behind("arenalord")) {
+      // What is no number leaves the bot its old one.
+      Store(kArenaLordField, std::string(*text));
+    }
+  }
+
+  /// What the game reads.
+  void TakePairs(const DescriptionBlock& block) {
+    std::map<std::string, const DescriptionPair*> seen;
+    NameList overwritten;
+    std::size_t first_overwritten = 0;
+    for (const DescriptionPair& pair : block.pairs) {
+      const DescriptionPair*& earlier = seen[pair.key];
+      if (earlier != nullptr && earlier->text != pair.text) {
+        overwritten.Add(pair.key + " \"" + ShownText(earlier->text) +
+                        "\" (line " + std::to_string(earlier->line) + ")");
+        if (first_overwritten == 0) first_overwritten = earlier->line;
+      }
+      earlier = &pair;
+      TakePair(pair);
+    }
+    if (!overwritten.empty()) {
+      AddNote(first_overwritten,
+              "The file has several values where a bot has one. The last one "
+              "counts, and a save leaves out the others: " +
+                  overwritten.Text() + ".");
+    }
+    const auto lacks = [&seen](const char* key) { return !seen.contains(key); };
+    if (lacks("model") && !fed_by_.contains(kModelField)) {
+      AddNote(block.first_line,
+              "There is no model, so the game takes its own (visor, or sarge "
+              "in OpenArena). A save writes \"" +
+                  ShownText(bot_.Text(kModelField)) + "\".");
+    }
+    for (const char* const key : {"name", "aifile"}) {
+      if (lacks(key)) {
+        AddNote(block.first_line, "There is no " + std::string(key) +
+                                      ", without which the game cannot add the "
+                                      "bot. A save writes it.");
+      }
+    }
+  }
+
+  void TakeComment(std::size_t line) { left_out_.AddComment(line); }
+
+  void AddNote(std::size_t line, std::string text) {
+    report_.notes.Add({file_, line, std::move(text)});
   }
 
   /// Compares what was read with what the game takes.
   DescriptionReport Finish() {
     report_.has_arena_lord = fed_by_.contains(kArenaLordField);
-    for (const auto& [field, line] : fed_by_) {
-      const Value& read = bot_.Parameter(field);
-      const Value& plain = plain_.at(field);
-      if (IsSameValue(read, plain)) continue;
-      report_.notes.Add({file_, line,
-                         std::string(FieldName(field)) + ": read as \"" +
-                             ShownText(ToText(read)) +
-                             "\", but the game takes \"" +
-                             ShownText(ToText(plain)) + "\"."});
-      report_.plain_values.insert_or_assign(field, plain);
+    for (const ParameterId field : kReadFields) Compare(field);
+    if (ToNumber(bot_.Parameter(kArenaLordField)) != 0.0 &&
+        ToNumber(bot_.Parameter(kArenaLordField)) != 1.0) {
+      AddNote(fed_by_[kArenaLordField],
+              "arenaLord: " + bot_.Text(kArenaLordField) +
+                  " is neither 0 nor 1, and a save leaves it out.");
     }
+    left_out_.Tell(report_.notes);
     return std::move(report_);
   }
 
  private:
-  void Store(int field, Value value) {
-    (void)bot_.SetParameter(field, std::move(value));
+  void Store(ParameterId field, Value value) {
     fed_by_[field] = line_;
+    const Result<void> stored = bot_.SetParameter(field, std::move(value));
+    if (!stored) {
+      fed_by_.erase(field);
+      refused_[field] = {line_, stored.error().what};
+    } else {
+      report_.spans[field].push_back(line_span_);
+    }
+  }
+
+  void Compare(ParameterId field) {
+    const auto fed = fed_by_.find(field);
+    const auto& [plain, plain_line] = plain_.at(field);
+    const Value& read = bot_.Parameter(field);
+    const std::string what(FieldName(field));
+    if (IsSameValue(read, plain)) {
+      if (const auto refused = refused_.find(field);
+          refused != refused_.end()) {
+        const auto& [line, reason] = refused->second;
+        AddNote(line, what + ": " + reason + " The bot keeps its value.");
+      }
+      return;
+    }
+    AddNote(fed == fed_by_.end() ? plain_line : fed->second,
+            what + ": read as \"" + ShownText(ToText(read)) +
+                "\", but the game takes \"" + ShownText(ToText(plain)) + "\".");
+    report_.plain_values.insert_or_assign(field, plain);
   }
 
   /// A path parts into model and skin at its slash. A line that has the key
@@ -122,64 +198,94 @@ class DescriptionReader {
     Store(kSkinField, std::move(names.skin));
   }
 
-  void TakeArenaLord(std::string_view text) {
-    const Result<void> stored =
-        bot_.SetParameter(kArenaLordField, std::string(text));
-    if (stored) {
-      fed_by_[kArenaLordField] = line_;
-    } else {
-      report_.notes.Add(
-          {file_, line_,
-           "arenaLord: " + stored.error().what + " The bot keeps its value."});
-    }
+  void SetPlain(ParameterId field, Value value, std::size_t line) {
+    plain_.insert_or_assign(field, std::pair(std::move(value), line));
   }
 
-  /// The game reads pairs of a key and a value.
-  void TakePlainPairs(std::string_view code) {
-    while (true) {
-      const std::string_view key = TakeToken(code);
-      if (key.empty()) return;
-      if (key == "{" || key == "}") continue;
-      TakePlain(ToLower(key), PlainText(TakeToken(code)));
+  void TakePair(const DescriptionPair& pair) {
+    const auto& [key, text, line] = pair;
+    const bool says_nothing = (key == "funname" && text.empty() &&
+                               bot_.Text(kFunNameField).empty()) ||
+                              (key == "color" && text == kNoRailColor) ||
+                              (key == "arenalord" && text == "0");
+    if (says_nothing) {
+      AddNote(line, key + ": \"" + text +
+                        "\" is what a bot has without the line, and a save "
+                        "leaves it out.");
     }
-  }
-
-  static std::string_view TakeToken(std::string_view& code) {
-    const std::string_view token = FirstToken(code);
-    if (!token.empty()) {
-      code.remove_prefix(
-          static_cast<std::size_t>(token.data() + token.size() - code.data()));
-    }
-    return token;
-  }
-
-  static std::string PlainText(std::string_view token) {
-    if (token.starts_with('"')) token.remove_prefix(1);
-    if (token.ends_with('"')) token.remove_suffix(1);
-    return std::string(token);
-  }
-
-  void TakePlain(std::string_view key, const std::string& text) {
-    if (key == "funname") plain_[kFunNameField] = text;
-    if (key == "color") plain_[kRailColorField] = NumberOrText(text);
-    if (key == "arenalord" && NumberFromText(text)) {
-      plain_[kArenaLordField] = *NumberFromText(text);
-    }
-    if (key == "model") {
+    if (key == "funname") {
+      SetPlain(kFunNameField, text, line);
+    } else if (key == "color" || key == "color1") {
+      // The game looks for "color1"; "color" is what we write.
+      const bool is_read = key == "color1";
+      if (is_read || !has_color1_) {
+        SetPlain(kRailColorField, NumberOrText(text), line);
+      }
+      has_color1_ = has_color1_ || is_read;
+      if (is_read) left_out_.AddName(key, line);
+    } else if (key == "arenalord") {
+      const std::optional<double> number = NumberFromText(text);
+      const bool is_possible =
+          number && Bot().SetParameter(kArenaLordField, *number);
+      if (is_possible) SetPlain(kArenaLordField, *number, line);
+    } else if (key == "model") {
       ModelAndSkin names = SplitModel(text);
-      plain_[kModelField] = std::move(names.model);
-      plain_[kSkinField] = std::move(names.skin);
+      SetPlain(kModelField, std::move(names.model), line);
+      SetPlain(kSkinField, std::move(names.skin), line);
+    } else if (key == "name" || key == "aifile") {
+      report_.names.push_back(
+          {key, line, key == "name" ? kNameField : kCharacteristicFileField,
+           text});
+    } else {
+      left_out_.AddName(pair.key, line);
     }
   }
 
   std::string file_;
+  LeftOut left_out_;
   Bot& bot_;
   std::size_t line_ = 0;
-  CommentStripper comments_;
+  TextSpan line_span_;  ///< Of that line.
   DescriptionReport report_;
-  std::map<int, Value> plain_;
-  std::map<int, std::size_t> fed_by_;
+  bool has_color1_ = false;
+  /// By field, with the line.
+  std::map<ParameterId, std::pair<Value, std::size_t>> plain_;
+  std::map<ParameterId, std::size_t> fed_by_;
+  /// By field, with the line and the reason.
+  std::map<ParameterId, std::pair<std::size_t, std::string>> refused_;
 };
+
+/// How well a block suits the bot: by its file, by its name, by what its files
+/// are called.
+int Match(const DescriptionBlock& block, const Bot& bot,
+          std::string_view called) {
+  const std::string named(called.empty() ? bot.Text(kChatNameField)
+                                         : std::string(called));
+  constexpr int kByFile = 4;
+  constexpr int kByName = 2;
+  int match = 0;
+  const std::string file = block.Text("aifile");
+  if (EqualIgnoringCase(file, "bots/" + named + "_c.c")) match += kByFile;
+  const std::string name = block.Text("name");
+  if (EqualIgnoringCase(name, bot.Name())) match += kByName;
+  if (EqualIgnoringCase(name, named)) ++match;
+  return match;
+}
+
+void TellOthers(const DescriptionBlocks& file, const DescriptionBlock& own,
+                DescriptionReader& reader) {
+  NameList others;
+  for (const DescriptionBlock& block : file.blocks) {
+    if (&block == &own) continue;
+    others.Add("\"" + ShownText(block.Text("name")) + "\" (lines " +
+               std::to_string(block.first_line) + "-" +
+               std::to_string(block.last_line) + ")");
+  }
+  reader.AddNote(own.first_line,
+                 "The file describes several bots; this one is read from "
+                 "here. A save leaves out the others: " +
+                     others.Text() + ".");
+}
 
 }  // namespace
 
@@ -216,17 +322,43 @@ std::string WriteDescriptionFile(const Bot& bot, const Author& author) {
 }
 
 void ResetDescription(Bot& bot) {
-  (void)bot.SetParameter(kFunNameField, std::string());
-  (void)bot.SetParameter(kRailColorField, std::string(kNoRailColor));
+  bot.Put(kFunNameField, std::string());
+  bot.Put(kRailColorField, std::string(kNoRailColor));
 }
 
 DescriptionReport ReadDescriptionFile(std::string_view bytes,
-                                      const std::string& file_name, Bot& bot) {
+                                      const std::string& file_name, Bot& bot,
+                                      std::string_view called) {
   ResetDescription(bot);
   DescriptionReader reader(file_name, bot);
+  const DescriptionBlocks file = ReadDescriptionBlocks(bytes);
+  const std::size_t header_end = HeaderLineCount(bytes);
+  for (const std::size_t line : file.comment_lines) {
+    if (line > header_end) reader.TakeComment(line);
+  }
+  // The first of those that suit the bot best.
+  const auto own = std::max_element(
+      file.blocks.begin(), file.blocks.end(),
+      [&](const DescriptionBlock& left, const DescriptionBlock& right) {
+        return Match(left, bot, called) < Match(right, bot, called);
+      });
+  const bool is_one_of_many = file.blocks.size() > 1;
+  if (is_one_of_many) TellOthers(file, *own, reader);
   LineReader lines(bytes);
   while (const std::optional<std::string_view> line = lines.Next()) {
-    reader.TakeLine(*line, lines.number());
+    const std::size_t number = lines.number();
+    if (!is_one_of_many ||
+        (number >= own->first_line && number <= own->last_line)) {
+      reader.TakeLine(*line, number,
+                      static_cast<std::size_t>(line->data() - bytes.data()));
+    }
+  }
+  if (own != file.blocks.end()) {
+    reader.TakePairs(*own);
+  } else {
+    reader.AddNote(1,
+                   "The game finds no bot in this file, as nothing stands "
+                   "between { and }. A save writes one.");
   }
   return reader.Finish();
 }

@@ -20,14 +20,19 @@ std::string ModelFileName(std::string_view name);
 struct DescriptionReport : ReadReport {
   /// The file has an arena lord, though it may be 0.
   bool has_arena_lord = false;
+  /// The lines that describe this bot; empty where none do.
+  TextSpan block;
 };
 
 /// Fills fun name, rail colour, model, skin and arena lord from the bytes of
 /// a description file. Fun name and rail colour are reset before. A line
 /// feeds each field whose key it holds anywhere, whatever its case, so one
-/// line may feed several.
+/// line may feed several. Of a file with several bots only the one counts
+/// that has the bot's name or its characteristic file; `called` is what the
+/// bot's files are called by, where that is not its name.
 DescriptionReport ReadDescriptionFile(std::string_view bytes,
-                                      const std::string& file_name, Bot& bot);
+                                      const std::string& file_name, Bot& bot,
+                                      std::string_view called = {});
 
 /// Fun name empty and rail colour "None": how reading a description begins,
 /// also where there is no file.

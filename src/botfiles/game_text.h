@@ -8,18 +8,35 @@
 
 namespace fragsmith {
 
+/// The bytes of a file without the mark that some editors put at the front.
+std::string_view WithoutByteOrderMark(std::string_view bytes);
+
 /// Takes the comments out of lines as the game does: "//" to the end of the
-/// line and "/* */", also over several lines; neither inside quotes.
+/// line and "/* */", also over several lines; neither inside quotes. A byte
+/// order mark in front of a line goes as well: joined files have some inside.
 class CommentStripper {
  public:
   /// The next line of the file without its comments. Stays good until the
   /// next call, and no longer than the line.
   std::string_view Strip(std::string_view line);
 
+  /// The last line had a comment that says something: a rule of "=" does not.
+  bool had_words() const { return had_words_; }
+
  private:
+  void Drop(std::string_view comment);
+
   bool is_inside_block_ = false;
+  bool had_words_ = false;
   std::string kept_;
 };
+
+/// Takes the next word of a line without comments: a text with its quotes, a
+/// brace, or all up to the next blank, TAB or brace. Empty at the end.
+std::string_view TakeWord(std::string_view& code);
+
+/// A word without its quotes, where it has some.
+std::string_view WithoutQuotes(std::string_view word);
 
 /// The first token of the text, with blanks and TABs in front passed over: a
 /// quoted string with its quotes, or all up to the next blank or TAB. Empty

@@ -1,6 +1,7 @@
 #ifndef FRAGSMITH_BOTFILES_HEADER_COMMENT_H_
 #define FRAGSMITH_BOTFILES_HEADER_COMMENT_H_
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -18,6 +19,14 @@ struct Author {
 /// The seven comment lines at the top of every bot file. Without a name the
 /// author's other data are left out too.
 std::string HeaderComment(const Bot& bot, const Author& author);
+
+/// Number of lines that a header of ours takes at the top of the file, 0
+/// without one.
+std::size_t HeaderLineCount(std::string_view bytes);
+
+/// The line about the author in a header of ours; empty where there is none.
+std::string AuthorLine(std::string_view bytes);
+std::string AuthorLine(const Author& author);
 
 /// True for a file with a header of ours that has a version other than 0.0 or a
 /// comment. No reader takes these back, which its user should know.

@@ -1,26 +1,29 @@
 #include "botfiles/keyed_line.h"
 
+#include <algorithm>
+#include <limits>
 #include <utility>
 
 #include "botfiles/value_format.h"
 #include "model/characteristic_catalogue.h"
 #include "support/code_page.h"
+#include "support/numbers.h"
 #include "support/text.h"
 
 namespace fragsmith {
 namespace {
 
-bool IsIdentity(int key) { return key <= kGenderIndex; }
+bool IsIdentity(ParameterId id) {
+  return id == kNameField || id == kGenderField;
+}
 
 /// Names and genders lose their blanks and are always text.
 Value WithoutBlanks(const Value& value) { return RemoveBlanks(ToText(value)); }
 
 /// The key and its level as the user reads them in a note.
-std::string Describe(int key, int parameter) {
-  std::string text(BareKey(key));
-  if (parameter != key) {
-    text += " of level " + std::to_string(parameter / 100);
-  }
+std::string Describe(ParameterId id) {
+  std::string text(BareKey(id.index()));
+  if (id.level()) text += " of level " + std::to_string(NumberOf(*id.level()));
   return text;
 }
 
@@ -29,6 +32,19 @@ std::string Shown(const Value& value) {
   if (std::holds_alternative<std::monostate>(value)) return "nothing";
   if (!std::holds_alternative<std::string>(value)) return ToText(value);
   return '"' + ShownText(ToText(value)) + '"';
+}
+
+/// True for a whole number with more digits than a save gives back.
+bool IsShortened(std::string_view text, const Value& read) {
+  constexpr std::size_t kAlwaysKept = 15;
+  text = TrimBlanksAndTabs(text);
+  if (text.size() <= kAlwaysKept || Contains(text, ".") ||
+      !std::holds_alternative<double>(read)) {
+    return false;
+  }
+  const std::size_t first = text.find_first_not_of("+-0");
+  return first != std::string_view::npos &&
+         FormatValue(read) != text.substr(first);
 }
 
 }  // namespace
@@ -40,9 +56,9 @@ bool IsPassedOver(std::string_view line) {
 
 std::string_view ValueTextOf(std::string_view line, int index) {
   const std::string_view padded = PaddedKey(index);
-  const std::size_t place = line.find(padded);
-  if (place != std::string_view::npos) {
-    return line.substr(place + padded.size());
+  const std::size_t offset = line.find(padded);
+  if (offset != std::string_view::npos) {
+    return line.substr(offset + padded.size());
   }
   const std::string_view key = BareKey(index);
   const std::size_t key_end = line.find(key) + key.size();
@@ -59,51 +75,153 @@ ValueReader::ValueReader(std::string file, Bot& bot, ReadReport& report)
     : file_(std::move(file)), bot_(bot), report_(report) {}
 
 void ValueReader::AddNote(std::size_t line, std::string text) {
-  report_.notes.Add({file_, line, std::move(text)});
+  // More are not kept in any case.
+  if (notes_.size() > Notes::kMax) return;
+  notes_.push_back({file_, line, std::move(text)});
 }
 
-void ValueReader::Take(const KeyedLine& line, int key, int parameter) {
-  const std::string_view text = ValueTextOf(line.text, key);
-  // A key with nothing behind it leaves the parameter empty.
+ValueReader::Seen& ValueReader::SeenOf(ParameterId id) {
+  const auto [seen, is_new] = seen_.try_emplace(id);
+  if (is_new) seen->second.before = bot_.Parameter(id);
+  return seen->second;
+}
+
+void ValueReader::Take(const KeyedLine& line, ParameterId id, IsTold is_told) {
+  const std::string_view text = ValueTextOf(line.text, id.index());
+  const auto column = static_cast<std::size_t>(text.data() - line.text.data());
+  report_.spans[id].push_back(
+      {line.start + column, line.start + column + text.size()});
+  // A key with nothing behind it leaves the id empty.
   Value value;
   if (!TrimBlanksAndTabs(text).empty()) value = CleanValue(text);
-  if (IsIdentity(key)) value = WithoutBlanks(value);
+  if (IsIdentity(id)) {
+    const std::string whole = ToText(value);
+    value = WithoutBlanks(value);
+    if (whole != ToText(value)) {
+      AddNote(line.number, Describe(id) + ": " + Shown(whole) +
+                               " cannot have blanks here; it is read as " +
+                               Shown(value) + ".");
+    }
+  }
 
-  const Value before = bot_.Parameter(parameter);
-  // Neither an identity text nor a parameter refuses any value.
-  (void)bot_.SetParameter(parameter, std::move(value));
-  Compare(line, key, parameter, before);
+  Seen& seen = SeenOf(id);
+  const Value old = bot_.Parameter(id);
+  bot_.Put(id, std::move(value));
+  if (seen.line != 0 && !IsSameValue(bot_.Parameter(id), old)) {
+    if (overwritten_.empty()) first_overwritten_ = seen.line;
+    overwritten_[id] = Describe(id) + ": " + Shown(old) + " gives way to " +
+                       Shown(bot_.Parameter(id));
+  }
+  seen.line = line.number;
+  seen.is_shortened = IsShortened(text, bot_.Parameter(id));
+  seen.is_comment = !Contains(line.code, BareKey(id.index()));
+  seen.is_told = seen.is_told || is_told == IsTold::kYes;
 }
 
-void ValueReader::Compare(const KeyedLine& line, int key, int parameter,
-                          const Value& before) {
-  const Value& read = bot_.Parameter(parameter);
-  const std::size_t place = line.code.find(BareKey(key));
-  if (place == std::string_view::npos) {
-    report_.plain_values.try_emplace(parameter, before);
-    AddNote(line.number, Describe(key, parameter) + ": read as " + Shown(read) +
-                             ", but the line is a comment for the game.");
-    return;
+void ValueReader::TakeAsGame(std::size_t line, ParameterId id, Value value,
+                             IsTold is_told) {
+  Seen& seen = SeenOf(id);
+  if (IsIdentity(id)) value = WithoutBlanks(value);
+  if (seen.plain && *seen.plain != value) {
+    if (overwritten_.empty()) first_overwritten_ = seen.plain_line;
+    overwritten_.try_emplace(id, Describe(id));
   }
-  Value plain =
-      PlainValue(FirstToken(line.code.substr(place + BareKey(key).size())));
-  if (IsIdentity(key)) plain = WithoutBlanks(plain);
-  if (!IsSameValue(read, plain)) {
-    AddNote(line.number, Describe(key, parameter) + ": read as " + Shown(read) +
-                             ", but " + Shown(plain) +
-                             " stands behind the key.");
-    report_.plain_values.insert_or_assign(parameter, std::move(plain));
-    return;
+  seen.plain = std::move(value);
+  seen.plain_line = line;
+  seen.is_told = seen.is_told || is_told == IsTold::kYes;
+}
+
+void ValueReader::Finish() {
+  for (const auto& [id, seen] : seen_) {
+    report_.given.insert(id);
+    Compare(id, seen);
   }
-  report_.plain_values.erase(parameter);
-  if (IsIdentity(key)) return;
+  TellOverwritten();
+  for (const auto& [level, zeros] : zeros_) {
+    AddNote(zeros.first,
+            zeros.second.Text() +
+                ": 0 in the file. A save leaves out what is 0 here, and the "
+                "game then takes the value of its default character.");
+  }
+  std::stable_sort(notes_.begin(), notes_.end(),
+                   [](const Note& left, const Note& right) {
+                     return left.line < right.line;
+                   });
+  for (Note& note : notes_) report_.notes.Add(std::move(note));
+  notes_.clear();
+}
+
+void ValueReader::Compare(ParameterId id, const Seen& seen) {
+  const Value& read = bot_.Parameter(id);
+  const Value& plain = seen.plain ? *seen.plain : seen.before;
+  if (IsSameValue(read, plain)) return CompareWithSaved(id, seen);
+  report_.plain_values.insert_or_assign(id, plain);
+  if (seen.is_told) return;
+  const std::string what = Describe(id) + ": ";
+  if (seen.line == 0) {
+    AddNote(seen.plain_line, what +
+                                 "not read from this line, where the game "
+                                 "takes " +
+                                 Shown(plain) + ".");
+  } else if (!seen.plain) {
+    AddNote(seen.line, what + "read as " + Shown(read) + ", but the line " +
+                           (seen.is_comment ? "is a comment for the game."
+                                            : "does not set it for the game."));
+  } else {
+    const bool is_behind = seen.line == seen.plain_line;
+    AddNote(seen.line,
+            what + "read as " + Shown(read) + ", but " +
+                (is_behind ? Shown(plain) + " stands behind the key."
+                           : "the game takes " + Shown(plain) + " from line " +
+                                 std::to_string(seen.plain_line) + "."));
+  }
+}
+
+void ValueReader::CompareWithSaved(ParameterId id, const Seen& seen) {
+  if (IsIdentity(id)) return;
+  const Value& read = bot_.Parameter(id);
+  const bool is_optional = id.level() && kOptionalRange.Contains(id.index());
+  const std::optional<double> number = ToNumber(read);
+  std::string oddity;
   if (std::holds_alternative<std::monostate>(read)) {
-    AddNote(line.number,
-            Describe(key, parameter) + ": no value, so it counts as 0.");
-  } else if (std::holds_alternative<std::string>(read) && !ToNumber(read)) {
-    AddNote(line.number, Describe(key, parameter) + ": " + Shown(read) +
-                             " is not a number; it is kept as text.");
+    oddity = ": no value, so it counts as 0.";
+  } else if (!number) {
+    oddity = ": " + Shown(read) +
+             " is not a number; it is kept as text, and a save puts quotes "
+             "around it.";
+  } else if (is_optional && *number <= 0) {
+    auto& [line, names] = zeros_[*id.level()];
+    if (line == 0) line = seen.line;
+    names.Add(Describe(id));
+  } else if (std::holds_alternative<std::string>(read)) {
+    oddity = ": " + Shown(read) +
+             " is no number for the game as it is "
+             "written; a save makes the number of it.";
+  } else if (seen.is_shortened) {
+    oddity =
+        ": of so long a number a save keeps the first digits, and writes " +
+        FormatValue(read) + ".";
+  } else if (const std::string saved = FormatValue(read);
+             NumberFromText(saved) != ToNumber(seen.plain.value_or(read))) {
+    const Value given = seen.plain.value_or(read);
+    std::string shown = ToText(given);
+    if (shown == saved) {
+      shown = PlainDecimal(ToNumber(given).value_or(0),
+                           std::numeric_limits<double>::max_digits10);
+    }
+    oddity = ": a save writes " + saved + " for " + shown + ".";
   }
+  if (!oddity.empty()) AddNote(seen.line, Describe(id) + oddity);
+}
+
+void ValueReader::TellOverwritten() {
+  if (overwritten_.empty()) return;
+  NameList names;
+  for (const auto& [id, text] : overwritten_) names.Add(text);
+  AddNote(first_overwritten_,
+          "The file has several values where a bot has one. The last one "
+          "counts, and a save writes it everywhere: " +
+              names.Text() + ".");
 }
 
 }  // namespace fragsmith

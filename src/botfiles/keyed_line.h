@@ -2,12 +2,18 @@
 #define FRAGSMITH_BOTFILES_KEYED_LINE_H_
 
 #include <cstddef>
+#include <map>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include "botfiles/game_text.h"
+#include "botfiles/left_out.h"
 #include "botfiles/read_report.h"
 #include "model/bot.h"
+#include "model/value.h"
 
 namespace fragsmith {
 
@@ -35,28 +41,60 @@ struct KeyedLine {
   std::size_t number = 0;  ///< Counted from 1.
   std::string_view text;   ///< As it stands in the file.
   std::string_view code;   ///< The same without comments.
+  std::size_t start = 0;   ///< Where in the file it begins.
 };
 
-/// Stores what lines say in the bot and writes down where that is not what
-/// the game reads.
+/// Whether a note has been given already that covers a value.
+enum class IsTold { kNo, kYes };
+
+/// Stores what lines say in the bot, and writes down where that is neither
+/// what the game reads nor what a save would write.
 class ValueReader {
  public:
   /// File name for the notes, UTF-8.
   ValueReader(std::string file, Bot& bot, ReadReport& report);
 
-  /// Takes the value of a catalogue key from the line into a parameter of the
-  /// bot (the two differ for per-level parameters).
-  void Take(const KeyedLine& line, int key, int parameter);
+  /// Takes the value of a parameter from the line that has its key.
+  void Take(const KeyedLine& line, ParameterId id,
+            IsTold is_told = IsTold::kNo);
+
+  /// The value that the game takes for the parameter, and the line of its
+  /// key. A later one takes the place of an earlier one.
+  void TakeAsGame(std::size_t line, ParameterId id, Value value,
+                  IsTold is_told = IsTold::kNo);
 
   void AddNote(std::size_t line, std::string text);
 
+  /// Compares, once all lines are taken, and puts the notes in the order of
+  /// the lines.
+  void Finish();
+
  private:
-  void Compare(const KeyedLine& line, int key, int parameter,
-               const Value& before);
+  struct Seen {
+    Value before;
+    std::size_t line = 0;  ///< That gave the bot its value; 0 for none.
+    bool is_comment = false;
+    bool is_shortened = false;  ///< By a save.
+    std::optional<Value> plain;
+    std::size_t plain_line = 0;
+    bool is_told = false;
+  };
+
+  Seen& SeenOf(ParameterId id);
+  void Compare(ParameterId id, const Seen& seen);
+  void CompareWithSaved(ParameterId id, const Seen& seen);
+  void TellOverwritten();
 
   std::string file_;
   Bot& bot_;
   ReadReport& report_;
+  std::vector<Note> notes_;
+  std::map<ParameterId, Seen> seen_;
+  std::size_t first_overwritten_ = 0;
+  /// What the note says of each.
+  std::map<ParameterId, std::string> overwritten_;
+  /// By level: what stands in the file as 0 and is not written.
+  std::map<Level, std::pair<std::size_t, NameList>> zeros_;
 };
 
 }  // namespace fragsmith

@@ -1,10 +1,17 @@
 #ifndef FRAGSMITH_BOTFILES_READ_REPORT_H_
 #define FRAGSMITH_BOTFILES_READ_REPORT_H_
 
+#include <cstddef>
 #include <map>
+#include <set>
+#include <string>
+#include <vector>
 
+#include "model/chat_type_id.h"
+#include "model/parameter_id.h"
 #include "model/value.h"
 #include "support/notes.h"
+#include "support/text.h"
 
 namespace fragsmith {
 
@@ -14,7 +21,39 @@ struct ReadReport {
 
   /// By bot parameter: the value that plainly stands behind the key, as the
   /// game takes it, wherever the reading rules took another one.
-  std::map<int, Value> plain_values;
+  std::map<ParameterId, Value> plain_values;
+
+  /// The bot parameters of which the file speaks, to the game or to us. Of a
+  /// characteristic file also all other keys with the level of their block.
+  std::set<ParameterId> given;
+
+  /// By bot parameter: where in the file stands what gave it its values, the
+  /// one that counts last. In a description it is the whole line.
+  std::map<ParameterId, std::vector<TextSpan>> spans;
+
+  /// The same of each chat line, in the order in which they were stored.
+  struct ChatLineAt {
+    ChatTypeId type{0};
+    TextSpan span;
+  };
+  std::vector<ChatLineAt> chat_lines;
+
+  /// Where the file names the bot or one of its files. Readers keep to the
+  /// names that follow from the bot's own.
+  struct Name {
+    std::string key;
+    std::size_t line = 0;
+    ParameterId field =
+        kNameField;  ///< The field of the bot that a save writes there.
+    std::string text;
+  };
+  std::vector<Name> names;
+
+  /// What a save includes and the file does not.
+  std::vector<std::string> missing_includes;
+
+  /// The same of chat types, each a block.
+  std::vector<std::string> missing_types;
 };
 
 }  // namespace fragsmith

@@ -48,8 +48,8 @@ const Identity& IdentityOf(std::string_view name) {
   return found == kIdentities.end() ? kIdentities.back() : *found;
 }
 
-void Set(Bot& bot, int field, std::string_view text) {
-  (void)bot.SetParameter(field, std::string(text));
+void Set(Bot& bot, ParameterId field, std::string_view text) {
+  bot.Put(field, std::string(text));
 }
 
 }  // namespace
@@ -64,7 +64,7 @@ void SetStandardIdentity(Bot& bot, const StandardBotNames& standard_bots) {
   Set(bot, kModelField, identity.model.empty() ? name : identity.model);
   Set(bot, kSkinField, identity.names_skin ? name : kDefaultSkin);
   Set(bot, kFunNameField, identity.fun_name);
-  if (identity.is_arena_lord) (void)bot.SetParameter(kArenaLordField, 1.0);
+  if (identity.is_arena_lord) bot.Put(kArenaLordField, 1.0);
 }
 
 void FillStandardIdentity(Bot& bot, bool has_arena_lord,
@@ -74,7 +74,7 @@ void FillStandardIdentity(Bot& bot, bool has_arena_lord,
   const Identity& identity = IdentityOf(name);
   if (bot.FunName().empty()) Set(bot, kFunNameField, identity.fun_name);
   if (identity.is_arena_lord && !has_arena_lord) {
-    (void)bot.SetParameter(kArenaLordField, 1.0);
+    bot.Put(kArenaLordField, 1.0);
   }
 }
 

@@ -35,15 +35,15 @@ std::optional<Value> CleanFraction(std::string_view text) {
   const std::optional<double> number = NumberFromText(before);
   if (!number && IsNumericText(before)) return std::nullopt;
   const double whole = number.value_or(0);
-  constexpr double kMost = std::numeric_limits<float>::max();
-  if (std::fabs(whole) > kMost) {
+  constexpr double kMax = std::numeric_limits<float>::max();
+  if (std::fabs(whole) > kMax) {
     return std::nullopt;
   }
   const std::string_view digits = TrimBlanksAndTabs(text.substr(point + 1));
-  constexpr std::size_t kMostDigits = 3;
+  constexpr std::size_t kMaxDigits = 3;
   double fraction = 0;
-  if (!digits.empty() && digits.size() <= kMostDigits) {
-    constexpr std::array<double, kMostDigits + 1> kScales = {1, 10, 100, 1000};
+  if (!digits.empty() && digits.size() <= kMaxDigits) {
+    constexpr std::array<double, kMaxDigits + 1> kScales = {1, 10, 100, 1000};
     fraction = *NumberFromText(digits) / kScales.at(digits.size());
   }
   // Rounded to a float only once: 1 and a rounded 0.18 would add up to
@@ -84,6 +84,25 @@ Value CleanValue(std::string_view text) {
   }
   // Too large for a number: kept as it is written.
   return std::string(text);
+}
+
+Result<double> NumberForFiles(std::string_view text) {
+  const auto refuse = [](const char* why) -> Result<double> {
+    return Failure({.what = why, .file = {}, .line = 0, .advice = {}});
+  };
+  if (!IsNumericText(text)) {
+    return refuse("A number is wanted here, such as 0.35 or 120.");
+  }
+  const std::optional<double> number = NumberFromText(text);
+  if (!number) return refuse("The number is too large.");
+  if (*number == 0) return 0.0;
+  if (*number < 0) return refuse("The files hold no number below 0.");
+  if (ToNumber(CleanValue(FormatValue(*number))) != *number) {
+    return refuse(
+        "The files keep three digits behind the point, and seven digits of a "
+        "number with a fraction.");
+  }
+  return *number;
 }
 
 }  // namespace fragsmith

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "model/value.h"
+#include "support/result.h"
 
 namespace fragsmith {
 
@@ -20,6 +21,10 @@ std::string FormatValue(const Value& value);
 /// is negative. Text loses a leading double quote, a trailing ";" and then a
 /// trailing double quote.
 Value CleanValue(std::string_view text);
+
+/// The number that somebody typed, where the files can hold it: read back from
+/// one, it is the same.
+Result<double> NumberForFiles(std::string_view text);
 
 }  // namespace fragsmith
 

@@ -9,12 +9,12 @@
 #include <string_view>
 #include <vector>
 
-#include "model/bot.h"
+#include "model/chat_type_id.h"
 #include "support/random.h"
 
 namespace fragsmith {
 
-// The vocabulary of bot chat. Everything is identified by its 0-based place
+// The vocabulary of bot chat. Everything is identified by its 0-based index
 // in these tables. Captions are shown as they stand, "Drows" included.
 
 /// A situation in which a bot may speak.
@@ -50,7 +50,6 @@ struct WordList {
 /// A variable that the situation fills: the attacker, the weapon ...
 struct ChatPointer {
   std::string_view Code;      ///< In the game's chat file, within a text.
-  std::string_view Caption;   ///< For the user.
   std::string_view Variable;  ///< In editor form.
   std::string_view button_caption;
 
@@ -172,22 +171,22 @@ inline constexpr std::array<WordList, 39> kWordLists = {{
 }};
 
 inline constexpr std::array<ChatPointer, 11> kChatPointers = {{
-    {"\", 1, \"", "Random opp", "{RANDOMOPP}", "Any opp"},
-    {"\", 4, \"", "Level title", "{LEVELTITLE}", "Level title"},
-    {"\", 0, \"", "Any bot", "{ANYBOTNAME}", "Any bot"},
-    {"\", 2, \"", "First opp", "{LEVELWINNER}", "First opp"},
-    {"\", 3, \"", "Last opp", "{LEVELLOSER}", "Last opp"},
-    {"\", 0, \"", "Attacker", "{ATTACKER}", "Attacker"},
-    {"\", 0, \"", "Target", "{TARGET}", "Target"},
-    {"\", 1, \"", "Weapon used", "{WEAPONUSED}", "Weapon used"},
-    {"\", 1, \"", "Last victim", "{LAST VICTIM}", "Last victim"},
-    {"\", 0, \"", "Random opp", "{RANDOMOPP2}", "Any opp"},
-    {"\", 0, \"", "Attacker", "{ATTACKER}", "Attacker"},
+    {"\", 1, \"", "{RANDOMOPP}", "Any opp"},
+    {"\", 4, \"", "{LEVELTITLE}", "Level title"},
+    {"\", 0, \"", "{ANYBOTNAME}", "Any bot"},
+    {"\", 2, \"", "{LEVELWINNER}", "First opp"},
+    {"\", 3, \"", "{LEVELLOSER}", "Last opp"},
+    {"\", 0, \"", "{ATTACKER}", "Attacker"},
+    {"\", 0, \"", "{TARGET}", "Target"},
+    {"\", 1, \"", "{WEAPONUSED}", "Weapon used"},
+    {"\", 1, \"", "{LAST VICTIM}", "Last victim"},
+    {"\", 0, \"", "{RANDOMOPP2}", "Any opp"},
+    {"\", 0, \"", "{ATTACKER}", "Attacker"},
 }};
 
-/// Tables by place; a place beyond the table is a programming error.
-inline const ChatType& ChatTypeAt(int type) {
-  return kChatTypes.at(static_cast<std::size_t>(type));
+/// Tables by index; an index beyond the table is a programming error.
+inline const ChatType& ChatTypeAt(ChatTypeId type) {
+  return kChatTypes.at(IndexOf(type));
 }
 inline const ChatGroup& ChatGroupAt(int group) {
   return kChatGroups.at(static_cast<std::size_t>(group));

@@ -8,21 +8,27 @@
 namespace fragsmith {
 namespace {
 
-int Append(Bot& bot, int type, std::string text) {
+int Append(Bot& bot, ChatTypeId type, std::string text) {
   const int line = bot.HighestChatLine(type) + 1;
   bot.SetChatLine(type, line, std::move(text));
   return line;
 }
 
+/// True between the "~" in front of a word and that word.
+bool IsBehindMark(std::string_view text, std::size_t offset) {
+  return offset > 0 && offset < text.size() && text[offset - 1] == '~' &&
+         text[offset] != ' ' && (offset == 1 || text[offset - 2] == ' ');
+}
+
 }  // namespace
 
-int NextFreeChatLine(const Bot& bot, int type) {
+int NextFreeChatLine(const Bot& bot, ChatTypeId type) {
   const int highest = bot.HighestChatLine(type);
   const bool is_unused = highest == 0 && bot.ChatLine(type, 0).empty();
   return is_unused ? 0 : highest + 1;
 }
 
-int AddRandomChatLine(Bot& bot, int type, const RandomSource& random) {
+int AddRandomChatLine(Bot& bot, ChatTypeId type, const RandomSource& random) {
   const int line = NextFreeChatLine(bot, type);
   bot.SetChatLine(type, line,
                   RandomGroupMember(ChatTypeAt(type).random_group, random));
@@ -30,12 +36,12 @@ int AddRandomChatLine(Bot& bot, int type, const RandomSource& random) {
 }
 
 void AddExtraChats(Bot& bot, const RandomSource& random) {
-  for (int type = 0; type < kChatTypeCount; ++type) {
+  for (const ChatTypeId type : kAllChatTypes) {
     AddRandomChatLine(bot, type, random);
   }
 }
 
-int AddGroupMember(Bot& bot, int type, int selected_line, int group,
+int AddGroupMember(Bot& bot, ChatTypeId type, int selected_line, int group,
                    int number) {
   std::string member = GroupMember(group, std::to_string(number));
   if (selected_line >= 0 && bot.ChatLine(type, selected_line).empty()) {
@@ -45,13 +51,30 @@ int AddGroupMember(Bot& bot, int type, int selected_line, int group,
   return Append(bot, type, std::move(member));
 }
 
-int AddEmptyChatLine(Bot& bot, int type) { return Append(bot, type, {}); }
+int AddEmptyChatLine(Bot& bot, ChatTypeId type) {
+  return Append(bot, type, {});
+}
 
-std::string InsertVariable(std::string_view text, std::size_t cursor,
-                           std::string_view variable) {
-  if (cursor == 0) return std::string(variable);
-  std::string result(text);
-  result.insert(std::min(cursor, result.size()), variable);
+void SwapChatLines(Bot& bot, ChatTypeId type, int line, int other) {
+  const std::string text = bot.ChatLine(type, line);
+  bot.SetChatLine(type, line, bot.ChatLine(type, other));
+  bot.SetChatLine(type, other, text);
+}
+
+void DoubleChatLine(Bot& bot, ChatTypeId type, int line, int behind) {
+  for (int last = Append(bot, type, {}); last > behind; --last) {
+    bot.SetChatLine(type, last, bot.ChatLine(type, last - 1));
+  }
+  bot.SetChatLine(type, behind, bot.ChatLine(type, line));
+}
+
+LineText InsertVariable(const LineText& line, std::string_view variable) {
+  if (line.cursor == 0) return {std::string(variable), 0};
+  const std::string& text = line.text;
+  std::size_t offset = std::min(line.cursor, text.size());
+  if (IsBehindMark(text, offset)) --offset;
+  LineText result = {text, offset};
+  result.text.insert(offset, variable);
   return result;
 }
 

@@ -14,11 +14,11 @@ namespace fragsmith {
 
 /// Where a new line of the type goes: behind the last one, but the one empty
 /// line of a type that has no other is used again.
-int NextFreeChatLine(const Bot& bot, int type);
+int NextFreeChatLine(const Bot& bot, ChatTypeId type);
 
 /// "Add random list": a random member of the type's group in its next free
 /// line. Gives the line's number.
-int AddRandomChatLine(Bot& bot, int type, const RandomSource& random);
+int AddRandomChatLine(Bot& bot, ChatTypeId type, const RandomSource& random);
 
 /// "Add extra chats": the same for each of the 28 types.
 void AddExtraChats(Bot& bot, const RandomSource& random);
@@ -26,17 +26,30 @@ void AddExtraChats(Bot& bot, const RandomSource& random);
 /// "Add selected list": the member takes the place of the selected line when
 /// that is empty; otherwise, and without a selected line (-1), it becomes a
 /// new last line. Gives the line's number.
-int AddGroupMember(Bot& bot, int type, int selected_line, int group,
+int AddGroupMember(Bot& bot, ChatTypeId type, int selected_line, int group,
                    int number);
 
 /// "New line": an empty last line. Gives its number.
-int AddEmptyChatLine(Bot& bot, int type);
+int AddEmptyChatLine(Bot& bot, ChatTypeId type);
 
-/// The text of the line box after "Add word" or a pointer button with so many
-/// characters before the cursor. At the very start the variable takes the
-/// place of the whole text. The cursor stays where it was.
-std::string InsertVariable(std::string_view text, std::size_t cursor,
-                           std::string_view variable);
+/// Two lines change places.
+void SwapChatLines(Bot& bot, ChatTypeId type, int line, int other);
+
+/// Puts a copy of the line in a place behind it.
+void DoubleChatLine(Bot& bot, ChatTypeId type, int line, int behind);
+
+/// What stands in the line box, and how many characters before its cursor.
+struct LineText {
+  std::string text;
+  std::size_t cursor = 0;
+
+  bool operator==(const LineText&) const = default;
+};
+
+/// The line box after "Add word" or a pointer button: the variable at the
+/// cursor, which then stands before it. At the very start the variable takes
+/// the place of the whole text. A "~" stays with the word that it marks.
+LineText InsertVariable(const LineText& line, std::string_view variable);
 
 }  // namespace fragsmith
 

@@ -5,8 +5,8 @@
 #include <string_view>
 
 #include "botfiles/header_comment.h"
+#include "botfiles/read_report.h"
 #include "model/bot.h"
-#include "support/notes.h"
 
 namespace fragsmith {
 
@@ -17,8 +17,8 @@ std::string WriteChatFile(const Bot& bot, const Author& author);
 
 /// Stores the lines of a chat file in the bot, for each type from line 0 on.
 /// The caller clears the chats before where old lines must not stay.
-Notes ReadChatFile(std::string_view bytes, const std::string& file_name,
-                   Bot& bot);
+ReadReport ReadChatFile(std::string_view bytes, const std::string& file_name,
+                        Bot& bot);
 
 }  // namespace fragsmith
 

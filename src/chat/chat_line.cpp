@@ -58,7 +58,7 @@ struct OpenLine {
   bool ends_with_variable = false;
 };
 
-/// What takes the place of a variable, by its place in the line.
+/// What stands for a variable, by its offset in the line.
 struct Replacement {
   std::string_view variable;
   std::string at_start;
@@ -69,15 +69,15 @@ struct Replacement {
 /// Replaces all occurrences in one walk. Nothing that is put in can begin or
 /// end a variable, so walking on equals looking again from the start.
 void Replace(const Replacement& replacement, OpenLine& line) {
-  std::size_t place = line.text.find(replacement.variable);
-  if (place == std::string::npos) return;
+  std::size_t offset = line.text.find(replacement.variable);
+  if (offset == std::string::npos) return;
   const std::string old = std::exchange(line.text, {});
   std::size_t done = 0;
-  for (; place != std::string::npos;
-       place = old.find(replacement.variable, done)) {
-    const std::size_t end = place + replacement.variable.size();
-    line.text.append(old, done, place - done);
-    if (place == 0) {
+  for (; offset != std::string::npos;
+       offset = old.find(replacement.variable, done)) {
+    const std::size_t end = offset + replacement.variable.size();
+    line.text.append(old, done, offset - done);
+    if (offset == 0) {
       line.text += replacement.at_start;
       line.starts_with_variable = true;
     } else if (end == old.size()) {
@@ -92,34 +92,46 @@ void Replace(const Replacement& replacement, OpenLine& line) {
 }
 
 /// Notes what is odd; a line of megabytes must not give a note a byte.
-void AddOddity(std::string sentence, EditorLine& result) {
-  constexpr std::size_t kMost = 20;
-  if (result.oddities.size() < kMost) {
-    result.oddities.push_back(std::move(sentence));
+/// Of a piece that is not understood: with what writing gives back, and where
+/// it does not quite.
+constexpr std::string_view kStays = ": not understood; stays as it is written.";
+constexpr std::string_view kChanges =
+    ": not understood; a save writes the line in another way.";
+
+void AddOddity(std::string what, std::string_view kind, EditorLine& result) {
+  constexpr std::size_t kMax = 20;
+  if (result.oddities.size() < kMax) {
+    result.oddities.push_back({std::move(what), kind});
   }
 }
 
+bool IsComment(std::string_view text) {
+  return text.starts_with("//") ||
+         (text.starts_with("/*") && text.find("*/") == text.size() - 2);
+}
+
 /// The part of a line that says something: without the ";" that ends it and
-/// what follows that.
+/// a comment behind that.
 std::string_view Statement(std::string_view line, EditorLine& result) {
   bool is_quoted = false;
+  bool has_more = false;
   for (std::size_t at = 0; at < line.size(); ++at) {
     if (line[at] == '"') is_quoted = !is_quoted;
     if (line[at] != ';' || is_quoted) continue;
     const std::string_view rest = TrimBlanks(line.substr(at + 1));
-    if (!rest.empty() && !rest.starts_with("//")) continue;
-    if (!rest.empty()) {
-      AddOddity("The comment behind the \";\" is not kept.", result);
-    }
-    return TrimBlanks(line.substr(0, at));
+    if (rest.empty() || IsComment(rest)) return TrimBlanks(line.substr(0, at));
+    has_more = true;
   }
   if (line.ends_with(';')) {
     line.remove_suffix(1);
+  } else if (has_more) {
+    AddOddity("What stands behind the \";\"",
+              ": read as a part of the same chat line.", result);
   } else {
-    AddOddity(
-        "There is no \";\" at the end of the line, so the game reads on into "
-        "the next one.",
-        result);
+    AddOddity("No \";\" at the end",
+              ": the game takes the line and the next for one. Here they are "
+              "two, and a save writes them so.",
+              result);
   }
   return TrimBlanks(line);
 }
@@ -129,21 +141,20 @@ void NoteOddNumber(const Member& member, EditorLine& result) {
   const ChatGroup& group = *member.group;
   const std::string name(group.Name);
   if (group.Unnumbered && !member.digits.empty() && IsZero(member.digits)) {
-    AddOddity(
-        name + std::string(member.digits) + " is written back as " + name + ".",
-        result);
+    AddOddity(name + std::string(member.digits),
+              ": a file made anew has the name without its 0.", result);
   }
   const std::optional<double> number = NumberFromText(member.digits);
   if (number && *number > group.MaxNumber) {
-    AddOddity(name + " has the members 0 to " +
-                  std::to_string(group.MaxNumber) +
-                  " in the game; this one is kept as it is.",
+    AddOddity(name + std::string(member.digits),
+              ": none of the ready-made lines that the game is known to have; "
+              "kept as it is.",
               result);
   }
 }
 
 /// The variable of an item between two texts; empty when it is unknown.
-std::string_view VariableOf(int type, std::string_view item) {
+std::string_view VariableOf(ChatTypeId type, std::string_view item) {
   for (const int pointer : ChatTypeAt(type).Pointers()) {
     if (ChatPointerAt(pointer).Item() == item) {
       return ChatPointerAt(pointer).Variable;
@@ -157,7 +168,8 @@ std::string_view VariableOf(int type, std::string_view item) {
 
 /// The variables of items with commas between them, side by side; nothing
 /// when one is unknown.
-std::optional<std::string> VariablesOf(int type, std::string_view items) {
+std::optional<std::string> VariablesOf(ChatTypeId type,
+                                       std::string_view items) {
   std::string variables;
   while (true) {
     const std::size_t comma = items.find(',');
@@ -173,7 +185,8 @@ std::optional<std::string> VariablesOf(int type, std::string_view items) {
 /// Joins the pieces of a statement in file form.
 class PieceJoiner {
  public:
-  PieceJoiner(int type, EditorLine& result) : type_(type), result_(result) {}
+  PieceJoiner(ChatTypeId type, EditorLine& result)
+      : type_(type), result_(result) {}
 
   /// The text without its outermost quotes, and whether they were there.
   void Join(std::string_view inner, bool starts_quoted, bool ends_quoted) {
@@ -182,7 +195,7 @@ class PieceJoiner {
     bool is_first = true;
     for (int unquoted = 0;; is_quoted = !is_quoted, is_first = false) {
       // The rest of a line of very many pieces stays as it is written.
-      if (!is_quoted && ++unquoted > kMostPieces) return AddRest(inner);
+      if (!is_quoted && ++unquoted > kMaxPieces) return AddRest(inner);
       const std::size_t quote = inner.find('"');
       const bool is_last = quote == std::string_view::npos;
       const std::string_view piece = inner.substr(0, quote);
@@ -197,7 +210,7 @@ class PieceJoiner {
   }
 
  private:
-  static constexpr int kMostPieces = 19;
+  static constexpr int kMaxPieces = 19;
 
   void AddItems(std::string_view piece, bool is_first, bool is_last) {
     const bool is_whole = is_first && is_last;
@@ -214,8 +227,9 @@ class PieceJoiner {
       result_.text += *variables;
     } else if (is_whole && !Contains(items, ",")) {
       result_.text += items;
-      AddOddity("The game speaks the word \"" + Shown(items) +
-                    "\", which is none of its lists and groups here.",
+      AddOddity(Shown(items),
+                ": none of the word lists and groups known here; read as plain "
+                "text, and a save writes it so.",
                 result_);
     } else {
       AddUnknown(piece, is_first, is_last);
@@ -261,24 +275,36 @@ class PieceJoiner {
   }
 
   void Note(std::string_view piece) {
-    AddOddity("\"" + Shown(piece) +
-                  "\" is not understood and stays as it is written.",
-              result_);
+    AddOddity('"' + Shown(piece) + '"', kStays, result_);
   }
 
   static std::string Shown(std::string_view text) {
-    constexpr std::size_t kMost = 60;
-    return Utf8FromGameText(text.substr(0, kMost));
+    constexpr std::size_t kMax = 60;
+    return Utf8FromGameText(text.substr(0, kMax));
   }
 
-  int type_;
+  ChatTypeId type_;
   EditorLine& result_;
   bool ends_quoted_ = false;
 };
 
+bool StaysUnknown(const ChatOddity& oddity) { return oddity.kind == kStays; }
+
+/// Blanks are written in a way of our own without a word.
+void TellChanges(ChatTypeId type, std::string_view line, EditorLine& result) {
+  if (std::none_of(result.oddities.begin(), result.oddities.end(),
+                   StaysUnknown) ||
+      RemoveBlanks(ChatLineToFile(type, result.text)) == RemoveBlanks(line)) {
+    return;
+  }
+  for (ChatOddity& oddity : result.oddities) {
+    if (StaysUnknown(oddity)) oddity.kind = kChanges;
+  }
+}
+
 }  // namespace
 
-std::string ChatLineToFile(int type, std::string_view line) {
+std::string ChatLineToFile(ChatTypeId type, std::string_view line) {
   if (const std::optional<Member> member = MemberInEditorForm(line)) {
     std::string text(member->group->Name);
     if (!member->group->Unnumbered || !IsZero(member->digits)) {
@@ -313,7 +339,7 @@ std::string ChatLineToFile(int type, std::string_view line) {
   return text + ';';
 }
 
-EditorLine ChatLineFromFile(int type, std::string_view line) {
+EditorLine ChatLineFromFile(ChatTypeId type, std::string_view line) {
   EditorLine result;
   std::string_view inner = Statement(line, result);
   if (const std::optional<Member> member = MemberInFileForm(inner)) {
@@ -334,8 +360,8 @@ EditorLine ChatLineFromFile(int type, std::string_view line) {
   if (list != kWordLists.end()) {
     result.text = std::string(list->Variable);
     if (starts_quoted || ends_quoted) {
-      AddOddity("The text \"" + std::string(inner) +
-                    "\" is taken for the word list of that name.",
+      AddOddity('"' + std::string(inner) + '"',
+                ": a text that is taken for the word list of that name.",
                 result);
     }
     return result;
@@ -343,6 +369,7 @@ EditorLine ChatLineFromFile(int type, std::string_view line) {
   if (inner.empty()) return result;
   result.text.reserve(inner.size());
   PieceJoiner(type, result).Join(inner, starts_quoted, ends_quoted);
+  TellChanges(type, line, result);
   return result;
 }
 

@@ -30,12 +30,16 @@ ParsedSynonyms ParseSynonyms(std::string_view bytes) {
   ParsedSynonyms parsed;
   std::vector<std::string>& words = parsed.list.words;
   FieldReader fields(bytes);
-  fields.Next();  // The header.
+  bool is_first = true;
   while (const std::optional<std::string_view> field = fields.Next()) {
     if (fields.is_cut()) {
       parsed.is_whole = false;
       break;
     }
+    // A file that someone made by hand may lack the header.
+    const bool is_header = std::exchange(is_first, false) &&
+                           field->starts_with('[') && field->ends_with(']');
+    if (is_header) continue;
     if (!words.back().empty()) words.emplace_back();
     words.back() = *field;
   }

@@ -7,8 +7,9 @@
 
 #include "checks/check_context.h"
 #include "checks/finding.h"
-#include "checks/game_data.h"
+#include "game/game_data.h"
 #include "model/bot.h"
+#include "session/bot_file.h"
 
 namespace fragsmith {
 
@@ -19,12 +20,15 @@ std::span<const Check> BotChecks();
 /// a hint says what was not looked at. Quick enough to follow every edit.
 std::vector<Finding> CheckBot(const Bot& bot, const GameData* game);
 
+/// The kind of file in which the place of a finding comes to stand.
+BotFile KindOfPlace(const BotPlace& place);
+
 /// The bot's file in which the place of a finding comes to stand.
-std::string FileOfPlace(const Bot& bot, const FindingPlace& place);
+std::string FileOfPlace(const Bot& bot, const BotPlace& place);
 
 /// The chat line that a finding is about, for lists: "Bot kills (negative)",
 /// line 3. Empty for what is about none; then the finding's text says it.
-std::string ChatPlaceText(const FindingPlace& place);
+std::string ChatPlaceText(const BotPlace& place);
 
 /// "error", "warning" or "hint".
 std::string_view SeverityWord(Severity severity);

@@ -1,123 +1,152 @@
 #include "checks/bot_on_disk.h"
 
 #include <algorithm>
-#include <array>
-#include <functional>
 #include <optional>
 #include <string_view>
 #include <utility>
 #include <vector>
 
-#include "checks/game_data.h"
-#include "install/package.h"
-#include "session/load_bot.h"
-#include "support/files.h"
+#include "game/description_reader.h"
+#include "game/game_data.h"
+#include "game/game_path.h"
+#include "support/code_page.h"
 #include "support/text.h"
 
 namespace fragsmith {
-namespace fs = std::filesystem;
 namespace {
 
-struct Member {
-  BotFile file;
-  std::optional<GameFile> BotFileSet::*member;
-};
+/// The descriptions that the game comes upon: loose ones lie in the folder
+/// scripts itself, those of a package may lie one folder below it.
+std::vector<std::string> DescriptionPaths(const GivenFiles& given) {
+  const std::string folder = std::string(kScriptsFolder) + "/";
+  std::vector<std::string> paths = given.PathsLike(folder, ".bot");
+  std::erase_if(paths, [&](const std::string& path) {
+    return std::count(path.begin(), path.end(), '/') >
+           (given.is_packed() ? 2 : 1);
+  });
+  return paths;
+}
 
-constexpr std::array<Member, 5> kMembers = {{
-    {BotFile::kDescription, &BotFileSet::description},
-    {BotFile::kCharacteristics, &BotFileSet::character},
-    {BotFile::kWeaponWeights, &BotFileSet::weapon_weights},
-    {BotFile::kItemWeights, &BotFileSet::item_weights},
-    {BotFile::kChat, &BotFileSet::chat},
-}};
-
-/// Gives a file by its name in scripts or botfiles/bots.
-using Finder = std::function<std::optional<GameFile>(bool is_script,
-                                                     const std::string& name)>;
-
-BotOnDisk Read(const std::string& name, const Finder& find) {
-  BotOnDisk bot;
-  for (const Member& row : kMembers) {
-    bot.files.*row.member = find(row.file == BotFile::kDescription,
-                                 name + std::string(FileSuffix(row.file)));
+std::optional<GameFile> FindDescription(const GivenFiles& given,
+                                        const std::string& name,
+                                        bool reads_list, bool& is_list) {
+  std::vector<std::string> paths = DescriptionPaths(given);
+  if (reads_list) paths.emplace_back(kBotListPath);
+  for (const std::string& path : paths) {
+    std::optional<GameFile> file = given.OpenInAnyCase(path);
+    if (!file || !SpeaksOf(*file, name)) continue;
+    is_list = path == kBotListPath;
+    return file;
   }
-  if (bot.files.description) return bot;
-  std::optional<GameFile> list = find(true, "bots.txt");
-  if (list && NamesInDescriptions(list->bytes).contains(ToLower(name))) {
-    bot.files.description = std::move(list);
-    bot.is_in_bot_list = true;
+  return std::nullopt;
+}
+
+/// The bots that lie beside this one and win: those of the list bots.txt, which
+/// the game reads first, and those of descriptions that it reads before.
+void TakeNames(const GivenFiles& given, bool reads_list, BotOnDisk& bot) {
+  if (bot.is_in_bot_list || !bot.files.description) return;
+  const auto take = [&](const std::string& path, bool is_by_chance) {
+    const std::optional<GameFile> file = given.OpenInAnyCase(path);
+    if (file) AddNamesTaken(file->bytes, file->name, bot.files, is_by_chance);
+  };
+  if (reads_list) take(std::string(kBotListPath), false);
+  for (const std::string& path : DescriptionPaths(given)) {
+    if (EqualIgnoringCase(path, bot.files.description->game_path)) {
+      if (given.is_packed()) return;
+      continue;
+    }
+    // The system lists those of a folder in an order of its own.
+    take(path, !given.is_packed());
   }
-  return bot;
 }
 
 }  // namespace
 
-BotOnDisk ReadBotInFolder(const fs::path& folder, const std::string& name,
-                          bool uses_layout) {
-  const fs::path scripts =
-      uses_layout ? folder.parent_path().parent_path() / kScriptsFolder
-                  : folder;
-  return Read(
-      name,
-      [&](bool is_script, const std::string& file) -> std::optional<GameFile> {
-        const std::optional<fs::path> path =
-            FindFile(is_script ? scripts : folder, file);
-        if (!path) return std::nullopt;
-        Result<std::string> bytes = ReadFile(*path, kMostBotFileBytes);
-        const std::optional<std::string> found =
-            GameTextFromPath(path->filename());
-        if (!bytes || !found) return std::nullopt;
-        return GameFile{.name = Utf8FromPath(*path),
-                        .game_path = is_script ? *found : "bots/" + *found,
-                        .bytes = std::move(*bytes)};
-      });
+std::optional<ListedBot> FindListedBot(const GivenFiles& given,
+                                       const std::string& name) {
+  std::vector<std::string> paths = DescriptionPaths(given);
+  paths.insert(paths.begin(), std::string(kBotListPath));
+  for (const std::string& path : paths) {
+    const std::optional<GameFile> file = given.OpenInAnyCase(path);
+    if (!file) continue;
+    Complaints untold;
+    for (const DescriptionSet& set : ReadGameDescription(*file, untold)) {
+      if (!EqualIgnoringCase(set.Text("name"), name)) continue;
+      return ListedBot{std::string(set.Text("name")),
+                       BotOfPath(set.Text("aifile")), path == kBotListPath};
+    }
+  }
+  return std::nullopt;
 }
 
-BotOnDisk ReadBotInPackage(const fs::path& package, const std::string& name) {
-  Notes notes;
-  const Result<std::vector<std::string>> entries =
-      ListPackageEntries(package, notes);
-  return Read(
-      name,
-      [&](bool is_script, const std::string& file) -> std::optional<GameFile> {
-        if (!entries) return std::nullopt;
-        const std::string_view folder =
-            is_script ? kScriptsFolder : kBotFilesFolder;
-        const std::string wanted = std::string(folder) + "/" + file;
-        const bool is_there = std::any_of(
-            entries->begin(), entries->end(), [&wanted](std::string entry) {
-              std::replace(entry.begin(), entry.end(), '\\', '/');
-              return entry.size() == wanted.size() &&
-                     EqualIgnoringCase(entry, wanted);
-            });
-        if (!is_there) return std::nullopt;
-        Result<std::string> bytes =
-            ReadPackageEntry(package, wanted, kMostBotFileBytes);
-        if (!bytes) return std::nullopt;
-        // In packages case does not count: spelt as the bot's files spell it.
-        const std::string lower = ToLower(file);
-        const std::string shown =
-            Utf8FromPath(package.filename()) + "/" + wanted;
-        return GameFile{.name = shown,
-                        .game_path = is_script ? lower : "bots/" + lower,
-                        .bytes = std::move(*bytes)};
-      });
+BotOnDisk ReadBot(const GivenFiles& given, const std::string& name,
+                  bool reads_list, const std::string& listed_name) {
+  BotOnDisk bot;
+  bot.files.listed_name = listed_name;
+  bot.files.home = given.home();
+  for (const BotFileMember& row : kBotFileMembers) {
+    const std::string_view folder =
+        row.file == BotFile::kDescription ? kScriptsFolder : kBotFilesFolder;
+    bot.files.*row.member = given.OpenInAnyCase(
+        std::string(folder) + "/" + name + std::string(FileSuffix(row.file)));
+  }
+  if (!bot.files.description || !listed_name.empty()) {
+    const std::string& wanted = listed_name.empty() ? name : listed_name;
+    bot.files.description =
+        FindDescription(given, wanted, reads_list, bot.is_in_bot_list);
+  }
+  TakeNames(given, reads_list, bot);
+  return bot;
+}
+
+bool SpeaksOf(const GameFile& file, const std::string& name) {
+  Complaints untold;
+  const std::string path = "bots/" + name + "_c.c";
+  const std::vector<DescriptionSet> sets = ReadGameDescription(file, untold);
+  return std::ranges::any_of(sets, [&](const DescriptionSet& set) {
+    return EqualIgnoringCase(
+               PathLookedFor(set.Text("aifile"), FileHome::kPacked), path) ||
+           EqualIgnoringCase(set.Text("name"), name);
+  });
+}
+
+void AddNamesTaken(const std::string& bytes, const std::string& shown,
+                   BotFileSet& files, bool is_by_chance) {
+  for (const auto& [name, bot] : BotsInDescriptions(bytes)) {
+    files.names_taken.emplace(name,
+                              WinningDescription{.shown_path = shown,
+                                                 .character = bot.character,
+                                                 .is_by_chance = is_by_chance});
+  }
 }
 
 Finding LooseFilesHint(const BotOnDisk& bot) {
   std::string name;
-  for (const Member& row : kMembers) {
+  for (const BotFileMember& row : kBotFileMembers) {
     const std::optional<GameFile>& file = bot.files.*row.member;
     if (name.empty() && file) name = file->name;
   }
   return {.id = "loose-files",
           .severity = Severity::kHint,
-          .place = {.file = std::move(name)},
+          .place = FilePlace{.file = std::move(name)},
           .text =
               "These files lie in a folder. A game that you start and play "
               "yourself passes over such files unless it was started with "
               "+set sv_pure 0. Pack the bot into a .pk3 package to be "
               "safe.",
+          .mends = {}};
+}
+
+Finding HowToAdd(const std::string& name, BotPlace place,
+                 const std::string& files) {
+  const bool needs_quotes =
+      name.find_first_of(" \t;") != std::string::npos || name.empty();
+  const std::string shown = needs_quotes ? '"' + name + '"' : name;
+  return {.id = "how-to-add",
+          .severity = Severity::kHint,
+          .place = std::move(place),
+          .text = "To add the bot, type /addbot " + ShownText(shown) +
+                  " 3 in the game's console." + files,
           .mends = {}};
 }
 

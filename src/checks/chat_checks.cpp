@@ -5,96 +5,115 @@
 #include <string_view>
 #include <utility>
 
-#include "checks/chat_type_facts.h"
-#include "checks/game_number.h"
-#include "checks/parameter_words.h"
+#include "chat/chat_commands.h"
+#include "chat/vocabulary.h"
+#include "game/chat_type_facts.h"
+#include "game/number.h"
+#include "game/ready_lines.h"
 #include "model/characteristic_catalogue.h"
+#include "session/bot_difference.h"
 
 namespace fragsmith {
 namespace {
 
-constexpr int kEnemySuicideIndex = 38;
-
-/// The chat characteristics that give a chance to some type.
-constexpr IndexRange kChances = {34, 42};
-
-bool HasLines(const Bot& bot, int type) {
+bool HasLines(const Bot& bot, ChatTypeId type) {
   const std::vector<std::string>& lines = bot.ChatLines(type);
   return std::any_of(lines.begin(), lines.end(),
                      [](const std::string& line) { return !line.empty(); });
 }
 
-std::vector<std::string> Captions(const std::vector<int>& types) {
+/// Writes a line for each, as the game or we have one.
+Mend AddLines(const CheckContext& context,
+              const std::vector<ChatTypeId>& types) {
+  std::vector<std::pair<ChatTypeId, std::string>> lines;
+  lines.reserve(types.size());
+  for (const ChatTypeId type : types) {
+    lines.emplace_back(type,
+                       OtherChatLine(context.bot, type, WordsOf(context)));
+  }
+  return {.title = types.size() == 1 ? "Add a line" : "Add a line for each",
+          .apply = [lines = std::move(lines)](Bot& bot) {
+            for (const auto& [type, line] : lines) {
+              bot.SetChatLine(type, NextFreeChatLine(bot, type), line);
+            }
+          }};
+}
+
+std::vector<std::string> Captions(const std::vector<ChatTypeId>& types) {
   std::vector<std::string> captions;
   captions.reserve(types.size());
-  for (const int type : types) captions.push_back(QuotedChatType(type));
+  for (const ChatTypeId type : types) captions.push_back(QuotedChatType(type));
   return captions;
 }
 
-std::string Chance(int index) {
-  return "chat characteristic " + QuotedName(index);
+std::string Chance(ParameterId chance) {
+  return "chat characteristic " + QuotedName(chance);
 }
 
 }  // namespace
 
 void CheckTypeIsNeverHeard(const CheckContext& context, FindingList& findings) {
-  for (int type = 0; type < kChatTypeCount; ++type) {
+  for (const ChatTypeId type : kAllChatTypes) {
     const ChatTypeFacts& facts = FactsOfChatType(type);
     if (facts.is_heard || !HasLines(context.bot, type)) continue;
-    // The sentence begins with "Never" or the like, then gives the reason.
-    const std::string_view reason =
-        facts.when.substr(facts.when.find(": ") + 2);
-    findings.Add(PlaceOfType(type), "Nobody hears the lines of " +
-                                        QuotedChatType(type) + ": " +
-                                        std::string(reason));
+    // They may be another author's, so that taking them out is no safe mend.
+    findings.Add(
+        PlaceOfType(type),
+        "Nobody hears the lines of " + QuotedChatType(type) + ": " +
+            std::string(facts.when),
+        {{.title = "Take the lines of " + QuotedChatType(type) + " out",
+          .apply = [type](Bot& bot) { CopyChatType(type, Bot(), bot); }}});
   }
 }
 
 void CheckLinesWithoutChance(const CheckContext& context,
                              FindingList& findings) {
   constexpr double kMiddling = 0.5;
-  for (int index = kChances.first; index <= kChances.last; ++index) {
-    if (NumberInGame(context.bot, index) > 0) continue;
-    std::vector<int> types;
-    for (const int type : TypesOfChance(index)) {
+  for (const int index : kChanceRange) {
+    const ParameterId chance(index);
+    if (NumberInGame(context.bot, chance) > 0) continue;
+    std::vector<ChatTypeId> types;
+    for (const ChatTypeId type : TypesOfChance(chance)) {
       const bool is_heard = FactsOfChatType(type).is_heard;
       if (is_heard && HasLines(context.bot, type)) types.push_back(type);
     }
     if (types.empty()) continue;
     findings.Add(
-        index,
+        chance,
         "There are lines for " + Enumeration(Captions(types)) + ", but the " +
-            Chance(index) + " is 0: the bot never speaks them.",
-        {SetTo(index, kMiddling, "Set " + QuotedName(index) + " to 0.5")});
+            Chance(chance) + " is 0: the bot never speaks them.",
+        {SetTo(chance, kMiddling, "Set " + QuotedName(chance) + " to 0.5")});
   }
-  for (int type = 0; type < kChatTypeCount; ++type) {
+  for (const ChatTypeId type : kAllChatTypes) {
     const ChatTypeFacts& facts = FactsOfChatType(type);
     if (!facts.is_heard || IsDrawn(context.bot, type) ||
         !HasLines(context.bot, type) ||
-        NumberInGame(context.bot, facts.chance_index) <= 0) {
+        NumberInGame(context.bot, facts.chance.value()) <= 0) {
       continue;
     }
     findings.Add(PlaceOfType(type),
                  "The bot never speaks the lines of " + QuotedChatType(type) +
                      ": by the chat characteristics \"Insult\" and \"Misc\" "
-                     "it always takes the other type.");
+                     "it always takes the other type. Set that one between 0 "
+                     "and 1 to hear both.");
   }
 }
 
 void CheckChanceWithoutLines(const CheckContext& context,
                              FindingList& findings) {
-  for (int index = kChances.first; index <= kChances.last; ++index) {
-    if (NumberInGame(context.bot, index) <= 0) continue;
-    std::vector<int> empty;
+  for (const int index : kChanceRange) {
+    const ParameterId chance(index);
+    if (NumberInGame(context.bot, chance) <= 0) continue;
+    std::vector<ChatTypeId> empty;
     std::size_t drawn = 0;
-    for (const int type : TypesOfChance(index)) {
+    for (const ChatTypeId type : TypesOfChance(chance)) {
       if (!IsDrawn(context.bot, type)) continue;
       ++drawn;
       if (!HasLines(context.bot, type)) empty.push_back(type);
     }
     if (empty.empty()) continue;
     const bool has_none = empty.size() == drawn;
-    std::string text = "The " + Chance(index) +
+    std::string text = "The " + Chance(chance) +
                        " is above 0, but there is no line for " +
                        Enumeration(Captions(empty)) +
                        ": the bot then stands still for 2 seconds, says "
@@ -103,21 +122,24 @@ void CheckChanceWithoutLines(const CheckContext& context,
                      : "Write at least one line for each.";
     std::vector<Mend> mends;
     if (has_none) {
-      mends.push_back(SetTo(index, 0.0, "Set " + QuotedName(index) + " to 0"));
+      mends.push_back(
+          Safe(SetTo(chance, 0.0, "Set " + QuotedName(chance) + " to 0")));
     }
-    findings.Add(index, std::move(text), std::move(mends));
+    mends.push_back(AddLines(context, empty));
+    findings.Add(chance, std::move(text), std::move(mends));
   }
 }
 
 void CheckEnemySuicide(const CheckContext& context, FindingList& findings) {
-  if (NumberInGame(context.bot, kEnemySuicideIndex) <= 0) return;
-  findings.Add(kEnemySuicideIndex,
-               "The " + Chance(kEnemySuicideIndex) +
-                   " only makes the bot fall silent for 25 seconds when "
-                   "somebody commits suicide: there is no text for it that the "
-                   "game would send.",
-               {SetTo(kEnemySuicideIndex, 0.0,
-                      "Set " + QuotedName(kEnemySuicideIndex) + " to 0")});
+  if (NumberInGame(context.bot, kEnemySuicideChance) <= 0) return;
+  findings.Add(
+      kEnemySuicideChance,
+      "The " + Chance(kEnemySuicideChance) +
+          " only makes the bot fall silent for 25 seconds when "
+          "somebody commits suicide: there is no text for it that the "
+          "game would send.",
+      {Safe(SetTo(kEnemySuicideChance, 0.0,
+                  "Set " + QuotedName(kEnemySuicideChance) + " to 0"))});
 }
 
 }  // namespace fragsmith

@@ -9,10 +9,13 @@
 #include <utility>
 
 #include "chat/chat_catalogue.h"
-#include "checks/chat_type_facts.h"
-#include "checks/parameter_words.h"
-#include "checks/plain_letters.h"
-#include "checks/spoken_line.h"
+#include "chat/vocabulary.h"
+#include "game/chat_type_facts.h"
+#include "game/lexer.h"
+#include "game/limits.h"
+#include "game/plain_letters.h"
+#include "game/ready_lines.h"
+#include "game/spoken_line.h"
 #include "support/code_page.h"
 #include "support/text.h"
 
@@ -28,9 +31,6 @@ bool IsControl(char letter) {
 bool HasControl(std::string_view text) {
   return std::any_of(text.begin(), text.end(), IsControl);
 }
-
-/// Letters behind a backslash that mean something to the game.
-constexpr std::string_view kEscapes = R"(\"'?nrtvbfax0123456789)";
 
 /// The text with each backslash doubled that the game would not understand.
 std::string WithGoodBackslashes(std::string_view text) {
@@ -90,16 +90,21 @@ void AddChanges(std::string_view text, std::vector<std::string>& changes) {
   add(HasAccents(text),
       "letters with accents and other special signs become blanks");
   add(Contains(text, "%"), "\"%\" becomes a dot");
-  add(Contains(text, "//"), "everything from \"//\" on is cut off");
-  add(Contains(text, "/*"), R"("/*" takes away all up to "*/")");
+  // Between double quotes these stay.
+  const std::string shown = AsOnScreen(text);
+  add(Contains(text, "//") && !Contains(shown, "//"),
+      "everything from \"//\" on is cut off");
+  add(Contains(text, "/*") && !Contains(shown, "/*"),
+      R"("/*" takes away all up to "*/")");
   add(Contains(text, ";"), "a semicolon becomes a blank");
-  add(Contains(text, "  ") || HasControl(text) || Contains(text, "\t"),
+  add((Contains(text, "  ") && !Contains(shown, "  ")) || HasControl(text) ||
+          Contains(text, "\t"),
       "several blanks become one");
   add(Contains(text, "\""), "double quotes are dropped");
 }
 
 /// The variable as the editor writes it, or its number.
-std::string ShownVariable(int type, int variable) {
+std::string ShownVariable(ChatTypeId type, int variable) {
   for (const int pointer : ChatTypeAt(type).Pointers()) {
     const ChatPointer& row = ChatPointerAt(pointer);
     if (row.Item() == std::to_string(variable)) {
@@ -133,9 +138,16 @@ bool IsPointerSomewhere(std::string_view variable) {
       [variable](const ChatPointer& row) { return row.Variable == variable; });
 }
 
-const WordLists& ListsOf(const CheckContext& context) {
-  const bool has_game = context.game != nullptr && !context.game->words.empty();
-  return has_game ? context.game->words : WordLists::Sample();
+/// What can stand in the place of a ready-made line. Its author chose that one,
+/// so that it is no safe mend.
+std::vector<Mend> ByOtherLine(const CheckContext& context,
+                              const CheckedLine& line) {
+  if (!IsReadyMade(*line.text)) return {};
+  std::string other = OtherChatLine(context.bot, line.type, WordsOf(context));
+  std::string title = IsReadyMade(other)
+                          ? "Use " + ShownText(other) + " in its place"
+                          : "Use the line " + QuotedText(other);
+  return {SetLine(line, std::move(other), std::move(title))};
 }
 
 /// Calls the function with each line that the game can read.
@@ -157,8 +169,8 @@ void CheckLineQuotes(const CheckContext& context, FindingList& findings) {
     const bool has_quote = Contains(*line.text, "\"");
     std::vector<Mend> mends;
     if (has_quote) {
-      mends.push_back(SetLine(line, Replaced(*line.text, '"', '\''),
-                              "Use single quotes in the line"));
+      mends.push_back(Safe(SetLine(line, Replaced(*line.text, '"', '\''),
+                                   "Use single quotes in the line")));
     }
     findings.Add(PlaceOf(line),
                  has_quote ? "A double quote ends the text early, the game "
@@ -182,8 +194,8 @@ void CheckLineBackslashes(const CheckContext& context, FindingList& findings) {
                   "to mean, complains and cuts the text there.";
     findings.Add(
         PlaceOf(line), std::move(text) + " Take it out, or write two of them.",
-        {SetLine(line, WithGoodBackslashes(*line.text),
-                 "Write two backslashes, of which the game speaks one"),
+        {Safe(SetLine(line, WithGoodBackslashes(*line.text),
+                      "Write two backslashes, of which the game speaks one")),
          SetLine(line, ReplacedAll(*line.text, "\\", ""),
                  "Take the backslashes out")});
   }
@@ -194,36 +206,39 @@ void CheckLineControls(const CheckContext& context, FindingList& findings) {
     if (!HasControl(*line.text)) continue;
     std::string plain = *line.text;
     std::replace_if(plain.begin(), plain.end(), IsControl, ' ');
-    findings.Add(PlaceOf(line),
-                 "The line has a line end or another control character in it: "
-                 "the game cannot read the chat file and does not add the "
-                 "bot.",
-                 {SetLine(line, std::move(plain), "Put blanks in its place")});
+    findings.Add(
+        PlaceOf(line),
+        "The line has a line end or another control character in it: "
+        "the game cannot read the chat file and does not add the "
+        "bot.",
+        {Safe(SetLine(line, std::move(plain), "Put blanks in its place"))});
   }
 }
 
 void CheckLineLength(const CheckContext& context, FindingList& findings) {
   ForEachReadable(context, [&](const CheckedLine& line) {
-    const std::size_t length = EncodedLength(line.message);
-    if (length <= kMostEncodedBytes) return;
-    const bool has_word = std::any_of(
-        line.message.items.begin(), line.message.items.end(),
-        [](const ChatItem& item) { return item.kind == Kind::kWord; });
-    std::string text =
-        "The game has room for 255 characters in a line, and "
-        "this one takes " +
-        std::to_string(length) + ": the bot is not added";
-    if (has_word) text += ", or the game even crashes";
+    const ChatSize size = SizeOf(line.message);
+    if (size.fit == ChatFit::kFits) return;
+    std::string text = "The game has room for " +
+                       std::to_string(limits::kMaxEncodedBytes) +
+                       " characters in a line, and this one takes ";
+    // A variable or a word list needs more room than it takes.
+    text += size.length > limits::kMaxEncodedBytes ? std::to_string(size.length)
+                                                   : "too many of them";
+    text += size.fit == ChatFit::kOverflows
+                ? ", in a way that the game does not notice in time: it may "
+                  "crash"
+                : ": the bot is not added";
     findings.Add(PlaceOf(line), text + ". Shorten the line.");
   });
 }
 
 void CheckLineOnScreen(const CheckContext& context, FindingList& findings) {
-  const WordLists& lists = ListsOf(context);
+  const WordLists& lists = WordsOf(context);
   ForEachReadable(context, [&](const CheckedLine& line) {
-    if (EncodedLength(line.message) > kMostEncodedBytes) return;
+    if (SizeOf(line.message).fit != ChatFit::kFits) return;
     const std::size_t longest = LongestSpoken(line.type, line.message, lists);
-    if (longest <= kSafeSpokenBytes) return;
+    if (longest <= limits::kSafeSpokenBytes) return;
     const bool is_always = std::all_of(
         line.message.items.begin(), line.message.items.end(),
         [](const ChatItem& item) { return item.kind == Kind::kText; });
@@ -231,11 +246,13 @@ void CheckLineOnScreen(const CheckContext& context, FindingList& findings) {
         is_always
             ? "The line has " + std::to_string(longest) + " characters"
             : "With the longest names and words the line has " +
-                  (longest > kMostEncodedBytes ? "more than 255"
-                                               : std::to_string(longest)) +
+                  (longest > limits::kMaxEncodedBytes
+                       ? "more than " + std::to_string(limits::kMaxEncodedBytes)
+                       : std::to_string(longest)) +
                   " characters";
-    text += "; the screen shows some 130 and cuts the rest.";
-    findings.Add(PlaceOf(line), std::move(text));
+    text += "; the screen shows some " +
+            std::to_string(limits::kSafeSpokenBytes) + " and cuts the rest.";
+    findings.Add(PlaceOf(line), std::move(text), ByOtherLine(context, line));
   });
 }
 
@@ -249,8 +266,8 @@ void CheckLineCharacters(const CheckContext& context, FindingList& findings) {
     std::vector<Mend> mends;
     std::string plain = InGameCharacters(*line.text);
     if (plain != *line.text && !plain.empty()) {
-      mends.push_back(SetLine(line, std::move(plain),
-                              "Use plain letters and signs in the line"));
+      mends.push_back(Safe(SetLine(line, std::move(plain),
+                                   "Use plain letters and signs in the line")));
     }
     findings.Add(PlaceOf(line),
                  "The game changes the line on its way to the screen: " +
@@ -267,14 +284,25 @@ void CheckLineWords(const CheckContext& context, FindingList& findings) {
           context.game->words.Find(item.text) != nullptr) {
         continue;
       }
-      const bool is_member = line.text->starts_with("{{");
+      const bool is_member = IsReadyMade(*line.text);
+      if (is_member && context.game->words.Find(item.text + "0") != nullptr) {
+        findings.Add(PlaceOf(line),
+                     "Your game calls " + ShownText(*line.text) + " " +
+                         item.text + "0, and a file made anew says " +
+                         item.text +
+                         ", which it does not know. A file that says " +
+                         item.text + "0 already stays good.",
+                     ByOtherLine(context, line));
+        return;
+      }
       std::string text = "Your game has no ";
       text += is_member ? "ready-made line " + ShownText(*line.text)
                         : "word list " + ShownList(item.text);
       findings.Add(PlaceOf(line),
                    text +
                        ": in its place the bot speaks the remains of an "
-                       "earlier line. Use another one or write a text.");
+                       "earlier line. Use another one or write a text.",
+                   ByOtherLine(context, line));
       return;
     }
   });
@@ -284,13 +312,16 @@ void CheckLineVariables(const CheckContext& context, FindingList& findings) {
   ForEachReadable(context, [&](const CheckedLine& line) {
     for (const ChatItem& item : line.message.items) {
       if (item.kind != Kind::kVariable) continue;
+      // The game complains of those, and the checks of files tell it.
+      if (item.variable >= kFirstUnknownVariable) continue;
       const ChatFill fill = FillOf(line.type, item.variable);
       if (fill != ChatFill::kNothing && fill != ChatFill::kInvalid) continue;
       const std::string variable = ShownVariable(line.type, item.variable);
       std::vector<Mend> mends;
       if (Contains(*line.text, variable)) {
-        mends.push_back(SetLine(line, ReplacedAll(*line.text, variable, ""),
-                                "Take " + variable + " out of the line"));
+        mends.push_back(
+            Safe(SetLine(line, ReplacedAll(*line.text, variable, ""),
+                         "Take " + variable + " out of the line")));
       }
       findings.Add(PlaceOf(line),
                    "In this situation the game has nothing for " + variable +

@@ -2,14 +2,19 @@
 
 namespace fragsmith {
 
+const WordLists& WordsOf(const CheckContext& context) {
+  const bool has_game = context.game != nullptr && !context.game->words.empty();
+  return has_game ? context.game->words : WordLists::Sample();
+}
+
 void FindingList::Begin(const Check& check) {
   check_ = &check;
   of_this_check_ = 0;
 }
 
-void FindingList::Add(FindingPlace place, std::string text,
+void FindingList::Add(BotPlace place, std::string text,
                       std::vector<Mend> mends) {
-  if (++of_this_check_ > kMostOfOneCheck) return;
+  if (++of_this_check_ > kMaxOfOneCheck) return;
   findings_.push_back({.id = check_->id,
                        .severity = check_->severity,
                        .place = std::move(place),
@@ -17,10 +22,10 @@ void FindingList::Add(FindingPlace place, std::string text,
                        .mends = std::move(mends)});
 }
 
-Mend SetTo(int parameter, Value value, std::string title) {
+Mend SetTo(ParameterId parameter, Value value, std::string title) {
   return {.title = std::move(title),
           .apply = [parameter, value = std::move(value)](Bot& bot) {
-            (void)bot.SetParameter(parameter, value);
+            bot.Put(parameter, value);
           }};
 }
 

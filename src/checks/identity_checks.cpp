@@ -5,27 +5,20 @@
 #include <optional>
 #include <string>
 
+#include "botfiles/characteristic_file.h"
 #include "botfiles/description_file.h"
-#include "checks/parameter_words.h"
-#include "checks/plain_letters.h"
+#include "chat/chat_file.h"
+#include "chat/vocabulary.h"
+#include "game/description_reader.h"
+#include "game/limits.h"
+#include "game/plain_letters.h"
 #include "model/characteristic_catalogue.h"
-#include "session/identity_checks.h"
+#include "session/identity_rules.h"
 #include "support/code_page.h"
 #include "support/text.h"
 
 namespace fragsmith {
 namespace {
-
-/// A value of the description file with one of these is thrown away.
-constexpr std::string_view kThrownAway = ";\\\"";
-constexpr std::size_t kLongestName = 45;
-constexpr std::size_t kLongestInBotMenu = 31;
-constexpr std::size_t kLongestInSkirmish = 15;
-constexpr std::size_t kLongestFunName = 35;
-
-bool HasAnyOf(std::string_view text, std::string_view letters) {
-  return text.find_first_of(letters) != std::string_view::npos;
-}
 
 std::string Without(std::string text, std::string_view letters) {
   std::erase_if(text, [letters](char letter) {
@@ -34,22 +27,12 @@ std::string Without(std::string text, std::string_view letters) {
   return text;
 }
 
-/// What the first blank, TAB or letter of the upper half ends, where a value
-/// of the description file has no quotes around it.
-std::string_view FirstWord(std::string_view text) {
-  const auto* const end =
-      std::find_if(text.begin(), text.end(), [](char letter) {
-        return IsAccented(letter) || letter == ' ' || letter == '\t';
-      });
-  return text.substr(0, static_cast<std::size_t>(end - text.begin()));
-}
-
 std::vector<Mend> RenameTo(const std::string& name) {
   if (NameRefusal(name)) return {};
-  return {SetTo(kNameIndex, name, "Call the bot " + Utf8FromGameText(name))};
+  return {SetTo(kNameField, name, "Call the bot " + Utf8FromGameText(name))};
 }
 
-std::string ShownName(const Bot& bot) { return QuotedText(bot.Name()); }
+std::string ShownName(const Bot& bot) { return Quoted(bot.Name()); }
 
 /// The fun name as the bot holds it, quotes included, and what is in them.
 struct FunName {
@@ -63,9 +46,9 @@ struct FunName {
 
 /// Quotes stand around a fun name where the game needs them.
 Mend FunNameTo(const std::string& inner, std::string title) {
-  const bool needs_quotes = FirstWord(inner).size() < inner.size();
-  return SetTo(kFunNameField, needs_quotes ? '"' + inner + '"' : inner,
-               std::move(title));
+  const bool needs_quotes = UnquotedWord(inner).size() < inner.size();
+  return Safe(SetTo(kFunNameField, needs_quotes ? '"' + inner + '"' : inner,
+                    std::move(title)));
 }
 
 bool IsColorCode(std::string_view text, std::size_t at) {
@@ -101,14 +84,78 @@ std::string WithoutBlack(std::string_view text) {
   return kept;
 }
 
+constexpr ParameterId kTextFields[] = {
+    kNameField,  kGenderField, kFunNameField,  kRailColorField,
+    kModelField, kSkinField,   kArenaLordField};
+
+/// What a load makes of the files that a save writes. Fields beside the name
+/// stand in one file alone.
+Bot ReadBack(const Bot& bot, ParameterId field) {
+  Bot read;
+  // The bot is wanted alone, not the notes on the way.
+  if (field == kNameField || field == kGenderField) {
+    (void)ReadCharacteristicFile(WriteCharacteristicFile(bot, {}), {},
+                                 ReadIdentity::kYes, read);
+  } else {
+    (void)ReadDescriptionFile(WriteDescriptionFile(bot, {}), {}, read);
+  }
+  if (field == kNameField) {
+    (void)ReadChatFile(WriteChatFile(bot, {}), {}, read);
+    (void)ReadDescriptionFile(WriteDescriptionFile(bot, {}), {}, read);
+  }
+  return read;
+}
+
+/// The case of a model or skin follows from the list of models.
+bool IsSameText(ParameterId field, const Bot& bot, const Bot& read) {
+  if (field == kModelField || field == kSkinField) {
+    return EqualIgnoringCase(bot.Text(field), read.Text(field));
+  }
+  return FunNameForBox(bot.Text(field)) == FunNameForBox(read.Text(field));
+}
+
+/// What comes out otherwise; nothing when all is as it was.
+std::optional<std::string> ChangeOf(const Bot& bot, const Bot& read) {
+  for (const ParameterId field : kTextFields) {
+    if (IsSameText(field, bot, read)) continue;
+    return std::string(ParameterName(field)) + " then is " +
+           Quoted(read.Text(field));
+  }
+  for (const ChatTypeId type : kAllChatTypes) {
+    if (bot.ChatLines(type) != read.ChatLines(type)) {
+      return "there then are chat lines that nobody wrote";
+    }
+  }
+  return std::nullopt;
+}
+
 }  // namespace
+
+void CheckReadBack(const CheckContext& context, FindingList& findings) {
+  for (const ParameterId field : kTextFields) {
+    const std::string text = context.bot.Text(field);
+    // Told of by other checks.
+    if (IsThrownAway(FunNameForBox(text))) continue;
+    if (field == kNameField && NameRefusal(text)) continue;
+    Bot bot;
+    if (bot.Text(field) == text) continue;
+    bot.Put(field, context.bot.Parameter(field));
+    const std::optional<std::string> change =
+        ChangeOf(bot, ReadBack(bot, field));
+    if (!change) continue;
+    findings.Add(field, std::string(ParameterName(field)) + " " + Quoted(text) +
+                            " does not survive saving and loading, because of "
+                            "the way in which the files are read: " +
+                            *change + ". Choose another.");
+  }
+}
 
 void CheckUnusableName(const CheckContext& context, FindingList& findings) {
   const std::string name = context.bot.Name();
-  if (HasAnyOf(name, kThrownAway)) return;  // Told of by another check.
+  if (IsThrownAway(name)) return;  // Told of by another check.
   const std::optional<Message> refusal = NameRefusal(name);
   if (!refusal) return;
-  findings.Add(kNameIndex,
+  findings.Add(kNameField,
                refusal->text + " A bot of this name cannot be saved.",
                RenameTo(RemoveBlanks(name)));
 }
@@ -116,7 +163,7 @@ void CheckUnusableName(const CheckContext& context, FindingList& findings) {
 void CheckNumericName(const CheckContext& context, FindingList& findings) {
   const std::string name = context.bot.Name();
   if (!ToNumber(name)) return;
-  findings.Add(kNameIndex,
+  findings.Add(kNameField,
                "The name " + ShownName(context.bot) +
                    " is a number, and the game wants text there: it does not "
                    "find the bot's chats and does not add the bot. Put a "
@@ -126,34 +173,40 @@ void CheckNumericName(const CheckContext& context, FindingList& findings) {
 
 void CheckLongName(const CheckContext& context, FindingList& findings) {
   const std::string name = context.bot.Name();
-  if (name.size() <= kLongestName) return;
-  findings.Add(kNameIndex,
+  if (name.size() <= limits::kMaxName) return;
+  findings.Add(kNameField,
                "The name has " + std::to_string(name.size()) +
-                   " characters. The game has room for 45 in the names of "
+                   " characters. The game has room for " +
+                   std::to_string(limits::kMaxName) +
+                   " in the names of "
                    "the bot's files and does not add a bot with more. "
                    "Shorten it.",
-               RenameTo(name.substr(0, kLongestInSkirmish)));
+               RenameTo(name.substr(0, limits::kMaxNameInSkirmish)));
 }
 
 void CheckNameForMenus(const CheckContext& context, FindingList& findings) {
   const std::string name = context.bot.Name();
-  if (name.size() <= kLongestInSkirmish || name.size() > kLongestName) return;
+  if (name.size() <= limits::kMaxNameInSkirmish ||
+      name.size() > limits::kMaxName)
+    return;
   std::string menus = "the menu of a skirmish";
-  if (name.size() > kLongestInBotMenu) {
+  if (name.size() > limits::kMaxNameInBotMenu) {
     menus += " and the menu \"add bots\"";
   }
-  findings.Add(kNameIndex,
+  findings.Add(kNameField,
                "The name has " + std::to_string(name.size()) +
                    " characters, which is more than " + menus +
                    " can hold: there the bot cannot be picked. The console's "
-                   "addbot command works. Up to 15 characters fit everywhere.",
-               RenameTo(name.substr(0, kLongestInSkirmish)));
+                   "addbot command works. Up to " +
+                   std::to_string(limits::kMaxNameInSkirmish) +
+                   " characters fit everywhere.",
+               RenameTo(name.substr(0, limits::kMaxNameInSkirmish)));
 }
 
 void CheckNameCharacters(const CheckContext& context, FindingList& findings) {
   const std::string name = context.bot.Name();
-  if (!HasAnyOf(name, kThrownAway)) return;
-  findings.Add(kNameIndex,
+  if (!IsThrownAway(name)) return;
+  findings.Add(kNameField,
                "The name " + ShownName(context.bot) +
                    " has a semicolon, a backslash or a double quote. The game "
                    "throws such a name away and does not know the bot. Take "
@@ -163,8 +216,8 @@ void CheckNameCharacters(const CheckContext& context, FindingList& findings) {
 
 void CheckNameAccents(const CheckContext& context, FindingList& findings) {
   const std::string name = context.bot.Name();
-  if (!HasAccents(name) || HasAnyOf(name, kThrownAway)) return;
-  findings.Add(kNameIndex,
+  if (!HasAccents(name) || IsThrownAway(name)) return;
+  findings.Add(kNameField,
                "The game reads the name " + ShownName(context.bot) +
                    " only up to its first letter with an accent, looks for "
                    "files of that shorter name and does not find them: it "
@@ -176,7 +229,7 @@ void CheckNameAccents(const CheckContext& context, FindingList& findings) {
 void CheckFunNameCharacters(const CheckContext& context,
                             FindingList& findings) {
   const FunName name(context.bot);
-  if (!HasAnyOf(name.inner, kThrownAway)) return;
+  if (!IsThrownAway(name.inner)) return;
   findings.Add(kFunNameField,
                "The fun name has a semicolon, a backslash or a double quote "
                "in it. The game throws such a line away, and with a double "
@@ -188,13 +241,17 @@ void CheckFunNameCharacters(const CheckContext& context,
 
 void CheckFunNameLength(const CheckContext& context, FindingList& findings) {
   const FunName name(context.bot);
-  if (name.inner.size() <= kLongestFunName) return;
-  findings.Add(kFunNameField,
-               "The fun name has " + std::to_string(name.inner.size()) +
-                   " characters, colour codes included; the game shows the "
-                   "first 35 of them and cuts the rest.",
-               {FunNameTo(name.inner.substr(0, kLongestFunName),
-                          "Cut the fun name after 35 characters")});
+  if (name.inner.size() <= limits::kMaxPlayerName) return;
+  findings.Add(
+      kFunNameField,
+      "The fun name has " + std::to_string(name.inner.size()) +
+          " characters, colour codes included; the game shows the "
+          "first " +
+          std::to_string(limits::kMaxPlayerName) +
+          " of them and cuts the rest.",
+      {FunNameTo(name.inner.substr(0, limits::kMaxPlayerName),
+                 "Cut the fun name after " +
+                     std::to_string(limits::kMaxPlayerName) + " characters")});
 }
 
 void CheckFunNameBlack(const CheckContext& context, FindingList& findings) {
@@ -255,30 +312,32 @@ void CheckFunNameDots(const CheckContext& context, FindingList& findings) {
 void CheckFunNameQuotes(const CheckContext& context, FindingList& findings) {
   const FunName name(context.bot);
   if (name.is_quoted) return;
-  const std::string_view read = FirstWord(name.inner);
+  const std::string_view read = UnquotedWord(name.inner);
   if (read.size() == name.inner.size() || read.empty()) return;
   findings.Add(kFunNameField,
                "Without double quotes around it, the game reads the fun name "
                "only up to \"" +
                    ShownText(read) + "\".",
-               {SetTo(kFunNameField, '"' + name.inner + '"',
-                      "Put double quotes around the fun name")});
+               {Safe(SetTo(kFunNameField, '"' + name.inner + '"',
+                           "Put double quotes around the fun name"))});
 }
 
 void CheckGender(const CheckContext& context, FindingList& findings) {
-  const std::string gender = context.bot.Text(kGenderIndex);
+  const std::string gender = context.bot.Text(kGenderField);
   const char first = gender.empty() ? ' ' : gender.front();
   // Whatever begins otherwise is "it", but those two are meant so.
   if (!ToNumber(gender) && Contains("mfin", {&first, 1})) return;
   const char lower = ToLower(first);
   std::vector<Mend> mends;
   if (lower == 'm') {
-    mends.push_back(SetTo(kGenderIndex, "male", "Set the gender to male"));
+    mends.push_back(
+        Safe(SetTo(kGenderField, "male", "Set the gender to male")));
   }
   if (lower == 'f') {
-    mends.push_back(SetTo(kGenderIndex, "female", "Set the gender to female"));
+    mends.push_back(
+        Safe(SetTo(kGenderField, "female", "Set the gender to female")));
   }
-  findings.Add(kGenderIndex,
+  findings.Add(kGenderField,
                "The game takes the gender \"" + ShownText(gender) +
                    "\" as \"it\". It knows male and female in small letters "
                    "only.",
@@ -286,22 +345,23 @@ void CheckGender(const CheckContext& context, FindingList& findings) {
 }
 
 void CheckModelText(const CheckContext& context, FindingList& findings) {
-  for (const int field : {kModelField, kSkinField}) {
+  for (const ParameterId field : {kModelField, kSkinField}) {
     const std::string text = context.bot.Text(field);
     const std::string name(ParameterName(field));
-    if (HasAnyOf(text, kThrownAway)) {
+    if (IsThrownAway(text)) {
       findings.Add(field, name + " \"" + ShownText(text) +
                               "\" has a semicolon, a backslash or a double "
                               "quote: the game throws the line away and shows "
                               "the bot as another model.");
-    } else if (FirstWord(text).size() < text.size()) {
+    } else if (UnquotedWord(text).size() < text.size()) {
       findings.Add(field, name + " \"" + ShownText(text) +
                               "\" has a blank or a letter with an accent, and "
-                              "the game reads no further than that.");
+                              "the game reads no further than that. Use plain "
+                              "letters without blanks.");
     } else if (text.empty() && field == kModelField) {
       findings.Add(field,
                    "The bot has no model: the game shows it as one of its "
-                   "own choice.");
+                   "own choice. Choose a model.");
     }
   }
 }
@@ -325,14 +385,16 @@ void CheckArenaLord(const CheckContext& context, FindingList& findings) {
 }
 
 void CheckDescriptionSize(const CheckContext& context, FindingList& findings) {
-  constexpr std::size_t kRefused = 8192;
-  const std::size_t size = WriteDescriptionFile(context.bot, {}).size();
-  if (size < kRefused) return;
-  findings.Add(kCommentField,
-               "The description file has " + std::to_string(size) +
-                   " characters; the game ignores one of 8192 or more and "
-                   "does not know the bot. Shorten the comment and the other "
-                   "texts.");
+  Complaints told;
+  // What it complains of is wanted alone.
+  (void)ReadGameDescription({.name = {},
+                             .game_path = {},
+                             .bytes = WriteDescriptionFile(context.bot, {})},
+                            told);
+  for (const Complaint& one : told.list()) {
+    if (one.id == "description-too-large")
+      findings.Add(kCommentField, one.text);
+  }
 }
 
 }  // namespace fragsmith

@@ -27,6 +27,9 @@ void CheckRailColor(const CheckContext& context, FindingList& findings);
 void CheckArenaLord(const CheckContext& context, FindingList& findings);
 void CheckDescriptionSize(const CheckContext& context, FindingList& findings);
 
+/// What a load would make of the bot's own files once they are saved.
+void CheckReadBack(const CheckContext& context, FindingList& findings);
+
 }  // namespace fragsmith
 
 #endif  // FRAGSMITH_CHECKS_IDENTITY_CHECKS_H_

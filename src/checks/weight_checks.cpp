@@ -3,10 +3,11 @@
 #include <algorithm>
 #include <optional>
 
-#include "checks/game_number.h"
-#include "checks/parameter_words.h"
-#include "checks/weapon_order.h"
+#include "chat/vocabulary.h"
+#include "game/number.h"
+#include "game/weapon_order.h"
 #include "model/characteristic_catalogue.h"
+#include "session/presets.h"
 
 namespace fragsmith {
 namespace {
@@ -14,41 +15,59 @@ namespace {
 /// The weights of picking up a weapon that the bot has already.
 constexpr IndexRange kOwnedRange = {64, 71};
 
-std::string Quoted(int index) { return QuotedName(index); }
+bool HasWeapon(const Bot& bot) {
+  return std::any_of(
+      kWeaponWeightRange.begin(), kWeaponWeightRange.end(),
+      [&bot](int index) { return NumberInGame(bot, ParameterId(index)) > 0; });
+}
+
+Mend UseMachinegun() {
+  constexpr double kModest = 10;
+  return Safe(
+      SetTo(kMachinegunUsage, kModest, "Set \"Machinegun usage\" to 10"));
+}
 
 }  // namespace
 
 void CheckTextForWeight(const CheckContext& context, FindingList& findings) {
   for (int index = kWeaponWeightRange.first; index <= kItemWeightRange.last;
        ++index) {
-    const Value& value = context.bot.Parameter(index);
+    const ParameterId weight(index);
+    const Value& value = context.bot.Parameter(weight);
     if (ToNumber(value)) continue;
-    findings.Add(index,
-                 Quoted(index) + " is the text " + ShownValue(value) +
-                     ", not a number: the game cannot read the file of "
-                     "weights and does not add the bot.",
-                 {SetTo(index, 0.0, "Set " + Quoted(index) + " to 0")});
+    findings.Add(
+        weight,
+        QuotedName(weight) + " is the text " + ShownValue(value) +
+            ", not a number: the game cannot read the file of "
+            "weights and does not add the bot.",
+        {Safe(SetTo(weight, 0.0, "Set " + QuotedName(weight) + " to 0"))});
   }
 }
 
 void CheckWeaponAtStart(const CheckContext& context, FindingList& findings) {
-  if (NumberInGame(context.bot, kGauntletUsage) > 0 ||
-      NumberInGame(context.bot, kMachinegunUsage) > 0) {
+  if (!IsWeaponless(NumberInGame(context.bot, kGauntletUsage),
+                    NumberInGame(context.bot, kMachinegunUsage)) ||
+      !HasWeapon(context.bot)) {
     return;
   }
-  constexpr double kModest = 10;
-  findings.Add(
-      kMachinegunUsage,
-      "The bot starts with gauntlet and machinegun, and \"Gauntlet usage\" "
-      "and \"Machinegun usage\" are both 0: until it finds another weapon it "
-      "has none that it may draw, aims badly, and the game fills its console "
-      "with errors. Set one of them above 0.",
-      {SetTo(kMachinegunUsage, kModest, "Set \"Machinegun usage\" to 10")});
+  findings.Add(kMachinegunUsage,
+               std::string(kWeaponlessText) +
+                   R"( Set "Gauntlet usage" or "Machinegun usage" above 0.)",
+               {UseMachinegun()});
+}
+
+void CheckWeaponAtAll(const CheckContext& context, FindingList& findings) {
+  if (HasWeapon(context.bot)) return;
+  findings.Add(kMachinegunUsage,
+               "No weapon has a weight above 0 yet: the bot has none that it "
+               "may draw, aims badly, and the game fills its console with "
+               "errors. Give weights to the weapons that it is to use.",
+               {UseMachinegun()});
 }
 
 void CheckGauntletFighter(const CheckContext& context, FindingList& findings) {
   const std::vector<WeaponRank> order = WeaponOrder(context.bot);
-  if (order.front().index != kGauntletUsage || order.front().weight <= 0) {
+  if (order.front().weapon != kGauntletUsage || order.front().weight <= 0) {
     return;
   }
   const bool are_all_equal = order.back().weight == order.front().weight;
@@ -60,72 +79,114 @@ void CheckGauntletFighter(const CheckContext& context, FindingList& findings) {
   text +=
       " fights with nothing else, whatever it carries. Give each weapon that "
       "it is to use a larger weight than \"Gauntlet usage\".";
-  findings.Add(kGauntletUsage, std::move(text),
-               {SetTo(kGauntletUsage, 1.0, "Set \"Gauntlet usage\" to 1")});
+  Mend mend = SetTo(kGauntletUsage, 1.0, "Set \"Gauntlet usage\" to 1");
+  // A larger weight of its own may be what its author wants.
+  mend.is_safe = are_all_equal;
+  findings.Add(kGauntletUsage, std::move(text), {std::move(mend)});
 }
 
 void CheckNoItems(const CheckContext& context, FindingList& findings) {
-  for (int index = kItemWeightRange.first; index <= kItemWeightRange.last;
-       ++index) {
-    if (NumberInGame(context.bot, index) > 0) return;
+  for (const int index : kItemWeightRange) {
+    if (NumberInGame(context.bot, ParameterId(index)) > 0) return;
   }
-  findings.Add(kItemWeightRange.first,
+  findings.Add(ParameterId(kItemWeightRange.first),
                "All weights of the pages \"Weapon pickup\" and \"Item "
                "pickup\" are 0: the bot never goes anywhere to fetch a "
-               "weapon, health, armor or any other item.");
+               "weapon, health, armor or any other item.",
+               {{.title = "Take the pickup weights of an average bot",
+                 .apply = [](Bot& bot) {
+                   const Bot average = CreateAverageBot(SeededRandom(0));
+                   for (const int index : kItemWeightRange) {
+                     const ParameterId weight(index);
+                     bot.Put(weight, average.Parameter(weight));
+                   }
+                 }}});
 }
 
 void CheckWeaponNotFetched(const CheckContext& context, FindingList& findings) {
   const Bot& bot = context.bot;
   const double at_start = std::max(NumberInGame(bot, kGauntletUsage),
                                    NumberInGame(bot, kMachinegunUsage));
-  const auto never_fetched = [&bot](int usage) {
-    const std::optional<int> pickup = PickupOf(usage);
+  const auto never_fetched = [&bot](ParameterId usage) {
+    const std::optional<ParameterId> pickup = PickupOf(usage);
     return pickup && NumberInGame(bot, *pickup) <= 0;
   };
   // Where it fetches no weapon at all, that is what its author wants.
   if (std::all_of(kWeaponsInGameOrder.begin(), kWeaponsInGameOrder.end(),
-                  [&](int usage) {
+                  [&](ParameterId usage) {
                     return !PickupOf(usage) || never_fetched(usage);
                   })) {
     return;
   }
-  for (const int usage : kWeaponsInGameOrder) {
+  for (const ParameterId usage : kWeaponsInGameOrder) {
     if (usage == kMachinegunUsage || !never_fetched(usage) ||
         NumberInGame(bot, usage) <= at_start) {
       continue;
     }
-    const int pickup = *PickupOf(usage);
-    findings.Add(pickup, Quoted(usage) + " is high, but " + Quoted(pickup) +
-                             " is 0: the bot never goes to fetch this weapon "
-                             "and has it by chance only.");
+    const ParameterId pickup = *PickupOf(usage);
+    findings.Add(pickup,
+                 QuotedName(usage) + " is high, but " + QuotedName(pickup) +
+                     " is 0: the bot never goes to fetch this weapon "
+                     "and has it by chance only. Raise it unless that is "
+                     "meant.");
   }
 }
 
 void CheckUnusedWeights(const CheckContext& context, FindingList& findings) {
   if (context.game == nullptr || context.game->uses_owned_weights) return;
-  for (int index = kOwnedRange.first; index <= kOwnedRange.last; ++index) {
-    if (NumberInGame(context.bot, index) <= 0) continue;
-    findings.Add(index,
-                 "The game in your game folder does not use the weights of "
-                 "the rows \"With\" on the page \"Weapon pickup\": for a "
-                 "weapon that the bot has already, the game decides itself.");
+  for (const int index : kOwnedRange) {
+    if (NumberInGame(context.bot, ParameterId(index)) <= 0) continue;
+    findings.Add(
+        ParameterId(index),
+        "The game in your game folder does not use the weights of "
+        "the rows \"With\" on the page \"Weapon pickup\": for a "
+        "weapon that the bot has already, the game decides itself. They "
+        "do no harm.");
     return;
   }
 }
 
 void CheckWeightScripts(const CheckContext& context, FindingList& findings) {
   if (context.game == nullptr) return;
+  const GameData& game = *context.game;
   std::vector<std::string> missing;
-  if (!context.game->has_weapon_script) missing.emplace_back("fw_weap.c");
-  if (!context.game->has_item_script) missing.emplace_back("fw_items.c");
+  // What asks for other macros has a finding of its own.
+  if (!game.has_weapon_script && !game.weapon_macros) {
+    missing.emplace_back("fw_weap.c");
+  }
+  if (!game.has_item_script && !game.item_macros) {
+    missing.emplace_back("fw_items.c");
+  }
   if (missing.empty()) return;
-  findings.Add(FindingPlace{.file = {}},
+  findings.Add(WholeBot{},
                "The packages of your game folder have no " +
                    Enumeration(missing) +
                    ", which the bot's files ask for: with these packages "
                    "alone the game adds no bot that was made here. Install "
                    "the newest data of the game (for OpenArena, 0.8.8).");
+}
+
+void CheckOtherMacros(const CheckContext& context, FindingList& findings) {
+  if (context.game == nullptr) return;
+  std::vector<std::string> scripts;
+  std::string example;
+  for (const auto* const wanted :
+       {&context.game->weapon_macros, &context.game->item_macros}) {
+    if (!*wanted) continue;
+    scripts.push_back((*wanted)->script);
+    for (const GameMacros::Macro& macro : (*wanted)->macros) {
+      if (!example.empty() || !macro.parameter) continue;
+      example =
+          " such as " + macro.name + " for " + QuotedName(*macro.parameter);
+    }
+  }
+  if (scripts.empty()) return;
+  findings.Add(WholeBot{},
+               "The weight code of your game, " + Enumeration(scripts) +
+                   ", asks for macros of its own" + example +
+                   " and would not read the weights of files that are made "
+                   "here: tick \"Write the game's own macros as well\" when "
+                   "you make them. \"Install into game\" writes them.");
 }
 
 }  // namespace fragsmith

@@ -2,14 +2,22 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <system_error>
 #include <utility>
 #include <vector>
 
+#include "checks/bot_on_disk.h"
+#include "cli/misspelt_folder.h"
 #include "cli/terminal.h"
+#include "game/game_lookup.h"
+#include "inplace/bot_edits.h"
+#include "install/program/game_folder.h"
 #include "session/bot_sources.h"
 #include "session/load_from_package.h"
+#include "session/save_bot.h"
 #include "support/code_page.h"
 #include "support/files.h"
+#include "support/no_prompts.h"
 #include "support/temporary_folder.h"
 #include "support/text.h"
 
@@ -17,15 +25,37 @@ namespace fragsmith {
 namespace fs = std::filesystem;
 namespace {
 
-/// The bot that is meant among those of a source, by its place, or how the
+/// The bot that is meant among those of a source, by its index, or how the
 /// program ends without one.
 struct Choice {
-  std::optional<std::size_t> place;
+  std::optional<std::size_t> index;
   ExitStatus refusal = kFailed;
+  std::string listed_name = {};  ///< As in BotLocation.
 };
 
+/// As it is typed in a console: with quotes around it or without.
+std::string WithoutQuotes(const std::string& name) {
+  const bool is_quoted =
+      name.size() > 2 && name.front() == '"' && name.back() == '"';
+  return is_quoted ? name.substr(1, name.size() - 2) : name;
+}
+
+std::string WithoutColours(const std::string& name) {
+  std::string plain;
+  for (std::size_t at = 0; at < name.size(); ++at) {
+    if (name[at] == '^' && at + 1 < name.size()) {
+      ++at;
+    } else {
+      plain += name[at];
+    }
+  }
+  return plain;
+}
+
+/// The bot whose files are called so, or which the game adds by that name.
 std::optional<std::size_t> FindName(const std::vector<std::string>& names,
-                                    const std::string& wanted) {
+                                    const std::string& wanted,
+                                    const GivenFiles& given) {
   auto found = std::find(names.begin(), names.end(), wanted);
   if (found == names.end()) {
     found = std::find_if(names.begin(), names.end(),
@@ -33,8 +63,41 @@ std::optional<std::size_t> FindName(const std::vector<std::string>& names,
                            return EqualIgnoringCase(name, wanted);
                          });
   }
+  if (found == names.end()) {
+    const std::string plain = WithoutColours(WithoutQuotes(wanted));
+    found =
+        std::find_if(names.begin(), names.end(), [&](const std::string& name) {
+          const std::string in_game = NameToAdd(ReadBot(given, name).files);
+          return EqualIgnoringCase(WithoutColours(in_game), plain);
+        });
+  }
   if (found == names.end()) return std::nullopt;
   return static_cast<std::size_t>(found - names.begin());
+}
+
+/// The bot of a description or of the list of bots that has these files, such
+/// as one of several that share them.
+std::optional<Choice> FindListed(const std::vector<std::string>& names,
+                                 const std::string& wanted,
+                                 const GivenFiles& given) {
+  std::optional<ListedBot> listed = FindListedBot(given, WithoutQuotes(wanted));
+  if (!listed) return std::nullopt;
+  const auto found =
+      std::ranges::find_if(names, [&listed](const std::string& name) {
+        return EqualIgnoringCase(name, listed->file_name);
+      });
+  if (found == names.end()) return std::nullopt;
+  return Choice{.index = static_cast<std::size_t>(found - names.begin()),
+                .refusal = {},
+                .listed_name = std::move(listed->name)};
+}
+
+/// A bot that a description speaks of, though its character file is not there.
+std::optional<ListedBot> FindUnfinished(const std::string& wanted,
+                                        const GivenFiles& given) {
+  std::optional<ListedBot> listed = FindListedBot(given, WithoutQuotes(wanted));
+  if (listed && listed->file_name.empty()) listed->file_name = wanted;
+  return listed;
 }
 
 void PrintNames(const std::vector<std::string>& names,
@@ -44,8 +107,51 @@ void PrintNames(const std::vector<std::string>& names,
   }
 }
 
+/// The folder in this one that has the game's folders in it; empty without one.
+fs::path FolderWithBots(const fs::path& folder) {
+  std::error_code reason;
+  for (fs::directory_iterator entry(folder, reason), end;
+       !reason && entry != end; entry.increment(reason)) {
+    if (IsFolder(entry->path() / PathFromBytes(kBotFilesFolder))) {
+      return entry->path();
+    }
+  }
+  return {};
+}
+
+/// True, and told, where the game would not find the folder of the bots.
+bool IsInMisspeltFolder(const BotSource& options, CommandContext& context) {
+  const std::string misspelt =
+      MisspeltBotsFolder(PathFromBytes(options.source));
+  if (misspelt.empty()) return false;
+  Fail(context, {.what = "The folder of the bots is called " + misspelt +
+                         ", and capitals count for the game on Linux: it "
+                         "finds nothing there.",
+                 .file = options.source,
+                 .line = 0,
+                 .advice = "Rename it " + std::string(kBotFilesFolder) + "."});
+  return true;
+}
+
 Choice Choose(const std::vector<std::string>& names, const BotSource& options,
-              CommandContext& context) {
+              const GivenFiles& given, CommandContext& context) {
+  const fs::path inner = names.empty() && !given.is_packed()
+                             ? FolderWithBots(PathFromBytes(options.source))
+                             : fs::path();
+  if (!inner.empty()) {
+    Fail(context, {.what = "There are no bot files at the top of this folder: "
+                           "botfiles lies one folder too deep, in " +
+                           Utf8FromPath(inner.filename()) + ".",
+                   .file = options.source,
+                   .line = 0,
+                   .advice = "Give that folder. For the game, what is in it "
+                             "belongs into baseq3 itself."});
+    return {};
+  }
+  if (names.empty() && !given.is_packed() &&
+      IsInMisspeltFolder(options, context)) {
+    return {};
+  }
   if (names.empty()) {
     Fail(context, {.what = "There are no bot files.",
                    .file = options.source,
@@ -55,92 +161,150 @@ Choice Choose(const std::vector<std::string>& names, const BotSource& options,
     return {};
   }
   if (options.name.empty()) {
-    if (names.size() == 1) return {.place = 0};
+    if (names.size() == 1) return {.index = 0};
     context.err << "There is more than one bot; give the name of one:\n";
     PrintNames(names, context);
-    return {.place = {}, .refusal = kWrongUsage};
+    return {.index = {}, .refusal = kWrongUsage};
   }
   const std::optional<std::string> wanted = GameTextFromUtf8(options.name);
-  const std::optional<std::size_t> place =
-      wanted ? FindName(names, *wanted) : std::nullopt;
-  if (!place) {
+  if (wanted && options.is_for_game && given.is_packed()) {
+    // The list of bots gives a name to files that may be called otherwise,
+    // though there are files that are called so.
+    const std::optional<ListedBot> listed =
+        FindListedBot(given, WithoutQuotes(*wanted));
+    if (listed && listed->is_of_list) {
+      if (auto choice = FindListed(names, *wanted, given)) return *choice;
+    }
+  }
+  const std::optional<std::size_t> index =
+      wanted ? FindName(names, *wanted, given) : std::nullopt;
+  if (wanted && !index) {
+    if (auto listed = FindListed(names, *wanted, given)) return *listed;
+  }
+  if (!index) {
     context.err << "There is no bot " << Printable(options.name)
                 << "; there are:\n";
     PrintNames(names, context);
   }
-  return {.place = place};
+  return {.index = index};
 }
 
-/// What a load knows, with the arguments of the command.
-struct Reading {
-  const BotSource& options;
-  const LoadEnvironment& environment;
-  CommandContext& context;
-};
-
-BotSourceOutcome Found(SourceBot bot, CommandContext& context) {
-  PrintNotes(context, bot.loaded.notes);
-  return {.bot = std::move(bot)};
-}
-
-BotSourceOutcome ReadFrom(const fs::path& folder, const std::string& name,
-                          const Reading& reading) {
+BotLocationOutcome InFolder(const fs::path& folder, const std::string& name,
+                            const BotSource& options) {
   // The layout is recognised by the folder's whole text.
-  const fs::path whole = fs::absolute(folder).lexically_normal();
-  LoadedBot loaded = LoadBotFromFolder(
-      name, whole,
-      {reading.options.uses_layout, !reading.options.no_description},
-      reading.environment);
-  if (loaded.files_read == 0) return {};
-  return Found({std::move(loaded), name, whole, {}}, reading.context);
+  BotLocation found;
+  found.name = name;
+  found.folder = WholePath(folder);
+  found.uses_layout = options.uses_layout ||
+                      (options.is_for_game && GivenFiles::IsInGame(folder));
+  return {.found = std::move(found)};
 }
 
-BotSourceOutcome ReadFolder(const fs::path& folder, const Reading& reading) {
-  const std::vector<std::string> names = BotNamesIn(folder);
-  const std::optional<std::string> wanted =
-      GameTextFromUtf8(reading.options.name);
-  if (wanted && !wanted->empty() && !FindName(names, *wanted)) {
-    // A bot may lack its first file; what there is of it is loaded.
-    return ReadFrom(folder, *wanted, reading);
+BotLocationOutcome FindInFolder(fs::path folder, const BotSource& options,
+                                CommandContext& context) {
+  const fs::path inner = folder / PathFromBytes(kBotFilesFolder);
+  std::vector<std::string> names = BotNamesIn(folder);
+  BotSource inside = options;
+  if (names.empty() && IsFolder(inner)) {
+    folder = inner;
+    names = BotNamesIn(folder);
+    inside.uses_layout = true;
   }
-  const Choice choice = Choose(names, reading.options, reading.context);
-  if (!choice.place) return {.bot = {}, .refusal = choice.refusal};
-  return ReadFrom(folder, names[*choice.place], reading);
+  const BotLocationOutcome here = InFolder(folder, {}, inside);
+  const GivenFiles given = FilesOf(*here.found);
+  const std::optional<std::string> wanted = GameTextFromUtf8(options.name);
+  const auto is_there = [&given](const std::string& name) {
+    const BotFileSet files = ReadBot(given, name).files;
+    return std::ranges::any_of(kBotFileMembers, [&files](const auto& row) {
+      return (files.*row.member).has_value();
+    });
+  };
+  if (wanted && !wanted->empty() && !FindName(names, *wanted, given) &&
+      !FindListed(names, *wanted, given) &&
+      (!options.is_for_game || is_there(*wanted))) {
+    // A bot may lack its first file; what there is of it is loaded.
+    const std::optional<ListedBot> listed = FindUnfinished(*wanted, given);
+    BotLocationOutcome outcome =
+        InFolder(folder, listed ? listed->file_name : *wanted, inside);
+    if (listed) outcome.found->listed_name = listed->name;
+    return outcome;
+  }
+  const Choice choice = Choose(names, options, given, context);
+  if (!choice.index) return {.found = {}, .refusal = choice.refusal};
+  BotLocationOutcome outcome = InFolder(folder, names[*choice.index], inside);
+  outcome.found->listed_name = choice.listed_name;
+  return outcome;
 }
 
-BotSourceOutcome ReadPackage(const fs::path& package, const Reading& reading) {
-  CommandContext& context = reading.context;
+BotLocationOutcome FindInPackage(const fs::path& package,
+                                 const BotSource& options,
+                                 CommandContext& context) {
   Notes notes;
   const Result<BotList> list = BotsInPackage(package, notes);
-  if (!list) return {.bot = {}, .refusal = Fail(context, list.error())};
+  if (!list) return {.found = {}, .refusal = Fail(context, list.error())};
   PrintNotes(context, notes);
-  const std::vector<BotListEntry>& bots = list->entries();
+  std::vector<BotListEntry> bots = list->entries();
+  const GivenFiles given =
+      GivenFiles::OfPackage(package).value_or(GivenFiles());
+  // A description one folder deeper is no bot of its own.
+  std::erase_if(bots, [&given](const BotListEntry& bot) {
+    return Contains(bot.Name, "/") &&
+           given.OpenInAnyCase(std::string(kScriptsFolder) + "/" + bot.Name +
+                               std::string(FileSuffix(BotFile::kDescription)));
+  });
   std::vector<std::string> names;
   names.reserve(bots.size());
   for (const BotListEntry& bot : bots) names.push_back(bot.Name);
-  const Choice choice = Choose(names, reading.options, context);
-  if (!choice.place) return {.bot = {}, .refusal = choice.refusal};
+  const std::optional<std::string> wanted = GameTextFromUtf8(options.name);
+  BotLocation found;
+  found.package = WholePath(package);
+  if (options.is_for_game && wanted && !wanted->empty() &&
+      !FindName(names, *wanted, given) && !FindListed(names, *wanted, given)) {
+    if (auto listed = FindUnfinished(*wanted, given)) {
+      found.name = std::move(listed->file_name);
+      found.listed_name = std::move(listed->name);
+      return {.found = std::move(found)};
+    }
+  }
+  const Choice choice = Choose(names, options, given, context);
+  if (!choice.index) return {.found = {}, .refusal = choice.refusal};
+  found.name = bots[*choice.index].Name;
+  found.has_description = bots[*choice.index].HasBotScript;
+  found.listed_name = choice.listed_name;
+  return {.found = std::move(found)};
+}
 
+/// Reads the bot that was found there; nothing, told, when it cannot be.
+std::optional<LoadedBot> Load(const BotLocation& location,
+                              const BotSource& options,
+                              const LoadEnvironment& environment,
+                              CommandContext& context) {
+  if (location.package.empty()) {
+    LoadedBot loaded = LoadBotFromFolder(
+        location.name, location.folder,
+        {location.uses_layout, !options.no_description}, environment);
+    if (loaded.files.empty()) return std::nullopt;
+    return loaded;
+  }
   TemporaryFolder temporary;
-  const std::optional<fs::path> own = FindOwnUnzipFolder(FindProgramPlace());
-  const UnzipTool tool = {
-      .folder = own ? *own : PathFromBytes(LoadSettingsFor(context).WinZipDir),
-      .keep_going = {}};
-  const BotListEntry& bot = bots[*choice.place];
-  const bool loads_description = !reading.options.no_description;
-  const fs::path whole = fs::absolute(package);
-  std::optional<LoadedBot> loaded =
-      LoadBotFromPackage({.package = whole,
-                          .name = bot.Name,
-                          .withScript = loads_description && bot.HasBotScript,
-                          .loads_description = loads_description},
-                         Bot(), tool, temporary, reading.environment);
-  if (loaded) return Found({std::move(*loaded), bot.Name, {}, whole}, context);
-  context.prompts.Show(
-      {.title = "Operation cancelled!",
-       .text = "Bot " + Utf8FromGameText(bot.Name) + " not loaded.",
-       .icon = MessageIcon::kInformation});
-  return {};
+  UnzipTool tool = {.folder = context.folders.unzip_tool};
+  if (tool.folder.empty()) {
+    tool.folder = PathFromBytes(LoadSettingsFor(context).WinZipDir);
+  }
+  const bool loads_description = !options.no_description;
+  std::optional<LoadedBot> loaded = LoadBotFromPackage(
+      {.package = location.package,
+       .name = location.name,
+       .withScript = loads_description && location.has_description,
+       .loads_description = loads_description},
+      Bot(), tool, temporary, environment);
+  if (!loaded) {
+    context.prompts.Show(
+        {.title = "Operation cancelled!",
+         .text = "Bot " + Utf8FromGameText(location.name) + " not loaded.",
+         .icon = MessageIcon::kInformation});
+  }
+  return loaded;
 }
 
 /// Reads one byte more than a document may have, so that a longer one shows.
@@ -148,7 +312,7 @@ std::string ReadStream(std::istream& in) {
   std::string bytes;
   constexpr std::size_t kPiece = 65536;
   std::string piece(kPiece, '\0');
-  while (in && bytes.size() <= kMostDocumentBytes) {
+  while (in && bytes.size() <= kMaxDocumentBytes) {
     in.read(piece.data(), static_cast<std::streamsize>(piece.size()));
     bytes.append(piece, 0, static_cast<std::size_t>(in.gcount()));
   }
@@ -171,20 +335,58 @@ void AddBotSource(CLI::App& command, BotSource& options) {
                    "Leave the description file alone");
 }
 
-BotSourceOutcome ReadBotSource(const BotSource& options,
-                               const ModelCatalogue& models,
-                               const BotList& bots, CommandContext& context) {
-  const LoadEnvironment environment = {models, bots, context.prompts};
-  const Reading reading = {options, environment, context};
+void AddGameFolder(CLI::App& command, BotSource& options) {
+  command
+      .add_option("--game", options.game_folder,
+                  "The game's folder, in place of that of the settings")
+      ->type_name("GAMEFOLDER");
+}
+
+fs::path GameFolderOf(const BotSource& options, CommandContext& context) {
+  if (!options.game_folder.empty()) return PathFromBytes(options.game_folder);
+  NoPrompts silent;
+  ProgramSettings settings;
+  LoadSettings(context.folders.program, settings, silent);
+  return PathFromBytes(settings.Q3Baseq3);
+}
+
+IncludeLookup GameLookUpFor(const BotSource& options,
+                            const std::optional<BotLocation>& location,
+                            CommandContext& context) {
+  const fs::path game = GameFolderOf(options, context);
+  std::optional<fs::path> players;
+  if (location) players = PlayersFolderOf(*location, PackageFolder(game));
+  return GameLookUp(game, players.value_or(fs::path()));
+}
+
+void AddAsGame(CLI::App& command, bool& as_game) {
+  command.add_flag("--as-game", as_game,
+                   "Take oddly written values as the game reads them");
+}
+
+bool IsOfFiles(const BotSource& options) {
+  return options.source != "-" &&
+         !EndsWithIgnoringCase(options.source, ".json");
+}
+
+BotLocationOutcome FindBot(const BotSource& options, CommandContext& context) {
   const fs::path source = PathFromBytes(options.source);
-  if (IsFolder(source)) return ReadFolder(source, reading);
+  if (options.is_for_game && IsInMisspeltFolder(options, context)) return {};
+  if (IsFolder(source)) return FindInFolder(source, options, context);
   const std::string file = BytesFromPath(source.filename());
   if (IsFile(source) && EndsWithIgnoringCase(file, ".pk3")) {
-    return ReadPackage(source, reading);
+    return FindInPackage(source, options, context);
   }
   const std::optional<std::string> name = BotNameOfFile(source);
   if (IsFile(source) && name) {
-    return ReadFrom(fs::absolute(source).parent_path(), *name, reading);
+    return InFolder(fs::absolute(source).parent_path(), *name, options);
+  }
+  if (options.is_for_game) {
+    // Any of its files leads to the bot.
+    const Result<std::vector<BotLocation>> bots = BotsAt(source);
+    if (bots && !bots->empty()) {
+      return InFolder(bots->front().folder, bots->front().name, options);
+    }
   }
   Fail(context,
        {.what = IsFile(source) ? "This is neither a *_c.c file nor a *.pk3 "
@@ -196,38 +398,68 @@ BotSourceOutcome ReadBotSource(const BotSource& options,
   return {};
 }
 
+BotSourceOutcome ReadBotSource(const BotSource& options,
+                               const ModelCatalogue& models,
+                               const BotList& bots, CommandContext& context) {
+  const BotLocationOutcome outcome = FindBot(options, context);
+  if (!outcome.found) return {.bot = {}, .refusal = outcome.refusal};
+  // What is wrong with the settings is told where they are needed.
+  NoPrompts silent;
+  ProgramSettings settings;
+  LoadSettings(context.folders.program, settings, silent);
+  std::optional<LoadedBot> loaded =
+      Load(*outcome.found, options,
+           {models, bots, context.prompts, AuthorOf(settings)}, context);
+  if (!loaded) return {};
+  const std::string& listed_name = outcome.found->listed_name;
+  if (!listed_name.empty()) loaded->bot.Put(kNameField, listed_name);
+  TakeGameValues(*loaded, !options.no_description, models,
+                 GameLookUpFor(options, outcome.found, context));
+  PrintNotes(context, loaded->notes);
+  if (options.as_game) {
+    TakeValuesAsGame(loaded->bot, ReportOf(*loaded, loaded->bot), models);
+  }
+  return {.bot = SourceBot{std::move(*loaded), outcome.found}};
+}
+
 BotSourceOutcome ReadBotOrDocument(const BotSource& options,
                                    CommandContext& context) {
   const std::string& source = options.source;
-  if (source != "-" && !EndsWithIgnoringCase(source, ".json")) {
+  if (IsOfFiles(options)) {
     const BaseLists lists = LoadListsFor(context);
     return ReadBotSource(options, lists.models, lists.bots, context);
   }
-  Result<BotDocument> document = ReadDocument(source, context.in);
+  Result<BotDocument> document = ReadDocument(source, context);
   if (!document) {
     return {.bot = {}, .refusal = Fail(context, document.error())};
   }
   SourceBot bot;
   bot.loaded.bot = std::move(document->bot);
   for (const auto& [field, text] : document->texts) {
-    // What the boxes refuse is in the bot all the same: it is to be seen.
-    if (!CheckBox(field, text, bot.loaded.bot, context.prompts)) {
-      (void)bot.loaded.bot.SetParameter(field, text);
-    }
+    if (CheckBox(field, text, bot.loaded.bot, context.prompts)) continue;
+    // What the boxes refuse is in the bot all the same: it is to be seen. But a
+    // version can only be a number.
+    const Result<void> stored = bot.loaded.bot.SetParameter(field, text);
+    if (!stored) return {.bot = {}, .refusal = Fail(context, stored.error())};
   }
   return {.bot = std::move(bot)};
 }
 
-Result<BotDocument> ReadDocument(const std::string& name, std::istream& in) {
+Result<std::string> ReadDocumentBytes(const std::string& name,
+                                      CommandContext& context) {
+  return name == "-" ? Result<std::string>(ReadStream(context.in))
+                     : ReadFile(PathFromBytes(name), kMaxDocumentBytes);
+}
+
+Result<BotDocument> ReadDocument(const std::string& name,
+                                 CommandContext& context) {
   const bool is_stream = name == "-";
-  const Result<std::string> bytes =
-      is_stream ? Result<std::string>(ReadStream(in))
-                : ReadFile(PathFromBytes(name), kMostDocumentBytes);
+  const Result<std::string> bytes = ReadDocumentBytes(name, context);
   if (!bytes) return Failure(bytes.error());
-  Result<BotDocument> document = ReadBotDocument(*bytes);
-  if (!document) {
-    document.error().file = is_stream ? "standard input" : name;
-  }
+  Notes notes;
+  Result<BotDocument> document =
+      ReadBotDocument(*bytes, is_stream ? "standard input" : name, notes);
+  PrintNotes(context, notes);
   return document;
 }
 

@@ -8,9 +8,9 @@
 #include <string>
 
 #include "cli/console_prompts.h"
-#include "install/base_scan.h"
-#include "install/program_folder.h"
-#include "install/settings_file.h"
+#include "install/program/base_scan.h"
+#include "install/program/program_folder.h"
+#include "install/program/settings_file.h"
 #include "support/notes.h"
 #include "support/result.h"
 
@@ -46,7 +46,10 @@ void AddMakeCommand(CLI::App& app, CommandContext& context);
 void AddLoadCommand(CLI::App& app, CommandContext& context);
 void AddCheckCommand(CLI::App& app, CommandContext& context);
 void AddDiffCommand(CLI::App& app, CommandContext& context);
+void AddEditCommand(CLI::App& app, CommandContext& context);
 void AddTryCommand(CLI::App& app, CommandContext& context);
+void AddMatchCommand(CLI::App& app, CommandContext& context);
+void AddTuneCommand(CLI::App& app, CommandContext& context);
 void AddScanCommand(CLI::App& app, CommandContext& context);
 void AddSettingsCommand(CLI::App& app, CommandContext& context);
 

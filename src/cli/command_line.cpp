@@ -4,13 +4,14 @@
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
 #include "cli/command.h"
 #include "cli/terminal.h"
-#include "install/bot_list_file.h"
-#include "install/model_list_file.h"
+#include "install/program/bot_list_file.h"
+#include "install/program/model_list_file.h"
 #include "support/files.h"
 
 namespace fragsmith {
@@ -27,7 +28,8 @@ CLI::App& AddCommand(CLI::App& app, const std::string& name,
 
 ProgramSettings LoadSettingsFor(CommandContext& context) {
   ProgramSettings settings;
-  LoadSettings(context.folders.program, settings, context.prompts);
+  LoadSettings(context.folders.program, settings, context.prompts,
+               context.folders.unzip_tool);
   return settings;
 }
 
@@ -62,7 +64,10 @@ int RunCommandLine(std::vector<std::string> arguments, std::istream& in,
   AddLoadCommand(app, context);
   AddCheckCommand(app, context);
   AddDiffCommand(app, context);
+  AddEditCommand(app, context);
   AddTryCommand(app, context);
+  AddMatchCommand(app, context);
+  AddTuneCommand(app, context);
   AddScanCommand(app, context);
   AddSettingsCommand(app, context);
   try {
@@ -77,9 +82,12 @@ int RunCommandLine(std::vector<std::string> arguments, std::istream& in,
     given = PathFromBytes(context.given_folder);
   }
   const Result<ProgramFolders> folders =
-      FindProgramFolders(given, FindProgramPlace());
+      FindProgramFolders(given, FindProgramLocation());
   if (!folders) return Fail(context, folders.error());
   context.folders = *folders;
+  // One who names the folder knows what is written.
+  const std::string_view warning = given ? "" : SuperUserWarning();
+  if (!warning.empty()) err << "fragsmith-cli: " << warning << '\n';
   const ExitStatus status = context.run();
   out.flush();
   if (out) return status;

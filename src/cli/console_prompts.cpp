@@ -14,6 +14,13 @@ bool ConsolePrompts::Confirm(const std::string& title,
   return false;
 }
 
+std::size_t ConsolePrompts::Choose(const std::string& title,
+                                   const std::string& text,
+                                   const std::vector<std::string>& buttons) {
+  err_ << Printable(title + ": " + text + " - " + buttons.front()) << '\n';
+  return 0;
+}
+
 std::optional<std::string> ConsolePrompts::AskText(const std::string& title,
                                                    const std::string& prompt) {
   err_ << Printable(title + ": " + prompt) << " - no answer\n";

@@ -17,6 +17,8 @@ class ConsolePrompts : public Prompts {
 
   void Show(const Message& message) override;
   bool Confirm(const std::string& title, const std::string& text) override;
+  std::size_t Choose(const std::string& title, const std::string& text,
+                     const std::vector<std::string>& buttons) override;
   std::optional<std::string> AskText(const std::string& title,
                                      const std::string& prompt) override;
 

@@ -4,10 +4,10 @@
 #include <string>
 #include <utility>
 
-#include "checks/bot_difference.h"
 #include "cli/bot_source.h"
 #include "cli/command.h"
 #include "cli/terminal.h"
+#include "session/bot_difference.h"
 #include "support/files.h"
 
 namespace fragsmith {
@@ -16,6 +16,7 @@ namespace {
 struct DiffOptions {
   BotSource left;
   BotSource right;
+  bool as_game = false;
 };
 
 /// A name may stand behind the last ":" of a source that itself is no file or
@@ -32,8 +33,11 @@ BotSource WithNameApart(BotSource source) {
   return source;
 }
 
-std::optional<Bot> Read(const BotSource& source, CommandContext& context) {
-  BotSourceOutcome outcome = ReadBotOrDocument(WithNameApart(source), context);
+std::optional<Bot> Read(const BotSource& given, bool as_game,
+                        CommandContext& context) {
+  BotSource source = WithNameApart(given);
+  source.as_game = as_game;
+  BotSourceOutcome outcome = ReadBotOrDocument(source, context);
   if (!outcome.bot) return std::nullopt;
   return std::move(outcome.bot->loaded.bot);
 }
@@ -41,9 +45,10 @@ std::optional<Bot> Read(const BotSource& source, CommandContext& context) {
 ExitStatus RunDiff(const DiffOptions& options, CommandContext& context) {
   // As other programs that compare, a bot that cannot be read is trouble (2):
   // 1 says that the bots differ.
-  const std::optional<Bot> left = Read(options.left, context);
+  const std::optional<Bot> left = Read(options.left, options.as_game, context);
   if (!left) return kWrongUsage;
-  const std::optional<Bot> right = Read(options.right, context);
+  const std::optional<Bot> right =
+      Read(options.right, options.as_game, context);
   if (!right) return kWrongUsage;
   const std::vector<BotDifference> differences = CompareBots(*left, *right);
   for (const BotDifference& difference : differences) {
@@ -72,6 +77,7 @@ void AddDiffCommand(CLI::App& app, CommandContext& context) {
       "(*.json); with :NAME where there is more than one bot";
   command.add_option("A", options->left.source, what)->required();
   command.add_option("B", options->right.source, what)->required();
+  AddAsGame(command, options->as_game);
   command.callback([options, &context] {
     context.run = [options, &context] { return RunDiff(*options, context); };
   });

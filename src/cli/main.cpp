@@ -2,13 +2,13 @@
 #include <iostream>
 
 #include "cli/command_line.h"
-#include "cli/terminal.h"
-#include "install/time_zone.h"
-#include "support/program_arguments.h"
+#include "support/system/console.h"
+#include "support/system/program_arguments.h"
+#include "support/system/time_zone.h"
 
 int main(int count, char** arguments) try {
   std::ios::sync_with_stdio(false);
-  fragsmith::PrepareTerminal();
+  fragsmith::PrepareConsole();
   fragsmith::PrepareTimeZone();
   return fragsmith::RunCommandLine(
       fragsmith::ProgramArguments(count, arguments), std::cin, std::cout,

@@ -1,10 +1,18 @@
 #include <filesystem>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <system_error>
+#include <utility>
 
 #include "cli/bot_source.h"
 #include "cli/command.h"
+#include "game/game_lookup.h"
+#include "game/stand_ins.h"
+#include "inplace/described_bots.h"
+#include "inplace/game_macro_files.h"
+#include "inplace/save_in_place.h"
+#include "session/save_again.h"
 #include "session/save_bot.h"
 #include "support/files.h"
 
@@ -15,10 +23,52 @@ struct MakeOptions {
   std::string document;
   std::string folder;
   SaveOptions save;
+  bool game_macros = false;
+  std::string game_folder;
 };
 
+/// Looks after what others have where the plan writes: other bots and files
+/// are a refusal, files made by hand are kept beside. All that is told.
+Result<void> SpareOthers(const Bot& bot, const SavePlan& plan,
+                         CommandContext& context) {
+  const auto refuse = [](std::string what, const std::filesystem::path& file) {
+    return Failure({.what = std::move(what),
+                    .file = Utf8FromPath(file),
+                    .line = 0,
+                    .advice = "Choose another folder, or take the file away "
+                              "first."});
+  };
+  if (const std::string bots = BotsThatGo(plan, bot); !bots.empty()) {
+    return refuse(
+        "The file describes other bots, which would go: " + bots + ".",
+        plan.files.at(BotFile::kDescription));
+  }
+  if (plan.package) {
+    const std::size_t others = OtherFilesIn(*plan.package, bot);
+    if (others > 0) return refuse(WhatGoes(others), *plan.package);
+  }
+  for (const std::filesystem::path& path : MadeByOthers(plan, {})) {
+    const Result<std::string> bytes = ReadFile(path);
+    if (!bytes) return Failure(bytes.error());
+    const Result<std::filesystem::path> kept = KeepBackup(path, *bytes);
+    if (!kept) return Failure(kept.error());
+    context.prompts.Show(
+        {.title = std::string(kProgramTitle),
+         .text = "'" + Utf8FromPath(path) +
+                 "' was not made by Fragsmith. It is kept as '" +
+                 Utf8FromPath(kept->filename()) + "'.",
+         .icon = MessageIcon::kInformation});
+  }
+  if (const std::string twice = NameDescribedTwice(plan, bot); !twice.empty()) {
+    context.prompts.Show({.title = std::string(kProgramTitle),
+                          .text = twice,
+                          .icon = MessageIcon::kInformation});
+  }
+  return {};
+}
+
 ExitStatus RunMake(const MakeOptions& options, CommandContext& context) {
-  Result<BotDocument> document = ReadDocument(options.document, context.in);
+  Result<BotDocument> document = ReadDocument(options.document, context);
   if (!document) return Fail(context, document.error());
   ProgramSettings settings = LoadSettingsFor(context);
   if (CheckAllIn(document->texts, document->bot, context.prompts)) {
@@ -34,8 +84,36 @@ ExitStatus RunMake(const MakeOptions& options, CommandContext& context) {
                           .line = 0,
                           .advice = "Choose another folder."});
   }
-  const SavedBot saved = SaveBot(document->bot, folder, options.save,
-                                 AuthorOf(settings), context.prompts);
+  const Author author = AuthorOf(settings);
+  SavePlan plan = PlanOf(document->bot, {folder, options.save});
+  if (options.game_macros) {
+    const std::string& named =
+        options.game_folder.empty() ? settings.Q3Baseq3 : options.game_folder;
+    if (named.empty() || !IsFolder(PathFromBytes(named))) {
+      return Fail(context,
+                  {.what = "--game-macros needs the folder of a game.",
+                   .file = named,
+                   .line = 0,
+                   .advice = "Give --game, or set the folder in the options."});
+    }
+    const IncludeLookup game = GameLookUp(PathFromBytes(named));
+    constexpr std::string_view kScript = "fw_weap.c";
+    if (game(kScript) == StandInGameFile(kScript)) {
+      return Fail(context,
+                  {.what = "There is no game in this folder.",
+                   .file = named,
+                   .line = 0,
+                   .advice = "Give the folder above the game's packages, that "
+                             "of baseq3 or baseoa."});
+    }
+    WriteGameMacros(OtherMacrosFor({}, game), document->bot, author, {}, plan);
+  }
+  if (const Result<void> may = SpareOthers(document->bot, plan, context);
+      !may) {
+    return Fail(context, may.error());
+  }
+  const SavedBot saved =
+      SaveFiles(document->bot, plan, author, context.prompts);
   for (const std::filesystem::path& path : saved.written) {
     context.out << BytesFromPath(path) << '\n';
   }
@@ -69,6 +147,13 @@ void AddMakeCommand(CLI::App& app, CommandContext& context) {
                    "Write into botfiles/bots and scripts below the folder");
   command.add_flag("--pk3", options->save.makes_package,
                    "Pack the files into bot-NAME.pk3 in the folder, too");
+  command.add_flag("--game-macros", options->game_macros,
+                   "Write the weights under the game's own macros as well, "
+                   "where its weight code does not ask for ours");
+  command
+      .add_option("--game", options->game_folder,
+                  "The game's folder, in place of that of the settings")
+      ->type_name("GAMEFOLDER");
   command.callback([options, &context] {
     context.run = [options, &context] { return RunMake(*options, context); };
   });

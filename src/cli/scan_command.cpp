@@ -1,13 +1,15 @@
 #include <filesystem>
 #include <memory>
 #include <nlohmann/json.hpp>
+#include <optional>
 #include <string>
 
 #include "cli/command.h"
 #include "cli/terminal.h"
-#include "install/game_folder.h"
+#include "install/program/game_folder.h"
 #include "support/code_page.h"
 #include "support/files.h"
+#include "support/system/console.h"
 
 namespace fragsmith {
 namespace {
@@ -83,10 +85,11 @@ ExitStatus RunScan(const ScanOptions& options, CommandContext& context) {
   };
   CatalogueSelection selection;
   Notes notes;
-  const bool is_done =
+  const std::optional<ScanSummary> summary =
       CheckBaseq3(settings, lists, selection, context.prompts, progress, notes);
   PrintNotes(context, notes);
-  if (!is_done) return kFailed;
+  if (!summary) return kFailed;
+  context.err << Printable(Describe(*summary)) << '\n';
   if (options.as_json) {
     PrintJson(lists, context.out);
   } else {

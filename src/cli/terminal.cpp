@@ -1,31 +1,6 @@
 #include "cli/terminal.h"
 
-#ifdef _WIN32
-#include <fcntl.h>
-#include <io.h>
-#include <windows.h>
-#else
-#include <unistd.h>
-#endif
-
 namespace fragsmith {
-
-void PrepareTerminal() {
-#ifdef _WIN32
-  ::SetConsoleOutputCP(CP_UTF8);
-  // Line ends stay as they are written.
-  for (const int stream : {1, 2}) ::_setmode(stream, _O_BINARY);
-#endif
-}
-
-bool IsErrorTerminal() {
-  constexpr int kStandardError = 2;
-#ifdef _WIN32
-  return ::_isatty(kStandardError) != 0;
-#else
-  return ::isatty(kStandardError) != 0;
-#endif
-}
 
 std::string Printable(std::string_view utf8) {
   constexpr std::string_view kReplacement = "\xEF\xBF\xBD";

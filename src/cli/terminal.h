@@ -6,12 +6,6 @@
 
 namespace fragsmith {
 
-/// To be called first: what is printed is UTF-8, and the same bytes everywhere.
-void PrepareTerminal();
-
-/// True when standard error is a terminal with somebody before it.
-bool IsErrorTerminal();
-
 /// The text (UTF-8) with its control characters but TABs replaced by U+FFFD: a
 /// name out of a file must not command the terminal that shows it.
 std::string Printable(std::string_view utf8);

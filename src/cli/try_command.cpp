@@ -1,23 +1,24 @@
 #include <chrono>
-#include <cstddef>
-#include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "checks/game_trial.h"
-#include "checks/trial_reader.h"
+#include "checks/bot_on_disk.h"
+#include "checks/file_checks.h"
 #include "cli/bot_source.h"
 #include "cli/command.h"
+#include "cli/engine_options.h"
 #include "cli/terminal.h"
 #include "session/save_bot.h"
-#include "support/child_process.h"
 #include "support/files.h"
+#include "support/system/interruption.h"
 #include "support/temporary_folder.h"
+#include "trial/game_trial.h"
+#include "trial/trial_reader.h"
+#include "trial/trial_run.h"
 
 namespace fragsmith {
 namespace fs = std::filesystem;
@@ -25,29 +26,24 @@ namespace {
 
 struct TryOptions {
   BotSource source;
-  std::string engine;  ///< Empty for the first server that is found.
-  std::string data;
-  std::string game;
-  std::string map;
+  EngineOptions engine;
   std::vector<std::string> opponents;
   double skill = 4;
   int seconds = 30;
+  bool as_saved = false;
 };
 
-/// What a file has more than when it was last read, a piece at a time.
-class GrowingFile {
- public:
-  explicit GrowingFile(const fs::path& path) : file_(path, std::ios::binary) {}
+/// What is tried, by the name that the game adds it by and the one that its
+/// files are called by.
+struct TriedBot {
+  std::string name;
+  std::string file_name;
+};
 
-  std::string_view ReadMore() {
-    file_.clear();
-    file_.read(piece_.data(), static_cast<std::streamsize>(piece_.size()));
-    return {piece_.data(), static_cast<std::size_t>(file_.gcount())};
-  }
-
- private:
-  std::ifstream file_;
-  std::vector<char> piece_ = std::vector<char>(65536);
+/// The bot or how the program ends without one. The user was told.
+struct TriedBotOutcome {
+  std::optional<TriedBot> bot;
+  ExitStatus refusal = kFailed;
 };
 
 void Print(const std::vector<TrialLine>& lines, CommandContext& context) {
@@ -58,85 +54,113 @@ void Print(const std::vector<TrialLine>& lines, CommandContext& context) {
   context.out.flush();
 }
 
-/// Lets the engine run until the verdict is there or the time is over.
+/// Lets the engine run until the verdict is there, the time is over or it
+/// prints without end.
 Result<void> Play(const TrialSetup& setup, const std::string& bot_name,
                   TrialReader& reader, CommandContext& context) {
   using std::chrono::steady_clock;
-  const fs::path output = setup.home / "output";
-  Result<ChildProcess> engine = ChildProcess::Start(
-      setup.engine, TrialArguments(setup, bot_name), output);
-  if (!engine) return Failure(engine.error());
+  Result<TrialRun> run = TrialRun::Start(setup, bot_name);
+  if (!run) return Failure(run.error());
   const auto end = steady_clock::now() + std::chrono::seconds(setup.seconds);
-  GrowingFile file(output);
   bool is_running = true;
-  while (is_running && !reader.is_over() && steady_clock::now() < end) {
-    engine->Wait(std::chrono::milliseconds(50));
+  const auto may_go_on = [&] {
+    return !Interruption::HasCome() && !run->IsEndless() &&
+           steady_clock::now() < end;
+  };
+  while (is_running && !reader.is_over() && may_go_on()) {
+    run->Wait(std::chrono::milliseconds(50));
     // What it printed before it went is read all the same.
-    is_running = engine->IsRunning();
-    for (std::string_view more = file.ReadMore(); !more.empty();
-         more = file.ReadMore()) {
+    is_running = run->IsRunning();
+    for (std::string_view more = run->ReadMore(); !more.empty();
+         more = run->ReadMore()) {
       Print(reader.Read(more), context);
-      if (steady_clock::now() >= end) break;
+      if (!may_go_on()) break;
     }
   }
-  engine->End();
-  if (reader.is_over()) return {};
-  context.err << (is_running ? "The time is over. " : "The engine ended. ")
-              << "What it printed last:\n";
+  const bool is_endless = run->IsEndless();
+  run->End();
+  if (reader.is_over() || Interruption::HasCome()) return {};
+  std::string_view reason = is_running ? "Time is up." : "The engine ended.";
+  if (is_endless) reason = "The engine prints without end.";
+  context.err << reason << " What it printed last:\n";
   for (const std::string& line : reader.LastLines()) {
     context.err << "  " << Printable(line) << '\n';
   }
   return {};
 }
 
-/// The engine that is meant; nothing, told, when there is none.
-std::optional<fs::path> ChooseEngine(const TryOptions& options,
-                                     CommandContext& context) {
-  if (!options.engine.empty()) {
-    return fs::absolute(PathFromBytes(options.engine));
-  }
-  const char* const path = std::getenv("PATH");  // NOLINT(*-mt-unsafe)
-  for (const fs::path& engine :
-       FindEngines(EngineFolders(path == nullptr ? "" : path))) {
-    if (IsDedicatedServer(engine)) return engine;
-  }
-  context.err << "No dedicated server of the game was found; give one with "
-                 "--engine.\n";
-  return std::nullopt;
+/// Puts a document, or the bot as a save would write it, into the scratch
+/// folder.
+TriedBotOutcome PutAsSaved(const TryOptions& options, const fs::path& home,
+                           CommandContext& context) {
+  const BotSourceOutcome outcome = ReadBotOrDocument(options.source, context);
+  if (!outcome.bot) return {.bot = {}, .refusal = outcome.refusal};
+  const Bot& bot = outcome.bot->loaded.bot;
+  const Result<void> done =
+      WriteTrialPackage(bot, home, AuthorOf(LoadSettingsFor(context)));
+  if (!done) return {.bot = {}, .refusal = Fail(context, done.error())};
+  return {.bot = TriedBot{bot.Name(), bot.Name()}};
+}
+
+/// Puts the very files that were given into the scratch folder.
+TriedBotOutcome PutAsGiven(const TryOptions& options, const fs::path& home,
+                           CommandContext& context) {
+  const BotLocationOutcome outcome = FindBot(options.source, context);
+  if (!outcome.found) return {.bot = {}, .refusal = outcome.refusal};
+  const GivenFiles given = FilesOf(*outcome.found);
+  const Result<void> done = PutTrialFiles(given, home);
+  if (!done) return {.bot = {}, .refusal = Fail(context, done.error())};
+  const std::string& file_name = outcome.found->name;
+  const std::string name = NameToAdd(
+      ReadBot(given, file_name, true, outcome.found->listed_name).files);
+  return {.bot = TriedBot{name.empty() ? file_name : name, file_name}};
 }
 
 ExitStatus RunTry(const TryOptions& options, CommandContext& context) {
-  const std::optional<fs::path> engine = ChooseEngine(options, context);
-  if (!engine) return kWrongUsage;
-  const BotSourceOutcome outcome = ReadBotOrDocument(options.source, context);
-  if (!outcome.bot) return outcome.refusal;
-  const Bot& bot = outcome.bot->loaded.bot;
+  const std::optional<ChosenEngine> chosen =
+      ChooseEngine(options.engine, context);
+  if (!chosen) return kWrongUsage;
 
+  // However this ends, nothing of it stays: neither the engine nor its files.
+  const Interruption interruption;
   TemporaryFolder temporary;
   const Result<fs::path> home = temporary.GetTempFolder();
   if (!home) return Fail(context, home.error());
+  const TriedBotOutcome outcome = options.as_saved || !IsOfFiles(options.source)
+                                      ? PutAsSaved(options, *home, context)
+                                      : PutAsGiven(options, *home, context);
+  if (!outcome.bot) return outcome.refusal;
+  const auto& [name, file_name] = *outcome.bot;
   TrialSetup setup;
-  setup.engine = *engine;
-  if (!options.data.empty()) {
-    setup.data = fs::absolute(PathFromBytes(options.data));
-  }
+  setup.engine = chosen->engine;
+  setup.data = chosen->data;
   setup.home = *home;
-  setup.game = options.game.empty() ? DefaultGame(setup.engine, setup.data)
-                                    : options.game;
-  setup.map = options.map.empty() ? DefaultMap(setup.game) : options.map;
+  setup.game = chosen->game;
+  setup.map = chosen->map;
   setup.skill = options.skill;
   setup.opponents = options.opponents;
   setup.is_dedicated = true;
   setup.seconds = options.seconds;
-  Result<void> done =
-      WriteTrialPackage(bot, *home, AuthorOf(LoadSettingsFor(context)));
+  Result<void> done = MakePathsPlain(setup);
   if (!done) return Fail(context, done.error());
 
-  TrialReader reader(setup, bot.Name());
-  done = Play(setup, bot.Name(), reader, context);
+  TrialReader reader(setup, name, file_name);
+  done = Play(setup, name, reader, context);
   if (!done) return Fail(context, done.error());
-  context.out << Printable(VerdictText(reader.verdict(), bot.Name())) << '\n';
-  return reader.verdict() == TrialVerdict::kEntered ? kDone : kFailed;
+  if (Interruption::HasCome()) return kFailed;
+  context.out << Printable(VerdictText(reader.verdict(), name)) << '\n';
+  switch (reader.verdict()) {
+    case TrialVerdict::kEntered:
+      return kDone;
+    case TrialVerdict::kOthersFiles:
+      return kWarned;
+    case TrialVerdict::kUnknown:
+    case TrialVerdict::kDefaultCharacter:
+    case TrialVerdict::kOtherBot:
+    case TrialVerdict::kNotAdded:
+      break;
+  }
+  return kFailed;
 }
 
 }  // namespace
@@ -144,36 +168,25 @@ ExitStatus RunTry(const TryOptions& options, CommandContext& context) {
 void AddTryCommand(CLI::App& app, CommandContext& context) {
   CLI::App& command = AddCommand(
       app, "try",
-      "Let a dedicated server of the game take the bot and print what it says "
-      "of it; exit status 0 when the bot entered the game, 1 when not",
+      "Let a dedicated server of the game take the bot, its files as they "
+      "are, and print what it says of it; exit status 0 when the bot entered "
+      "the game, 3 when it did with files of another bot, 1 when not",
       context);
   auto options = std::make_shared<TryOptions>();
+  options->source.is_for_game = true;
   AddBotSource(command, options->source);
-  command
-      .add_option("--engine", options->engine,
-                  "The dedicated server; else the first that is found")
-      ->check(CLI::ExistingFile)
-      ->type_name("PROGRAM");
-  command
-      .add_option("--data", options->data,
-                  "The folder that holds the game folder; else the engine's "
-                  "own")
-      ->check(CLI::ExistingDirectory)
-      ->type_name("DIR");
-  command
-      .add_option("--game", options->game,
-                  "The game folder: baseq3, or baseoa where only that is there")
-      ->type_name("NAME");
-  command
-      .add_option("--map", options->map, "The map: q3dm1, or oa_dm1 for baseoa")
-      ->type_name("NAME");
+  command.add_flag("--as-saved", options->as_saved,
+                   "Try what a save would make of the files, in place of the "
+                   "files");
+  AddAsGame(command, options->source.as_game);
+  AddEngineOptions(command, options->engine);
   command.add_option("--skill", options->skill, "1 to 5; 4 without it")
       ->check(CLI::Range(1.0, 5.0));
-  constexpr int kMostSeconds = 600;
+  constexpr int kMaxSeconds = 600;
   command
       .add_option("--seconds", options->seconds,
                   "After so long the engine ends at the latest; 30 without it")
-      ->check(CLI::Range(1, kMostSeconds));
+      ->check(CLI::Range(1, kMaxSeconds));
   command
       .add_option("--opponent", options->opponents,
                   "Another bot to add; may be given again")

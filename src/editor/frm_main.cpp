@@ -11,28 +11,26 @@
 #include <QTimer>
 #include <QUrl>
 #include <QVBoxLayout>
+#include <algorithm>
+#include <set>
+#include <string>
 #include <utility>
 
-#include "editor/dialogs/about_dialog.h"
+#include "editor/commands/install_commands.h"
+#include "editor/commands/mend_commands.h"
+#include "editor/commands/welcome_commands.h"
 #include "editor/dialogs/compare_dialog.h"
+#include "editor/dialogs/match_window.h"
 #include "editor/dialogs/options_dialog.h"
-#include "editor/dialogs/search_progress.h"
-#include "editor/dialogs/try_dialog.h"
-#include "editor/finding_marks.h"
-#include "editor/game_text_conversion.h"
-#include "editor/main_menu.h"
-#include "editor/pages/page_table.h"
-#include "editor/window_state.h"
-#include "install/model_commands.h"
-#include "session/presets.h"
+#include "editor/panels/finding_marks.h"
+#include "editor/state/window_state.h"
+#include "editor/toolkit/game_text_conversion.h"
+#include "editor/toolkit/page_table.h"
+#include "install/program/game_folder.h"
 #include "support/files.h"
+#include "support/program_version.h"
 
 namespace fragsmith {
-namespace {
-
-constexpr int kStatusMilliseconds = 8000;
-
-}  // namespace
 
 frmMain::frmMain(ProgramState& state) : state_(state) {
   const CurrentBot::Filling filling(current_);
@@ -40,8 +38,10 @@ frmMain::frmMain(ProgramState& state) : state_(state) {
   state_.LoadIniFile();
   state_.LoadLists();
 
+  help_ = new HelpCommands(*this);
   identity_ = new IdentityPanel(current_, state_.prompts, this);
   models_ = new ModelSelector(current_, state_, this);
+  draft_bar_ = new DraftBar(this);
   notes_ = new NotesBar(this);
   BuildPages();
   BuildMenu();
@@ -49,39 +49,83 @@ frmMain::frmMain(ProgramState& state) : state_(state) {
   auto* const content = new QWidget(this);
   auto* const column = new QVBoxLayout(content);
   auto* const panel = new QHBoxLayout;
-  panel->setSpacing(18);
+  panel->setSpacing(16);
+  panel->addWidget(models_->icon(), 0, Qt::AlignTop);
   panel->addWidget(identity_, 8);
-  panel->addWidget(models_, 5);
+  panel->addWidget(models_, 3);
   column->addLayout(panel);
+  column->addWidget(draft_bar_);
   column->addWidget(notes_);
-  column->addWidget(tbsBotPara_, 1);
+  work_ = new QMainWindow(content);
+  work_->setWindowFlags(Qt::Widget);
+  work_->setCentralWidget(tbsBotPara_);
+  column->addWidget(work_, 1);
   setCentralWidget(content);
   statusBar();
+  welcome_ = new WelcomePage(*content);
 
   navigator_ =
       std::make_unique<PageNavigator>(*this, *tbsBotPara_, *chat_page_);
   commands_ = new BotCommands(current_, state_, *this);
-  edits_ = new EditCommands(current_, *identity_, *navigator_, *this);
+  typed_text_ =
+      new TypedText(current_, *identity_, *chat_page_, *tbsBotPara_, this);
+  edits_ = new EditCommands(current_, *typed_text_, *navigator_, *this);
   edits_->Attach(*menuBar());
   draft_ = new DraftKeeper(state_.folders.program, current_, this);
-  draft_->SetSource([this] { return identity_->WithTyping(); });
-  connect(identity_, &IdentityPanel::Typed, draft_, &DraftKeeper::Schedule);
+  draft_->SetSource([this] { return typed_text_->WithIt(); });
+  connect(typed_text_, &TypedText::Typed, draft_, &DraftKeeper::Schedule);
   model_list_ = std::make_unique<ModelListCommands>(state_, *models_, *this);
   Connect();
   // Behind the connections: it checks a bot once the window has shown it, and
   // perhaps asked about its model.
   checker_ = new BotChecker(current_, this);
+  game_ = new GameCommands(current_, *checker_, state_, *this);
+  connect(commands_, &BotCommands::Saved, checker_,
+          &BotChecker::CheckFilesSoon);
   RestoreLook();
   models_->RefreshIcon();
   commands_->CreateZeroBot();
   current_.ForgetSteps();
+  connect(commands_, &BotCommands::Made, identity_, &IdentityPanel::SelectName);
   setAcceptDrops(true);
+  for (const Error& error : draft_->unreadable()) {
+    state_.prompts.Show(
+        {.title = "Load error",
+         .text = "A bot that was not saved cannot be read.\n" + Describe(error),
+         .icon = MessageIcon::kExclamation});
+  }
   OfferDraft();
+  BuildWelcome();
+}
+
+void frmMain::BuildWelcome() {
+  welcoming_ = new WelcomeCommands(
+      *welcome_, *commands_, state_, [this](const QString& item) {
+        menuBar()->findChild<QAction*>(item)->trigger();
+      });
+  connect(welcoming_, &WelcomeCommands::GameSet, this, [this] {
+    models_->RefreshIcon();
+    ReadGame();
+  });
+  connect(&current_, &CurrentBot::Replaced, welcome_, &WelcomePage::Close);
+  connect(&current_, &CurrentBot::ChangedFlagSet, welcome_,
+          [this](bool is_changed) {
+            if (is_changed) welcome_->Close();
+          });
+  connect(tbsBotPara_, &QTabWidget::currentChanged, welcome_,
+          &WelcomePage::Close);
+  // The offer of a draft comes first.
+  if (draft_->LeftBehind() == nullptr) ShowWelcome();
+}
+
+void frmMain::ShowWelcome() {
+  welcoming_->Fill(checker_->game());
+  welcome_->Open();
 }
 
 void frmMain::OfferDraft() {
-  if (const Bot* const left = draft_->LeftBehind()) {
-    notes_->OfferDraft(ToQString(left->Name()));
+  if (const DraftKeeper::Found* const left = draft_->LeftBehind()) {
+    draft_bar_->Offer(*left);
   }
 }
 
@@ -100,93 +144,31 @@ void frmMain::BuildPages() {
   }
 }
 
-void frmMain::BuildMenu() {
-  menu_ = {
-      {QStringLiteral("mnuOptions"), [this] { ShowOptions(); }},
-      {QStringLiteral("mnuAbout"), [this] { frmAbout(this).exec(); }},
-      {QStringLiteral("mnuExit"), [this] { close(); }},
-      {QStringLiteral("mnuTry"), [this] { TryInGame(); }},
-      {QStringLiteral("mnuCompareAverage"),
-       [this] {
-         Compare(CreateAverageBot(state_.random), QStringLiteral("Average"));
-       }},
-      {QStringLiteral("mnuCompareZero"),
-       [this] { Compare(CreateZeroBot(), QStringLiteral("All zeros")); }},
-      {QStringLiteral("mnuCompareOther"),
-       [this] {
-         const auto other = commands_->LoadToCompare();
-         if (other) Compare(other->first, other->second);
-       }},
-      {QStringLiteral("mnuFindings"), [this] { findings_->Toggle(); }},
-      {QStringLiteral("mnuUndo"), [this] { edits_->Undo(); }},
-      {QStringLiteral("mnuRedo"), [this] { edits_->Redo(); }},
-      {QStringLiteral("mnuFind"), [this] { edits_->Find(); }},
-      {QStringLiteral("mnuReset"), [this] { edits_->ResetFocused(); }},
-      {QStringLiteral("mnuSaveAgain"),
-       [this] {
-         if (!identity_->CheckAllIn()) commands_->SaveAgain();
-       }},
-      {QStringLiteral("mnuNewZero"), [this] { commands_->CreateZeroBot(); }},
-      {QStringLiteral("mnuNewAverage"),
-       [this] { commands_->CreateAverageBot(); }},
-      {QStringLiteral("mnuNewRandom"),
-       [this] { commands_->CreateRandomBot(); }},
-      {QStringLiteral("mnuLoad"), [this] { commands_->ShowOpenSaveForm(0); }},
-      {QStringLiteral("mnuMake"), [this] { MakeBotFiles(); }},
-      {QStringLiteral("mnuCharFile"),
-       [this] { commands_->ShowOpenSaveForm(1); }},
-      {QStringLiteral("mnuWeaponFile"),
-       [this] { commands_->ShowOpenSaveForm(4); }},
-      {QStringLiteral("mnuitemFile"),
-       [this] { commands_->ShowOpenSaveForm(3); }},
-      {QStringLiteral("mnuChatFile"),
-       [this] { commands_->ShowOpenSaveForm(2); }},
-      {QStringLiteral("mnuCheck"), [this] { CheckBaseq3(); }},
-      {QStringLiteral("mnuModelAdd"), [this] { model_list_->AddModel(); }},
-      {QStringLiteral("mnuSkinAdd"), [this] { model_list_->AddSkin(); }},
-      {QStringLiteral("mnuModelRemove"),
-       [this] { model_list_->RemoveModel(); }},
-      {QStringLiteral("mnuSkinRemove"), [this] { model_list_->RemoveSkin(); }},
-      {QStringLiteral("mnuExtraChat"),
-       [this] { chat_page_->AddExtraChatsToBot(); }},
-      {QStringLiteral("mnuDeleteChats"),
-       [this] { chat_page_->DeleteAllChats(); }},
-      {QStringLiteral("mnuSyn"),
-       [this] { AskForSynonym(state_.synonyms, state_.prompts); }},
-  };
-  for (const int from : kSkillLevels) {
-    for (const int to : kSkillLevels) {
-      menu_[QStringLiteral("mnuCopyLevel_%1_%2").arg(from).arg(to)] =
-          [this, from, to] { edits_->CopyLevel(from, to); };
-    }
-  }
-  FillMainMenu(*menuBar(), [this](const QString& name) {
-    FinishStart();
-    menu_.at(name)();
-  });
-  connect(menuBar()->findChild<QMenu*>(QStringLiteral("mnuRecent")),
-          &QMenu::aboutToShow, this, &frmMain::FillRecentBots);
-}
-
 void frmMain::Connect() {
-  const auto say = [this](const QString& text) {
-    statusBar()->showMessage(text, kStatusMilliseconds);
-  };
-  connect(identity_, &IdentityPanel::StatusText, this, say);
-  connect(chat_page_, &ChatPage::StatusText, this, say);
-  connect(commands_, &BotCommands::StatusText, this, say);
-  connect(commands_, &BotCommands::Loaded, notes_, &NotesBar::ShowNotes);
-  connect(notes_, &NotesBar::TakeAsGame, commands_,
-          &BotCommands::TakeValuesAsGame);
-  connect(notes_, &NotesBar::TakeDraft, this, [this] {
-    const Bot* const left = draft_->LeftBehind();
-    if (left != nullptr && commands_->TakeDraft(*left)) {
+  connect(identity_, &IdentityPanel::StatusText, this, &frmMain::Say);
+  connect(typed_text_, &TypedText::StatusText, this, &frmMain::Say);
+  connect(chat_page_, &ChatPage::StatusText, this, &frmMain::Say);
+  connect(commands_, &BotCommands::StatusText, this, &frmMain::Say);
+  connect(help_, &HelpCommands::StatusText, this, &frmMain::Say);
+  connect(&current_, &CurrentBot::OriginChanged, this, &frmMain::ShowNotes);
+  connect(&current_.steps(), &QUndoStack::indexChanged, this,
+          &frmMain::OfferValuesAsGame);
+  connect(commands_, &BotCommands::PackageMissing, this,
+          &frmMain::DropGoneAddOns);
+  connect(commands_, &BotCommands::Loaded, this, &frmMain::KeepState);
+  connect(notes_, &NotesBar::TakeAsGame, this, [this] {
+    if (typed_text_->Store()) commands_->TakeValuesAsGame();
+  });
+  connect(draft_bar_, &DraftBar::TakeDraft, this, [this] {
+    if (!typed_text_->Store()) return OfferDraft();
+    const DraftKeeper::Found* const left = draft_->LeftBehind();
+    if (left != nullptr && commands_->TakeDraft(left->draft)) {
       draft_->SaveNow();
-      draft_->DropLeftBehind();
+      draft_->TookLeftBehind();
     }
     OfferDraft();
   });
-  connect(notes_, &NotesBar::DiscardDraft, this, [this] {
+  connect(draft_bar_, &DraftBar::DiscardDraft, this, [this] {
     draft_->DropLeftBehind();
     OfferDraft();
   });
@@ -195,26 +177,66 @@ void frmMain::Connect() {
   for (ParameterPage* const page : pages_) {
     connect(page, &ParameterPage::ParameterMenuWanted, edits_,
             &EditCommands::ShowParameterMenu);
+    connect(page, &ParameterPage::ResetWanted, edits_, &EditCommands::Reset);
   }
   connect(&current_, &CurrentBot::ChangedFlagSet, this, &frmMain::ShowTitle);
   ShowTitle();
 }
 
+void frmMain::Say(const QString& text) {
+  constexpr int kMilliseconds = 8000;
+  statusBar()->showMessage(text, kMilliseconds);
+}
+
+void frmMain::ShowNotes() {
+  notes_->ShowNotes(current_.origin().report->notes);
+  OfferValuesAsGame();
+}
+
+void frmMain::OfferValuesAsGame() {
+  notes_->OfferValuesAsGame(
+      HasOddValues(current_.bot(), *current_.origin().report));
+}
+
+void frmMain::OpenPath(const std::filesystem::path& path) {
+  if (typed_text_->Store()) commands_->OpenPath(path);
+}
+
 void frmMain::ShowTitle() {
-  setWindowTitle(QStringLiteral("Fragsmith 0.97b BETA[*]"));
+  QString title = QStringLiteral("Fragsmith ") + TableText(kProgramVersion);
+  const QString name = ToQString(current_.bot().Name());
+  if (!name.isEmpty()) title += QStringLiteral(" - ") + name;
+  // Elsewhere it is what stands in the name of a bot.
+  const QString mark = QStringLiteral("[*]");
+  title.replace(mark, mark + mark);
+  setWindowTitle(title + mark);
   setWindowModified(current_.is_changed());
 }
 
 void frmMain::RestoreLook() {
   const WindowState look = LoadWindowState(state_.folders.program);
-  constexpr QSize kFirstSize(1024, 740);
+  constexpr QSize kFirstSize(1240, 840);
   if (look.geometry.isEmpty() || !restoreGeometry(look.geometry)) {
     const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
-    resize(kFirstSize.boundedTo(screen.size()));
+    const int title = style()->pixelMetric(QStyle::PM_TitleBarHeight);
+    resize(kFirstSize.boundedTo(screen.size() - QSize(0, title)));
     move(screen.center() - rect().center());
   }
   commands_->recent() = RecentBots(look.recent);
+  kept_recent_ = commands_->recent().ToStrings();
+  identity_->SetUnfolded(look.is_unfolded);
   tbsBotPara_->setCurrentIndex(qBound(0, look.page, tbsBotPara_->count() - 1));
+}
+
+void frmMain::FitScreen() {
+  if (isMaximized() || isFullScreen()) return;
+  const QRect screen = this->screen()->availableGeometry();
+  const QSize frame = frameGeometry().size() - size();
+  resize(size().boundedTo(screen.size() - frame));
+  const QPoint last = screen.bottomRight() -
+                      QPoint(frameGeometry().width(), frameGeometry().height());
+  move(qBound(screen.left(), pos().x(), std::max(screen.left(), last.x() + 1)),
+       qBound(screen.top(), pos().y(), std::max(screen.top(), last.y() + 1)));
 }
 
 void frmMain::FillBotDataToForm() {
@@ -225,33 +247,51 @@ void frmMain::FillBotDataToForm() {
   chat_page_->ShowBot();
 }
 
-void frmMain::ShowStep(const FindingPlace& place) {
+void frmMain::ShowStep(const BotPlace& place) {
   const CurrentBot::Filling filling(current_);
-  models_->ShowBot();
+  models_->ShowStep();
   identity_->ShowBot();
-  for (ParameterPage* const page : pages_) page->ShowBot();
+  for (ParameterPage* const page : pages_) page->ShowAgain();
   chat_page_->ShowAgain();
   navigator_->Show(place);
 }
 
 void frmMain::BuildFindings() {
   findings_ = new FindingsDock(this);
-  picture_ = new GamePicture(current_, findings_);
-  findings_->SetPicture(picture_);
-  addDockWidget(Qt::BottomDockWidgetArea, findings_);
+  PlaceFindings();
   statusBar()->addPermanentWidget(findings_->counter());
+  // Of a bot that nobody has made there is nothing to tell yet.
+  findings_->counter()->setHidden(welcome_->isVisible());
+  connect(welcome_, &WelcomePage::Opened, findings_->counter(),
+          &QWidget::setHidden);
   connect(checker_, &BotChecker::Checked, this, &frmMain::ShowFindings);
-  connect(findings_, &QDockWidget::visibilityChanged, picture_,
-          &GamePicture::ShowBot);
   connect(findings_, &FindingsDock::GoTo, this,
-          [this](const FindingPlace& place) { navigator_->GoTo(place); });
-  connect(findings_, &FindingsDock::MendWanted, this,
-          [this](const FindingPlace& place, const Mend& mend) {
-            current_.Edit({.text = QString::fromStdString(mend.title),
-                           .place = place,
-                           .merges = false},
-                          mend.apply);
-          });
+          [this](const BotPlace& place) { navigator_->GoTo(place); });
+  connect(tbsBotPara_, &QTabWidget::currentChanged, findings_,
+          &FindingsDock::ShowPage);
+  findings_->ShowPage(tbsBotPara_->currentIndex());
+  auto* const mends = new MendCommands(current_, *checker_, this);
+  mends->Attach(*findings_, [this] { return typed_text_->Store(); });
+  connect(mends, &MendCommands::StatusText, this, &frmMain::Say);
+}
+
+void frmMain::PlaceFindings() {
+  // A wide window has room beside the pages, a narrow one below them.
+  constexpr int kMinWidth = 1180;
+  constexpr int kMinLetters = 169;
+  const int needed =
+      std::max(kMinWidth, fontMetrics().averageCharWidth() * kMinLetters);
+  const Qt::DockWidgetArea area =
+      width() < needed ? Qt::BottomDockWidgetArea : Qt::RightDockWidgetArea;
+  if (findings_ == nullptr || work_->dockWidgetArea(findings_) == area) return;
+  const bool is_shown = findings_->isVisible();
+  work_->addDockWidget(area, findings_);
+  findings_->setVisible(is_shown);
+}
+
+void frmMain::resizeEvent(QResizeEvent* event) {
+  QMainWindow::resizeEvent(event);
+  PlaceFindings();
 }
 
 void frmMain::paintEvent(QPaintEvent* event) {
@@ -261,6 +301,8 @@ void frmMain::paintEvent(QPaintEvent* event) {
 
 void frmMain::FinishStart() {
   if (std::exchange(has_started_, true)) return;
+  // Only now it has its frame.
+  FitScreen();
   navigator_->CompletePages();
   // Behind the pages, for the Tab key too.
   BuildFindings();
@@ -271,35 +313,31 @@ void frmMain::ReadGame() {
   chat_page_->SetGame(nullptr);
   checker_->ReadGame(PathFromBytes(state_.settings.Q3Baseq3));
   chat_page_->SetGame(checker_->game());
+  welcoming_->Fill(checker_->game());
 }
 
 void frmMain::ShowFindings() {
-  findings_->ShowFindings(checker_->findings());
+  findings_->ShowFindings(checker_->findings(),
+                          current_.origin().home->files.empty());
+  tbsBotPara_->ShowFindings(checker_->findings());
+  ShowTitle();
   MarkControls(*this, checker_->findings());
   chat_page_->ShowMarks(checker_->findings());
-  picture_->ShowBot();
+  for (ParameterPage* const page : pages_) page->ShowPicture();
 }
 
-void frmMain::TryInGame() {
-  if (identity_->CheckAllIn()) return;
-  checker_->CheckNow();  // What has just been stored counts too.
-  frmTry(current_.bot(), checker_->findings(), state_, this).exec();
+void frmMain::InstallIntoGame() {
+  if (!typed_text_->StoreAll()) return;
+  checker_->CheckNow();
+  InstallCommands install(current_, *checker_, state_, this);
+  connect(&install, &InstallCommands::StatusText, this, &frmMain::Say);
+  connect(&install, &InstallCommands::TryWanted, game_,
+          &GameCommands::TryInGame);
+  install.Install();
 }
 
 void frmMain::Compare(const Bot& other, const QString& title) {
   frmCompare(current_, other, title, this).exec();
-}
-
-void frmMain::FillRecentBots() {
-  auto* const menu = menuBar()->findChild<QMenu*>(QStringLiteral("mnuRecent"));
-  menu->clear();
-  for (const RecentBot& bot : commands_->recent().Present()) {
-    connect(menu->addAction(MenuText(bot)), &QAction::triggered, this,
-            [this, bot] { commands_->OpenRecent(bot); });
-  }
-  if (menu->isEmpty()) {
-    menu->addAction(QStringLiteral("(none)"))->setEnabled(false);
-  }
 }
 
 void frmMain::dragEnterEvent(QDragEnterEvent* event) {
@@ -314,7 +352,27 @@ void frmMain::dropEvent(QDropEvent* event) {
   const std::filesystem::path path = PathFromBytes(
       event->mimeData()->urls().front().toLocalFile().toStdString());
   // Its questions are not to keep the other program waiting.
-  QTimer::singleShot(0, this, [this, path] { commands_->OpenPath(path); });
+  QTimer::singleShot(0, this, [this, path] { OpenPath(path); });
+}
+
+// A crash or a kill would lose what is written at the end alone.
+void frmMain::KeepState() {
+  const QStringList recent = commands_->recent().ToStrings();
+  if (recent != kept_recent_) {
+    kept_recent_ = recent;
+    SaveWindow();
+  }
+  // What cannot be written is told at the end.
+  static_cast<void>(state_.SaveChanges());
+}
+
+void frmMain::SaveWindow() {
+  // Neither a bot nor a setting: no reason for a box at the end.
+  static_cast<void>(SaveWindowState(
+      state_.folders.program, {.geometry = saveGeometry(),
+                               .page = tbsBotPara_->currentIndex(),
+                               .is_unfolded = identity_->IsUnfolded(),
+                               .recent = commands_->recent().ToStrings()}));
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {
@@ -325,10 +383,7 @@ void frmMain::closeEvent(QCloseEvent* event) {
     event->ignore();
     return;
   }
-  SaveWindowState(state_.folders.program,
-                  {.geometry = saveGeometry(),
-                   .page = tbsBotPara_->currentIndex(),
-                   .recent = commands_->recent().ToStrings()});
+  SaveWindow();
   const Result<void> saved = state_.Save();
   if (!saved) {
     state_.prompts.Show({.title = std::string(kProgramTitle),
@@ -341,45 +396,95 @@ void frmMain::closeEvent(QCloseEvent* event) {
 }
 
 void frmMain::MakeBotFiles() {
-  if (!identity_->CheckAllIn()) commands_->ShowOpenSaveForm(5);
+  if (typed_text_->StoreAll()) commands_->ShowOpenSaveForm(OpenKind::kSave);
 }
 
 void frmMain::ShowOptions() {
-  frmOptions dialog(state_.prompts, this);
+  frmOptions dialog(state_.prompts, this,
+                    [this](const std::filesystem::path& folder) {
+                      return state_.FirstFolder(folder);
+                    });
   for (int index = 0; index < kOptionCount; ++index) {
     dialog.SetOptionValue(index, GetOptionValue(state_.settings, index));
   }
-  if (dialog.exec() == QDialog::Accepted) frmOption_SaveValues(dialog);
+  const ProgramSettings before = state_.settings;
+  bool goes_on = true;
+  while (goes_on && dialog.exec() == QDialog::Accepted) {
+    frmOption_SaveValues(dialog);
+    goes_on = !dialog.GetOptionValue(0).empty() &&
+              state_.settings.Q3Baseq3.empty() &&
+              WantsOtherGame(before.Q3Baseq3);
+    dialog.BeginAtGameFolder();
+  }
+  if (state_.settings.Q3Baseq3 == before.Q3Baseq3) {
+    state_.settings.BaseQ3Check = before.BaseQ3Check;
+  }
+}
+
+bool frmMain::WantsOtherGame(const std::string& before) {
+  const bool has_before = HasGameProgram(PathFromBytes(before));
+  std::string text = "There is no game folder now.";
+  std::vector<std::string> buttons = {"Go on without", "Correct it"};
+  if (has_before) {
+    text += " The one before was '" + before + "'.";
+    buttons.insert(buttons.begin(), "Keep the one before");
+  }
+  enum : std::size_t { kKeep, kNone, kCorrect };
+  const std::size_t choice =
+      (has_before ? kKeep : kNone) +
+      state_.prompts.Choose(std::string(kProgramTitle), text, buttons);
+  if (choice == kKeep) {
+    state_.SetGameFolder(before);
+    models_->RefreshIcon();
+    ReadGame();
+  }
+  return choice == kCorrect;
+}
+
+void frmMain::ShowMatches() {
+  if (matches_ == nullptr) {
+    matches_ = new frmMatch(
+        current_, *checker_, state_, [this] { return typed_text_->StoreAll(); },
+        this);
+    connect(matches_, &frmMatch::GoTo, this, [this](const BotPlace& place) {
+      activateWindow();
+      navigator_->GoTo(place);
+    });
+  }
+  matches_->Present();
 }
 
 void frmMain::frmOption_SaveValues(const frmOptions& dialog) {
+  const std::string game = state_.settings.Q3Baseq3;
   for (int index = 0; index < kEditableOptionCount; ++index) {
     SetOptionValue(state_.settings, index, dialog.GetOptionValue(index));
   }
+  const std::filesystem::path folder = state_.folder_state.CurrentFolder;
   state_.InitByValues();
+  // What is known is of the other game.
+  if (state_.settings.Q3Baseq3 != game) state_.settings.BaseQ3Check = false;
+  if (state_.folder_state.CurrentFolder != folder) {
+    commands_->ForgetLastFolder();
+  }
   models_->RefreshIcon();
   ReadGame();
 }
 
 void frmMain::CheckBaseq3() {
-  frmSearchBaseQ3 progress(this);
-  setEnabled(false);
-  CatalogueSelection selection = models_->Selection();
-  Notes notes;
-  const bool is_done = fragsmith::CheckBaseq3(
-      state_.settings, state_.lists, selection, state_.prompts,
-      [&progress](std::size_t done, std::size_t total) {
-        progress.show();
-        progress.ShowProgress(done, total);
-        return !progress.WasCancelled();
-      },
-      notes);
-  progress.hide();
-  setEnabled(true);
-  if (!is_done) return;
-  models_->RefillModelSelector(selection.modelIndex, selection.skinIndex);
-  notes_->ShowNotes(notes, false);
+  const std::optional<ModelListCommands::Scan> scan =
+      model_list_->CheckBaseq3();
+  if (!scan) return;
+  // What was noticed of the bot stays in sight.
+  Notes notes = current_.origin().report->notes;
+  for (const Note& note : scan->notes.list()) notes.Add(note);
+  notes_->ShowNotes(notes);
+  Say(QString::fromStdString(Describe(scan->summary)));
   ReadGame();
+}
+
+void frmMain::DropGoneAddOns() {
+  const QString text = model_list_->DropGoneAddOns();
+  if (!text.isEmpty()) Say(text);
 }
 
 }  // namespace fragsmith

@@ -7,24 +7,31 @@
 #include <memory>
 #include <vector>
 
-#include "editor/bot_checker.h"
-#include "editor/bot_commands.h"
-#include "editor/current_bot.h"
-#include "editor/draft_keeper.h"
-#include "editor/edit_commands.h"
-#include "editor/findings_dock.h"
-#include "editor/game_picture.h"
-#include "editor/identity_panel.h"
-#include "editor/model_list_commands.h"
-#include "editor/model_selector.h"
-#include "editor/notes_bar.h"
-#include "editor/page_navigator.h"
-#include "editor/page_strip.h"
+#include "editor/commands/bot_commands.h"
+#include "editor/commands/edit_commands.h"
+#include "editor/commands/game_commands.h"
+#include "editor/commands/help_commands.h"
+#include "editor/commands/model_list_commands.h"
 #include "editor/pages/chat_page.h"
+#include "editor/pages/page_navigator.h"
+#include "editor/pages/page_strip.h"
 #include "editor/pages/parameter_page.h"
-#include "editor/program_state.h"
+#include "editor/panels/draft_bar.h"
+#include "editor/panels/findings_dock.h"
+#include "editor/panels/identity_panel.h"
+#include "editor/panels/model_selector.h"
+#include "editor/panels/notes_bar.h"
+#include "editor/panels/typed_text.h"
+#include "editor/panels/welcome_page.h"
+#include "editor/state/bot_checker.h"
+#include "editor/state/current_bot.h"
+#include "editor/state/draft_keeper.h"
+#include "editor/state/program_state.h"
 
 namespace fragsmith {
+
+class WelcomeCommands;
+class frmMatch;
 
 /// The window that holds it all. It puts the pieces together and passes their
 /// signals on; the work is done in them.
@@ -45,9 +52,10 @@ class frmMain : public QMainWindow {
 
   /// Loads the bot that a path leads to: a characteristic file, a folder or a
   /// package.
-  void OpenPath(const std::filesystem::path& path) {
-    commands_->OpenPath(path);
-  }
+  void OpenPath(const std::filesystem::path& path);
+
+  /// Puts what is not saved where the next start finds it.
+  void KeepDraft() { draft_->SaveNow(); }
 
   /// Shows the current bot in all controls; asks about a model or skin that
   /// is in no list.
@@ -56,6 +64,7 @@ class frmMain : public QMainWindow {
  protected:
   void closeEvent(QCloseEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dropEvent(QDropEvent* event) override;
 
@@ -64,42 +73,64 @@ class frmMain : public QMainWindow {
   void BuildMenu();
   void Connect();
   void RestoreLook();
+  /// The window with its frame stays within the screen's free area.
+  void FitScreen();
+  void OfferValuesAsGame();
+  void ShowNotes();
+  void Say(const QString& text);
   void ShowTitle();
   /// After an edit that was made or taken back elsewhere than at its control.
-  void ShowStep(const FindingPlace& place);
-  void FillRecentBots();
+  void ShowStep(const BotPlace& place);
   void BuildFindings();
+  void PlaceFindings();
   void ShowFindings();
   void ReadGame();
-  void TryInGame();
+  void InstallIntoGame();
   void Compare(const Bot& other, const QString& title);
   void OfferDraft();
+  void BuildWelcome();
+  void ShowWelcome();
 
   void ShowOptions();
+  void ShowMatches();
   void CheckBaseq3();
+  void DropGoneAddOns();
+  void KeepState();
+  void SaveWindow();
   void MakeBotFiles();
 
   /// The callback of the dialog.
   void frmOption_SaveValues(const class frmOptions& dialog);
+  /// What to do where no game is in the folder that was named. True when the
+  /// user wants to name another one.
+  bool WantsOtherGame(const std::string& before);
 
   ProgramState& state_;
   CurrentBot current_;
   IdentityPanel* identity_ = nullptr;
   ModelSelector* models_ = nullptr;
+  DraftBar* draft_bar_ = nullptr;
   NotesBar* notes_ = nullptr;
+  QMainWindow* work_ = nullptr;  ///< The pages and the findings beside them.
   PageStrip* tbsBotPara_ = nullptr;
   std::vector<ParameterPage*> pages_;
   ChatPage* chat_page_ = nullptr;
   std::unique_ptr<PageNavigator> navigator_;
   BotCommands* commands_ = nullptr;
   std::unique_ptr<ModelListCommands> model_list_;
+  TypedText* typed_text_ = nullptr;  ///< Stored before any command.
   EditCommands* edits_ = nullptr;
   BotChecker* checker_ = nullptr;
+  GameCommands* game_ = nullptr;
   FindingsDock* findings_ = nullptr;
-  GamePicture* picture_ = nullptr;
+  WelcomePage* welcome_ = nullptr;
+  WelcomeCommands* welcoming_ = nullptr;
   bool has_started_ = false;
   DraftKeeper* draft_ = nullptr;
+  HelpCommands* help_ = nullptr;
+  frmMatch* matches_ = nullptr;  ///< Made when it is first asked for.
   std::map<QString, std::function<void()>> menu_;
+  QStringList kept_recent_;  ///< As fgs.window has them.
 };
 
 }  // namespace fragsmith

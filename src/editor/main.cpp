@@ -1,18 +1,27 @@
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QFont>
 #include <QIcon>
+#include <QSocketNotifier>
+#include <QTimer>
 #include <algorithm>
 #include <exception>
 #include <iostream>
 #include <optional>
+#include <string>
+#include <string_view>
 
 #include "editor/frm_main.h"
-#include "editor/program_state.h"
-#include "editor/qt_prompts.h"
-#include "editor/readable_palette.h"
-#include "install/program_folder.h"
-#include "install/time_zone.h"
+#include "editor/state/program_state.h"
+#include "editor/toolkit/qt_prompts.h"
+#include "editor/toolkit/readable_palette.h"
+#include "editor/toolkit/table_text.h"
+#include "install/program/program_folder.h"
 #include "support/files.h"
+#include "support/no_prompts.h"
+#include "support/program_version.h"
+#include "support/system/interruption.h"
+#include "support/system/time_zone.h"
 
 namespace {
 
@@ -28,7 +37,8 @@ struct Arguments {
 /// Prints help or version and ends where these are asked for.
 Arguments ReadArguments() {
   QCoreApplication::setApplicationName(QStringLiteral("fragsmith"));
-  QCoreApplication::setApplicationVersion(QStringLiteral("0.97b BETA"));
+  QCoreApplication::setApplicationVersion(
+      fragsmith::TableText(fragsmith::kProgramVersion));
   QCommandLineParser parser;
   parser.setApplicationDescription(
       QStringLiteral("Makes and edits bots for Quake III Arena."));
@@ -79,6 +89,17 @@ QIcon ProgramIcon() {
   return icon;
 }
 
+/// Where a Windows lacks the letters that it names, as a fresh wine does, those
+/// with serifs would be taken.
+void NameFontsToFallBackOn() {
+#ifdef Q_OS_WIN
+  QFont::insertSubstitutions(
+      QApplication::font().family(),
+      {QStringLiteral("Segoe UI"), QStringLiteral("Verdana"),
+       QStringLiteral("Arial"), QStringLiteral("DejaVu Sans")});
+#endif
+}
+
 int Fail(const std::string& reason) {
   std::cerr << "fragsmith: " << reason << '\n';
   return 1;
@@ -95,17 +116,28 @@ int main(int count, char** words) try {
       return Fail("There is no display. fragsmith-cli needs none.");
     }
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    // What the toolkit misses there is no matter of the user's.
+    qInstallMessageHandler(
+        [](QtMsgType, const QMessageLogContext&, const QString&) {});
   }
+  // Whatever ends the program, it puts its things in order first.
+  const fragsmith::Interruption interruption;
   const QApplication application(count, words);
   const Arguments arguments = ReadArguments();
   QApplication::setWindowIcon(ProgramIcon());
   QApplication::setDesktopFileName(QStringLiteral("fragsmith"));
+  NameFontsToFallBackOn();
   fragsmith::MakePaletteReadable();
   const auto folders = fragsmith::FindProgramFolders(
-      arguments.program_folder, fragsmith::FindProgramPlace());
+      arguments.program_folder, fragsmith::FindProgramLocation());
   if (!folders) return Fail(fragsmith::Describe(folders.error()));
   fragsmith::QtPrompts prompts;
-  fragsmith::ProgramState state(*folders, prompts,
+  // Nobody is there to answer while a picture is made.
+  fragsmith::NoPrompts no_prompts;
+  fragsmith::Prompts& whom = arguments.picture.isEmpty()
+                                 ? static_cast<fragsmith::Prompts&>(prompts)
+                                 : no_prompts;
+  fragsmith::ProgramState state(*folders, whom,
                                 fragsmith::UnpredictableRandom());
   fragsmith::frmMain window(state);
   prompts.SetParent(&window);
@@ -118,6 +150,25 @@ int main(int count, char** words) try {
     if (window.grab().save(arguments.picture)) return 0;
     return Fail("The picture could not be saved as " +
                 arguments.picture.toStdString());
+  }
+  const std::string_view warning =
+      arguments.program_folder ? "" : fragsmith::SuperUserWarning();
+  if (!warning.empty()) {
+    QTimer::singleShot(0, &window, [&prompts, warning] {
+      prompts.Show({.title = "Fragsmith",
+                    .text = std::string(warning),
+                    .icon = fragsmith::MessageIcon::kExclamation});
+    });
+  }
+  // It is no answer to any question: what was not saved is kept as a draft.
+  QSocketNotifier notifier(interruption.descriptor(), QSocketNotifier::Read);
+  if (interruption.descriptor() >= 0) {
+    QObject::connect(&notifier, &QSocketNotifier::activated, &window,
+                     [&notifier, &window] {
+                       notifier.setEnabled(false);
+                       window.KeepDraft();
+                       QCoreApplication::exit(1);
+                     });
   }
   return QApplication::exec();
 } catch (const std::exception& failure) {

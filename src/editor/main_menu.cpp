@@ -2,6 +2,7 @@
 
 #include <QKeySequence>
 #include <QMenu>
+#include <algorithm>
 #include <array>
 #include <vector>
 
@@ -15,30 +16,31 @@ struct MenuItem {
   const char* name = "";
   const char* text = "";
   const char* shortcut = "";
+  const char* tool_tip = "";
 };
 
 constexpr MenuItem Menu(const char* name, const char* text) {
-  return {ItemKind::kMenu, name, text, ""};
+  return {ItemKind::kMenu, name, text, "", ""};
 }
 constexpr MenuItem Item(const char* name, const char* text,
-                        const char* shortcut = "") {
-  return {ItemKind::kItem, name, text, shortcut};
+                        const char* shortcut = "", const char* tool_tip = "") {
+  return {ItemKind::kItem, name, text, shortcut, tool_tip};
 }
-constexpr MenuItem kEnd = {ItemKind::kEndOfMenu, "", "", ""};
+constexpr MenuItem kEnd = {ItemKind::kEndOfMenu, "", "", "", ""};
 
 constexpr std::array kItems = {
     Menu("mFragsmith", "&Program"),
     Item("mnuOptions", "&Options", "Ctrl+,"),
     Item("mnuAbout", "&About Fragsmith"),
-    MenuItem{ItemKind::kSeparator, "mnuSeparator1", "", ""},
+    MenuItem{ItemKind::kSeparator, "mnuSeparator1", "", "", ""},
     Item("mnuExit", "E&xit", "Ctrl+Q"),
     kEnd,
     Menu("mnuEdit", "&Edit"),
     Item("mnuUndo", "&Undo", "Ctrl+Z"),
     Item("mnuRedo", "&Redo", "Ctrl+Shift+Z"),
-    MenuItem{ItemKind::kSeparator, "mnuSeparator2", "", ""},
+    MenuItem{ItemKind::kSeparator, "mnuSeparator2", "", "", ""},
     Item("mnuFind", "&Find...", "Ctrl+F"),
-    MenuItem{ItemKind::kSeparator, "mnuSeparator3", "", ""},
+    MenuItem{ItemKind::kSeparator, "mnuSeparator3", "", "", ""},
     Menu("mnuCopyLevel", "&Copy level"),
     Item("mnuCopyLevel_1_4", "Level &1 to level 4"),
     Item("mnuCopyLevel_1_5", "Level 1 &to level 5"),
@@ -53,14 +55,26 @@ constexpr std::array kItems = {
     Menu("mnuNew", "&New bot"),
     Item("mnuNewZero", "All &zeros", "Ctrl+N"),
     Item("mnuNewAverage", "&Average", "Ctrl+Shift+N"),
-    Item("mnuNewRandom", "&Random"),
+    Item("mnuNewRandom", "&Random", "",
+         "Does nothing; \"Surprise me\" below draws a bot by lot"),
+    MenuItem{ItemKind::kSeparator, "mnuSeparator6", "", "", ""},
+    Item("mnuNew_sniper", "&Sniper", "", "Keeps its distance, railgun first"),
+    Item("mnuNew_rusher", "R&usher", "",
+         "Close and fast: lightning, shotgun, rockets"),
+    Item("mnuNew_camper", "&Camper", "", "Waits where the good things are"),
+    Item("mnuNew_all-rounder", "A&ll-rounder", "",
+         "A bit of everything, the right weapon for each distance"),
+    Item("mnuNew_surprise", "Sur&prise me", "",
+         "Drawn by lot, always playable"),
     kEnd,
     Item("mnuLoad", "&Load bot", "Ctrl+O"),
     Item("mnuMake", "&Make bot files", "Ctrl+Shift+S"),
-    MenuItem{ItemKind::kSeparator, "mnuSeparator4", "", ""},
+    MenuItem{ItemKind::kSeparator, "mnuSeparator4", "", "", ""},
     Item("mnuSaveAgain", "&Save again", "Ctrl+S"),
     Menu("mnuRecent", "Re&cent bots"),
     kEnd,
+    MenuItem{ItemKind::kSeparator, "mnuSeparator7", "", "", ""},
+    Item("mnuInstall", "&Install into game", "Ctrl+I"),
     kEnd,
     Menu("mnuFile", "&Files"),
     Item("mnuCharFile", "Load &char file"),
@@ -81,18 +95,41 @@ constexpr std::array kItems = {
     Item("mnuDeleteChats", "&Delete all chats"),
     Item("mnuSyn", "Add &synonym"),
     kEnd,
-    MenuItem{ItemKind::kSeparator, "mnuSeparator5", "", ""},
+    MenuItem{ItemKind::kSeparator, "mnuSeparator5", "", "", ""},
+    Item("mnuChanges", "&Show changes..."),
     Item("mnuFindings", "&What the game will do", "F8"),
     Item("mnuTry", "&Try in game...", "F5"),
+    Item("mnuPlayOut", "P&lay it out...", "F6",
+         "Matches in fast time: is it better now?"),
+    Item("mnuCheckFiles", "Check a bot's &files..."),
     Menu("mnuCompare", "Com&pare"),
     Item("mnuCompareAverage", "With &average values"),
     Item("mnuCompareZero", "With all &zeros"),
     Item("mnuCompareOther", "With another &bot..."),
     kEnd,
     kEnd,
+    Menu("mnuHelp", "&Help"),
+    Item("mnuManual", "&Manual", "F1"),
+    Item("mnuWelcome", "&Welcome", "", "Games found, bots to begin with"),
+    Item("mnuKeyboard", "&Keyboard"),
+    Item("mnuNews", "What's &new"),
+    Item("mnuReport", "&Report a fault"),
+    kEnd,
 };
 
+/// Menu items that do not begin with what stands in the boxes: the end asks
+/// about it, undo takes it back, and what needs the whole bot in order checks
+/// all boxes and says so.
+constexpr std::array kItemsBeforeTyping = {
+    "mnuExit", "mnuUndo", "mnuMake", "mnuSaveAgain", "mnuTry", "mnuInstall"};
+
 }  // namespace
+
+bool TakesTypingItself(const QString& item) {
+  return std::any_of(
+      kItemsBeforeTyping.begin(), kItemsBeforeTyping.end(),
+      [&item](const char* name) { return item == QLatin1String(name); });
+}
 
 void FillMainMenu(QMenuBar& bar,
                   const std::function<void(const QString& name)>& handler) {
@@ -105,6 +142,7 @@ void FillMainMenu(QMenuBar& bar,
         QMenu* const menu =
             open.empty() ? bar.addMenu(text) : open.back()->addMenu(text);
         menu->setObjectName(name);
+        menu->setToolTipsVisible(true);
         open.push_back(menu);
         break;
       }
@@ -114,6 +152,8 @@ void FillMainMenu(QMenuBar& bar,
       case ItemKind::kItem: {
         QAction* const action = open.back()->addAction(text);
         action->setObjectName(name);
+        // Without one of its own an item would show its text again.
+        action->setToolTip(QLatin1String(item.tool_tip));
         action->setShortcut(QKeySequence(QLatin1String(item.shortcut)));
         QObject::connect(action, &QAction::triggered, &bar,
                          [handler, name] { handler(name); });

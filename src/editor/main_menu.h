@@ -8,6 +8,9 @@
 
 namespace fragsmith {
 
+/// True for the items that do not begin with what stands in the boxes.
+bool TakesTypingItself(const QString& item);
+
 /// Fills the menu bar with the program's menus. Items and menus have their
 /// names as object names; each item calls the handler with its name when it
 /// is chosen.

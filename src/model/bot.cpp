@@ -14,14 +14,18 @@
 namespace fragsmith {
 namespace {
 
-std::string SkillKey(int level) { return std::to_string(level) + "S"; }
+[[noreturn]] void BadId(ParameterId id) {
+  std::string text = "no bot parameter " + std::to_string(id.index());
+  if (id.level()) text += " of a level";
+  throw std::out_of_range(text);
+}
 
-[[noreturn]] void BadIndex(int index) {
-  throw std::out_of_range("no bot parameter " + std::to_string(index));
+[[noreturn]] void BadLine(int line) {
+  throw std::out_of_range("no chat line " + std::to_string(line));
 }
 
 bool IsIdentityField(int index) {
-  return (index >= 0 && index <= kArenaLordField && index != 4);
+  return index >= 0 && index <= kArenaLordField.index() && index != 4;
 }
 
 bool IsSingleParameter(int index) {
@@ -29,7 +33,8 @@ bool IsSingleParameter(int index) {
 }
 
 bool IsDerivedName(int index) {
-  return index >= kChatFileIndex && index <= kDescriptionFileField;
+  return index >= kChatFileField.index() &&
+         index <= kDescriptionFileField.index();
 }
 
 Error NotANumber(const Value& value) {
@@ -71,77 +76,63 @@ Result<double> ShortInteger(const Value& value) {
 }  // namespace
 
 Bot::Bot() {
-  for (const int level : kSkillLevels) {
-    skills_.emplace(SkillKey(level), Skill(static_cast<std::int16_t>(level)));
-  }
   SetName("Bot");
-  fields_[kRailColorField] = std::string(kNoRailColor);
-  fields_[kGenderIndex] = "male";
-  fields_[kModelField] = "Sarge";
-  fields_[kSkinField] = "Default";
-  fields_[kFunNameField] = std::string();
-  fields_[kCommentField] = std::string();
-  fields_[kVersionMajorField] = 0.0;
-  fields_[kVersionMinorField] = 0.0;
-  fields_[kArenaLordField] = 0.0;
+  Put(kRailColorField, std::string(kNoRailColor));
+  Put(kGenderField, "male");
+  Put(kModelField, "Sarge");
+  Put(kSkinField, "Default");
+  Put(kFunNameField, std::string());
+  Put(kCommentField, std::string());
+  Put(kVersionMajorField, 0.0);
+  Put(kVersionMinorField, 0.0);
+  Put(kArenaLordField, 0.0);
   ClearChats();
 }
 
-const Skill& Bot::SkillOf(int level) const {
-  // Without making the key: every reader and writer comes by here.
-  for (const auto& [key, skill] : skills_) {
-    if (skill.level() == level) return skill;
+const Value& Bot::Parameter(ParameterId id) const {
+  const auto index = static_cast<std::size_t>(id.index());
+  if (id.level()) {
+    if (!kPerLevelRange.Contains(id.index())) BadId(id);
+    return skills_.at(IndexOf(*id.level())).SkillPara.at(index);
   }
-  BadIndex(LevelIndex(level, 0));
+  if (!IsIdentityField(id.index()) && !IsSingleParameter(id.index()) &&
+      !IsDerivedName(id.index())) {
+    BadId(id);
+  }
+  return fields_.at(index);
 }
 
-Skill& Bot::SkillOf(int level) {
-  return const_cast<Skill&>(std::as_const(*this).SkillOf(level));
-}
-
-const Value& Bot::Parameter(int index) const {
-  if (index > 100) {
-    const int level = index / 100;
-    return SkillOf(level).SkillPara.at(
-        static_cast<std::size_t>(index - level * 100));
-  }
-  if (!IsIdentityField(index) && !IsSingleParameter(index) &&
-      !IsDerivedName(index)) {
-    BadIndex(index);
-  }
-  return fields_.at(static_cast<std::size_t>(index));
-}
-
-Result<void> Bot::SetParameter(int index, Value value) {
-  if (index > 100) {
-    const int level = index / 100;
-    SkillOf(level).SkillPara.at(static_cast<std::size_t>(index - level * 100)) =
+Result<void> Bot::SetParameter(ParameterId id, Value value) {
+  const auto index = static_cast<std::size_t>(id.index());
+  if (id.level()) {
+    if (!kPerLevelRange.Contains(id.index())) BadId(id);
+    skills_.at(IndexOf(*id.level())).SkillPara.at(index) =
         WithoutEmptyText(std::move(value));
     return {};
   }
-  if (!IsIdentityField(index) && !IsSingleParameter(index)) BadIndex(index);
-  Value& field = fields_.at(static_cast<std::size_t>(index));
-  switch (index) {
-    case kNameIndex:
+  if (!IsIdentityField(id.index()) && !IsSingleParameter(id.index())) BadId(id);
+  Value& field = fields_.at(index);
+  switch (id.index()) {
+    case kNameField.index():
       SetName(ToText(value));
       break;
-    case kGenderIndex:
-    case kFunNameField:
-    case kModelField:
-    case kSkinField:
-    case kCommentField:
+    case kGenderField.index():
+    case kFunNameField.index():
+    case kModelField.index():
+    case kSkinField.index():
+    case kCommentField.index():
       field = ToText(value);
       break;
-    case kVersionMajorField:
-    case kVersionMinorField:
-    case kArenaLordField: {
+    case kVersionMajorField.index():
+    case kVersionMinorField.index():
+    case kArenaLordField.index(): {
       const Result<double> number =
-          index == kArenaLordField ? ShortInteger(value) : Number(value);
+          id == kArenaLordField ? ShortInteger(value) : Number(value);
       if (!number) return Failure(number.error());
       field = *number;
       break;
     }
-    case kRailColorField: {
+    case kRailColorField.index(): {
       // A colour read as text is a number where it reads as one.
       const std::optional<double> number = NumberFromText(ToText(value));
       field = number ? Value(*number) : ToText(value);
@@ -153,52 +144,51 @@ Result<void> Bot::SetParameter(int index, Value value) {
   return {};
 }
 
+void Bot::Put(ParameterId id, Value value) {
+  const Result<void> done = SetParameter(id, std::move(value));
+  if (!done) throw std::invalid_argument(done.error().what);
+}
+
 void Bot::SetName(std::string name) {
   const std::string chat_name = ToLower(name);
-  fields_[kNameIndex] = std::move(name);
-  fields_[kChatFileIndex] = chat_name + "_t.c";
-  fields_[kWeaponWeightsIndex] = chat_name + "_w.c";
-  fields_[kItemWeightsIndex] = chat_name + "_i.c";
-  fields_[kCharacteristicFileField] = chat_name + "_c.c";
-  fields_[kChatNameIndex] = chat_name;
-  fields_[kDescriptionFileField] = chat_name + ".bot";
+  const auto field = [this](ParameterId id) -> Value& {
+    return fields_.at(static_cast<std::size_t>(id.index()));
+  };
+  field(kNameField) = std::move(name);
+  field(kChatFileField) = chat_name + "_t.c";
+  field(kWeaponFileField) = chat_name + "_w.c";
+  field(kItemFileField) = chat_name + "_i.c";
+  field(kCharacteristicFileField) = chat_name + "_c.c";
+  field(kChatNameField) = chat_name;
+  field(kDescriptionFileField) = chat_name + ".bot";
 }
 
-const std::vector<std::string>& Bot::ChatLines(int type) const {
-  return chats_.at(static_cast<std::size_t>(type));
+const std::vector<std::string>& Bot::ChatLines(ChatTypeId type) const {
+  return chats_.at(IndexOf(type));
 }
 
-const std::string& Bot::ChatLine(int type, int line) const {
+const std::string& Bot::ChatLine(ChatTypeId type, int line) const {
   return ChatLines(type).at(static_cast<std::size_t>(line));
 }
 
-void Bot::SetChatLine(int type, int line, std::string text) {
-  std::vector<std::string>& lines = chats_.at(static_cast<std::size_t>(type));
-  if (line < 0) BadIndex(line);
-  const auto place = static_cast<std::size_t>(line);
-  if (place >= lines.size()) lines.resize(place + 1);
-  lines[place] = std::move(text);
+void Bot::SetChatLine(ChatTypeId type, int line, std::string text) {
+  std::vector<std::string>& lines = chats_.at(IndexOf(type));
+  if (line < 0) BadLine(line);
+  const auto index = static_cast<std::size_t>(line);
+  if (index >= lines.size()) lines.resize(index + 1);
+  lines[index] = std::move(text);
 }
 
-void Bot::RemoveChatLine(int type, int line) {
-  std::vector<std::string>& lines = chats_.at(static_cast<std::size_t>(type));
-  if (line < 0 || line > HighestChatLine(type)) BadIndex(line);
+void Bot::RemoveChatLine(ChatTypeId type, int line) {
+  std::vector<std::string>& lines = chats_.at(IndexOf(type));
+  if (line < 0 || line > HighestChatLine(type)) BadLine(line);
   lines.erase(lines.begin() + line);
 }
 
-int Bot::HighestChatLine(int type) const {
+int Bot::HighestChatLine(ChatTypeId type) const {
   return static_cast<int>(ChatLines(type).size()) - 1;
 }
 
 void Bot::ClearChats() { chats_.fill({std::string()}); }
-
-bool Bot::operator==(const Bot& other) const {
-  for (const int level : kSkillLevels) {
-    if (SkillOf(level).SkillPara != other.SkillOf(level).SkillPara) {
-      return false;
-    }
-  }
-  return fields_ == other.fields_ && chats_ == other.chats_;
-}
 
 }  // namespace fragsmith

@@ -2,53 +2,26 @@
 #define FRAGSMITH_MODEL_BOT_H_
 
 #include <array>
-#include <cstdint>
-#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "model/chat_type_id.h"
+#include "model/parameter_id.h"
 #include "model/value.h"
 #include "support/result.h"
 
 namespace fragsmith {
 
-/// The skill levels that a bot describes; the game mixes the others.
-inline constexpr std::array<int, 3> kSkillLevels = {1, 4, 5};
-
-/// Number of situations in which a bot may speak.
-inline constexpr int kChatTypeCount = 28;
-
-/// Indices of the bot's fields beside those of the characteristic catalogue.
-inline constexpr int kFunNameField = 2;
-inline constexpr int kRailColorField = 3;
-inline constexpr int kModelField = 5;
-inline constexpr int kSkinField = 6;
-inline constexpr int kVersionMajorField = 7;
-inline constexpr int kVersionMinorField = 8;
-inline constexpr int kCommentField = 9;
-inline constexpr int kArenaLordField = 10;
-inline constexpr int kCharacteristicFileField = 84;
-inline constexpr int kDescriptionFileField = 86;
-
 /// The rail colour of a bot that has none of its own.
 inline constexpr std::string_view kNoRailColor = "None";
 
-/// Index of a per-level parameter in the bot's one accessor.
-constexpr int LevelIndex(int level, int index) { return level * 100 + index; }
-
 /// The parameters of one skill level.
-class Skill {
- public:
-  explicit Skill(std::int16_t level) : level_(level) {}
-
-  std::int16_t level() const { return level_; }
-
+struct Skill {
   /// Indexed by the catalogue; only 2 to 30 are in use.
   std::array<Value, 31> SkillPara;
 
- private:
-  std::int16_t level_;
+  bool operator==(const Skill&) const = default;
 };
 
 /// The bot being edited: its identity, its single parameters, its chat lines
@@ -59,49 +32,48 @@ class Bot {
   /// and one empty line for each chat type.
   Bot();
 
-  /// The one accessor. An index of 101 or more is level x 100 + catalogue
-  /// index; below that it is a field: 0 name, 1 gender, 2 fun name, 3 rail
-  /// colour, 5 model, 6 skin, 7 and 8 version, 9 comment, 10 arena lord, 31
-  /// to 80 parameters, 81 to 86 file names and chat name (read-only).
-  /// Throws std::out_of_range for an index that is none: a programming
-  /// error, like a bad index of a container.
-  const Value& Parameter(int index) const;
+  /// The one accessor, of the fields of parameter_id.h, the single parameters
+  /// 31 to 80 and the parameters of each level. Throws std::out_of_range for
+  /// an id that is none: a programming error, like a bad index of a container.
+  const Value& Parameter(ParameterId id) const;
 
-  /// Setting 0 derives the chat name and the file names anew; 7 and 8 take a
-  /// number, 10 a whole number of 16 bits, and refuse anything else. An empty
-  /// text leaves a parameter empty.
-  Result<void> SetParameter(int index, Value value);
+  /// Setting the name derives the chat name and the file names anew; a version
+  /// takes a number, the arena lord a whole number of 16 bits, and both refuse
+  /// anything else. An empty text leaves a parameter empty. The derived names
+  /// are no parameters that can be set.
+  Result<void> SetParameter(ParameterId id, Value value);
+
+  /// The same where nothing can be refused: a value of another bot, or of a
+  /// parameter that takes all. A refusal throws std::invalid_argument.
+  void Put(ParameterId id, Value value);
 
   /// A parameter as text.
-  std::string Text(int index) const { return ToText(Parameter(index)); }
+  std::string Text(ParameterId id) const { return ToText(Parameter(id)); }
 
-  std::string Name() const { return Text(0); }
+  std::string Name() const { return Text(kNameField); }
   std::string FunName() const { return Text(kFunNameField); }
 
-  /// The chat lines of a type (0 to 27) in editor form. The line number of a
+  /// The chat lines of a type in editor form. The line number of a
   /// new text may lie beyond the end: the list grows to hold it.
-  const std::vector<std::string>& ChatLines(int type) const;
-  const std::string& ChatLine(int type, int line) const;
-  void SetChatLine(int type, int line, std::string text);
-  void RemoveChatLine(int type, int line);
+  const std::vector<std::string>& ChatLines(ChatTypeId type) const;
+  const std::string& ChatLine(ChatTypeId type, int line) const;
+  void SetChatLine(ChatTypeId type, int line, std::string text);
+  void RemoveChatLine(ChatTypeId type, int line);
 
   /// The highest line number of a type; -1 when it has no line.
-  int HighestChatLine(int type) const;
+  int HighestChatLine(ChatTypeId type) const;
 
   /// Leaves one empty line for each type, as a new bot has.
   void ClearChats();
 
-  bool operator==(const Bot& other) const;
+  bool operator==(const Bot& other) const = default;
 
  private:
-  const Skill& SkillOf(int level) const;
-  Skill& SkillOf(int level);
   void SetName(std::string name);
 
   /// By catalogue index; those of the per-level parameters stay unused.
   std::array<Value, 87> fields_;
-  /// Keyed by the level and "S": 1S, 4S, 5S.
-  std::map<std::string, Skill> skills_;
+  std::array<Skill, kLevels.size()> skills_;
   std::array<std::vector<std::string>, kChatTypeCount> chats_;
 };
 

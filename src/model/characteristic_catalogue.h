@@ -1,31 +1,32 @@
 #ifndef FRAGSMITH_MODEL_CHARACTERISTIC_CATALOGUE_H_
 #define FRAGSMITH_MODEL_CHARACTERISTIC_CATALOGUE_H_
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
+#include <iterator>
 #include <string_view>
+
+#include "model/parameter_id.h"
 
 namespace fragsmith {
 
-/// Index of a bot parameter. The same number addresses the parameter in the
-/// bot record, ties it to its key in the game's files and to its control.
+/// A bot's parameters by their index, which ties the value in the bot, its key
+/// in the game's files and its control together.
 inline constexpr int kCatalogueSize = 86;
 
-/// Parameters with an index of their own meaning; the others are reached by
+/// Per-level parameters with a meaning of their own; the others are reached by
 /// their ranges below.
-inline constexpr int kNameIndex = 0;
-inline constexpr int kGenderIndex = 1;
 inline constexpr int kAttackSkillIndex = 2;
 inline constexpr int kViewMaxChangeIndex = 6;
 inline constexpr int kReactionTimeIndex = 7;
 inline constexpr int kFireThrottleIndex = 30;
-inline constexpr int kChatCpmIndex = 31;
-inline constexpr int kHealthIndex = 54;
-inline constexpr int kArmorIndex = 55;
-inline constexpr int kChatFileIndex = 81;
-inline constexpr int kWeaponWeightsIndex = 82;
-inline constexpr int kItemWeightsIndex = 83;
-inline constexpr int kChatNameIndex = 85;
+
+/// Single parameters of their own, likewise.
+inline constexpr ParameterId kChatCpm{31};
+inline constexpr ParameterId kEnemySuicideChance{38};
+inline constexpr ParameterId kHealthWeight{54};
+inline constexpr ParameterId kArmorWeight{55};
 
 /// A range of catalogue indices, both ends included.
 struct IndexRange {
@@ -35,6 +36,35 @@ struct IndexRange {
   constexpr bool Contains(int index) const {
     return index >= first && index <= last;
   }
+  /// For a range of single parameters: those of a level are in none.
+  constexpr bool Contains(ParameterId id) const {
+    return !id.level() && Contains(id.index());
+  }
+
+  /// Goes over the indices.
+  class Iterator {
+   public:
+    // NOLINTBEGIN(readability-identifier-naming): as algorithms ask for them.
+    using iterator_category = std::input_iterator_tag;
+    using value_type = int;
+    using difference_type = std::ptrdiff_t;
+    using pointer = const int*;
+    using reference = int;
+    // NOLINTEND(readability-identifier-naming)
+
+    constexpr explicit Iterator(int index) : index_(index) {}
+    constexpr int operator*() const { return index_; }
+    constexpr Iterator& operator++() {
+      ++index_;
+      return *this;
+    }
+    constexpr bool operator==(const Iterator&) const = default;
+
+   private:
+    int index_;
+  };
+  constexpr Iterator begin() const { return Iterator(first); }
+  constexpr Iterator end() const { return Iterator(last + 1); }
 };
 
 inline constexpr IndexRange kPerLevelRange = {2, 30};
@@ -42,6 +72,8 @@ inline constexpr IndexRange kPerLevelRange = {2, 30};
 /// out of the file, so they are only written when above 0.
 inline constexpr IndexRange kOptionalRange = {18, 30};
 inline constexpr IndexRange kChatRange = {31, 43};
+/// Of these, the chances to speak in the situations of the game.
+inline constexpr IndexRange kChanceRange = {34, 42};
 inline constexpr IndexRange kWeaponWeightRange = {44, 53};
 inline constexpr IndexRange kItemWeightRange = {54, 80};
 
@@ -138,6 +170,9 @@ inline constexpr std::array<std::string_view, kCatalogueSize> kCatalogue = {
     "",  // 84
     "CHARACTERISTIC_CHAT_NAME\t\t\t\t\t",
 };
+
+static_assert(std::count(kCatalogue.begin(), kCatalogue.end(), "") == 1 &&
+              kCatalogue[84].empty());
 
 /// The same keys without their padding.
 inline constexpr std::array<std::string_view, kCatalogueSize> kBareKeys = [] {

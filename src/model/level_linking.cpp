@@ -2,27 +2,31 @@
 
 namespace fragsmith {
 
-std::vector<int> LinkLevels(LevelLinking linking, int moved,
-                            LevelPositions& positions) {
-  std::vector<int> changed;
+std::vector<Level> LinkLevels(LevelLinking linking, Level moved,
+                              LevelNumbers& numbers) {
+  std::vector<Level> changed;
   if (linking == LevelLinking::kNone) return changed;
   const int sign = linking == LevelLinking::kRising ? 1 : -1;
-  // The moved slider wins: the levels below may not lie above it, nor those
+  // The moved level wins: the levels below may not lie above it, nor those
   // above below it.
-  const int target = positions.at(static_cast<std::size_t>(moved));
-  const auto moves = [&](int place, bool is_above) {
-    int& position = positions.at(static_cast<std::size_t>(place));
-    const int excess =
-        sign * (is_above ? target - position : position - target);
+  const double target = numbers.at(IndexOf(moved));
+  const auto moves = [&](std::size_t index, bool is_above) {
+    double& number = numbers.at(index);
+    const double excess = sign * (is_above ? target - number : number - target);
     if (excess <= 0) return false;
-    position = target;
-    changed.push_back(place);
+    number = target;
+    changed.push_back(kLevels.at(index));
     return true;
   };
   // A neighbour that stays passes nothing on, even where a loaded bot has the
   // level behind it out of order.
-  for (int place = moved - 1; place >= 0 && moves(place, false);) --place;
-  for (int place = moved + 1; place < 3 && moves(place, true);) ++place;
+  for (std::size_t above = IndexOf(moved); above > 0; --above) {
+    if (!moves(above - 1, false)) break;
+  }
+  for (std::size_t index = IndexOf(moved) + 1;
+       index < kLevels.size() && moves(index, true);) {
+    ++index;
+  }
   return changed;
 }
 

@@ -4,6 +4,8 @@
 #include <array>
 #include <vector>
 
+#include "model/level.h"
+
 namespace fragsmith {
 
 /// How the three levels of a parameter are kept in order: in most a better
@@ -14,14 +16,14 @@ enum class LevelLinking {
   kFalling = 2,  ///< level 1 >= level 4 >= level 5
 };
 
-/// Slider positions of the levels 1, 4 and 5.
-using LevelPositions = std::array<int, 3>;
+/// Values by level.
+using LevelNumbers = std::array<double, kLevels.size()>;
 
-/// Moves the neighbours of the slider that the user moved (its place in
-/// LevelPositions) as far as the order needs; a neighbour that was moved
-/// moves its own neighbour. Gives the places that changed, nearest first.
-std::vector<int> LinkLevels(LevelLinking linking, int moved,
-                            LevelPositions& positions);
+/// Moves the neighbours of the level that the user changed as far as the order
+/// needs; a neighbour that was moved moves its own neighbour. Gives the levels
+/// that changed, nearest first.
+std::vector<Level> LinkLevels(LevelLinking linking, Level moved,
+                              LevelNumbers& numbers);
 
 }  // namespace fragsmith
 

@@ -1,5 +1,6 @@
 #include "session/bot_document.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstdint>
@@ -12,6 +13,7 @@
 
 #include "chat/chat_catalogue.h"
 #include "model/characteristic_catalogue.h"
+#include "session/bot_document_json.h"
 #include "support/code_page.h"
 #include "support/text.h"
 
@@ -23,16 +25,21 @@ namespace {
 using OrderedJson = nlohmann::ordered_json;
 using Json = nlohmann::json;
 
+/// A document had the same keys before it said its version.
+constexpr std::array<Migration, 1> kSteps = {
+    {{.from = 0, .Apply = [](Json& /*document*/) {}}}};
+static_assert(HasNoGap(kSteps));
+
 constexpr std::string_view kDefinePrefix = "#define ";
 
 struct IdentityKey {
   std::string_view key;
-  int field;
+  ParameterId field;
 };
 
 constexpr std::array<IdentityKey, 10> kIdentityKeys = {{
-    {"name", kNameIndex},
-    {"gender", kGenderIndex},
+    {"name", kNameField},
+    {"gender", kGenderField},
     {"funName", kFunNameField},
     {"railColor", kRailColorField},
     {"model", kModelField},
@@ -64,49 +71,47 @@ std::string_view DocumentKey(int index) {
 // Writing.
 
 OrderedJson NumberToJson(double number) {
-  constexpr double kMostExactWhole = 9007199254740992.0;
-  if (std::trunc(number) == number && std::fabs(number) <= kMostExactWhole) {
+  constexpr double kMaxExactWhole = 9007199254740992.0;
+  if (std::trunc(number) == number && std::fabs(number) <= kMaxExactWhole) {
     return static_cast<std::int64_t>(number);
   }
   return number;
 }
 
-/// Numeric texts count and are written as their number.
-OrderedJson ValueToJson(const Value& value) {
-  const std::optional<double> number = ToNumber(value);
-  return number ? NumberToJson(*number)
-                : OrderedJson(Utf8FromGameText(ToText(value)));
-}
-
-OrderedJson IdentityToJson(const Bot& bot, int field) {
-  switch (field) {
-    case kFunNameField:
+OrderedJson IdentityToJson(const Bot& bot, ParameterId field) {
+  switch (field.index()) {
+    case kFunNameField.index():
       return Utf8FromGameText(FunNameForBox(bot.FunName()));
-    case kVersionMajorField:
-    case kVersionMinorField:
+    case kVersionMajorField.index():
+    case kVersionMinorField.index():
       // By its text, as it stands in a box and is read.
       return ValueToJson(bot.Text(field));
-    case kRailColorField:
-    case kArenaLordField:
+    case kRailColorField.index():
+    case kArenaLordField.index():
       return ValueToJson(bot.Parameter(field));
     default:
       return Utf8FromGameText(bot.Text(field));
   }
 }
 
-OrderedJson ParametersToJson(const Bot& bot, IndexRange range, int level) {
+/// A single parameter, or one of a level.
+ParameterId IdOf(std::optional<Level> level, int index) {
+  return level ? ParameterId(*level, index) : ParameterId(index);
+}
+
+OrderedJson ParametersToJson(const Bot& bot, IndexRange range,
+                             std::optional<Level> level) {
   OrderedJson values = OrderedJson::object();
-  for (int index = range.first; index <= range.last; ++index) {
-    const int parameter = level == 0 ? index : LevelIndex(level, index);
+  for (const int index : range) {
     values[std::string(DocumentKey(index))] =
-        ValueToJson(bot.Parameter(parameter));
+        ValueToJson(bot.Parameter(IdOf(level, index)));
   }
   return values;
 }
 
 OrderedJson ChatsToJson(const Bot& bot) {
   OrderedJson chats = OrderedJson::object();
-  for (int type = 0; type < kChatTypeCount; ++type) {
+  for (const ChatTypeId type : kAllChatTypes) {
     OrderedJson lines = OrderedJson::array();
     for (const std::string& line : bot.ChatLines(type)) {
       lines.push_back(Utf8FromGameText(line));
@@ -118,120 +123,103 @@ OrderedJson ChatsToJson(const Bot& bot) {
   return chats;
 }
 
-// Reading. The first fault ends it, so that it can be an exception that never
-// leaves this file.
-
-struct DocumentFault {
-  Error error;
-};
-
-/// The name of a field; of a very long one the characters at its beginning.
-std::string ShownField(const std::string& field) {
-  constexpr std::size_t kMost = 80;
-  if (field.size() <= kMost) return field;
-  std::size_t end = kMost;
-  while ((static_cast<unsigned char>(field[end]) & 0xC0U) == 0x80U) --end;
-  return field.substr(0, end) + "...";
-}
-
-[[noreturn]] void Refuse(const std::string& field, const std::string& reason,
-                         const std::string& advice = {}) {
-  throw DocumentFault{{.what = "Field " + ShownField(field) + ": " + reason,
-                       .file = {},
-                       .line = 0,
-                       .advice = advice}};
-}
+// Reading.
 
 std::string ReadText(const Json& json, const std::string& field) {
-  if (!json.is_string()) Refuse(field, "a text is wanted here.");
+  if (!json.is_string()) RefuseField(field, "a text is wanted here.");
   const std::optional<std::string> text =
       GameTextFromUtf8(json.get_ref<const std::string&>());
   if (!text) {
-    Refuse(field, "the text has a character that the game's code page lacks.",
-           "Only characters of Windows-1252 can be used.");
+    RefuseField(field,
+                "the text has a character that the game's code page lacks.",
+                "Only characters of Windows-1252 can be used.");
   }
   if (text->find_first_of("\r\n") != std::string::npos) {
-    Refuse(field, "the text has a line break.",
-           "The game's files hold each text on one line.");
+    RefuseField(field, "the text has a line break.",
+                "The game's files hold each text on one line.");
   }
   return *text;
 }
 
-Value ReadValue(const Json& json, const std::string& field) {
-  if (json.is_number()) return json.get<double>();
-  if (!json.is_string()) Refuse(field, "a number or a text is wanted here.");
-  return ReadText(json, field);
-}
-
 const Json& Object(const Json& json, const std::string& field) {
-  if (!json.is_object()) Refuse(field, "an object is wanted here.");
+  if (!json.is_object()) RefuseField(field, "an object is wanted here.");
   return json;
 }
 
-void Store(Bot& bot, int parameter, Value value, const std::string& field) {
+void Store(Bot& bot, ParameterId parameter, Value value,
+           const std::string& field) {
   const Result<void> stored = bot.SetParameter(parameter, std::move(value));
-  if (!stored) Refuse(field, stored.error().what);
+  if (!stored) RefuseField(field, stored.error().what);
 }
 
-void ReadIdentity(const Json& json, int field, const std::string& key,
+void ReadIdentity(const Json& json, ParameterId field, const std::string& key,
                   BotDocument& document) {
-  switch (field) {
-    case kNameIndex:
-    case kFunNameField:
-    case kCommentField:
-      document.texts[field] = ReadText(json, key);
+  switch (field.index()) {
+    case kNameField.index():
+    case kFunNameField.index():
+    case kCommentField.index():
+      document.texts.insert_or_assign(field, ReadText(json, key));
       break;
-    case kVersionMajorField:
-    case kVersionMinorField:
-      document.texts[field] = ToText(ReadValue(json, key));
+    case kVersionMajorField.index():
+    case kVersionMinorField.index():
+      document.texts.insert_or_assign(field, ToText(ValueFromJson(json, key)));
       break;
-    case kRailColorField:
-    case kArenaLordField:
-      Store(document.bot, field, ReadValue(json, key), key);
+    case kRailColorField.index():
+    case kArenaLordField.index():
+      Store(document.bot, field, ValueFromJson(json, key), key);
       break;
     default:
       Store(document.bot, field, ReadText(json, key), key);
   }
 }
 
-void ReadParameters(const Json& json, IndexRange range, int level,
-                    const std::string& field, Bot& bot) {
-  std::map<std::string_view, int> places;
-  for (int index = range.first; index <= range.last; ++index) {
-    places.emplace(DocumentKey(index), index);
-  }
+void ReadParameters(const Json& json, IndexRange range,
+                    std::optional<Level> level, const std::string& field,
+                    const UnknownKeys& unknown, Bot& bot) {
+  std::map<std::string_view, int> indices;
+  for (const int index : range) indices.emplace(DocumentKey(index), index);
   for (const auto& [key, value] : Object(json, field).items()) {
-    std::string place = field;
-    place += '.';
-    place += key;
-    const auto found = places.find(key);
-    if (found == places.end()) Refuse(place, "there is no such key.");
-    const int index = found->second;
-    Store(bot, level == 0 ? index : LevelIndex(level, index),
-          ReadValue(value, place), place);
+    std::string path = field;
+    path += '.';
+    path += key;
+    const auto found = indices.find(key);
+    if (found == indices.end()) {
+      unknown.Meet(path, "there is no such key.");
+      continue;
+    }
+    Store(bot, IdOf(level, found->second), ValueFromJson(value, path), path);
   }
 }
 
-void ReadLevels(const Json& json, Bot& bot) {
+void ReadLevels(const Json& json, const UnknownKeys& unknown, Bot& bot) {
   for (const auto& [key, value] : Object(json, "levels").items()) {
     const std::string field = "levels." + key;
-    if (key != "1" && key != "4" && key != "5") {
-      Refuse(field, "a bot has the levels 1, 4 and 5 only.");
+    const auto* const level =
+        std::find_if(kLevels.begin(), kLevels.end(), [&name = key](Level one) {
+          return std::to_string(NumberOf(one)) == name;
+        });
+    if (level == kLevels.end()) {
+      unknown.Meet(field, "a bot has the levels 1, 4 and 5 only.");
+      continue;
     }
-    ReadParameters(value, kPerLevelRange, std::stoi(key), field, bot);
+    ReadParameters(value, kPerLevelRange, *level, field, unknown, bot);
   }
 }
 
-void ReadChats(const Json& json, Bot& bot) {
-  std::map<std::string_view, int> types;
-  for (int type = 0; type < kChatTypeCount; ++type) {
+void ReadChats(const Json& json, const UnknownKeys& unknown, Bot& bot) {
+  std::map<std::string_view, ChatTypeId> types;
+  for (const ChatTypeId type : kAllChatTypes) {
     types.emplace(ChatTypeAt(type).Key, type);
   }
   for (const auto& [key, lines] : Object(json, "chats").items()) {
     const std::string field = "chats." + key;
     const auto type = types.find(key);
-    if (type == types.end()) Refuse(field, "there is no such chat type.");
-    if (!lines.is_array()) Refuse(field, "a list of texts is wanted here.");
+    if (type == types.end()) {
+      unknown.Meet(field, "there is no such chat type.");
+      continue;
+    }
+    if (!lines.is_array())
+      RefuseField(field, "a list of texts is wanted here.");
     int number = 0;
     for (const Json& line : lines) {
       bot.SetChatLine(
@@ -242,7 +230,8 @@ void ReadChats(const Json& json, Bot& bot) {
   }
 }
 
-void ReadKey(const std::string& key, const Json& value, BotDocument& document) {
+void ReadKey(const std::string& key, const Json& value,
+             const UnknownKeys& unknown, BotDocument& document) {
   for (const IdentityKey& identity : kIdentityKeys) {
     if (identity.key == key) {
       return ReadIdentity(value, identity.field, key, document);
@@ -250,92 +239,78 @@ void ReadKey(const std::string& key, const Json& value, BotDocument& document) {
   }
   for (const SingleGroup& group : kSingleGroups) {
     if (group.key == key) {
-      return ReadParameters(value, group.range, 0, key, document.bot);
+      return ReadParameters(value, group.range, std::nullopt, key, unknown,
+                            document.bot);
     }
   }
-  if (key == "levels") return ReadLevels(value, document.bot);
-  if (key == "chats") return ReadChats(value, document.bot);
-  Refuse(key, "there is no such key.");
-}
-
-/// Parses, and stops at a nesting that no document has before it fills the
-/// memory.
-Json ParseJson(std::string_view text) {
-  constexpr int kMostDepth = 8;
-  const auto limit = [](int depth, Json::parse_event_t event, Json& /*part*/) {
-    const bool opens = event == Json::parse_event_t::object_start ||
-                       event == Json::parse_event_t::array_start;
-    if (opens && depth > kMostDepth) {
-      throw DocumentFault{{.what = "The document is nested too deeply.",
-                           .file = {},
-                           .line = 0,
-                           .advice = {}}};
-    }
-    return true;
-  };
-  return Json::parse(text, limit);
-}
-
-/// The message of the JSON library without its own error number and without
-/// the text that it read last, which may be megabytes of anything.
-std::string Reason(const nlohmann::json::exception& exception) {
-  std::string_view text = exception.what();
-  const std::size_t end = text.find("] ");
-  if (end != std::string_view::npos) text.remove_prefix(end + 2);
-  text = text.substr(0, text.find("; last read: "));
-  constexpr std::size_t kMost = 200;
-  return std::string(text.substr(0, kMost));
+  if (key == "levels") return ReadLevels(value, unknown, document.bot);
+  if (key == "chats") return ReadChats(value, unknown, document.bot);
+  unknown.Meet(key, "there is no such key.");
 }
 
 }  // namespace
 
-Result<BotDocument> ReadBotDocument(std::string_view json) {
-  if (json.size() > kMostDocumentBytes) {
-    return Failure({.what = "The document is larger than " +
-                            std::to_string(kMostDocumentBytes >> 20U) + " MiB.",
-                    .file = {},
-                    .line = 0,
-                    .advice = "Check that it is the right one."});
-  }
-  try {
-    BotDocument document;
-    document.texts = BoxTextsOf(document.bot);
-    const Json parsed = ParseJson(json);
-    if (!parsed.is_object()) {
-      throw DocumentFault{{.what = "The document is no JSON object.",
-                           .file = {},
-                           .line = 0,
-                           .advice = {}}};
-    }
-    for (const auto& [key, value] : parsed.items()) {
-      ReadKey(key, value, document);
-    }
-    return document;
-  } catch (const DocumentFault& fault) {
-    return Failure(fault.error);
-  } catch (const nlohmann::json::exception& exception) {
-    return Failure({.what = "This is no valid JSON: " + Reason(exception),
-                    .file = {},
-                    .line = 0,
-                    .advice = {}});
-  }
+/// Numeric texts count and are written as their number.
+OrderedJson ValueToJson(const Value& value) {
+  const std::optional<double> number = ToNumber(value);
+  return number ? NumberToJson(*number)
+                : OrderedJson(Utf8FromGameText(ToText(value)));
 }
 
-std::string WriteBotDocument(const Bot& bot) {
+Value ValueFromJson(const Json& json, const std::string& field) {
+  if (json.is_number()) return json.get<double>();
+  if (!json.is_string())
+    RefuseField(field, "a number or a text is wanted here.");
+  return ReadText(json, field);
+}
+
+Bot UncheckedBot(BotDocument document) {
+  for (const auto& [field, text] : document.texts) {
+    const Result<void> stored = document.bot.SetParameter(field, text);
+    if (!stored) RefuseField("bot", stored.error().what);
+  }
+  return std::move(document.bot);
+}
+
+BotDocument BotDocumentFromJson(Json json, UnknownKeys unknown) {
+  BringUpToDate(json, kSteps, unknown);
+  BotDocument document;
+  document.texts = BoxTextsOf(document.bot);
+  for (const auto& [key, value] : json.items()) {
+    ReadKey(key, value, unknown, document);
+  }
+  return document;
+}
+
+OrderedJson BotDocumentToJson(const Bot& bot) {
   OrderedJson json = OrderedJson::object();
+  json[kFormatKey] = FormatBehind(kSteps);
   for (const IdentityKey& identity : kIdentityKeys) {
     json[std::string(identity.key)] = IdentityToJson(bot, identity.field);
   }
   OrderedJson& levels = json["levels"] = OrderedJson::object();
-  for (const int level : kSkillLevels) {
-    levels[std::to_string(level)] =
+  for (const Level level : kLevels) {
+    levels[std::to_string(NumberOf(level))] =
         ParametersToJson(bot, kPerLevelRange, level);
   }
   for (const SingleGroup& group : kSingleGroups) {
-    json[std::string(group.key)] = ParametersToJson(bot, group.range, 0);
+    json[std::string(group.key)] =
+        ParametersToJson(bot, group.range, std::nullopt);
   }
   json["chats"] = ChatsToJson(bot);
-  return json.dump(2) + "\n";
+  return json;
+}
+
+Result<BotDocument> ReadBotDocument(std::string_view json,
+                                    const std::string& file, Notes& notes) {
+  return ReadJson(json, file, [&](Json parsed) {
+    return BotDocumentFromJson(
+        std::move(parsed), {.are_slips = true, .file = file, .notes = notes});
+  });
+}
+
+std::string WriteBotDocument(const Bot& bot) {
+  return BotDocumentToJson(bot).dump(2) + "\n";
 }
 
 }  // namespace fragsmith

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "install/bot_list.h"
+#include "install/program/bot_list.h"
 #include "support/notes.h"
 #include "support/result.h"
 

@@ -5,11 +5,12 @@
 
 #include "botfiles/characteristic_file.h"
 #include "botfiles/description_file.h"
-#include "botfiles/header_comment.h"
+#include "botfiles/game_text.h"
 #include "botfiles/weight_file.h"
 #include "chat/chat_file.h"
 #include "model/characteristic_catalogue.h"
-#include "session/identity_checks.h"
+#include "session/identity_rules.h"
+#include "session/load_losses.h"
 #include "support/code_page.h"
 #include "support/files.h"
 #include "support/text.h"
@@ -39,8 +40,10 @@ void Inform(Prompts& prompts, std::string title, std::string text) {
   prompts.Show({std::move(title), std::move(text), MessageIcon::kInformation});
 }
 
-void Take(const ReadReport& report, LoadedBot& loaded) {
+void Take(const ReadReport& report, const std::string& shown,
+          LoadedBot& loaded) {
   loaded.notes.Append(report.notes);
+  NoteMissingIncludes(report, shown, loaded.notes);
   for (const auto& [parameter, value] : report.plain_values) {
     loaded.plain_values.insert_or_assign(parameter, value);
   }
@@ -51,13 +54,38 @@ void EnsureName(const std::string& name, const std::string& shown,
                 LoadedBot& loaded) {
   const std::string read = loaded.bot.Name();
   if (!NameRefusal(read)) return;
-  (void)loaded.bot.SetParameter(kNameIndex, name);
+  loaded.bot.Put(kNameField, name);
   const std::string what = read.empty()
                                ? "The file gives the bot no name"
                                : "\"" + ShownText(read) + "\" cannot be a name";
   loaded.notes.Add({shown, 0,
                     what + "; the bot is called " + Utf8FromGameText(name) +
                         " after its file."});
+}
+
+void ReadCharacteristics(const LoadedPart& part, std::string_view bytes,
+                         const std::string& name, const std::string& shown,
+                         LoadedBot& loaded) {
+  Bot& bot = loaded.bot;
+  const bool is_whole = std::holds_alternative<WholeBot>(part);
+  // A new bot has a name already; that of the file is wanted. An empty one is
+  // never refused.
+  if (is_whole) (void)bot.SetParameter(kNameField, std::string());
+  const ReadReport report = ReadCharacteristicFile(
+      bytes, shown, is_whole ? ReadIdentity::kYes : ReadIdentity::kNo, bot);
+  Take(report, shown, loaded);
+  NoteMissingLevels(report, shown, loaded.notes);
+  if (!is_whole) return;
+  EnsureName(name, shown, loaded);
+  NoteOtherNames(report, bot, shown, loaded.notes);
+  loaded.author_line = {shown, 3, AuthorLine(bytes)};
+  if (HeaderSaysMore(bytes)) {
+    loaded.notes.Add(
+        {.file = shown,
+         .line = 2,
+         .text = "The version and the comment in the head of the file are "
+                 "not read back; type them in again before you save."});
+  }
 }
 
 /// The bytes of the file of that name in the folder; a file that is missing
@@ -68,7 +96,8 @@ struct FoundFile {
 };
 
 std::optional<FoundFile> Find(BotFile file, const std::string& name,
-                              const fs::path& folder, Prompts& prompts) {
+                              const fs::path& folder, LoadedBot& loaded,
+                              Prompts& prompts) {
   const std::string title = "Error during load";
   const std::optional<fs::path> path =
       FindFile(folder, name + std::string(FileSuffix(file)));
@@ -78,114 +107,118 @@ std::optional<FoundFile> Find(BotFile file, const std::string& name,
                Utf8FromGameText(name) + ".");
     return std::nullopt;
   }
-  Result<std::string> bytes = ReadFile(*path, kMostBotFileBytes);
+  Result<std::string> bytes = ReadFile(*path, kMaxBotFileBytes);
   if (!bytes) {
     Inform(prompts, title, Describe(bytes.error()));
+    loaded.unread.emplace(file, bytes.error());
     return std::nullopt;
   }
   return FoundFile{*path, std::move(*bytes)};
 }
 
-bool Load(BotFile file, const std::string& name, const fs::path& folder,
-          LoadedBot& loaded, Prompts& prompts) {
-  const std::optional<FoundFile> found = Find(file, name, folder, prompts);
-  if (!found) return false;
-  ReadBotFile(file, LoadScope::kWholeBot, found->bytes, name,
-              Utf8FromPath(found->path), loaded);
-  return true;
+void Remember(BotFile file, const FoundFile& found, LoadedBot& loaded) {
+  loaded.files.insert_or_assign(
+      file, OriginFile{.path = found.path,
+                       .fingerprint = FingerprintOf(found.bytes)});
 }
 
-/// The scripts folder beside the botfiles/bots that the folder's text holds.
-std::optional<fs::path> ScriptsFolderOf(const fs::path& folder) {
-  const std::string text = BytesFromPath(folder.generic_u8string());
-  const std::size_t place = text.find(kBotFilesFolder);
-  if (place == std::string::npos) return std::nullopt;
-  return PathFromBytes(text.substr(0, place) + std::string(kScriptsFolder));
+bool Load(BotFile file, const std::string& name, const fs::path& folder,
+          LoadedBot& loaded, Prompts& prompts) {
+  const std::optional<FoundFile> found =
+      Find(file, name, folder, loaded, prompts);
+  if (!found) return false;
+  ReadBotFile(file, WholeBot{}, found->bytes, name, Utf8FromPath(found->path),
+              loaded);
+  Remember(file, *found, loaded);
+  return true;
 }
 
 void LoadDescription(const std::string& name, const fs::path& folder,
                      bool uses_layout, LoadedBot& loaded,
                      const LoadEnvironment& environment) {
-  const std::optional<fs::path> place =
-      uses_layout ? ScriptsFolderOf(folder) : folder;
-  if (!place) {
+  std::optional<fs::path> description_folder = folder;
+  if (uses_layout) {
+    description_folder = LayoutRootOf(folder);
+    if (description_folder) *description_folder /= kScriptsFolder;
+  }
+  if (!description_folder) {
     Inform(environment.prompts, "Error!",
            "Couldn't load the bot file because the directory structure "
            "doesn't comply with the standard Q3 one...");
   }
-  if (!place ||
-      !Load(BotFile::kDescription, name, *place, loaded, environment.prompts)) {
+  if (!description_folder ||
+      !Load(BotFile::kDescription, name, *description_folder, loaded,
+            environment.prompts)) {
     SetStandardIdentity(loaded.bot, StandardNamesOf(environment.bots));
   }
 }
 
 }  // namespace
 
-std::string_view FileSuffix(BotFile file) {
-  switch (file) {
-    case BotFile::kDescription:
-      return ".bot";
-    case BotFile::kCharacteristics:
-      return "_c.c";
-    case BotFile::kChat:
-      return "_t.c";
-    case BotFile::kItemWeights:
-      return "_i.c";
-    case BotFile::kWeaponWeights:
-      return "_w.c";
-  }
-  return {};
-}
-
-void ReadBotFile(BotFile file, LoadScope scope, std::string_view bytes,
+void ReadBotFile(BotFile file, const LoadedPart& part, std::string_view bytes,
                  const std::string& name, const std::string& shown,
                  LoadedBot& loaded) {
-  const bool is_whole = scope == LoadScope::kWholeBot;
+  const bool is_whole = std::holds_alternative<WholeBot>(part);
   Bot& bot = loaded.bot;
-  ++loaded.files_read;
+  if (WithoutByteOrderMark(bytes).size() < bytes.size()) {
+    loaded.notes.Add({.file = shown,
+                      .line = 1,
+                      .text = "The file begins with a byte order mark, which "
+                              "the game stumbles over; a file made anew has "
+                              "none."});
+  }
   switch (file) {
     case BotFile::kDescription: {
-      const DescriptionReport report = ReadDescriptionFile(bytes, shown, bot);
+      const DescriptionReport report =
+          ReadDescriptionFile(bytes, shown, bot, name);
       loaded.has_arena_lord = report.has_arena_lord;
-      return Take(report, loaded);
+      Take(report, shown, loaded);
+      if (is_whole) NoteOtherNames(report, bot, shown, loaded.notes);
+      return;
     }
     case BotFile::kCharacteristics:
-      // A new bot has a name already; that of the file is wanted.
-      if (is_whole) (void)bot.SetParameter(kNameIndex, std::string());
-      Take(ReadCharacteristicFile(
-               bytes, shown, is_whole ? ReadIdentity::kYes : ReadIdentity::kNo,
-               bot),
-           loaded);
-      if (is_whole) EnsureName(name, shown, loaded);
-      if (is_whole && HeaderSaysMore(bytes)) {
-        loaded.notes.Add(
-            {.file = shown,
-             .line = 2,
-             .text = "The version and the comment in the head of the file are "
-                     "not read back; type them in again before you save."});
-      }
-      return;
-    case BotFile::kChat:
+      return ReadCharacteristics(part, bytes, name, shown, loaded);
+    case BotFile::kChat: {
       if (!is_whole) bot.ClearChats();
-      return loaded.notes.Append(ReadChatFile(bytes, shown, bot));
-    case BotFile::kItemWeights:
-      return Take(ReadItemWeightFile(bytes, shown, bot), loaded);
-    case BotFile::kWeaponWeights:
-      return Take(ReadWeaponWeightFile(bytes, shown, bot), loaded);
+      const ReadReport report = ReadChatFile(bytes, shown, bot);
+      Take(report, shown, loaded);
+      NoteMissingTypes(report, shown, loaded.notes);
+      if (is_whole) NoteOtherNames(report, bot, shown, loaded.notes);
+      return;
+    }
+    case BotFile::kItemWeights: {
+      const ReadReport report = ReadItemWeightFile(bytes, shown, bot);
+      Take(report, shown, loaded);
+      return NoteMissingWeights(report, kItemWeightRange, shown, loaded.notes);
+    }
+    case BotFile::kWeaponWeights: {
+      const ReadReport report = ReadWeaponWeightFile(bytes, shown, bot);
+      Take(report, shown, loaded);
+      return NoteMissingWeights(report, kWeaponWeightRange, shown,
+                                loaded.notes);
+    }
   }
+}
+
+std::string_view FaultOfName(BotFile file, const fs::path& path) {
+  const std::optional<std::string> name = GameTextFromPath(path.filename());
+  if (!name) return "its name has characters that the game does not have";
+  return name->ends_with(FileSuffix(file))
+             ? std::string_view()
+             : "its name does not end as it should";
 }
 
 bool LoadSingleFile(BotFile file, const fs::path& path, LoadedBot& loaded,
                     Prompts& prompts) {
-  const std::optional<std::string> text = GameTextFromPath(path.filename());
-  const std::string_view suffix = FileSuffix(file);
-  if (!text || !text->ends_with(suffix)) return false;
-  const std::string name = text->substr(0, text->size() - suffix.size());
+  if (!FaultOfName(file, path).empty()) return false;
+  std::string name = *GameTextFromPath(path.filename());
+  name.resize(name.size() - FileSuffix(file).size());
   const std::optional<FoundFile> found =
-      Find(file, name, path.parent_path(), prompts);
+      Find(file, name, path.parent_path(), loaded, prompts);
   if (!found) return false;
-  ReadBotFile(file, LoadScope::kOneFile, found->bytes, name,
-              Utf8FromPath(found->path), loaded);
+  ReadBotFile(file, file, found->bytes, name, Utf8FromPath(found->path),
+              loaded);
+  Remember(file, *found, loaded);
   return true;
 }
 
@@ -193,6 +226,7 @@ LoadedBot LoadBotFromFolder(const std::string& name, const fs::path& folder,
                             FolderLoadOptions options,
                             const LoadEnvironment& environment) {
   LoadedBot loaded;
+  loaded.options = options;
   for (const BotFile file : {BotFile::kCharacteristics, BotFile::kItemWeights,
                              BotFile::kWeaponWeights, BotFile::kChat}) {
     Load(file, name, folder, loaded, environment.prompts);
@@ -201,7 +235,17 @@ LoadedBot LoadBotFromFolder(const std::string& name, const fs::path& folder,
     LoadDescription(name, folder, options.uses_layout, loaded, environment);
   }
   UseCatalogueSpelling(loaded.bot, environment.models);
+  NoteOtherAuthor(environment.author, loaded);
   return loaded;
+}
+
+void NoteOtherAuthor(const Author& author, LoadedBot& loaded) {
+  const auto& [file, line, text] = loaded.author_line;
+  if (text.empty() || text == AuthorLine(author)) return;
+  loaded.notes.Add({file, line,
+                    "The files name their author (" +
+                        ShownText(TrimBlanksAndTabs(text)) +
+                        "); a save names what stands in the options instead."});
 }
 
 void UseCatalogueSpelling(Bot& bot, const ModelCatalogue& models) {
@@ -209,20 +253,32 @@ void UseCatalogueSpelling(Bot& bot, const ModelCatalogue& models) {
       models.FindModel(bot.Text(kModelField));
   if (!model) return;
   const ModelEntry& entry = models.models()[*model];
-  (void)bot.SetParameter(kModelField, entry.Name);
+  bot.Put(kModelField, entry.Name);
   const std::optional<std::size_t> skin =
       models.FindSkin(*model, bot.Text(kSkinField));
-  if (skin) (void)bot.SetParameter(kSkinField, entry.Skins[*skin].Name);
+  if (skin) bot.Put(kSkinField, entry.Skins[*skin].Name);
 }
 
-void TakeValuesAsGame(LoadedBot& loaded, const ModelCatalogue& models) {
+LoadReport ReportOf(const LoadedBot& loaded, const Bot& shown) {
+  LoadReport report = {.notes = loaded.notes, .odd_values = {}};
   for (const auto& [parameter, value] : loaded.plain_values) {
-    const bool is_name = parameter == kNameIndex;
+    const bool is_name = parameter == kNameField;
     if (is_name && NameRefusal(ToText(value))) continue;
-    (void)loaded.bot.SetParameter(parameter, value);
+    report.odd_values.insert_or_assign(
+        parameter,
+        OddValue{.read = shown.Parameter(parameter), .plain = value});
   }
-  loaded.plain_values.clear();
-  UseCatalogueSpelling(loaded.bot, models);
+  return report;
+}
+
+void TakeValuesAsGame(Bot& bot, const LoadReport& report,
+                      const ModelCatalogue& models) {
+  for (const auto& [parameter, value] : report.odd_values) {
+    if (bot.Parameter(parameter) != value.read) continue;
+    // A draft may hold anything; what the bot refuses stays as it was read.
+    (void)bot.SetParameter(parameter, value.plain);
+  }
+  UseCatalogueSpelling(bot, models);
 }
 
 StandardBotNames StandardNamesOf(const BotList& bots) {

@@ -1,44 +1,35 @@
 #ifndef FRAGSMITH_SESSION_LOAD_BOT_H_
 #define FRAGSMITH_SESSION_LOAD_BOT_H_
 
-#include <cstddef>
 #include <filesystem>
 #include <map>
 #include <string>
 #include <string_view>
+#include <variant>
 
+#include "botfiles/header_comment.h"
 #include "botfiles/standard_identity.h"
-#include "install/bot_list.h"
-#include "install/model_catalogue.h"
+#include "install/program/bot_list.h"
+#include "install/program/model_catalogue.h"
 #include "model/bot.h"
+#include "model/bot_place.h"
+#include "session/bot_file.h"
+#include "session/bot_origin.h"
 #include "support/notes.h"
 #include "support/prompts.h"
 
 namespace fragsmith {
 
-/// The five files of a bot, by the numbers that choose one of them for a load
-/// (`LoType`); any other number loads them all.
-enum class BotFile {
-  kDescription = 0,
-  kCharacteristics = 1,
-  kChat = 2,
-  kItemWeights = 3,
-  kWeaponWeights = 4,
-};
-
-/// The largest of a bot's files that is read. Real ones have some kilobytes,
-/// and a file of nothing but short chat lines takes forty times its size in
-/// memory until it is printed.
-inline constexpr std::size_t kMostBotFileBytes = std::size_t{4} << 20U;
-
-/// How the name of a bot's file goes on behind the bot's name.
-std::string_view FileSuffix(BotFile file);
+/// What a load reads (`LoType`): all of the bot, or one of its files.
+using LoadedPart = std::variant<WholeBot, BotFile>;
 
 /// What a load knows of the installation, and whom it tells.
 struct LoadEnvironment {
   const ModelCatalogue& models;
   const BotList& bots;
   Prompts& prompts;
+  /// Whom a save names in the head of the files.
+  Author author = {};
 };
 
 /// A bot as it was read.
@@ -46,21 +37,14 @@ struct LoadedBot {
   Bot bot;
   Notes notes;
   /// By parameter: what the game reads where the bot holds something else.
-  std::map<int, Value> plain_values;
-  int files_read = 0;
+  std::map<ParameterId, Value> plain_values;
+  OriginFiles files;                ///< Those that were read.
+  std::map<BotFile, Error> unread;  ///< Those that are there and could not be.
+  FolderLoadOptions options;
   /// A description was read that speaks of the arena lord.
   bool has_arena_lord = false;
-};
-
-/// The name behind which a path of the game's layout begins; compared with
-/// its case, on every system with "/".
-inline constexpr std::string_view kBotFilesFolder = "botfiles/bots";
-inline constexpr std::string_view kScriptsFolder = "scripts";
-
-struct FolderLoadOptions {
-  /// The description lies in the scripts folder beside botfiles/bots.
-  bool uses_layout = false;
-  bool loads_description = true;
+  /// Where and how the head of the characteristic file names the author.
+  Note author_line;
 };
 
 /// Reads the bot of that name (what stands before "_c.c") from the folder
@@ -69,6 +53,10 @@ LoadedBot LoadBotFromFolder(const std::string& name,
                             const std::filesystem::path& folder,
                             FolderLoadOptions options,
                             const LoadEnvironment& environment);
+
+/// What in its name keeps a file from being read as one of that kind, as the
+/// end of a sentence, without its full stop. Empty where nothing does.
+std::string_view FaultOfName(BotFile file, const std::filesystem::path& path);
 
 /// Reads one file into a bot that is there already, a chat file in the place
 /// of its chats. The file's name must end in the suffix of its kind, case and
@@ -80,16 +68,23 @@ bool LoadSingleFile(BotFile file, const std::filesystem::path& path,
 /// Takes the bytes of one of the files into the bot. For a whole bot the
 /// characteristic file gives the identity too; `name` is what the files are
 /// called by, `shown` the file in notes.
-enum class LoadScope { kWholeBot, kOneFile };
-void ReadBotFile(BotFile file, LoadScope scope, std::string_view bytes,
+void ReadBotFile(BotFile file, const LoadedPart& part, std::string_view bytes,
                  const std::string& name, const std::string& shown,
                  LoadedBot& loaded);
+
+/// Tells when a save would name another author than the files do.
+void NoteOtherAuthor(const Author& author, LoadedBot& loaded);
 
 /// Gives model and skin the catalogue's spelling where it has them.
 void UseCatalogueSpelling(Bot& bot, const ModelCatalogue& models);
 
-/// Puts the plain values in the place of those that were read oddly.
-void TakeValuesAsGame(LoadedBot& loaded, const ModelCatalogue& models);
+/// What the load noticed, where its values stand in the bot as it is shown.
+LoadReport ReportOf(const LoadedBot& loaded, const Bot& shown);
+
+/// Puts the game's values in the place of those that were read oddly and that
+/// nobody has changed since.
+void TakeValuesAsGame(Bot& bot, const LoadReport& report,
+                      const ModelCatalogue& models);
 
 /// Names of the game's own bots in the list.
 StandardBotNames StandardNamesOf(const BotList& bots);

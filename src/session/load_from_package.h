@@ -5,21 +5,18 @@
 #include <optional>
 #include <string>
 
-#include "install/extraction.h"
+#include "install/program/extraction.h"
 #include "model/bot.h"
 #include "session/load_bot.h"
 #include "support/temporary_folder.h"
 
 namespace fragsmith {
 
-/// Loads a whole bot, being none of the numbers of BotFile.
-inline constexpr int kWholeBot = -1;
-
 /// A bot in a package and what is to be read of it.
 struct PackagedBot {
   std::filesystem::path package;
-  std::string name;        ///< As the bot list has it; 8-bit text.
-  int LoType = kWholeBot;  ///< 0 to 4 for one BotFile, else all of them.
+  std::string name;   ///< As the bot list has it; 8-bit text.
+  LoadedPart LoType;  ///< All of it, when nothing is said.
   /// The description is loaded and the package has one. Without one the
   /// identity is that of a standard bot, or of none.
   bool withScript = false;

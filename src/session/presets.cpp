@@ -22,11 +22,11 @@ double AverageSkill(int index) {
 
 double AverageSingle(int index) {
   switch (index) {
-    case kChatCpmIndex:
+    case kChatCpm.index():
       return 200;
-    case kHealthIndex:
+    case kHealthWeight.index():
       return 1;
-    case kArmorIndex:
+    case kArmorWeight.index():
       return 2;
     default:
       return kChatRange.Contains(index) ? kAverageSkill : kAverageWeight;
@@ -37,17 +37,13 @@ double AverageSingle(int index) {
 template <typename SkillValue, typename SingleValue>
 Bot Fill(SkillValue skill_value, SingleValue single_value) {
   Bot bot;
-  const auto set = [&bot](int index, double value) {
-    (void)bot.SetParameter(index, value);
-  };
-  for (const int level : kSkillLevels) {
-    for (int index = kPerLevelRange.first; index <= kPerLevelRange.last;
-         ++index) {
-      set(LevelIndex(level, index), skill_value(index));
+  for (const Level level : kLevels) {
+    for (const int index : kPerLevelRange) {
+      bot.Put({level, index}, skill_value(index));
     }
   }
   for (int index = kChatRange.first; index <= kItemWeightRange.last; ++index) {
-    set(index, single_value(index));
+    bot.Put(ParameterId(index), single_value(index));
   }
   return bot;
 }

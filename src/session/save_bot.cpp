@@ -1,5 +1,6 @@
 #include "session/save_bot.h"
 
+#include <algorithm>
 #include <array>
 #include <string>
 #include <string_view>
@@ -10,11 +11,11 @@
 #include "botfiles/description_file.h"
 #include "botfiles/weight_file.h"
 #include "chat/chat_file.h"
-#include "install/package.h"
+#include "install/packages/package_writer.h"
 #include "model/characteristic_catalogue.h"
-#include "session/identity_checks.h"
-#include "session/load_bot.h"
+#include "session/identity_rules.h"
 #include "support/files.h"
+#include "support/text.h"
 
 namespace fragsmith {
 namespace fs = std::filesystem;
@@ -22,25 +23,28 @@ namespace {
 
 /// One file of the set, by its name and place in the game's layout.
 struct SetFile {
+  BotFile file;
   std::string_view folder;
-  int name_field;
+  ParameterId name_field;
   std::string (*write)(const Bot& bot, const Author& author);
 };
 
 /// In the order in which they are written and packed.
 constexpr std::array<SetFile, 5> kFileSet = {{
-    {kBotFilesFolder, kCharacteristicFileField, WriteCharacteristicFile},
-    {kBotFilesFolder, kWeaponWeightsIndex, WriteWeaponWeightFile},
-    {kBotFilesFolder, kItemWeightsIndex, WriteItemWeightFile},
-    {kBotFilesFolder, kChatFileIndex, WriteChatFile},
-    {kScriptsFolder, kDescriptionFileField, WriteDescriptionFile},
+    {BotFile::kCharacteristics, kBotFilesFolder, kCharacteristicFileField,
+     WriteCharacteristicFile},
+    {BotFile::kWeaponWeights, kBotFilesFolder, kWeaponFileField,
+     WriteWeaponWeightFile},
+    {BotFile::kItemWeights, kBotFilesFolder, kItemFileField,
+     WriteItemWeightFile},
+    {BotFile::kChat, kBotFilesFolder, kChatFileField, WriteChatFile},
+    {BotFile::kDescription, kScriptsFolder, kDescriptionFileField,
+     WriteDescriptionFile},
 }};
 
-fs::path TargetOf(const SetFile& file, const Bot& bot, const fs::path& folder,
-                  SaveOptions options) {
-  fs::path path = folder;
-  if (options.uses_layout) path /= fs::path(file.folder).make_preferred();
-  return path / PathFromGameText(bot.Text(file.name_field));
+const SetFile& InSet(BotFile file) {
+  return *std::find_if(kFileSet.begin(), kFileSet.end(),
+                       [file](const SetFile& one) { return one.file == file; });
 }
 
 std::optional<Error> MakeFolder(const fs::path& folder) {
@@ -54,42 +58,82 @@ std::optional<Error> MakeFolder(const fs::path& folder) {
                .advice = "Choose another folder."};
 }
 
-std::optional<Error> MakeLayout(const fs::path& folder) {
-  for (const char* const name : {"botfiles", "botfiles/bots", "scripts"}) {
-    const fs::path wanted = (folder / name).make_preferred();
-    if (std::optional<Error> error = MakeFolder(wanted)) return error;
-  }
-  return std::nullopt;
-}
+/// The bytes of the files by their kind: the new ones, and for those that are
+/// left alone what lies there.
+using FileBytes = std::map<BotFile, std::string>;
 
-void MakeBotPackage(const Bot& bot, const fs::path& folder,
-                    std::array<std::string, kFileSet.size()>& bytes,
-                    Prompts& prompts, SavedBot& saved) {
+Result<void> MakeBotPackage(const Bot& bot, const SavePlan& plan,
+                            FileBytes bytes, SavedBot& saved) {
+  for (const auto& [file, path] : plan.left_alone) {
+    Result<std::string> old = ReadFile(path, kMaxBotFileBytes);
+    if (!old) return Failure(old.error());
+    bytes.insert_or_assign(file, *std::move(old));
+  }
   std::vector<PackageEntry> entries;
-  for (std::size_t place = 0; place < kFileSet.size(); ++place) {
-    const SetFile& file = kFileSet.at(place);
+  entries.reserve(std::size(kFileSet));
+  for (const SetFile& file : kFileSet) {
     entries.push_back(
         {std::string(file.folder) + "/" + bot.Text(file.name_field),
-         std::move(bytes.at(place))});
+         std::move(bytes[file.file])});
   }
-  const fs::path path = folder / PathFromGameText("bot-" + bot.Name() + ".pk3");
-  const Result<void> packed = WritePackage(path, entries);
+  Result<void> packed = WritePackage(*plan.package, entries);
+  if (!packed) return packed;
+  saved.written.push_back(*plan.package);
+  const Result<std::string> package = ReadFile(*plan.package);
+  if (package) {
+    saved.package = OriginFile{.path = *plan.package,
+                               .fingerprint = FingerprintOf(*package)};
+  }
+  return {};
+}
+
+void SavePackage(const Bot& bot, const SavePlan& plan, FileBytes bytes,
+                 Prompts& prompts, SavedBot& saved) {
   saved.counts_package = true;
-  Message message = {.title = std::string(kProgramTitle), .text = {}};
-  if (packed) {
-    saved.written.push_back(path);
-    message.text = Utf8FromPath(path) + " created succesfully";
-  } else {
-    saved.error = packed.error();
-    message.text = Describe(packed.error());
+  const Result<void> made = MakeBotPackage(bot, plan, std::move(bytes), saved);
+  Message message = {
+      .title = std::string(kProgramTitle),
+      .text = Utf8FromPath(*plan.package) + " created succesfully"};
+  if (!made) {
+    saved.error = made.error();
+    message.text = Describe(made.error());
   }
   prompts.Show(message);
 }
 
 }  // namespace
 
-SavedBot SaveBot(const Bot& bot, const fs::path& folder, SaveOptions options,
-                 const Author& author, Prompts& prompts) {
+std::string BytesOf(BotFile file, const Bot& bot, const Author& author) {
+  return InSet(file).write(bot, author);
+}
+
+fs::path FileNameOf(BotFile file, const Bot& bot) {
+  return PathFromGameText(bot.Text(InSet(file).name_field));
+}
+
+fs::path PackageNameOf(const Bot& bot) {
+  return PathFromGameText(BotPackageName(bot.Name()));
+}
+
+SavePlan PlanOf(const Bot& bot, const SaveTarget& target) {
+  SavePlan plan;
+  const auto& [folder, options] = target;
+  if (options.uses_layout) {
+    for (const char* const name : {"botfiles", "botfiles/bots", "scripts"}) {
+      plan.folders.push_back((folder / name).make_preferred());
+    }
+  }
+  for (const SetFile& file : kFileSet) {
+    fs::path path = folder;
+    if (options.uses_layout) path /= fs::path(file.folder).make_preferred();
+    plan.files.emplace(file.file, path / FileNameOf(file.file, bot));
+  }
+  if (options.makes_package) plan.package = folder / PackageNameOf(bot);
+  return plan;
+}
+
+SavedBot SaveFiles(const Bot& bot, const SavePlan& plan, const Author& author,
+                   Prompts& prompts) {
   SavedBot saved;
   if (const std::optional<Message> refusal = NameRefusal(bot.Name())) {
     saved.error = Error{.what = refusal->text,
@@ -98,38 +142,45 @@ SavedBot SaveBot(const Bot& bot, const fs::path& folder, SaveOptions options,
                         .advice = "Give the bot another name."};
     return saved;
   }
-  if (options.uses_layout) {
-    saved.error = MakeLayout(folder);
+  for (const fs::path& folder : plan.folders) {
+    saved.error = MakeFolder(folder);
     if (saved.error) return saved;
   }
-  std::array<std::string, kFileSet.size()> bytes;
-  for (std::size_t place = 0; place < kFileSet.size(); ++place) {
-    const SetFile& file = kFileSet.at(place);
-    bytes.at(place) = file.write(bot, author);
+  FileBytes bytes;
+  for (const SetFile& file : kFileSet) {
+    const auto known = plan.contents.find(file.file);
+    // What goes into a list of bots is no file that a package could take.
+    const auto target = plan.files.find(file.file);
+    const bool is_own =
+        known != plan.contents.end() &&
+        (target == plan.files.end() ||
+         EndsWithIgnoringCase(BytesFromPath(target->second.filename()),
+                              FileSuffix(file.file)));
+    bytes.emplace(file.file, is_own ? known->second : file.write(bot, author));
   }
-  for (std::size_t place = 0; place < kFileSet.size(); ++place) {
-    fs::path path = TargetOf(kFileSet.at(place), bot, folder, options);
-    const Result<void> done = SaveFile(path, bytes.at(place));
+  for (const SetFile& file : kFileSet) {
+    const auto target = plan.files.find(file.file);
+    if (target == plan.files.end()) continue;
+    const auto known = plan.contents.find(file.file);
+    const std::string& content =
+        known == plan.contents.end() ? bytes[file.file] : known->second;
+    const Result<void> done = SaveFile(target->second, content);
     if (!done) {
       saved.error = done.error();
       return saved;
     }
-    saved.written.push_back(std::move(path));
+    saved.written.push_back(target->second);
+    saved.files.emplace(file.file,
+                        OriginFile{.path = target->second,
+                                   .fingerprint = FingerprintOf(content)});
   }
-  if (options.makes_package) {
-    MakeBotPackage(bot, folder, bytes, prompts, saved);
-  }
+  if (plan.package) SavePackage(bot, plan, std::move(bytes), prompts, saved);
   return saved;
 }
 
-std::vector<fs::path> TargetFiles(const Bot& bot, const fs::path& folder,
-                                  SaveOptions options) {
-  std::vector<fs::path> paths;
-  paths.reserve(kFileSet.size());
-  for (const SetFile& file : kFileSet) {
-    paths.push_back(TargetOf(file, bot, folder, options));
-  }
-  return paths;
+SavedBot SaveBot(const Bot& bot, const fs::path& folder, SaveOptions options,
+                 const Author& author, Prompts& prompts) {
+  return SaveFiles(bot, PlanOf(bot, {folder, options}), author, prompts);
 }
 
 Author AuthorOf(const ProgramSettings& settings) {

@@ -4,8 +4,8 @@
 #include <system_error>
 #include <utility>
 
-#include "support/child_process_system.h"
 #include "support/files.h"
+#include "support/system/child_process_system.h"
 
 namespace fragsmith {
 

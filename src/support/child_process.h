@@ -23,7 +23,10 @@ class ChildProcess {
                                     const std::vector<std::string>& arguments);
 
   /// The same, but all that the program prints goes into a file, which is
-  /// made anew, and where there are windows it gets none for it.
+  /// made anew, and where there are windows it gets none for it. Where the
+  /// system has groups of programs, what it starts in turn ends with it, and
+  /// Ctrl+C reaches us alone. Where the system can, it ends when we are killed;
+  /// so it is started by a thread that lives as long as the program.
   static Result<ChildProcess> Start(const std::filesystem::path& program,
                                     const std::vector<std::string>& arguments,
                                     const std::filesystem::path& output);

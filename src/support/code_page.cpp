@@ -94,9 +94,9 @@ std::optional<std::string> GameTextFromUtf8(std::string_view utf8) {
 }
 
 std::string ShownText(std::string_view text) {
-  constexpr std::size_t kMost = 60;
-  std::string shown = Utf8FromGameText(text.substr(0, kMost));
-  if (text.size() > kMost) shown += "...";
+  constexpr std::size_t kMax = 60;
+  std::string shown = Utf8FromGameText(text.substr(0, kMax));
+  if (text.size() > kMax) shown += "...";
   return shown;
 }
 

@@ -26,7 +26,7 @@ std::string Describe(const Note& note) {
 }
 
 void Notes::Add(Note note) {
-  if (list_.size() < kMost) {
+  if (list_.size() < kMax) {
     list_.push_back(std::move(note));
   } else {
     ++left_out_;
@@ -36,6 +36,12 @@ void Notes::Add(Note note) {
 void Notes::Append(const Notes& other) {
   for (const Note& note : other.list_) Add(note);
   left_out_ += other.left_out_;
+}
+
+void Notes::Remove(const std::string& file, std::string_view beginning) {
+  std::erase_if(list_, [&](const Note& note) {
+    return note.file == file && note.text.starts_with(beginning);
+  });
 }
 
 }  // namespace fragsmith

@@ -27,9 +27,6 @@ class FieldReader {
   /// The next field, a part of the bytes; nothing at the end of the file.
   std::optional<std::string_view> Next();
 
-  /// What stood behind the field that Next() gave last.
-  Separator separator() const { return separator_; }
-
   /// True when that field began with a quote and the file ended before the
   /// closing one: something is missing.
   bool is_cut() const { return is_cut_; }

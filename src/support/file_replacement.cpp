@@ -8,8 +8,8 @@
 #include <system_error>
 #include <utility>
 
-#include "support/file_replacement_system.h"
 #include "support/files.h"
+#include "support/system/file_replacement_system.h"
 
 namespace fragsmith {
 namespace fs = std::filesystem;
@@ -106,6 +106,14 @@ Result<void> FileReplacement::Commit() {
 
 Result<void> FileReplacement::CommitUnflushed() {
   const std::error_code reason = system::RenameOver(temporary_, target_);
+  if (reason && system::IsInUse(reason) && !IsFolder(target_)) {
+    return Failure({.what = "The file cannot be replaced: another program "
+                            "holds it open, or it is write-protected.",
+                    .file = Utf8FromPath(target_),
+                    .line = 0,
+                    .advice = "Close it there, then save again. Nothing was "
+                              "changed."});
+  }
   if (reason) return Failure(CannotWrite(target_, reason));
   temporary_.clear();
   return {};

@@ -24,9 +24,6 @@ class FileReplacement {
   FileReplacement& operator=(const FileReplacement&) = delete;
   ~FileReplacement();
 
-  /// The temporary file, for a library that writes by name.
-  const std::filesystem::path& path() const { return temporary_; }
-
   /// Puts the bytes into the temporary file.
   Result<void> Write(std::string_view bytes);
 

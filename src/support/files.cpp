@@ -52,9 +52,11 @@ Result<std::string> ReadFile(const fs::path& path, std::size_t limit) {
     if (file.bad()) return fail("The file cannot be read to its end.", "");
   }
   if (bytes.size() > limit || (!reason && size > limit)) {
-    return fail(
-        "The file is larger than " + std::to_string(limit >> 20U) + " MiB.",
-        "Check that it is the right one.");
+    return fail("The file is larger than " + std::to_string(limit >> 20U) +
+                    " MiB, the most that is read of one like it: it has " +
+                    std::to_string(std::max<std::uintmax_t>(size, limit + 1)) +
+                    " bytes.",
+                "Check that it is the right one.");
   }
   return bytes;
 }
@@ -130,6 +132,12 @@ bool IsFile(const fs::path& path) {
 bool IsFolder(const fs::path& path) {
   std::error_code ignored;
   return fs::is_directory(path, ignored);
+}
+
+fs::path WholePath(const fs::path& path) {
+  std::error_code reason;
+  const fs::path whole = fs::absolute(path.empty() ? "." : path, reason);
+  return (reason ? path : whole).lexically_normal();
 }
 
 }  // namespace fragsmith

@@ -14,12 +14,12 @@ namespace fragsmith {
 
 /// The most that is read of any one file. Real bot files have some kilobytes;
 /// the bound keeps a wrong or hostile file from filling the memory.
-inline constexpr std::size_t kMostFileBytes = std::size_t{64} << 20U;
+inline constexpr std::size_t kMaxFileBytes = std::size_t{64} << 20U;
 
 /// The whole file. Fails on what is no regular file and on one beyond the
 /// limit.
 Result<std::string> ReadFile(const std::filesystem::path& path,
-                             std::size_t limit = kMostFileBytes);
+                             std::size_t limit = kMaxFileBytes);
 
 /// Puts the bytes in the place of the file: written to a temporary file in
 /// the same folder, flushed, then renamed. Whatever fails, the file is either
@@ -62,6 +62,10 @@ std::vector<std::filesystem::path> ListFiles(
 /// True for an existing regular file or folder; false when in doubt.
 bool IsFile(const std::filesystem::path& path);
 bool IsFolder(const std::filesystem::path& path);
+
+/// The path as it stands from the root, without "." and "..". An empty one is
+/// the folder where the program works; where that is gone, nothing is added.
+std::filesystem::path WholePath(const std::filesystem::path& path);
 
 }  // namespace fragsmith
 

@@ -17,6 +17,10 @@ class NoPrompts : public Prompts {
                const std::string& /*text*/) override {
     return false;
   }
+  std::size_t Choose(const std::string& /*title*/, const std::string& /*text*/,
+                     const std::vector<std::string>& /*buttons*/) override {
+    return 0;
+  }
   std::optional<std::string> AskText(const std::string& /*title*/,
                                      const std::string& /*prompt*/) override {
     return std::nullopt;

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace fragsmith {
@@ -18,14 +19,16 @@ struct Note {
 std::string Describe(const Note& note);
 
 /// What reading noticed, in the order of its discovery. A hostile file could
-/// give a note for each of its lines, so only the first kMost are kept; the
+/// give a note for each of its lines, so only the first kMax are kept; the
 /// rest is counted.
 class Notes {
  public:
-  static constexpr std::size_t kMost = 1000;
+  static constexpr std::size_t kMax = 1000;
 
   void Add(Note note);
   void Append(const Notes& other);
+  /// Takes back what has proved wrong: the notes on the file that begin so.
+  void Remove(const std::string& file, std::string_view beginning);
 
   const std::vector<Note>& list() const { return list_; }
   std::size_t left_out() const { return left_out_; }

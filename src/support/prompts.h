@@ -1,9 +1,11 @@
 #ifndef FRAGSMITH_SUPPORT_PROMPTS_H_
 #define FRAGSMITH_SUPPORT_PROMPTS_H_
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace fragsmith {
 
@@ -33,6 +35,12 @@ class Prompts {
   /// A question with the buttons Yes and No. False is the answer that loses
   /// nothing, and the one given when there is nobody to ask.
   virtual bool Confirm(const std::string& title, const std::string& text) = 0;
+
+  /// A question with buttons of its own, of which it gives one by its index.
+  /// The first is the answer that loses nothing, and the one given when there
+  /// is nobody to ask.
+  virtual std::size_t Choose(const std::string& title, const std::string& text,
+                             const std::vector<std::string>& buttons) = 0;
 
   /// Asks for one line of text; nothing when the user cancels or there is
   /// nobody to ask.

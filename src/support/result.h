@@ -17,9 +17,13 @@ struct Error {
   std::string advice;    ///< What to do about it; may be empty.
 };
 
-/// A value, or the reason why there is none.
+/// A value, or the reason why there is none. One that nobody looks at is a
+/// failure that nobody hears of.
 template <typename T>
-using Result = tl::expected<T, Error>;
+class [[nodiscard]] Result : public tl::expected<T, Error> {
+ public:
+  using tl::expected<T, Error>::expected;
+};
 
 /// Wraps an error so that it can be returned as any Result.
 inline tl::unexpected<Error> Failure(Error error) {

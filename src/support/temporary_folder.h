@@ -1,6 +1,7 @@
 #ifndef FRAGSMITH_SUPPORT_TEMPORARY_FOLDER_H_
 #define FRAGSMITH_SUPPORT_TEMPORARY_FOLDER_H_
 
+#include <cstdint>
 #include <filesystem>
 
 #include "support/result.h"
@@ -9,7 +10,8 @@ namespace fragsmith {
 
 /// A folder for this run alone: only its owner may enter it, it lies in the
 /// system's temporary folder, is made when it is first asked for and goes,
-/// with all that is in it, when this object goes.
+/// with all that is in it, when this object goes. What a run that was killed
+/// left there goes when a later one makes its own, once it is an hour old.
 class TemporaryFolder {
  public:
   TemporaryFolder() = default;
@@ -21,6 +23,7 @@ class TemporaryFolder {
 
  private:
   std::filesystem::path path_;
+  std::intptr_t handle_ = -1;  ///< By which it is held.
 };
 
 }  // namespace fragsmith

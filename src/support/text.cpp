@@ -89,16 +89,16 @@ bool Contains(std::string_view text, std::string_view part) {
 }
 
 std::optional<std::string_view> LineReader::Next() {
-  if (place_ == bytes_.size()) return std::nullopt;
+  if (offset_ == bytes_.size()) return std::nullopt;
   ++number_;
-  const std::string_view line = bytes_.substr(place_, line_feed_ - place_);
+  const std::string_view line = bytes_.substr(offset_, line_feed_ - offset_);
   const std::size_t length = std::min(line.find('\r'), line.size());
-  place_ += length;
+  offset_ += length;
   // At the line's end now: skip the CR, then the LF.
-  if (length < line.size()) ++place_;
-  if (place_ == line_feed_) {
-    ++place_;
-    line_feed_ = bytes_.find('\n', place_);
+  if (length < line.size()) ++offset_;
+  if (offset_ == line_feed_) {
+    ++offset_;
+    line_feed_ = bytes_.find('\n', offset_);
   }
   return line.substr(0, length);
 }

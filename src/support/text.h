@@ -33,6 +33,19 @@ bool EndsWithIgnoringCase(std::string_view text, std::string_view end);
 
 bool Contains(std::string_view text, std::string_view part);
 
+/// A stretch of a file's bytes; its end lies behind the last of them.
+struct TextSpan {
+  std::size_t begin = 0;
+  std::size_t end = 0;
+
+  bool empty() const { return begin >= end; }
+  /// True when the other one, which is not empty, lies within.
+  bool Holds(TextSpan other) const {
+    return !other.empty() && begin <= other.begin && other.end <= end;
+  }
+  bool operator==(const TextSpan&) const = default;
+};
+
 /// Walks over the lines of a file. A line ends at CR LF, LF or CR; what
 /// stands behind the last line end is a line when it is not empty.
 class LineReader {
@@ -48,8 +61,8 @@ class LineReader {
 
  private:
   std::string_view bytes_;
-  std::size_t place_ = 0;
-  /// The first LF that does not lie before the place.
+  std::size_t offset_ = 0;
+  /// The first LF that does not lie before the offset.
   std::size_t line_feed_;
   std::size_t number_ = 0;
 };

@@ -2,10 +2,10 @@
 #include <exception>
 #include <iostream>
 
-#include "install/time_zone.h"
-#include "install/unzip_command.h"
-#include "support/program_arguments.h"
+#include "install/packages/unzip_command.h"
 #include "support/result.h"
+#include "support/system/program_arguments.h"
+#include "support/system/time_zone.h"
 
 int main(int count, char** arguments) try {
   fragsmith::PrepareTimeZone();

@@ -11,6 +11,8 @@
 #include "model/characteristic_catalogue.h"
 #include "support/random.h"
 #include "tests/support/game_lines.h"
+#include "tests/support/ids.h"
+#include "tests/support/set_parameter.h"
 
 namespace fragsmith {
 namespace {
@@ -26,8 +28,8 @@ TEST(HeaderComment, SaysWhatIsKnown) {
       {{"Ann", "a@b", "http://c"}, "", "//>By: Ann, a@b, http://c|//|"}};
   for (const auto& [author, comment, lines_3_and_4] : cases) {
     Bot bot;
-    (void)bot.SetParameter(kCommentField, comment);
-    (void)bot.SetParameter(kVersionMajorField, "1.5");
+    Set(bot, kCommentField, comment);
+    Set(bot, kVersionMajorField, "1.5");
     EXPECT_EQ(HeaderComment(bot, author),
               GameLines(rule + "//>Bot>version 1.5.0|" + lines_3_and_4 +
                         "//>Made with vexlor's Fragsmith v. 0.97|"
@@ -85,21 +87,21 @@ TEST(BotFiles, AreWrittenAgainByteForByte) {
   for (int round = 0; round < 100; ++round) {
     Bot bot;
     for (const int field : {0, 1, 2, 5, 6}) {
-      (void)bot.SetParameter(field, RandomValue(random, 1));
+      Set(bot, Id(field), RandomValue(random, 1));
     }
-    (void)bot.SetParameter(kRailColorField, RandomValue(random));
-    (void)bot.SetParameter(kArenaLordField, 1.0 * Draw(random, 2));
+    Set(bot, kRailColorField, RandomValue(random));
+    Set(bot, kArenaLordField, 1.0 * Draw(random, 2));
     for (int index = 2; index <= 80; ++index) {
-      for (const int level : kSkillLevels) {
+      for (const Level level : kLevels) {
         if (index > 30) continue;
-        (void)bot.SetParameter(LevelIndex(level, index), RandomValue(random));
+        Set(bot, ParameterId(level, index), RandomValue(random));
       }
-      if (index > 30) (void)bot.SetParameter(index, RandomValue(random));
+      if (index > 30) Set(bot, Id(index), RandomValue(random));
     }
     for (const Format& format : Formats()) {
       const std::string bytes = format.write(bot);
       Bot read;
-      (void)read.SetParameter(kNameIndex, bot.Name());
+      Set(read, kNameField, bot.Name());
       EXPECT_TRUE(format.read(bytes, read).plain_values.empty()) << bytes;
       ASSERT_EQ(format.write(read), bytes);
       // Part of the line ends become LF, or CR alone.

@@ -3,12 +3,17 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "botfiles/left_out.h"
 #include "model/characteristic_catalogue.h"
 #include "tests/support/game_lines.h"
+#include "tests/support/ids.h"
+#include "tests/support/set_parameter.h"
 
 namespace fragsmith {
 namespace {
 
+using ::testing::Contains;
+using ::testing::Each;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
@@ -54,19 +59,19 @@ std::string Filled(std::string_view lines, char level, std::string_view end) {
 /// throttle alone; level 5 everything, as floats.
 Bot DistinctiveBot() {
   Bot bot;
-  (void)bot.SetParameter(kNameIndex, "Nix");
-  (void)bot.SetParameter(kGenderIndex, "it");
+  Set(bot, kNameField, "Nix");
+  Set(bot, kGenderField, "it");
   for (int index = 2; index <= 30; ++index) {
     const bool is_optional = index >= 18;
-    (void)bot.SetParameter(100 + index, is_optional ? 0.0 : 100.0 + index);
-    (void)bot.SetParameter(400 + index, is_optional ? -1.0 : 400.0 + index);
-    (void)bot.SetParameter(500 + index, static_cast<float>(500 + index) + 0.1F);
+    Set(bot, Id(100 + index), is_optional ? 0.0 : 100.0 + index);
+    Set(bot, Id(400 + index), is_optional ? -1.0 : 400.0 + index);
+    Set(bot, Id(500 + index), static_cast<float>(500 + index) + 0.1F);
   }
-  (void)bot.SetParameter(119, 0.1F);
-  (void)bot.SetParameter(122, "x;");
-  (void)bot.SetParameter(430, 0.7F);
+  Set(bot, Id(119), 0.1F);
+  Set(bot, Id(122), "x;");
+  Set(bot, Id(430), 0.7F);
   for (int index = 31; index <= 43; ++index) {
-    (void)bot.SetParameter(index, index + 0.5);
+    Set(bot, Id(index), index + 0.5);
   }
   return bot;
 }
@@ -85,7 +90,7 @@ TEST(CharacteristicFile, IsWrittenToTheByte) {
 
 /// Reads lines of level 4 into a bot whose jumper is 7 there.
 ReadReport Read(const std::string& lines, Bot& bot) {
-  (void)bot.SetParameter(409, 7.0);
+  Set(bot, Id(409), 7.0);
   return ReadCharacteristicFile(GameLines("skill 4|" + lines), "f_c.c",
                                 ReadIdentity::kNo, bot);
 }
@@ -127,16 +132,18 @@ TEST(CharacteristicFile, TakesValuesByThePaddingOfTheKey) {
       {">$JUMPER>>>>>>" + huge + ".5", huge + ".5", 1e40},
       // Lines that hold no value.
       {"//>$JUMPER>>>>>>0.5", 7.0, {}},
-      {"}>$JUMPER>>>>>>0.5", 7.0, {}},
-      {"{>$JUMPER>>>>>>0.5", 7.0, {}},
+      {"}>$JUMPER>>>>>>0.5", 7.0, 0.5},
+      {"{>$JUMPER>>>>>>0.5", 7.0, 0.5},
+      {">$JUMPER|>>0.5", {}, 0.5},
       {">characteristic_jumper>>>>>>0.5", 7.0, {}}};
   for (const auto& row : cases) {
     Bot bot;
     const ReadReport report = Read(row.line, bot);
-    EXPECT_EQ(bot.Parameter(409), row.value) << row.line;
+    EXPECT_EQ(bot.Parameter(Id(409)), row.value) << row.line;
     if (row.plain) {
-      EXPECT_THAT(report.plain_values, ElementsAre(Pair(409, *row.plain)));
-      EXPECT_THAT(NotedLines(report.notes), ElementsAre(2)) << row.line;
+      EXPECT_THAT(report.plain_values, ElementsAre(Pair(Id(409), *row.plain)));
+      EXPECT_THAT(NotedLines(report.notes), Each(2)) << row.line;
+      EXPECT_FALSE(report.notes.empty()) << row.line;
     } else {
       EXPECT_THAT(report.plain_values, IsEmpty()) << row.line;
     }
@@ -149,13 +156,24 @@ TEST(CharacteristicFile, NamesPlaceAndBothValuesInNotes) {
       ">$JUMPER>>>>>>0.1234||>$CHAT_KILL>>>>>\"\xE4;\" x|"
       ">$CAMPER>>>>>>a|>$ALERTNESS>>>>>-2",
       bot);
-  EXPECT_THAT(Described(report.notes),
-              ElementsAre("f_c.c:2: CHARACTERISTIC_JUMPER of level 4: read as "
-                          "0, but 0.1234 stands behind the key.",
-                          "f_c.c:4: CHARACTERISTIC_CHAT_KILL: read as \"ä;\" "
-                          "x\", but \"ä;\" stands behind the key.",
-                          "f_c.c:5: CHARACTERISTIC_CAMPER of level 4: \"a\" "
-                          "is not a number; it is kept as text."));
+  EXPECT_THAT(
+      Described(report.notes),
+      ElementsAre("f_c.c:2: CHARACTERISTIC_JUMPER of level 4: read as "
+                  "0, but 0.1234 stands behind the key.",
+                  "f_c.c:4: CHARACTERISTIC_CHAT_KILL: read as \"ä;\" "
+                  "x\", but \"ä;\" stands behind the key.",
+                  "f_c.c:5: CHARACTERISTIC_CAMPER of level 4: \"a\" "
+                  "is not a number; it is kept as text, and a save puts "
+                  "quotes around it.",
+                  "f_c.c:6: CHARACTERISTIC_ALERTNESS of level 4: a "
+                  "save writes 02 for -2.",
+                  "f_c.c:4: " + AlsoInFile(1, "x")));
+  // Of two, each as it was read.
+  EXPECT_THAT(Described(Read(">$CAMPER>>>>>>0.25||>$CAMPER>0.99", bot).notes),
+              Contains(HasSubstr("f_c.c:2: The file has several values where a "
+                                 "bot has one. The last one counts, and a save "
+                                 "writes it everywhere: CHARACTERISTIC_CAMPER "
+                                 "of level 4: 0.25 gives way to 9.")));
 }
 
 TEST(CharacteristicFile, TakesTheFirstKeyOfTheCatalogue) {
@@ -164,28 +182,58 @@ TEST(CharacteristicFile, TakesTheFirstKeyOfTheCatalogue) {
       ">$AIM_SKILL>>>>>3|>$AIM_SKILL_RAILGUN>>>>99|"
       ">$CHAT_NAME>>>>>\"x\"|>$CROUCHER>>>>>>8 $ATTACK_SKILL 2|",
       bot);
-  EXPECT_EQ(bot.Text(403) + bot.Text(402) + bot.Text(408), "32");
-  EXPECT_EQ(bot.Text(kChatNameIndex), "bot");
+  EXPECT_EQ(bot.Text(Id(403)) + bot.Text(Id(402)) + bot.Text(Id(408)), "32");
+  EXPECT_EQ(bot.Text(kChatNameField), "bot");
 }
 
 TEST(CharacteristicFile, KnowsSkillLines) {
-  const std::pair<std::string, int> cases[] = {
-      {"skill 4", 4},    {"skill>4", 4},    {"> skill  5>{", 5},
-      {"skill 4{", 4},   {"skill 4//x", 4}, {"skill 04", 4},
-      {"skill4", 4},     {"skill 4x", 1},   {"skill 4.0", 1},
-      {"skill -4", 1},   {"skill", 1},      {"Skill 4", 1},
-      {"// skill 4", 1}, {"a skill 4", 1},  {">\"skill 4\"", 1},
-      {"skill 2", 0},    {"skill 11", 0},   {"skill 44444444444444", 0}};
-  for (const auto& [line, expected] : cases) {
+  const struct {
+    std::string line;
+    int level;      ///< Of the value behind the line; 0 for none.
+    bool is_noted;  ///< The line is no such one for the game, or no bare one.
+  } cases[] = {{"skill 4", 4, false},      {"skill>4", 4, false},
+               {"> skill  5>{", 5, false}, {"skill 4{", 4, false},
+               {"skill 4//x", 4, true},    {"skill 04", 4, false},
+               {"} skill 4", 4, true},     {"/* hard */ skill 4", 4, true},
+               {"skill4", 4, true},        {"skill 4x", 1, true},
+               {"skill 4.0", 1, true},     {"skill -4", 1, true},
+               {"skill", 1, true},         {"Skill 4", 1, true},
+               {"// skill 4", 1, true},    {"a skill 4", 1, true},
+               {">\"skill 4\"", 1, true},  {"skill 2", 0, true},
+               {"skill 11", 0, true},      {"skill 44444444444444", 0, true}};
+  for (const auto& row : cases) {
     Bot bot;
     const ReadReport report = ReadCharacteristicFile(
-        GameLines("skill 1|" + line + "|>$JUMPER>>>>>>9"), "f",
+        GameLines("skill 1|" + row.line + "|>$JUMPER>>>>>>9"), "f",
         ReadIdentity::kNo, bot);
-    for (const int level : kSkillLevels) {
-      EXPECT_EQ(bot.Text(LevelIndex(level, 9)), level == expected ? "9" : "");
+    for (const Level level : kLevels) {
+      EXPECT_EQ(bot.Text(ParameterId(level, 9)),
+                NumberOf(level) == row.level ? "9" : "");
     }
-    EXPECT_EQ(report.notes.empty(), expected != 0) << line;
+    EXPECT_EQ(!report.notes.empty(), row.is_noted) << row.line;
   }
+  // A byte order mark is nothing to the game, also where files were joined.
+  for (const char* const above : {"", "skill 1\n{\n}\n"}) {
+    Bot bot;
+    (void)ReadCharacteristicFile(
+        above + ("\xEF\xBB\xBFskill 5\n" + GameLines(">$JUMPER>>>>>>9")), "f",
+        ReadIdentity::kNo, bot);
+    EXPECT_EQ(bot.Text(Id(509)), "9") << above;
+  }
+}
+
+TEST(CharacteristicFile, OffersWhatTheGameReadsInAnotherLevel) {
+  Bot bot;
+  const ReadReport report = Read(
+      ">$JUMPER>>>>>>1|skill 5.0|>$JUMPER>>>>>>2|>$CAMPER>>>>>>3|"
+      "skill 4|>$JUMPER>>>>>>4|",
+      bot);
+  EXPECT_THAT(
+      report.plain_values,
+      ElementsAre(Pair(Id(409), Value(1.0)), Pair(Id(415), Value()),
+                  Pair(Id(509), Value(2.0)), Pair(Id(515), Value(3.0))));
+  // One note for a block, not one for each of its keys.
+  EXPECT_THAT(NotedLines(report.notes), ElementsAre(2, 3, 6));
 }
 
 TEST(CharacteristicFile, SkipsUnknownLevelsButNotTheirSingleValues) {
@@ -195,9 +243,9 @@ TEST(CharacteristicFile, SkipsUnknownLevelsButNotTheirSingleValues) {
       GameLines(values + "1|skill 2|" + values + "2|skill 3|" + values +
                 "3|skill 4|>$CAMPER>>>>>>0.5|"),
       "f", ReadIdentity::kNo, bot);
-  EXPECT_THAT(NotedLines(report.notes), ElementsAre(1, 5, 9));
-  EXPECT_EQ(bot.Text(36), "3");
-  EXPECT_EQ(bot.Text(415), "0.5");
+  EXPECT_THAT(NotedLines(report.notes), ElementsAre(1, 3, 5, 9));
+  EXPECT_EQ(bot.Text(Id(36)), "3");
+  EXPECT_EQ(bot.Text(Id(415)), "0.5");
 }
 
 TEST(CharacteristicFile, ForgetsWhatALaterLinePutsRight) {
@@ -206,22 +254,23 @@ TEST(CharacteristicFile, ForgetsWhatALaterLinePutsRight) {
                    ">$CHAT_KILL>>>>>0.25|>$CHAT_MISC>>>>>0.1234|",
                    bot)
                   .plain_values,
-              ElementsAre(Pair(33, Value(0.1234))));
-  EXPECT_EQ(bot.Text(36), "0.25");
+              ElementsAre(Pair(Id(33), Value(0.1234))));
+  EXPECT_EQ(bot.Text(Id(36)), "0.25");
 }
 
 TEST(CharacteristicFile, TakesTheIdentityOnlyWhenAsked) {
   const std::string lines =
       ">$NAME>>>>>>>\"Big \xC4x\"|>$GENDER>>>>>>\"fe male\"|";
   Bot bot;
-  (void)bot.SetParameter(kCommentField, "c");
-  (void)bot.SetParameter(kVersionMajorField, 3.0);
+  Set(bot, kCommentField, "c");
+  Set(bot, kVersionMajorField, 3.0);
   (void)Read(lines, bot);
-  EXPECT_EQ(bot.Name() + bot.Text(1) + bot.Text(9) + bot.Text(7), "Botmalec3");
+  EXPECT_EQ(bot.Name() + bot.Text(Id(1)) + bot.Text(Id(9)) + bot.Text(Id(7)),
+            "Botmalec3");
   (void)ReadCharacteristicFile(GameLines(lines), "f", ReadIdentity::kYes, bot);
-  EXPECT_EQ(bot.Name() + bot.Text(1) + bot.Text(9) + bot.Text(7),
+  EXPECT_EQ(bot.Name() + bot.Text(Id(1)) + bot.Text(Id(9)) + bot.Text(Id(7)),
             "Big\xC4xfemale0");
-  EXPECT_EQ(bot.Text(85), "big\xE4x");
+  EXPECT_EQ(bot.Text(Id(85)), "big\xE4x");
 }
 
 }  // namespace

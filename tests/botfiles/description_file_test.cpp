@@ -5,27 +5,34 @@
 
 #include <algorithm>
 
+#include "botfiles/left_out.h"
 #include "botfiles/standard_identity.h"
 #include "model/characteristic_catalogue.h"
 #include "tests/support/game_lines.h"
+#include "tests/support/ids.h"
+#include "tests/support/set_parameter.h"
 
 namespace fragsmith {
 namespace {
 
+using ::testing::AllOf;
+using ::testing::Contains;
 using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
 
 /// "fun name|rail colour|model|skin|arena lord" of a bot, and the reverse.
 std::string Looks(const Bot& bot) {
-  return bot.Text(2) + "|" + bot.Text(3) + "|" + bot.Text(5) + "|" +
-         bot.Text(6) + "|" + bot.Text(10);
+  return bot.Text(Id(2)) + "|" + bot.Text(Id(3)) + "|" + bot.Text(Id(5)) + "|" +
+         bot.Text(Id(6)) + "|" + bot.Text(Id(10));
 }
 
 Bot BotWith(const std::string& name, std::string_view looks) {
   Bot bot;
-  (void)bot.SetParameter(kNameIndex, name);
+  Set(bot, kNameField, name);
   for (const int field : {2, 3, 5, 6, 10}) {
     const std::size_t end = looks.find('|');
-    (void)bot.SetParameter(field, std::string(looks.substr(0, end)));
+    Set(bot, Id(field), std::string(looks.substr(0, end)));
     looks.remove_prefix(std::min(end, looks.size() - 1) + 1);
   }
   return bot;
@@ -74,7 +81,13 @@ TEST(DescriptionFile, ReadsOddLinesByItsOwnRules) {
       {"// no model has color", "||M|S|5", 1},
       {"arenalord 2.5", "|None|M|S|2", 1},
       // No number of 16 bits: the old value stays.
-      {"arenaLord>99999", "|None|M|S|5", 0}};
+      {"arenaLord>99999", "|None|M|S|5", 0},
+      {"arenaLord>\"1\"", "|None|M|S|5", 1}, {"color2>5", "|25|M|S|5", 1},
+      {"color>3|color1>4", "|14|M|S|5", 1},
+      // Of several bots the one with the file, or with the name.
+      {"{|model>a|}|{|name>n|model>b|}", "|None|b|default|5", 0},
+      {"{|name>N|color>3|}|{|aifile>bots/n_c.c|model>b|} {|name n|}",
+       "|None|b|default|5", 0}};
   // clang-format on
   for (const auto& row : cases) {
     Bot bot = BotWith("N", "old|9|M|S|5");
@@ -84,13 +97,34 @@ TEST(DescriptionFile, ReadsOddLinesByItsOwnRules) {
     EXPECT_EQ(report.plain_values.size(), row.odd_fields) << row.lines;
   }
   Bot bot;
-  const DescriptionReport report =
-      ReadDescriptionFile("\nfunname \xE4 b\narenaLord \xE4", "f.bot", bot);
+  const DescriptionReport report = ReadDescriptionFile(
+      "name N\nmodel m\naifile bots/n_c.c\nfunname \xE4 b\narenaLord \xE4",
+      "f.bot", bot);
   EXPECT_THAT(Described(report.notes),
-              ElementsAre("f.bot:3: arenaLord: \" ä\" is not a number. The "
+              ElementsAre("f.bot:4: funname: read as \" ä b\", but the game "
+                          "takes \"ä\".",
+                          "f.bot:5: arenaLord: \" ä\" is not a number. The "
                           "bot keeps its value.",
-                          "f.bot:2: funname: read as \" ä b\", but the game "
-                          "takes \"ä\"."));
+                          "f.bot:4: " + AlsoInFile(1, "b")));
+}
+
+TEST(DescriptionFile, TellsWhatItLacksAndWhatItHasTwice) {
+  const std::string whole = "{|name N|aifile bots/n_c.c|model m|funname>F|";
+  const auto notes = [](const std::string& lines) {
+    Bot bot;
+    return Described(ReadDescriptionFile(GameLines(lines), "f.bot", bot).notes);
+  };
+  EXPECT_THAT(notes(whole + "}"), IsEmpty());
+  EXPECT_THAT(notes("{|name N|aifile bots/n_c.c|}"),
+              ElementsAre(HasSubstr("no model, so the game takes its own")));
+  EXPECT_THAT(notes("{|model m|}"),
+              ElementsAre(HasSubstr("no name"), HasSubstr("no aifile")));
+  EXPECT_THAT(notes("// nothing"),
+              Contains(HasSubstr("The game finds no bot in this file")));
+  EXPECT_THAT(notes(whole + "model n|model m|}"),
+              ElementsAre(AllOf(HasSubstr("f.bot:4: "),
+                                HasSubstr("model \"m\" (line 4), model \"n\" "
+                                          "(line 6)"))));
 }
 
 TEST(StandardIdentity, GivesStandardBotsTheirLooks) {
@@ -109,7 +143,7 @@ TEST(StandardIdentity, GivesStandardBotsTheirLooks) {
   for (const auto& [name, looks] : cases) {
     Bot bot = BotWith(name, "old|3|M|S|7");
     // Another case is another bot.
-    SetStandardIdentity(bot, {bot.Text(85)});
+    SetStandardIdentity(bot, {bot.Text(Id(85))});
     EXPECT_EQ(Looks(bot), "|None|Sarge|Default|7");
     SetStandardIdentity(bot, {name});
     EXPECT_EQ(Looks(bot), looks);

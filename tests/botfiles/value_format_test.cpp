@@ -27,6 +27,35 @@ TEST(FormatValue, FollowsTheFilesOwnNumberForm) {
   for (const auto& [value, text] : cases) EXPECT_EQ(FormatValue(value), text);
 }
 
+TEST(NumberForFiles, TakesWhatComesBackFromAFile) {
+  const std::pair<std::string, double> good[] = {{"0", 0},
+                                                 {"-0", 0},
+                                                 {" 1. ", 1},
+                                                 {".35", 0.35},
+                                                 {"+5.1", 5.1},
+                                                 {"0.3500", 0.35},
+                                                 {"1.0000", 1},
+                                                 {"9999.999", 9999.999},
+                                                 {"123456789", 123456789}};
+  for (const auto& [text, number] : good) {
+    EXPECT_EQ(NumberForFiles(text).value_or(-1), number) << text;
+  }
+  for (const std::string text : {"", "No", "0,5", "1e3", "0x1", "1 2"}) {
+    EXPECT_EQ(NumberForFiles(text).error().what,
+              "A number is wanted here, such as 0.35 or 120.");
+  }
+  EXPECT_EQ(NumberForFiles(std::string(400, '9')).error().what,
+            "The number is too large.");
+  for (const std::string text : {"-1", "-0.25"}) {
+    EXPECT_EQ(NumberForFiles(text).error().what,
+              "The files hold no number below 0.");
+  }
+  for (const std::string text :
+       {"0.1234", "12345.678", "12345678901234567", "0.9999999999999999"}) {
+    EXPECT_FALSE(NumberForFiles(text)) << text;
+  }
+}
+
 TEST(CleanValue, TakesNumbersAndTextsApart) {
   const std::string huge(40, '9');
   const std::string beyond(400, '9');

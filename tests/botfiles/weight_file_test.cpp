@@ -1,22 +1,23 @@
 #include "botfiles/weight_file.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <map>
+
 #include "tests/support/game_lines.h"
+#include "tests/support/ids.h"
+#include "tests/support/set_parameter.h"
 
 namespace fragsmith {
 namespace {
-
-using ::testing::ElementsAreArray;
 
 /// Every weight is its own index; one has a text, one is empty.
 Bot DistinctiveBot() {
   Bot bot;
   for (int index = 44; index < 80; ++index) {
-    (void)bot.SetParameter(index, static_cast<double>(index));
+    Set(bot, Id(index), static_cast<double>(index));
   }
-  (void)bot.SetParameter(53, "many");
+  Set(bot, Id(53), "many");
   return bot;
 }
 
@@ -45,26 +46,29 @@ TEST(WeightFiles, TakeValuesByThePaddingOfTheKey) {
     std::string_view line;
     int index;
     Value value;
-    std::vector<std::pair<const int, Value>> plain_values;
+    std::map<ParameterId, Value> plain_values;
   } cases[] = {{"&W_RAILGUN>>>>250", 60, 250.0, {}},
                {"&W_RAILGUN>>>250", 60, 250.0, {}},
                // With one blank the column falls on the last digit.
-               {"&W_RAILGUN 250", 60, 0.0, {{60, 250.0}}},
+               {"&W_RAILGUN 250", 60, 0.0, {{Id(60), 250.0}}},
                {"&W_RAILGUN 25", 60, 25.0, {}},
                {"&W_QUAD 5", 74, 5.0, {}},
                {"&GWW_RAILGUN>>>>9", 60, {}, {}},
                {"&GWW_RAILGUN>>>>9", 68, 9.0, {}},
-               {">&W_HASTE>>>>>9 // x", 76, "9 // x", {{76, 9.0}}},
+               {">&W_HASTE>>>>>9 // x", 76, "9 // x", {{Id(76), 9.0}}},
                {"#define w_railgun>>>>250", 60, {}, {}},
                {"&W_GAUNTLET>>>>250", 44, {}, {}},
                {"// &W_RAILGUN>>>>250", 60, {}, {}},
-               {"& W_RAILGUN>>>>250", 60, {}, {}}};
+               // Other spellings of the directive, for the game alone.
+               {"& W_RAILGUN>>>>250", 60, {}, {{Id(60), 250.0}}},
+               {"#define>W_RAILGUN 250", 60, {}, {{Id(60), 250.0}}},
+               {" # define W_RAILGUN 250", 60, {}, {{Id(60), 250.0}}}};
   for (const auto& row : cases) {
     Bot bot;
     const ReadReport report =
         ReadItemWeightFile(GameLines(row.line), "f_i.c", bot);
-    EXPECT_EQ(bot.Parameter(row.index), row.value) << row.line;
-    EXPECT_THAT(report.plain_values, ElementsAreArray(row.plain_values));
+    EXPECT_EQ(bot.Parameter(Id(row.index)), row.value) << row.line;
+    EXPECT_EQ(report.plain_values, row.plain_values) << row.line;
   }
 }
 

@@ -8,6 +8,8 @@
 #include "chat/chat_commands.h"
 #include "support/random.h"
 #include "tests/support/game_lines.h"
+#include "tests/support/ids.h"
+#include "tests/support/set_parameter.h"
 
 namespace fragsmith {
 namespace {
@@ -36,12 +38,12 @@ std::string FileOf(const std::string& name, const std::string& first_lines) {
 
 TEST(ChatFile, IsWrittenToTheByte) {
   Bot bot;
-  (void)bot.SetParameter(0, "123");
+  Set(bot, Id(0), "123");
   EXPECT_EQ(WriteChatFile(bot, {"Ann", "", ""}),
             HeaderComment(bot, {"Ann", "", ""}) + FileOf("123", ""));
-  (void)bot.SetParameter(0, "mybot");
-  bot.SetChatLine(0, 0, "{{GAMEENTER0}}");
-  bot.SetChatLine(0, 2, "Hi {ANYBOTNAME}!");
+  Set(bot, Id(0), "mybot");
+  bot.SetChatLine(TypeAt(0), 0, "{{GAMEENTER0}}");
+  bot.SetChatLine(TypeAt(0), 2, "Hi {ANYBOTNAME}!");
   EXPECT_EQ(WriteChatFile(bot, {}),
             HeaderComment(bot, {}) +
                 FileOf("mybot", ">>HELLO;|>>\"Hi \", 0, \"!\";|"));
@@ -55,7 +57,7 @@ TEST(ChatFile, ReadsBackWhatItWrote) {
       " ",          ", ",         "\xC4",       "a",        "7"};
   for (int round = 0; round < 100; ++round) {
     Bot bot;
-    for (int type = 0; type < kChatTypeCount; ++type) {
+    for (const ChatTypeId type : kAllChatTypes) {
       for (int lines = static_cast<int>(random() * 4); lines > 0; --lines) {
         std::string line = "x";
         for (int parts = static_cast<int>(random() * 6); parts > 0; --parts) {
@@ -81,11 +83,11 @@ TEST(ChatFile, ReadsOddFilesToTheirEnd) {
     std::vector<std::string> misc;   ///< Lines of random_misc.
     std::vector<std::size_t> noted;  ///< Lines with a note.
   } cases[] = {
-      {enter + ">}|" + misc + "  >}|>>\"out\";|", {"a"}, {"b"}, {}},
+      {enter + ">}|" + misc + "  >}|>>\"out\";|", {"a"}, {"b"}, {9}},
       // A "}" is missing at the end, or before the next type.
       {enter, {"a"}, {""}, {3}},
       {enter + misc + ">}|", {"a"}, {"b"}, {4}},
-      {enter + ">type\"random_misc\"|>>\"b\";|>}|", {"a"}, {"b"}, {4}},
+      {enter + ">type \"random_misc\"|>>\"b\";|>}|", {"a"}, {"b"}, {4}},
       {enter + ">>\"type \"x\"\";|>}|", {"a", "type \"x\""}, {""}, {4}},
       // An unknown type goes to the one in force, a second block behind.
       {">type \"game_leave\"|>{|>>\"c\";|>}|" + misc +
@@ -94,6 +96,20 @@ TEST(ChatFile, ReadsOddFilesToTheirEnd) {
        {"b", "d"},
        {1, 9}},
       {enter + ">}|" + misc + ">}|" + enter + ">}|", {"a", "a"}, {"b"}, {9}},
+      // A save puts quotes on, and makes one chat of two.
+      {"chat \"x\"|{|>type game_enter|>{|>>\"a\";|>}|}|chat \"y\"|{|" + misc +
+           ">}|}|",
+       {"a"},
+       {"b"},
+       {3, 8}},
+      // Blocks of one line are not open, though what is in them is not read.
+      {"chat \"x\"|{|>type \"game_exit\" { \"c\"; }|>type \"game_enter\" {}|" +
+           misc + ">}|}|",
+       {""},
+       {"b"},
+       {3}},
+      // Braces that open or close nothing.
+      {"chat \"x\"|{ {|" + enter + ">}|" + misc + ">}|}|}|", {"a"}, {"b"}, {2}},
       // The name of the bot holds the word.
       {"chat \"typebot\"|{|" + enter + ">}|}|", {"a"}, {""}, {1, 3}},
       // What is passed over inside and outside of blocks.
@@ -101,30 +117,34 @@ TEST(ChatFile, ReadsOddFilesToTheirEnd) {
            ">>//no|> >{ no||>> >|>>\"e\"; // yes|>}|",
        {"a", "e"},
        {""},
-       {13}},
+       {1, 2}},
       {"type \"game_enter\" {|\"a>b\";|>>0x\x1A;|}",
        {"ab", "0x\x1A"},
        {""},
-       {3}}};
+       {2, 3}}};
   for (const auto& row : cases) {
     Bot bot;
-    const Notes notes = ReadChatFile(GameLines(row.text), "f_t.c", bot);
-    EXPECT_EQ(bot.ChatLines(0), row.enter) << row.text;
-    EXPECT_EQ(bot.ChatLines(27), row.misc) << row.text;
+    const Notes notes = ReadChatFile(GameLines(row.text), "f_t.c", bot).notes;
+    EXPECT_EQ(bot.ChatLines(TypeAt(0)), row.enter) << row.text;
+    EXPECT_EQ(bot.ChatLines(TypeAt(27)), row.misc) << row.text;
     EXPECT_EQ(NotedLines(notes), row.noted) << row.text;
   }
 }
 
 TEST(ChatFile, TellsTypesThatBeginAlikeApart) {
   Bot bot;
-  const Notes notes = ReadChatFile(
-      GameLines("type \"level_end_lose\"|\"l\";|}|type \"level_end\"|\"e\";|}|"
-                "type \"level_end_victory\"|\"v\";|}|type \"level_end\"|}|"),
-      "f_t.c", bot);
+  const Notes notes =
+      ReadChatFile(
+          GameLines(
+              "type \"level_end_lose\"|\"l\";|}|type \"level_end\"|\"e\";|}|"
+              "type \"level_end_victory\"|\"v\";|}|type \"level_end\"|}|"),
+          "f_t.c", bot)
+          .notes;
   EXPECT_THAT(Described(notes),
               ElementsAre("f_t.c:10: The type level_end was there before; the "
                           "game uses the last block alone."));
-  EXPECT_EQ(bot.ChatLine(3, 0) + bot.ChatLine(4, 0) + bot.ChatLine(5, 0),
+  EXPECT_EQ(bot.ChatLine(TypeAt(3), 0) + bot.ChatLine(TypeAt(4), 0) +
+                bot.ChatLine(TypeAt(5), 0),
             "evl");
 }
 
@@ -141,7 +161,7 @@ TEST(ChatFile, SurvivesHugeAndBinaryInput) {
         Repeated("{WEAPON}", type), Repeated("type \"\"\n", type, 1),
         Repeated("a\n", type, 1)}) {
     Bot bot;
-    const Notes notes = ReadChatFile(bytes, "f", bot);
+    const Notes notes = ReadChatFile(bytes, "f", bot).notes;
     std::size_t note_bytes = 0;
     for (const Note& note : notes.list()) note_bytes += note.text.size();
     EXPECT_LT(note_bytes, 200'000U) << bytes.substr(18, 10);

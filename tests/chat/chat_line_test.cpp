@@ -6,19 +6,21 @@
 #include <iterator>
 
 #include "support/random.h"
+#include "tests/support/ids.h"
 
 namespace fragsmith {
 namespace {
 
 using ::testing::ElementsAre;
 
-constexpr int kInsult = 24;  // Knows {TARGET} as 0 and {WEAPONUSED} as 1.
-constexpr int kRandom = 26;  // Knows {RANDOMOPP2} as 0, {LAST VICTIM} as 1.
-constexpr int kLevelEnd = 3;
+constexpr ChatTypeId kInsult{24};  // Knows {TARGET} as 0 and {WEAPONUSED} as 1.
+constexpr ChatTypeId kRandom{
+    26};  // Knows {RANDOMOPP2} as 0, {LAST VICTIM} as 1.
+constexpr ChatTypeId kLevelEnd{3};
 
 using Forms = std::pair<std::string, std::string>;
 
-void ExpectThereAndBack(int type, const Forms& forms) {
+void ExpectThereAndBack(ChatTypeId type, const Forms& forms) {
   const auto& [editor, file] = forms;
   EXPECT_EQ(ChatLineToFile(type, editor), file);
   const std::string line = file.substr(file.find_first_not_of(' '));
@@ -72,7 +74,8 @@ TEST(ChatLine, ReadsOtherSpellingsAndKeepsTheRest) {
       {"a{GOOD}b", "\"a\",good,\"b\";"}, {"{TARGET} b", "0,\" b\";"},
       {"a{GOOD}b", "\"a\" , go od  ,\"b\" ;"}, {"a {TARGET}", "\"a \",0;"},
       {"{TARGET}", "0;"}, {"a{TARGET}{GOOD}b", "\"a\", 0, good, \"b\";"},
-      {"{GOOD}{WEAPON}", "good, weapon;"}, {"Rrrrrr.", "\"Rrrrrr.\";  "}};
+      {"{GOOD}{WEAPON}", "good, weapon;"}, {"Rrrrrr.", "\"Rrrrrr.\";  "},
+      {"Rrrrrr.", "\"Rrrrrr.\"; // growl; \"x\""}, {"R", "\"R\"; /* x */"}};
   for (const auto& [editor, file] : spellings) {
     EXPECT_EQ(ChatLineFromFile(kInsult, file).text, editor) << file;
     EXPECT_TRUE(ChatLineFromFile(kInsult, file).oddities.empty()) << file;
@@ -87,15 +90,21 @@ TEST(ChatLine, ReadsOtherSpellingsAndKeepsTheRest) {
       {"a\" \"b", "\"a\" \"b\";"}, {"say \"no\"", "\"say \"no\"\";"},
       {"5\" nails", "\"5\" nails\";"}, {"disease", "disease;"},
       {"a\"; \"b", "\"a\"; \"b\";"}, {"{WEAPON}", "\"weapon\";"},
-      {"no end", "\"no end\""},
-      {"Rrrrrr.", "\"Rrrrrr.\"; // growl; \"x\""}};
+      {"no end", "\"no end\""}};
   for (const auto& [editor, file] : oddities) {
     EXPECT_EQ(ChatLineFromFile(kInsult, file).text, editor) << file;
     EXPECT_EQ(ChatLineFromFile(kInsult, file).oddities.size(), 1U) << file;
   }
-  EXPECT_THAT(ChatLineFromFile(kInsult, "\"a\", \xE4, \"b\";").oddities,
-              ElementsAre("\", ä, \" is not understood and stays as it is "
-                          "written."));
+  const ChatOddity oddity =
+      ChatLineFromFile(kInsult, "\"a\", \xE4, \"b\";").oddities.at(0);
+  EXPECT_EQ(oddity.what + std::string(oddity.kind),
+            "\", ä, \": not understood; stays as it is written.");
+  for (const char* const line : {"line\";", "0, \" \", 1, \" \", 2;",
+                                 "/* old */ \"hi\";"}) {
+    EXPECT_EQ(ChatLineFromFile(kInsult, line).oddities.at(0).kind,
+              ": not understood; a save writes the line in another way.")
+        << line;
+  }
 }
 // clang-format on
 
@@ -110,7 +119,7 @@ TEST(ChatLine, ReadsTheSameAgainOnceWritten) {
     for (int parts = static_cast<int>(random() * 9); parts >= 0; --parts) {
       line += kParts[static_cast<std::size_t>(random() * std::size(kParts))];
     }
-    const int type = static_cast<int>(random() * 28);
+    const ChatTypeId type = TypeAt(static_cast<int>(random() * 28));
     const std::string first = ChatLineFromFile(type, line + ";").text;
     std::string file = ChatLineToFile(type, first);
     file.erase(0, file.find_first_not_of(' '));

@@ -18,6 +18,7 @@ TEST(SynonymList, ReadsFieldsBehindTheHeader) {
     bool is_whole;
   } cases[] = {{"", {""}, true},
                {head, {""}, true},
+               {"\"a\"\r\n\"b\"\r\n", {"a", "b"}, true},
                {head + "\"a\"\r\n\"b \xC4\"\r\n", {"a", "b \xC4"}, true},
                {head + "a,b\r\r\"a,\r\nb\"", {"a", "b", "a,\r\nb"}, true},
                {head + "\"\"\n\"\"\n\"a\"\n\"\"\n", {"a", ""}, true},

@@ -11,7 +11,10 @@
 #include <string_view>
 #include <vector>
 
+#include "checks/bot_on_disk.h"
 #include "checks/file_checks.h"
+#include "game/given_files.h"
+#include "install/packages/package_writer.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -24,6 +27,18 @@ struct EngineCase {
   std::string title;
   std::string find;
   std::string put;
+  /// What the game says first, with the file by its part.
+  std::string message = {};
+  /// Part, find and put of further changes.
+  std::vector<std::array<std::string, 3>> more = {};
+
+  /// The default character in force, without what stands behind it.
+  std::string Fallback() const {
+    return fallback.substr(0, fallback.find(','));
+  }
+  bool Is(std::string_view word) const {
+    return Contains(fallback, "," + std::string(word));
+  }
 };
 
 inline constexpr std::array<double, 4> kEngineSkills = {1, 2, 4, 5};
@@ -59,9 +74,16 @@ inline std::vector<EngineCase> ReadEngineCases(
     if (line.starts_with('#')) continue;
     std::istringstream columns(line);
     EngineCase one;
-    for (std::string* const column : {&one.verdicts, &one.part, &one.fallback,
-                                      &one.title, &one.find, &one.put}) {
+    for (std::string* const column :
+         {&one.verdicts, &one.part, &one.fallback, &one.title, &one.find,
+          &one.put, &one.message}) {
       std::getline(columns, *column, '\t');
+    }
+    for (std::array<std::string, 3> change;
+         std::getline(columns, change[0], '\t');) {
+      std::getline(columns, change[1], '\t');
+      std::getline(columns, change[2], '\t');
+      one.more.push_back(change);
     }
     cases.push_back(one);
   }
@@ -128,14 +150,17 @@ inline std::map<std::string, std::string> GoodBot() {
   return files;
 }
 
-/// The good bot with the change of a case, under a name of its own. False when
-/// there is nothing to change.
-inline bool MakeEngineCase(const EngineCase& one, const std::string& name,
-                           std::map<std::string, std::string>& files) {
-  files = GoodBot();
-  std::string& text = files.at(one.part);
-  const std::string find = WithoutEscapes(one.find);
-  const std::string put = WithoutEscapes(one.put);
+/// Changes a file, or makes a new one. False when there is nothing to change.
+inline bool ChangeFile(const std::string& part, const std::string& as_found,
+                       const std::string& as_put,
+                       std::map<std::string, std::string>& files) {
+  const std::string find = WithoutEscapes(as_found);
+  const std::string put = WithoutEscapes(as_put);
+  if (as_put == "!") {
+    files.erase(part);
+    return true;
+  }
+  std::string& text = files[part];
   if (find.empty()) {
     text = put + text;
   } else if (find == "$") {
@@ -151,14 +176,37 @@ inline bool MakeEngineCase(const EngineCase& one, const std::string& name,
     if (at == std::string::npos) return false;
     text.replace(at, find.size(), put);
   }
-  if (one.put == "!") files.erase(one.part);
+  return true;
+}
+
+/// The good bot with the changes of a case, under a name of its own. False when
+/// there is nothing to change. Parts that are paths in the game come with it.
+inline bool MakeEngineCase(const EngineCase& one, const std::string& name,
+                           std::map<std::string, std::string>& files) {
+  files = GoodBot();
+  if (!ChangeFile(one.part, one.find, one.put, files)) return false;
+  for (const auto& [part, find, put] : one.more) {
+    if (!ChangeFile(part, find, put, files)) return false;
+  }
   std::string in_capitals = name;
   for (char& letter : in_capitals) letter = ToUpper(letter);
-  for (auto& [part, bytes] : files) {
-    bytes = ReplaceAll(bytes, "botx", name);
-    bytes = ReplaceAll(bytes, "BOTX", in_capitals);
+  const auto rename = [&](const std::string& text) {
+    return ReplaceAll(ReplaceAll(text, "botx", name), "BOTX", in_capitals);
+  };
+  std::map<std::string, std::string> renamed;
+  for (const auto& [part, bytes] : files) {
+    renamed[rename(part)] = rename(bytes);
   }
+  files = std::move(renamed);
   return true;
+}
+
+/// Where a part of a bot lies in the game.
+inline std::string PathOfPart(const std::string& part,
+                              const std::string& name) {
+  if (part == "bot") return "scripts/" + name + ".bot";
+  if (part.size() > 1) return part;
+  return "botfiles/bots/" + name + "_" + part + ".c";
 }
 
 /// The files that stand for the default character; none for the game's own.
@@ -189,22 +237,75 @@ inline BotFileSet FileSetOf(const std::map<std::string, std::string>& files,
   return {file("bot"), file("c"), file("w"), file("i"), file("t")};
 }
 
-/// Our verdicts, a letter for each skill.
-inline std::string VerdictLetters(const BotFileSet& set,
-                                  const std::string& fallback,
+/// Where the game's own files are looked for, given the default character in
+/// force.
+inline IncludeLookup WithFallback(const std::string& fallback,
                                   const IncludeLookup& game) {
-  const std::map<std::string, std::string> others = FallbackFiles(fallback);
-  const IncludeLookup lookup = [&](std::string_view path) {
+  return [others = FallbackFiles(fallback), game](std::string_view path) {
     constexpr std::string_view kFolder = "bots/";
     const auto found = others.find(std::string(
         path.substr(path.starts_with(kFolder) ? kFolder.size() : 0)));
     return found != others.end() ? std::optional(found->second) : game(path);
   };
+}
+
+/// Our verdicts, a letter for each skill.
+inline std::string VerdictLetters(const BotFileSet& set,
+                                  const IncludeLookup& game) {
   std::string letters;
   for (const double skill : kEngineSkills) {
-    letters += "WDR"[static_cast<int>(VerdictAt(set, lookup, skill))];
+    letters += "WODR"[static_cast<int>(VerdictAt(set, game, skill))];
   }
   return letters;
+}
+
+/// Puts the files of a case where somebody would have them: into the folder, or
+/// into a package there.
+inline void PutEngineCase(const EngineCase& one, const std::string& name,
+                          const std::map<std::string, std::string>& files,
+                          const std::filesystem::path& folder) {
+  std::map<std::string, std::string> by_path;
+  for (const auto& [part, bytes] : files) {
+    by_path[PathOfPart(part, name)] = bytes;
+  }
+  std::vector<PackageEntry> entries;
+  for (const auto& [path, bytes] : by_path) {
+    entries.push_back({path, bytes});
+    if (one.Is("pk3")) continue;
+    std::filesystem::create_directories((folder / path).parent_path());
+    std::ofstream(folder / path, std::ios::binary) << bytes;
+  }
+  if (!one.Is("pk3")) return;
+  std::filesystem::create_directories(folder);
+  (void)WritePackage(folder / ("bot-" + name + ".pk3"), entries);
+}
+
+/// What check and try look at: the files that PutEngineCase() has put there.
+struct CheckedCase {
+  GivenFiles given;
+  BotFileSet set;
+  IncludeLookup look_up;
+};
+
+inline CheckedCase OpenEngineCase(const EngineCase& one,
+                                  const std::string& name,
+                                  const std::filesystem::path& folder,
+                                  const IncludeLookup& game,
+                                  const std::string& bots_of_game) {
+  CheckedCase checked;
+  checked.given = one.Is("pk3")
+                      ? GivenFiles::OfPackage(folder / ("bot-" + name + ".pk3"))
+                            .value_or(GivenFiles())
+                      : GivenFiles::OfFolder(folder / "botfiles/bots", true);
+  checked.set = ReadBot(checked.given, name).files;
+  AddNamesTaken(bots_of_game, "scripts/bots.txt", checked.set);
+  checked.look_up = [given = checked.given,
+                     others = WithFallback(one.Fallback(), game)](
+                        std::string_view path) {
+    std::optional<GameFile> own = given.Open("botfiles/" + std::string(path));
+    return own ? std::optional(own->bytes) : others(path);
+  };
+  return checked;
 }
 
 }  // namespace fragsmith

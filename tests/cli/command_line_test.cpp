@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-#include "install/settings_file.h"
+#include "install/program/settings_file.h"
 #include "support/files.h"
 #include "tests/support/package_maker.h"
 #include "tests/support/test_folder.h"
@@ -23,6 +23,7 @@ using nlohmann::json;
 using ::testing::AllOf;
 using ::testing::Contains;
 using ::testing::HasSubstr;
+using ::testing::Not;
 using ::testing::StartsWith;
 
 class CommandLine : public ::testing::Test {
@@ -34,7 +35,7 @@ class CommandLine : public ::testing::Test {
   };
 
   CommandLine() {
-    settings_.WinZipDir = fs::path(WZUNZIP_PATH).parent_path().string();
+    settings_.WinZipDir = fs::absolute(WZUNZIP_PATH).parent_path().string();
     settings_.WorkDir = folder_.path().string();
     SaveSettings();
   }
@@ -111,7 +112,7 @@ TEST_F(CommandLine, TellsDoneFailedAndWrongUsageApart) {
 TEST_F(CommandLine, HelpsWithEveryCommand) {
   using Row = std::pair<std::string, std::vector<std::string>>;
   for (const auto& [command, options] : std::vector<Row>{
-           {"new", {"--preset", "{zeros,average}", "--name", "--seed"}},
+           {"new", {"--preset", "sniper", "--name", "--seed", "--game"}},
            {"make", {"FILE", "--into DIR", "--layout", "--pk3"}},
            {"load", {"SOURCE", "NAME", "--layout", "--no-desc", "--as-game"}},
            {"scan", {"GAMEFOLDER", "--json"}},
@@ -130,6 +131,14 @@ TEST_F(CommandLine, BringsABotThroughFilesAndBack) {
   const std::string seven = Run("new --preset average --seed 7").out;
   EXPECT_EQ(Run("new --preset average --seed 7").out, seven);
   EXPECT_NE(Run("new --preset average --seed 8").out, seven);
+  const Outcome surprise = Run("new --preset surprise");
+  ASSERT_THAT(surprise.err, testing::StartsWith("Drawn with --seed "));
+  EXPECT_EQ(Run("new --preset surprise " +
+                surprise.err.substr(11, surprise.err.find('.') - 11))
+                .out,
+            surprise.out);
+  EXPECT_NE(Run("new --preset sniper --seed 1").out,
+            Run("new --preset camper --seed 1").out);
   // Something in every corner of the document.
   json bot = json::parse(seven);
   bot.merge_patch(json::parse(R"({
@@ -195,6 +204,57 @@ TEST_F(CommandLine, PrintsWhatItWroteAndCountsPackages) {
   ExpectSettings();
 }
 
+TEST_F(CommandLine, SparesWhatOthersMade) {
+  const std::string two =
+      "{\nname Rookie\naifile bots/rookie_c.c\n}\n"
+      "{\nname Zora\naifile bots/zora_c.c\n}\n";
+  const std::string document = R"({"name": "Rookie"})";
+  folder_.Write("to/rookie.bot", two);
+  folder_.Write("to/rookie_c.c", "// by hand\n");
+  const Outcome refused = Run("make - --into @to", document);
+  EXPECT_EQ(refused.status, 1);
+  EXPECT_EQ(refused.out, "");
+  EXPECT_THAT(refused.err,
+              StartsWith("fragsmith-cli: " + Path("to/rookie.bot") +
+                         ": The file describes other bots, which would go: "
+                         "\"Zora\". Choose another folder"));
+  EXPECT_EQ(folder_.Read("to/rookie.bot"), two);
+  EXPECT_EQ(folder_.Read("to/rookie_c.c"), "// by hand\n");
+  fs::remove(folder_ / "to/rookie.bot");
+
+  // So is a package with more in it.
+  const std::string package = MakeZip({{"models/players/zora/head.md3", "x"}});
+  folder_.Write("to/bot-Rookie.pk3", package);
+  EXPECT_THAT(Run("make - --into @to --pk3", document).err,
+              HasSubstr("bot-Rookie.pk3: Other files in it, which would go: "
+                        "1. Choose"));
+  EXPECT_EQ(folder_.Read("to/bot-Rookie.pk3"), package);
+
+  // What was made by hand is kept each time, and said.
+  EXPECT_THAT(Run("make - --into @to", document).err,
+              HasSubstr("rookie_c.c' was not made by Fragsmith. It is kept as "
+                        "'rookie_c.c.bak'."));
+  EXPECT_EQ(folder_.Read("to/rookie_c.c.bak"), "// by hand\n");
+  EXPECT_EQ(Run("make - --into @to", document).err, "");
+  folder_.Write("to/rookie_c.c", "// again\n");
+  EXPECT_THAT(Run("make - --into @to", document).err,
+              HasSubstr("'rookie_c.c.bak2'"));
+  EXPECT_EQ(folder_.Read("to/rookie_c.c.bak"), "// by hand\n");
+  EXPECT_EQ(folder_.Read("to/rookie_c.c.bak2"), "// again\n");
+
+  // A name that stands in another description, too.
+  folder_.Write("to/other.bot", "{\nname ROOKIE\n}\n");
+  EXPECT_THAT(Run("make - --into @to", document).err,
+              AllOf(HasSubstr(Path("to/other.bot") +
+                              "' describes a bot \"Rookie\" too."),
+                    HasSubstr("'rookie.bot' the game takes the one that it "
+                              "reads first")));
+  folder_.Write("to/bots.txt", two);
+  EXPECT_THAT(Run("make - --into @to", document).err,
+              AllOf(HasSubstr(Path("to/bots.txt") + "' describes"),
+                    HasSubstr("The game takes that one")));
+}
+
 TEST_F(CommandLine, RefusesToMakeWhatCannotBe) {
   const std::string field = "fragsmith-cli: standard input: Field ";
   std::string forbidden;
@@ -229,6 +289,67 @@ TEST_F(CommandLine, RefusesToMakeWhatCannotBe) {
   ExpectSettings();
 }
 
+TEST_F(CommandLine, MakesNoMacrosOfAGameThatItDoesNotKnow) {
+  folder_.Write("empty/baseq3/readme", "");
+  folder_.Write(
+      "game/baseq3/pak0.pk3",
+      MakeZip({{"botfiles/inv.h", "#define INVENTORY_SHOTGUN 5\n"},
+               {"botfiles/fw_weap.c", "weight \"Shotgun\" { return SGW; }"}}));
+  const std::string make = "make - --into @to --game-macros";
+  for (const std::string game : {"", " --game @none"}) {
+    const Outcome refused = Run(make + game, "{}");
+    EXPECT_EQ(refused.status, 1) << game;
+    EXPECT_THAT(refused.err, HasSubstr("--game-macros needs the folder of a "
+                                       "game. Give --game, or set the folder"));
+    EXPECT_TRUE(fs::is_empty(folder_ / "to")) << game;
+  }
+  const Outcome refused = Run(make + " --game @empty", "{}");
+  EXPECT_EQ(refused.status, 1);
+  EXPECT_THAT(refused.err, HasSubstr("There is no game in this folder. Give"));
+  // Files that have them are not told that ours would lack them.
+  const std::string check = "check @to --game @game";
+  Run("make - --into @to", "{}");
+  EXPECT_THAT(Run(check).out, HasSubstr("[weights-of-other-macros]"));
+  EXPECT_EQ(Run(make + " --game @game", "{}").status, 0);
+  EXPECT_THAT(folder_.Read("to/bot_w.c"), HasSubstr("#define SGW\t"));
+  EXPECT_THAT(Run(check).out, Not(HasSubstr("[weights-of-other-macros]")));
+}
+
+TEST_F(CommandLine, LeavesTheNameOfABotInItsOwnPackage) {
+  Run("make - --into @to --pk3", R"({"name": "Rookie"})");
+  const std::string before = folder_.Read("to/bot-Rookie.pk3");
+  const std::string edit = "edit @to/bot-Rookie.pk3 --set name=";
+  for (const std::string more : {"", " --dry-run"}) {
+    const Outcome refused = Run(edit + "Zork" + more);
+    EXPECT_EQ(refused.status, 1) << more;
+    EXPECT_EQ(refused.out, "") << more;
+    EXPECT_THAT(refused.err, HasSubstr("Under its new name the bot's own "
+                                       "package would be bot-Zork.pk3."));
+    EXPECT_EQ(folder_.Read("to/bot-Rookie.pk3"), before) << more;
+  }
+  EXPECT_EQ(Run(edit + "ROOKIE").status, 0);
+  EXPECT_NE(folder_.Read("to/bot-Rookie.pk3"), before);
+  fs::rename(folder_ / "to/bot-Rookie.pk3", folder_ / "to/mod.pk3");
+  EXPECT_THAT(Run("edit @to/mod.pk3 --set funName=x").err,
+              HasSubstr("The package is not this bot's own, bot-ROOKIE.pk3. "
+                        "Take the bot's files out of it"));
+}
+
+TEST_F(CommandLine, TakesADocumentOfANewerVersion) {
+  const std::string newer = R"({"format": 2, "name": "Newt", "tags": []})";
+  const Outcome made = Run("make - --into @to", newer);
+  EXPECT_EQ(made.status, 0);
+  EXPECT_EQ(std::count(made.out.begin(), made.out.end(), '\n'), 5);
+  EXPECT_EQ(made.err,
+            "standard input: A newer Fragsmith wrote this: it has format 2, "
+            "and this one knows 1. What is known is read.\n"
+            "standard input: Field tags: there is no such key. It is left "
+            "out.\n");
+  folder_.Write("new.json", newer);
+  EXPECT_THAT(Run("diff @new.json @to").err,
+              StartsWith(Path("new.json") + ": A newer Fragsmith"));
+}
+
 TEST_F(CommandLine, AsksForANameWhereThereAreSeveral) {
   for (const std::string name : {"b", "\xC3\x84", "A"}) {
     Run("make - --into @bots", json{{"name", name}}.dump());
@@ -255,8 +376,9 @@ TEST_F(CommandLine, AsksForANameWhereThereAreSeveral) {
          "Error during load: Unable to find bot file for c.\n");
   // What there is of a bot is loaded.
   fs::remove(folder_ / "bots/b_c.c");
-  expect("load @bots b", 0,
-         "Error during load: Unable to find characteristics file for b.\n");
+  EXPECT_THAT(Run("load @bots b").err,
+              ::testing::StartsWith("Error during load: Unable to find "
+                                    "characteristics file for b.\n"));
 }
 
 TEST_F(CommandLine, TellsOddValuesAndTakesTheGamesOnDemand) {
@@ -270,6 +392,22 @@ TEST_F(CommandLine, TellsOddValuesAndTakesTheGamesOnDemand) {
     EXPECT_THAT(outcome.out,
                 HasSubstr("\"CHARACTERISTIC_AGGRESSION\": " +
                           std::string(option.empty() ? "0," : "0.1234,")));
+  }
+
+  // What only the game's own reader understands.
+  const std::vector<std::pair<std::string, std::string>> cases = {
+      {"AGGRESSION 0200", "128,"},
+      {"AGGRESSION 240.", "235.2,"},
+      {"AGGRESSION 1..5", "0.85,"},
+      {"AGGRESSION \"0.6\"", "0,"},
+      {"AGGRESSION 0.5\n#if 0\nCHARACTERISTIC_AGGRESSION 0.7\n#endif", "0.5,"}};
+  for (const auto& [written, value] : cases) {
+    folder_.Write("odd_c.c",
+                  "#include \"chars.h\"\nskill 4\n{\nCHARACTERISTIC_" +
+                      written + "\n}\n");
+    EXPECT_THAT(Run("load @odd_c.c --no-description --as-game").out,
+                HasSubstr("\"CHARACTERISTIC_AGGRESSION\": " + value))
+        << written;
   }
 }
 
@@ -287,7 +425,9 @@ TEST_F(CommandLine, ListsAGamesFolder) {
   EXPECT_THAT(outcome.err, AllOf(HasSubstr("Bots.txt found!: " + own +
                                            " has an additional "
                                            "'bots.txt' file!\n"),
-                                 HasSubstr("\nbad.pk3: ")));
+                                 HasSubstr("\nbad.pk3: "),
+                                 HasSubstr("\nAdd-ons: 1 model, 1 skin, 1 bot."
+                                           " New: M\xC3\xBCller/Red, X.\n")));
   const json lists = json::parse(outcome.out);
   EXPECT_EQ(lists["models"].size(), 24U);
   EXPECT_EQ(lists["bots"].size(), 33U);

@@ -26,6 +26,7 @@ namespace fs = std::filesystem;
 using nlohmann::json;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
+using ::testing::Not;
 
 /// The files of a bot "x", all empty but the description.
 std::vector<TestEntry> BotFiles(const std::string& description) {
@@ -134,6 +135,20 @@ TEST_F(ProcessTest, AnswersWithItsExitStatus) {
 }
 
 // What a package's names say never decides where something is written.
+TEST_F(ProcessTest, CallsMembersAsThePackageSpellsThem) {
+  std::vector<TestEntry> entries =
+      BotFiles("{\nname x\nfunname Good\naifile bots/x_c.c\n}\n");
+  entries.back().name = "scripts/X.BOT";
+  folder_.Write("run/bot-x.pk3", MakeZip(entries));
+  const Outcome edit = Run("$cli edit bot-x.pk3 --set funName=Max --dry-run");
+  EXPECT_THAT(edit.out, HasSubstr("--- a/scripts/X.BOT")) << edit.err;
+  // The game looks one folder deeper for descriptions.
+  entries.back().name = "scripts/deep/x.bot";
+  folder_.Write("run/deep.pk3", MakeZip(entries));
+  EXPECT_THAT(Run("$cli check deep.pk3").out,
+              HasSubstr("The game reads scripts/deep/x.bot"));
+}
+
 TEST_F(ProcessTest, LoadsNothingButPlainFilesOutOfAPackage) {
   std::vector<TestEntry> hostile = BotFiles("funname\tGood\n");
   const std::string outside = (folder_ / "outside").string();
@@ -152,7 +167,8 @@ TEST_F(ProcessTest, LoadsNothingButPlainFilesOutOfAPackage) {
                 MakeLink(MakeZip(BotFiles(secret.string())), "scripts/x.bot"));
   const std::set<std::string> before = Listing();
   const Outcome good = Run("$cli load names.pk3 x");
-  EXPECT_EQ(json::parse(good.out)["funName"], "Good") << good.err;
+  // Of two of one name the last counts, as for the game.
+  EXPECT_EQ(json::parse(good.out)["funName"], "Second") << good.err;
   const Outcome link = Run("$cli load link.pk3");
   EXPECT_EQ(json::parse(link.out)["funName"], "") << link.err;
 
@@ -163,7 +179,7 @@ TEST_F(ProcessTest, LoadsNothingButPlainFilesOutOfAPackage) {
     ++climbing;
     const Outcome outcome = Run("$cli load names.pk3 '" + name + "'");
     EXPECT_EQ(outcome.status, 1) << name;
-    EXPECT_THAT(outcome.err, HasSubstr("Load failed!: Bot loading failed\n"));
+    EXPECT_THAT(outcome.err, HasSubstr("Load failed!: Bot loading failed"));
   }
   EXPECT_EQ(climbing, 3);
   EXPECT_EQ(Listing(), before);
@@ -176,8 +192,154 @@ TEST_F(ProcessTest, LeavesTheTemporaryFolderAsItWas) {
   const Outcome nowhere = Run("TMPDIR=/dev/null $cli load x.pk3");
   EXPECT_EQ(nowhere.status, 1);
   EXPECT_EQ(nowhere.err,
-            "Load failed!: Bot loading failed\n"
+            "Load failed!: Bot loading failed. No temporary folder can be "
+            "made: Not a directory. Check the system's temporary folder "
+            "(TMPDIR) and its free space.\n"
             "Operation cancelled!: Bot X not loaded.\n");
+}
+
+TEST_F(ProcessTest, EndsTheServerAndItsFilesWhenInterrupted) {
+  ASSERT_EQ(Run("$cli new --preset average --name x >x.json && mkdir t").status,
+            0);
+  // One that is started in turn, and deaf, ends with it.
+  folder_.WriteProgram("run/ioq3ded",
+                       "#!/bin/sh\n"
+                       "sh -c 'trap \"\" TERM; echo $$ >>pids; sleep 60' &\n"
+                       "echo $$ >>pids; wait\n");
+  const std::string trial = "try x.json --engine ioq3ded --seconds 500";
+  const std::string match = "match x.json x.json --engine ioq3ded";
+  for (const auto& [command, signal, status] :
+       {std::tuple(trial, "INT", 130), std::tuple(trial, "TERM", 143),
+        std::tuple(trial, "HUP", 129), std::tuple(trial, "PIPE", 141),
+        std::tuple(match, "INT", 130), std::tuple(match, "TERM", 143)}) {
+    SCOPED_TRACE(signal);
+    const Outcome outcome =
+        Run("rm -f pids; export TMPDIR=$PWD/t; env --default-signal=INT $cli"
+            " " +
+            command +
+            " &"
+            " for i in $(seq 2000); do [ \"$(wc -l <pids)\" = 2 ] && break;"
+            "   sleep 0.01; done 2>/dev/null;"
+            " kill -" +
+            std::string(signal) +
+            " $!; wait $!; status=$?;"
+            " for pid in $(cat pids); do"
+            "   kill -0 $pid && ! grep -q ') Z' /proc/$pid/stat && echo left;"
+            " done 2>/dev/null; ls -A t; exit $status");
+    EXPECT_EQ(outcome.status, status) << outcome.err;
+    EXPECT_EQ(outcome.out, "");
+  }
+}
+
+TEST_F(ProcessTest, PlaysMatchesAndTellsWhatCameOfThem) {
+  ASSERT_EQ(Run("$cli new --preset average --name x >x.json && mkdir t").status,
+            0);
+  // The first bot wins each match by 20 to 2; the third goes wrong once.
+  folder_.WriteProgram(
+      "run/ded",
+      "#!/bin/sh\nlog=$(echo \"$*\" | sed 's/.*fs_homepath \\([^ ]*\\) "
+      ".*/\\1/')\n"
+      "cp $log/fragsmith/match.cfg $$.cfg; log=$log/fragsmith/games.log\n"
+      "echo >>count; [ $(wc -l <count) = 3 ] && { echo oh no; exit 1; }\n"
+      "{ echo ' 0:00 InitGame: '; echo ' 0:00 ClientUserinfoChanged: 0 "
+      "n\\x\\'\n"
+      "echo ' 0:00 ClientUserinfoChanged: 1 n\\x-2\\'\n"
+      "for i in $(seq 20); do\n"
+      "echo ' 1:00 Kill: 0 1 7: x killed x-2 by MOD_ROCKET'; done\n"
+      "echo ' 2:00 Exit: Timelimit hit.'\n"
+      "echo ' 2:00 score: 20  ping: 0  client: 0 x'\n"
+      "echo ' 2:00 score: 2  ping: 0  client: 1 x-2'; } >$log\n");
+  const std::string match =
+      "rm -f count *.cfg; TMPDIR=$PWD/t $cli match x.json x.json --engine ded"
+      " --minutes 2 --games ";
+  const Outcome text = Run(match +
+                           "6; echo $?; ls -A t; grep -h '^addbot'"
+                           " *.cfg | grep -c 'x-2'");
+  EXPECT_THAT(text.err, HasSubstr("It printed last: oh no"));
+  EXPECT_THAT(text.err, HasSubstr("is played again.\n"));
+  EXPECT_THAT(text.out, HasSubstr("6 matches of 2 minutes on q3dm1"));
+  EXPECT_THAT(text.out, HasSubstr("x killed with: 120 rocket launcher;"));
+  EXPECT_THAT(text.out, HasSubstr("\nx is better than x-2: 91 % ("));
+  EXPECT_TRUE(text.out.ends_with("\n0\n7\n")) << text.out;
+  const Outcome bare = Run(match + "2 --json");
+  EXPECT_EQ(bare.status, 0) << bare.err;
+  EXPECT_THAT(bare.out, HasSubstr("\"fragsPerMinute\": {\n        \"value\": "
+                                  "10.0,"));
+  EXPECT_THAT(bare.out, HasSubstr("\"difference\": \"none\""));
+
+  const Outcome sure = Run(match + "90 --until-sure");
+  EXPECT_THAT(sure.out, HasSubstr("better than x-2, which was clear after 8 "
+                                  "matches: 91 % ("));
+  const Outcome csv = Run(match + "1 --csv");
+  EXPECT_EQ(csv.out,
+            "match,map,seconds,bot,source,skill,score,kills,deaths,suicides,"
+            "falls\n1,q3dm1,120,x,x.json,4,20,20,0,0,0\n"
+            "1,q3dm1,120,x-2,x.json,4,2,0,20,0,0\n");
+  // Played apart and put together, it is the same.
+  const std::string whole = Run(match + "4").out;
+  const Outcome jobs = Run(match +
+                           "4 --print-jobs >jobs && wc -l <jobs;"
+                           " sed \"s|^fragsmith-cli|$cli|; s/ --program-folder"
+                           " [^ ]*//\" jobs | sh >results;"
+                           " $cli match --merge results");
+  EXPECT_EQ(jobs.out, "4\n" + whole) << jobs.err;
+  EXPECT_EQ(Run("echo '{\"bots\": 1}' >odd; $cli match --merge odd").status, 1);
+
+  const Outcome ladder =
+      Run("mkdir l; cp x.json l; $cli make x.json --into l >made;"
+          " rm -f l/*.pk3 count; $cli match --ladder l --engine ded --games 4"
+          " --jobs 1");
+  EXPECT_THAT(ladder.out, HasSubstr("\nx    4      195 ("));
+  EXPECT_THAT(ladder.out, HasSubstr("x-2  4      -195 ("));
+  EXPECT_THAT(ladder.out, HasSubstr("x@l\n"));
+
+  // It wins by 20 to 2 whatever its values are.
+  const Outcome tuned =
+      Run("rm -f count; $cli tune x.json x.json --engine ded --jobs 1"
+          " --output tuned.json; echo $?; $cli diff x.json tuned.json");
+  EXPECT_THAT(tuned.out, HasSubstr("\nstrength 0.000: 91 % ("));
+  EXPECT_THAT(tuned.out, HasSubstr("\nstrength -1.000: 91 % ("));
+  EXPECT_THAT(tuned.out, HasSubstr("the bot does not come to 50 %. It took"));
+  const std::size_t status = tuned.out.find("\n3\n");
+  ASSERT_NE(status, std::string::npos) << tuned.out << tuned.err;
+  EXPECT_THAT(tuned.out.substr(0, status + 1),
+              HasSubstr(tuned.out.substr(status + 3)));
+
+  EXPECT_EQ(Run(match + "2 --skill 1,2,3").status, 2);
+  EXPECT_EQ(Run("$cli match x.json --engine ded").status, 2);
+  EXPECT_EQ(Run("$cli match x.json none/y_c.c --engine ded").status, 1);
+  const Outcome none =
+      Run("printf '#!/bin/sh\nexit 1\n' >ded; chmod +x ded;"
+          " $cli match x.json x.json --engine ded");
+  EXPECT_EQ(none.status, 1);
+  EXPECT_EQ(none.out, "");
+}
+
+TEST_F(ProcessTest, BearsABabblingServerAndOddPaths) {
+  ASSERT_EQ(Run("$cli new --preset average --name x >x.json").status, 0);
+  folder_.WriteProgram("run/babble-ded", "#!/bin/sh\nexec yes\n");
+  const Outcome babble =
+      Run("mkdir t; TMPDIR=$PWD/t $cli try x.json --engine babble-ded"
+          " --seconds 500; ls -A t");
+  EXPECT_THAT(babble.err, HasSubstr("The engine prints without end."));
+  EXPECT_EQ(babble.out, "It is not known what the game makes of x.\n");
+
+  // Tells what it is given, for each path whether it is there.
+  folder_.WriteProgram("run/\xC3\xA4 \"'ded",
+                       "#!/bin/sh\necho \"$@\"; ls -d \"$6/fragsmith\" "
+                       "\"$3/baseq3\"\n");
+  const Outcome odd =
+      Run("mkdir -p \"\xC3\xA4 'b\" 'd\"e/baseq3'; TMPDIR=\"$PWD//\xC3\xA4 "
+          "'b\" $cli"
+          " try x.json --engine \"$PWD//\xC3\xA4 \\\"'ded\" --data './/d\"e'");
+  EXPECT_THAT(odd.err, HasSubstr("/data +set fs_homepath "));
+  EXPECT_THAT(odd.err, HasSubstr("/data/baseq3\n"));
+  EXPECT_THAT(odd.err, HasSubstr("/fragsmith\n"));
+  EXPECT_THAT(odd.err, Not(HasSubstr("//")));
+  const Outcome quote =
+      Run("mkdir 'q\"'; TMPDIR=\"$PWD/q\\\"\" $cli try x.json --engine"
+          " babble-ded");
+  EXPECT_THAT(quote.err, HasSubstr("Name another temporary folder."));
 }
 
 TEST_F(ProcessTest, RefusesHugeAndOddFiles) {

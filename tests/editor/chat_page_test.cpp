@@ -13,12 +13,14 @@
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
+#include <QToolButton>
 #include <set>
 #include <string>
 #include <vector>
 
 #include "chat/chat_catalogue.h"
-#include "editor/code_page_validator.h"
+#include "editor/toolkit/code_page_validator.h"
+#include "tests/support/ids.h"
 #include "tests/support/scripted_prompts.h"
 
 namespace fragsmith {
@@ -27,11 +29,11 @@ namespace {
 using testing::ElementsAre;
 using testing::HasSubstr;
 
-constexpr int kGameEntry = 0;
-constexpr int kLevelEnds = 3;
-constexpr int kHitTalking = 6;
-constexpr int kCratered = 10;
-constexpr int kPummel = 21;
+constexpr ChatTypeId kGameEntry{0};
+constexpr ChatTypeId kLevelEnds{3};
+constexpr ChatTypeId kHitTalking{6};
+constexpr ChatTypeId kCratered{10};
+constexpr ChatTypeId kPummel{21};
 
 /// The page in a window of its own that has the focus.
 class ChatPageTest : public testing::Test {
@@ -51,7 +53,7 @@ class ChatPageTest : public testing::Test {
     Bot bot;
     for (std::size_t type = 0; type < lines_of_types.size(); ++type) {
       for (std::size_t line = 0; line < lines_of_types[type].size(); ++line) {
-        bot.SetChatLine(static_cast<int>(type), static_cast<int>(line),
+        bot.SetChatLine(TypeAt(static_cast<int>(type)), static_cast<int>(line),
                         lines_of_types[type][line]);
       }
     }
@@ -69,7 +71,9 @@ class ChatPageTest : public testing::Test {
   void Click(const char* name) {
     QTest::mouseClick(Button(name), Qt::LeftButton);
   }
-  void SelectType(int type) { List("lstChatGroups")->setCurrentRow(type); }
+  void SelectType(ChatTypeId type) {
+    List("lstChatGroups")->setCurrentRow(static_cast<int>(type));
+  }
   void SelectLine(int line) { List("lstChatLines")->setCurrentRow(line); }
   int Line() { return List("lstChatLines")->currentRow(); }
   std::string BoxText() { return Box()->text().toStdString(); }
@@ -90,10 +94,10 @@ class ChatPageTest : public testing::Test {
     for (int row = 0; row < List("lstChatLines")->count(); ++row) {
       lines.push_back(List("lstChatLines")->item(row)->text().toStdString());
     }
-    EXPECT_EQ(lines, Stored(List("lstChatGroups")->currentRow()));
+    EXPECT_EQ(lines, Stored(TypeAt(List("lstChatGroups")->currentRow())));
     return lines;
   }
-  const std::vector<std::string>& Stored(int type) {
+  const std::vector<std::string>& Stored(ChatTypeId type) {
     return current_.bot().ChatLines(type);
   }
 
@@ -122,16 +126,16 @@ TEST_F(ChatPageTest, ShowsTheFirstLineOfABotAndOfAType) {
               ElementsAre("Any opp", "Level title", "Any bot"));
   SelectLine(1);
   EXPECT_EQ(BoxText(), "Ho");
-  SelectType(1);
+  SelectType(TypeAt(1));
   EXPECT_EQ(BoxText(), "Bye");
   SelectType(kPummel);
   EXPECT_THAT(VisiblePointers(), ElementsAre("Target", "Weapon used"));
-  SelectType(26);
+  SelectType(TypeAt(26));
   EXPECT_THAT(VisiblePointers(), ElementsAre("Last victim", "Any opp"));
   EXPECT_FALSE(current_.is_changed());
 
   // Another bot: the type stays, its first line is selected.
-  SelectType(0);
+  SelectType(TypeAt(0));
   SelectLine(1);
   Show({{"New", "er"}});
   EXPECT_EQ(Line(), 0);
@@ -279,6 +283,68 @@ TEST_F(ChatPageTest, AddsAndRemovesLines) {
   EXPECT_THAT(Lines(), ElementsAre("new"));
 }
 
+TEST_F(ChatPageTest, MovesAndDoublesLines) {
+  const auto press = [this](const char* name) {
+    page_.findChild<QToolButton*>(QLatin1String(name))->click();
+  };
+  Show({{"a", "b", "c"}});
+  press("cmdLineUp");  // There is nothing above.
+  EXPECT_FALSE(current_.is_changed());
+  press("cmdLineDown");
+  EXPECT_THAT(Lines(), ElementsAre("b", "a", "c"));
+  EXPECT_EQ(Line(), 1);
+  press("cmdDoubleLine");
+  EXPECT_THAT(Lines(), ElementsAre("b", "a", "a", "c"));
+  EXPECT_EQ(Line(), 2);
+  List("lstChatLines")->setFocus();
+  QTest::keyClick(List("lstChatLines"), Qt::Key_Up, Qt::AltModifier);
+  QTest::keyClick(List("lstChatLines"), Qt::Key_Up, Qt::AltModifier);
+  EXPECT_THAT(Lines(), ElementsAre("a", "b", "a", "c"));
+  EXPECT_EQ(Line(), 0);
+  QTest::keyClick(List("lstChatLines"), Qt::Key_D, Qt::ControlModifier);
+  EXPECT_THAT(Lines(), ElementsAre("a", "a", "b", "a", "c"));
+  current_.steps().undo();
+  current_.steps().undo();
+  page_.ShowAgain();
+  EXPECT_THAT(Lines(), ElementsAre("b", "a", "a", "c"));
+}
+
+TEST_F(ChatPageTest, TellsOfLinesAndOfWhatIsNotFilled) {
+  const auto told = [this](ChatTypeId type) {
+    return List("lstChatGroups")
+        ->item(static_cast<int>(type))
+        ->data(Qt::AccessibleDescriptionRole)
+        .toString()
+        .toStdString();
+  };
+  Bot bot;
+  bot.Put(ParameterId(35), 0.4);  // Entry and exit.
+  bot.Put(ParameterId(42), 0.5);  // Random chats.
+  bot.Put(ParameterId(33), 1.0);  // All of them "Random misc".
+  bot.SetChatLine(kGameEntry, 0, "Hi");
+  current_.Replace(bot, false, QStringLiteral("Load"));
+  page_.ShowBot();
+  EXPECT_THAT(told(kGameEntry), HasSubstr("Lines: 1. Spoken: 40 %."));
+  EXPECT_THAT(told(TypeAt(1)), HasSubstr("Lines: 0. Spoken: never."));
+  EXPECT_THAT(told(TypeAt(27)), HasSubstr("Spoken: every 80 s."));
+  EXPECT_THAT(told(TypeAt(26)), HasSubstr("Spoken: never."));
+  Click("cmdNewLine");
+  // An empty one is no line yet.
+  EXPECT_THAT(told(kGameEntry), HasSubstr("Lines: 1."));
+  Type(QStringLiteral("x"));
+  EXPECT_THAT(told(kGameEntry), HasSubstr("Lines: 2."));
+
+  // It is put in all the same, and told of.
+  Click("cmdPointer_2");
+  EXPECT_TRUE(status_.empty());
+  SelectType(kPummel);
+  Click("cmdNewLine");
+  Click("cmdPointer_7");
+  EXPECT_EQ(BoxText(), "{WEAPONUSED}");
+  ASSERT_EQ(status_.size(), 1U);
+  EXPECT_THAT(status_.back().toStdString(), HasSubstr("does not fill"));
+}
+
 TEST_F(ChatPageTest, TakesDeleteAsRemovalInTheListAlone) {
   Show({{"abc", "d"}});
   Box()->setFocus();
@@ -308,8 +374,8 @@ TEST_F(ChatPageTest, AddsRandomLines) {
   Show({});
   page_.AddExtraChatsToBot();
   EXPECT_TRUE(current_.is_changed());
-  for (int type = 0; type < kChatTypeCount; ++type) {
-    EXPECT_EQ(Stored(type).size(), 1U) << type;
+  for (const ChatTypeId type : kAllChatTypes) {
+    EXPECT_EQ(Stored(type).size(), 1U) << IndexOf(type);
   }
   EXPECT_THAT(Stored(kCratered), ElementsAre("{{DEATHFALLING0}}"));
   EXPECT_THAT(Stored(kHitTalking), ElementsAre("{{HITTALKING0}}"));
@@ -365,6 +431,28 @@ TEST_F(ChatPageTest, ChecksSynonymsByItselfWhenALineIsDone) {
   EXPECT_THAT(Lines(), ElementsAre("~hello", "~hello you"));
 }
 
+// The button takes the focus from the box, which marks the words first.
+TEST_F(ChatPageTest, InsertsWhereTheCursorWasBeforeTheMarks) {
+  synonyms_.words = {"hello", "you"};
+  page_.findChild<QCheckBox*>("chkAutoSynonyms")->setChecked(true);
+  const auto insert = [this](int cursor) {
+    Show({{"hello you"}});
+    Box()->setFocus();
+    Box()->setCursorPosition(cursor);
+    // Where the mouse clicks, the focus goes before the click is done.
+    Button("cmdPointer_2")->setFocus();
+    Click("cmdPointer_2");
+    std::string text = BoxText();
+    return text.insert(static_cast<std::size_t>(Box()->cursorPosition()), "|");
+  };
+  EXPECT_EQ(insert(9), "~hello ~you|{ANYBOTNAME}");
+  EXPECT_EQ(insert(8), "~hello ~yo|{ANYBOTNAME}u");
+  // A mark stays with its word.
+  EXPECT_EQ(insert(6), "~hello |{ANYBOTNAME}~you");
+  EXPECT_EQ(insert(2), "~he|{ANYBOTNAME}llo ~you");
+  EXPECT_EQ(insert(0), "|{ANYBOTNAME}");
+}
+
 TEST_F(ChatPageTest, TellsOfAnEmptySynonymListOncePerLeaving) {
   Show({{"hello"}});
   page_.findChild<QCheckBox*>("chkAutoSynonyms")->setChecked(true);
@@ -397,7 +485,7 @@ TEST_F(ChatPageTest, IsUsableByKeyboardAndScreenReader) {
   for (const auto* button : page_.findChildren<QAbstractButton*>()) {
     take_mnemonic(button->text());
   }
-  EXPECT_EQ(keys.size(), 12U);
+  EXPECT_EQ(keys.size(), 11U);
 
   QStringList order;
   List("lstChatGroups")->setFocus();
@@ -418,21 +506,40 @@ TEST_F(ChatPageTest, IsUsableByKeyboardAndScreenReader) {
 }
 
 TEST_F(ChatPageTest, SaysWhenTheGameSpeaks) {
-  const auto tip = [this](int type) {
-    return List("lstChatGroups")->item(type)->toolTip().toStdString();
+  const auto tip = [this](ChatTypeId type) {
+    return List("lstChatGroups")
+        ->item(static_cast<int>(type))
+        ->toolTip()
+        .toStdString();
   };
-  EXPECT_THAT(tip(1), HasSubstr("Never: when the bot leaves"));
-  EXPECT_THAT(tip(23), HasSubstr("Never: the game"));
+  EXPECT_THAT(tip(TypeAt(1)), HasSubstr("Never: when the bot leaves"));
+  EXPECT_THAT(tip(TypeAt(23)), HasSubstr("Never: the game"));
   EXPECT_THAT(tip(kPummel), HasSubstr("&quot;Kills&quot;"));
   EXPECT_THAT(tip(kCratered), HasSubstr("&quot;Dies&quot;"));
-  const auto pointer_tip = [this](int type) {
+  const auto pointer_tip = [this](ChatTypeId type) {
     SelectType(type);
     return Button("cmdPointer_7")->toolTip().toStdString();
   };
-  EXPECT_THAT(pointer_tip(15), HasSubstr("the weapon that was used"));
+  EXPECT_THAT(pointer_tip(TypeAt(15)), HasSubstr("the weapon that was used"));
   EXPECT_THAT(pointer_tip(kPummel), HasSubstr("nothing"));
   EXPECT_THAT(page_.findChild<QLabel*>("lblWhen")->text().toStdString(),
               HasSubstr("{TARGET} is the name of the victim; {WEAPONUSED} is"));
+}
+
+TEST_F(ChatPageTest, TellsTheEndsOfALevelApartWhereItIsNarrow) {
+  QListWidget* const types = List("lstChatGroups");
+  const auto shown = [types](int row) {
+    QListWidgetItem* const item = types->item(row);
+    types->setCurrentItem(item);
+    types->clearSelection();
+    types->scrollToTop();
+    const QRect place = types->visualItemRect(item);
+    return types->viewport()->grab(place).toImage();
+  };
+  page_.resize(page_.minimumSizeHint().width(), 430);
+  types->setFixedWidth(160);
+  QCoreApplication::processEvents();
+  EXPECT_NE(shown(4), shown(5));
 }
 
 }  // namespace

@@ -6,16 +6,17 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QTest>
-#include <QTreeWidget>
-#include <QTreeWidgetItemIterator>
+#include <QTreeView>
 
-#include "editor/bot_commands.h"
+#include "editor/commands/bot_commands.h"
 #include "editor/dialogs/compare_dialog.h"
 #include "editor/dialogs/open_dialog.h"
 #include "session/bot_document.h"
 #include "session/presets.h"
 #include "session/save_bot.h"
 #include "tests/editor/window_fixture.h"
+#include "tests/support/ids.h"
+#include "tests/support/set_parameter.h"
 
 namespace fragsmith {
 namespace {
@@ -23,15 +24,27 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
+/// The rows from the top, those of closed groups too.
+QModelIndexList AllRows(const QTreeView& list, const QModelIndex& parent = {}) {
+  QModelIndexList rows;
+  for (int row = 0; row < list.model()->rowCount(parent); ++row) {
+    rows << list.model()->index(row, 0, parent);
+    rows << AllRows(list, rows.back());
+  }
+  return rows;
+}
+
+QString TextOf(const QModelIndex& row, int column) {
+  return row.siblingAtColumn(column).data().toString();
+}
+
 /// The list as it is read: a title for a group, else "What: this | other".
-std::vector<std::string> RowsOf(const QTreeWidget& list) {
+std::vector<std::string> RowsOf(const QTreeView& list) {
   std::vector<std::string> rows;
-  for (QTreeWidgetItemIterator at(const_cast<QTreeWidget*>(&list));
-       *at != nullptr; ++at) {
-    const QTreeWidgetItem& item = **at;
-    QString row = item.text(0);
-    if (item.childCount() == 0)
-      row += ": " + item.text(1) + " | " + item.text(2);
+  for (const QModelIndex& index : AllRows(list)) {
+    QString row = TextOf(index, 0);
+    if (!list.model()->hasChildren(index))
+      row += ": " + TextOf(index, 1) + " | " + TextOf(index, 2);
     rows.push_back(row.toStdString());
   }
   return rows;
@@ -41,24 +54,24 @@ class Compare : public testing::Test {
  protected:
   Compare() {
     Bot mine = CreateZeroBot();
-    mine.SetChatLine(0, 0, "Hello");
-    mine.SetChatLine(0, 1, "Only mine");
+    mine.SetChatLine(TypeAt(0), 0, "Hello");
+    mine.SetChatLine(TypeAt(0), 1, "Only mine");
     other_ = mine;
     current_.Replace(mine, false, {});
     current_.ForgetSteps();
-    Set(kNameIndex, std::string("Other"));
+    Set(kNameField, std::string("Other"));
     Set(402, 0.5);
     Set(502, 1.0);
     Set(508, 0.25);
     Set(44, 300.0);
     Set(45, 7.0);
-    other_.RemoveChatLine(0, 1);
-    other_.SetChatLine(27, 0, "First");
-    other_.SetChatLine(27, 1, "Second");
+    other_.RemoveChatLine(TypeAt(0), 1);
+    other_.SetChatLine(TypeAt(27), 0, "First");
+    other_.SetChatLine(TypeAt(27), 1, "Second");
   }
 
-  void Set(int parameter, const Value& value) {
-    ASSERT_TRUE(other_.SetParameter(parameter, value));
+  void Set(const IdNumber& parameter, const Value& value) {
+    ASSERT_TRUE(other_.SetParameter(Id(parameter), value));
   }
 
   void Open() {
@@ -74,13 +87,21 @@ class Compare : public testing::Test {
     return *found;
   }
 
-  QTreeWidget& list() { return Find<QTreeWidget>("lstDifferences"); }
+  QTreeView& list() { return Find<QTreeView>("lstDifferences"); }
 
-  void Select(const char* title) {
-    const auto found =
-        list().findItems(title, Qt::MatchExactly | Qt::MatchRecursive);
-    ASSERT_EQ(found.size(), 1) << title;
-    list().setCurrentItem(found.front());
+  QModelIndex Row(const char* title) {
+    QModelIndexList found;
+    for (const QModelIndex& row : AllRows(list())) {
+      if (TextOf(row, 0) == QLatin1String(title)) found << row;
+    }
+    EXPECT_EQ(found.size(), 1) << title;
+    return found.value(0);
+  }
+
+  void Select(const char* title) { list().setCurrentIndex(Row(title)); }
+
+  QString Current(int column = 0) {
+    return TextOf(list().currentIndex(), column);
   }
 
   void Press(const char* button) {
@@ -110,7 +131,7 @@ class Compare : public testing::Test {
 
 TEST_F(Compare, ShowsTheDifferencesByGroup) {
   Open();
-  EXPECT_EQ(list().headerItem()->text(2), "Other");
+  EXPECT_EQ(list().model()->headerData(2, Qt::Horizontal), "Other");
   EXPECT_THAT(
       RowsOf(list()),
       ElementsAre(
@@ -127,7 +148,7 @@ TEST_F(Compare, ShowsTheDifferencesByGroup) {
   // the chat lines.
   EXPECT_EQ(RowsOf(list()).size(), 10U + 87U + 50U + 8U + 6U);
   Select("Comment");
-  EXPECT_EQ(list().currentItem()->text(1), "(none)");
+  EXPECT_EQ(Current(1), "(none)");
   EXPECT_FALSE(Find<QPushButton>("cmdCopySelected").isEnabled());
 }
 
@@ -135,32 +156,32 @@ TEST_F(Compare, CopiesAndTakesBackEachPart) {
   Open();
   Select("Attack skill, level 4");
   EXPECT_EQ(Copied("cmdCopySelected",
-                   [](Bot& bot) { (void)bot.SetParameter(402, 0.5); }),
+                   [](Bot& bot) { fragsmith::Set(bot, Id(402), 0.5); }),
             "Copy from Other: Attack skill, level 4");
   EXPECT_FALSE(Find<QPushButton>("cmdCopyLevel_1").isEnabled());
   EXPECT_EQ(Copied("cmdCopyLevel_5",
                    [](Bot& bot) {
-                     (void)bot.SetParameter(502, 1.0);
-                     (void)bot.SetParameter(508, 0.25);
+                     fragsmith::Set(bot, Id(502), 1.0);
+                     fragsmith::Set(bot, Id(508), 0.25);
                    }),
             "Copy from Other: level 5");
   const auto copy_usage = [](Bot& bot) {
-    (void)bot.SetParameter(44, 300.0);
-    (void)bot.SetParameter(45, 7.0);
+    fragsmith::Set(bot, Id(44), 300.0);
+    fragsmith::Set(bot, Id(45), 7.0);
   };
   Select("Shotgun usage");
   EXPECT_EQ(Copied("cmdCopyPage", copy_usage), "Copy from Other: Weapon usage");
   Select("Weapon usage");
   EXPECT_EQ(Copied("cmdCopySelected", copy_usage), "Copy from Other: 2 values");
   const auto copy_misc = [](Bot& bot) {
-    bot.SetChatLine(27, 0, "First");
-    bot.SetChatLine(27, 1, "Second");
+    bot.SetChatLine(TypeAt(27), 0, "First");
+    bot.SetChatLine(TypeAt(27), 1, "Second");
   };
   Select("Random misc");
   EXPECT_EQ(Copied("cmdCopyPage", copy_misc), "Copy from Other: Random misc");
   EXPECT_EQ(Copied("cmdCopyChats",
                    [copy_misc](Bot& bot) {
-                     bot.RemoveChatLine(0, 1);
+                     bot.RemoveChatLine(TypeAt(0), 1);
                      copy_misc(bot);
                    }),
             "Copy from Other: all chats");
@@ -178,16 +199,13 @@ TEST_F(Compare, CopiesAndTakesBackEachPart) {
 TEST_F(Compare, GoesOnWithTheNextRow) {
   Open();
   Select("Attack skill, level 4");
-  list()
-      .findItems("Behavioural characteristics", Qt::MatchExactly)
-      .front()
-      ->setExpanded(false);
+  list().collapse(Row("Behavioural characteristics"));
   Press("cmdCopySelected");
-  EXPECT_EQ(list().currentItem()->text(0), "Attack skill, level 5");
+  EXPECT_EQ(Current(), "Attack skill, level 5");
   EXPECT_TRUE(list().hasFocus());
   Press("cmdCopySelected");
   // It is closed: its rows are out of sight.
-  EXPECT_EQ(list().currentItem()->text(0), "Behavioural characteristics");
+  EXPECT_EQ(Current(), "Behavioural characteristics");
 
   // A whole group that is gone leads nowhere: what is next was not chosen.
   Select("Shotgun usage");
@@ -198,39 +216,41 @@ TEST_F(Compare, GoesOnWithTheNextRow) {
 TEST_F(Compare, BreaksLongLines) {
   QString words;
   for (int word = 0; word < 50; ++word) words += "word ";
-  other_.SetChatLine(27, 1, words.toStdString());
+  other_.SetChatLine(TypeAt(27), 1, words.toStdString());
   Open();
   QCoreApplication::processEvents();
-  const QTreeWidgetItem* const type =
-      list()
-          .findItems("Random misc", Qt::MatchExactly | Qt::MatchRecursive)
-          .front();
-  const int needed =
-      list()
-          .fontMetrics()
-          .boundingRect(QRect(0, 0, list().columnWidth(2) - 6, 1000),
-                        Qt::TextWordWrap, words)
-          .height();
-  EXPECT_GT(needed, 3 * list().fontMetrics().lineSpacing());
-  EXPECT_GE(list().visualItemRect(type->child(1)).height(), needed);
-  EXPECT_LT(list().visualItemRect(type->child(0)).height(), needed / 2);
+  const QModelIndex type = Row("Random misc");
+  const auto height = [this, &type](int row) {
+    return list().visualRect(list().model()->index(row, 2, type)).height();
+  };
+  const QFontMetrics metrics = list().fontMetrics();
+  const QRect column(0, 0, list().columnWidth(2) - 6, 1000);
+  const int lines =
+      (metrics.boundingRect(column, Qt::TextWordWrap, words).height() +
+       metrics.leading()) /
+      metrics.lineSpacing();
+  EXPECT_GT(lines, 3);
+  // The rows leave out what the font puts between lines.
+  const int needed = lines * metrics.height();
+  EXPECT_GE(height(1), needed);
+  EXPECT_LT(height(0), needed / 2);
 }
 
 TEST_F(Compare, ShowsFewOfVeryManyLinesAndCopiesAll) {
   for (int line = 0; line < 30000; ++line) {
-    other_.SetChatLine(3, line, "line " + std::to_string(line));
+    other_.SetChatLine(TypeAt(3), line, "line " + std::to_string(line));
   }
   Open();
   EXPECT_LT(RowsOf(list()).size(), 300U);
   Select("and 29800 more");
   EXPECT_FALSE(Find<QPushButton>("cmdCopySelected").isEnabled());
   Press("cmdCopyPage");
-  EXPECT_EQ(current_.bot().ChatLines(3), other_.ChatLines(3));
+  EXPECT_EQ(current_.bot().ChatLines(TypeAt(3)), other_.ChatLines(TypeAt(3)));
 }
 
 TEST_F(WindowFixture, LoadsABotToCompareAndKeepsTheCurrentOne) {
   Bot made = CreateZeroBot();
-  (void)made.SetParameter(0, std::string("Alpha"));
+  Set(made, Id(0), std::string("Alpha"));
   (void)SaveBot(made, folder_.path(), {}, {}, prompts_);
   Type("txtBotPara_0", "Rookie");
   BotCommands commands(window_->current(), *state_, *window_);

@@ -48,7 +48,8 @@ using Levels = std::vector<std::tuple<int, double>>;
 Levels LevelValues(QSignalSpy& changes) {
   Levels values;
   for (const QList<QVariant>& change : changes) {
-    values.emplace_back(change[1].toInt(), change[2].toDouble());
+    values.emplace_back(NumberOf(change[1].value<Level>()),
+                        change[2].toDouble());
   }
   changes.clear();
   return values;
@@ -177,7 +178,7 @@ TEST(OneSlider, KeepsWhatTheProgramShowsUntilTheUserMoves) {
   EXPECT_EQ(slider.maximum(), 120);
   EXPECT_EQ(Text(control), "900");
   control.SetMax(7);
-  EXPECT_EQ(control.Max(), 600);
+  EXPECT_EQ(slider.maximum(), 120);
   EXPECT_EQ(changes.count(), 0);
   QTest::keyClick(&slider, Qt::Key_Left);
   EXPECT_EQ(Values(changes), std::vector<double>{595});
@@ -186,10 +187,10 @@ TEST(OneSlider, KeepsWhatTheProgramShowsUntilTheUserMoves) {
 
 TEST(ThreeSlider, ReadsNoOnlyWhereTheValueIsLeftOut) {
   ThreeSlider control;
-  control.ShowValue(1, Value(0.0));
+  control.ShowValue(Level::k1, Value(0.0));
   EXPECT_EQ(Text(control, "_1"), "0.0");
   control.SetOptional(true);
-  control.ShowValue(4, Value(0.01));
+  control.ShowValue(Level::k4, Value(0.01));
   EXPECT_EQ(Text(control, "_1"), "No");
   EXPECT_EQ(Text(control, "_4"), "0.01") << "at position 0, but not left out";
   QTest::keyClick(&Slider(control, "_5"), Qt::Key_Right);
@@ -252,9 +253,9 @@ TEST(ThreeSlider, KeepsTheLevelsInOrderWhenTheUserMovesOne) {
     ThreeSlider control;
     control.SetMode(c.mode);
     QSignalSpy changes(&control, &ThreeSlider::Changed);
-    control.ShowValue(1, c.before[0]);
-    control.ShowValue(4, c.before[1]);
-    control.ShowValue(5, c.before[2]);
+    control.ShowValue(Level::k1, c.before[0]);
+    control.ShowValue(Level::k4, c.before[1]);
+    control.ShowValue(Level::k5, c.before[2]);
     ASSERT_EQ(changes.count(), 0);
     QTest::keyClick(&Slider(control, c.moved), c.key);
     EXPECT_EQ(LevelValues(changes), c.reported)
@@ -269,10 +270,11 @@ TEST(ThreeSlider, KeepsTheLevelsInOrderWhenTheUserMovesOne) {
 TEST(ValueSlider, IsReadAndSetInValuesByAssistiveTools) {
   ThreeSlider control;
   control.SetCaption(QString::fromUtf8("Max view change angle °/s (0-360)"));
+  control.SetSpokenName(QStringLiteral("Max view change angle"));
   control.SetMax(360);
   control.SetIndex(6);
   control.SetMode(LevelLinking::kRising);
-  control.ShowValue(4, Value(33.0));
+  control.ShowValue(Level::k4, Value(33.0));
   QSignalSpy changes(&control, &ThreeSlider::Changed);
 
   QAccessibleInterface* const accessible =
@@ -280,7 +282,7 @@ TEST(ValueSlider, IsReadAndSetInValuesByAssistiveTools) {
   ASSERT_NE(accessible, nullptr);
   EXPECT_EQ(accessible->role(), QAccessible::Slider);
   EXPECT_EQ(accessible->text(QAccessible::Name).toStdString(),
-            "Max view change angle °/s, level 4");
+            "Max view change angle, level 4");
   QAccessibleValueInterface* const value = accessible->valueInterface();
   ASSERT_NE(value, nullptr);
   EXPECT_EQ(value->currentValue().toDouble(), 33);
@@ -297,7 +299,7 @@ TEST(ValueSlider, IsReadAndSetInValuesByAssistiveTools) {
   EXPECT_EQ(LevelValues(changes), (Levels{{4, 360}, {5, 360}}));
 
   control.SetOptional(true);
-  control.ShowValue(4, Value());
+  control.ShowValue(Level::k4, Value());
   EXPECT_EQ(accessible->text(QAccessible::Value), QStringLiteral("No"));
   EXPECT_EQ(accessible->text(QAccessible::Description), QStringLiteral("No"));
 

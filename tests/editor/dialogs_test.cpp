@@ -21,6 +21,7 @@
 #include "editor/dialogs/open_dialog.h"
 #include "editor/dialogs/options_dialog.h"
 #include "editor/dialogs/search_progress.h"
+#include "tests/editor/font_scale.h"
 #include "tests/support/scripted_prompts.h"
 #include "tests/support/test_folder.h"
 
@@ -265,39 +266,96 @@ TEST_F(OpenDialog, APathThatWasTypedIsMeant) {
   EXPECT_EQ(dialog.Choice().folder, folder_ / "sub");
 }
 
-/// Where something is drawn in this part of the widget, looking from x on.
-double InkFrom(double x, QWidget& widget, const QRect& part) {
-  const QImage image =
-      widget.grab(part).toImage().convertToFormat(QImage::Format_RGB32);
-  const double scale = image.devicePixelRatio();
-  const QRgb ground = image.pixel(image.width() - 1, 0);
-  for (int column = std::max(static_cast<int>(x * scale), 0);
-       column < image.width(); ++column) {
-    for (int line = 0; line < image.height(); ++line) {
-      if (image.pixel(column, line) != ground) return column / scale;
+TEST_F(OpenDialog, APathCountsOnceItsBoxIsLeft) {
+  frmOpen& dialog = Open(OpenKind::kLoadBot);
+  auto& path = Find<QLineEdit>(dialog, "txtFolder");
+  const auto type = [&path](const char* text) {
+    path.setFocus();
+    path.selectAll();
+    QTest::keyClicks(&path, QLatin1String(text));
+  };
+  type("sub");
+  Files().setFocus();
+  EXPECT_EQ(dialog.Choice().folder, folder_ / "sub");
+  ASSERT_EQ(Files().count(), 1);
+  type("..");
+  Press(dialog, "cmdOK");
+  EXPECT_TRUE(dialog.isVisible());
+  EXPECT_EQ(dialog.Choice().folder, folder_.path());
+  // With one bot in it, the path has said which is meant; so has a file's.
+  type("sub");
+  Press(dialog, "cmdOK");
+  EXPECT_FALSE(dialog.isVisible());
+  EXPECT_EQ(dialog.Choice().file, folder_ / "sub/cat_c.c");
+  dialog.show();
+  type("../ash_c.c");
+  Press(dialog, "cmdOK");
+  EXPECT_FALSE(dialog.isVisible());
+  EXPECT_EQ(dialog.Choice().file->lexically_normal(), folder_ / "ash_c.c");
+  dialog.show();
+  // What is chosen elsewhere does not wait for a path.
+  type("nowhere");
+  Click(Bots(), 0);
+  Press(dialog, "cmdOK");
+  EXPECT_FALSE(dialog.isVisible());
+}
+
+QImage PictureOf(QWidget& widget, const QRect& part) {
+  return widget.grab(part).toImage().convertToFormat(QImage::Format_RGB32);
+}
+
+/// Where two pictures begin to differ; -1 when they are alike.
+double FirstDifference(const QImage& one, const QImage& other) {
+  EXPECT_EQ(one.size(), other.size());
+  for (int column = 0; column < one.width(); ++column) {
+    for (int line = 0; line < one.height(); ++line) {
+      if (one.pixel(column, line) != other.pixel(column, line)) {
+        return column / one.devicePixelRatio();
+      }
     }
   }
   return -1;
 }
 
+/// Where a letter has its place that is drawn from x on: behind the gap that
+/// a font leaves in front of it.
+double PlaceOf(QChar letter, double x, const QFont& font) {
+  return x - QFontMetricsF(font).leftBearing(letter);
+}
+
 TEST_F(OpenDialog, HeadingsStandOverTheirColumns) {
   frmOpen& dialog = Open(OpenKind::kLoadBot);
-  const QListWidget& list = Bots();
+  QListWidget& list = Bots();
   const QRect line = list.visualItemRect(list.item(0));
+  const QString text = list.item(0)->text();
+  const QImage whole = PictureOf(*list.viewport(), line);
   const double pitch =
       QFontMetricsF(list.font()).horizontalAdvance(QString(60, u'0')) / 60;
-  const std::pair<const char*, const char*> headings[] = {
-      {"lblBot", "Bot"}, {"lblPk3File", "Pk3-file"}, {"lblBotFile", "Botfile"}};
-  for (const auto& [name, text] : headings) {
+  const struct {
+    const char* label;
+    const char* text;
+    int column;
+  } headings[] = {{"lblBot", "Bot", 0},
+                  {"lblPk3File", "Pk3-file", 15},
+                  {"lblBotFile", "Botfile", 35}};
+  for (const auto& [name, heading, column] : headings) {
+    SCOPED_TRACE(heading);
     auto& label = Find<QLabel>(dialog, name);
-    EXPECT_EQ(label.text().remove(u'&').toStdString(), text);
+    EXPECT_EQ(label.text().remove(u'&'), heading);
     EXPECT_GE(label.width(), label.sizeHint().width());
-    const double heading = label.mapTo(&dialog, QPoint()).x() -
-                           list.viewport()->mapTo(&dialog, QPoint()).x() +
-                           InkFrom(0, label, label.rect());
-    // In front of every column there is a blank.
-    const double column = InkFrom(heading - pitch / 2, *list.viewport(), line);
-    EXPECT_NEAR(column, heading, pitch / 4) << text;
+    const QImage with_text = PictureOf(label, label.rect());
+    label.setText({});
+    const double label_place =
+        label.mapTo(&dialog, QPoint()).x() -
+        list.viewport()->mapTo(&dialog, QPoint()).x() +
+        PlaceOf(QLatin1Char(*heading),
+                FirstDifference(with_text, PictureOf(label, label.rect())),
+                label.font());
+    list.item(0)->setText(text.left(column));
+    const double place = PlaceOf(
+        text.at(column),
+        FirstDifference(whole, PictureOf(*list.viewport(), line)), list.font());
+    EXPECT_NEAR(place, label_place, pitch / 4);
   }
 }
 
@@ -342,6 +400,22 @@ TEST(OptionsDialog, SaysWhichValuesTheFileWouldCut) {
   EXPECT_TRUE(hint.text().startsWith(QStringLiteral("Web page: ")));
   dialog.SetOptionValue(5, "x");
   EXPECT_EQ(hint.text(), QString());
+}
+
+TEST(OptionsDialog, SaysThatWithoutANameNothingOfTheAuthorIsWritten) {
+  ScriptedPrompts prompts;
+  frmOptions dialog(prompts);
+  const QLabel& hint = Find<QLabel>(dialog, "lblNoName");
+  for (const int index : {4, 5}) {
+    EXPECT_EQ(hint.text(), QString());
+    dialog.SetOptionValue(index, "x");
+    EXPECT_TRUE(
+        hint.text().startsWith(QStringLiteral("Without a name neither")));
+    dialog.SetOptionValue(3, "Maker");
+    EXPECT_EQ(hint.text(), QString());
+    dialog.SetOptionValue(index, "");
+    dialog.SetOptionValue(3, "");
+  }
 }
 
 class OptionsSearch : public testing::Test {
@@ -444,7 +518,7 @@ TEST(SearchWindow, CountsAndCanBeCancelledWhileItsOwnerIsDisabled) {
 /// What a label or button shows is whole.
 void ExpectNothingCut(QWidget& dialog) {
   SCOPED_TRACE(dialog.windowTitle().toStdString());
-  EXPECT_LE(dialog.sizeHint().width(), 1024);
+  EXPECT_LE(dialog.sizeHint().width(), WithThisFont(1024));
   EXPECT_LE(dialog.sizeHint().height(), 700);
   dialog.show();
   dialog.resize(dialog.minimumSizeHint());

@@ -87,7 +87,6 @@ TEST_F(DirViewTest, ChoosesAFileOnlyWhenTheUserMarksOne) {
 }
 
 TEST_F(DirViewTest, WalksThroughFoldersByKeyboardAndMouse) {
-  QSignalSpy changes(&view_, &DirView::FolderChanged);
   // Enter on "..", then on Zoo, behind the folder that was left.
   QTest::keyClick(&folders_, Qt::Key_Return);
   EXPECT_EQ(view_.Folder(), folder_.path());
@@ -99,7 +98,6 @@ TEST_F(DirViewTest, WalksThroughFoldersByKeyboardAndMouse) {
   EXPECT_EQ(Rows(folders_), (Strings{"..", ".hidden"}));
   QTest::keyClick(&folders_, Qt::Key_Backspace);
   EXPECT_EQ(view_.Folder(), folder_.path());
-  EXPECT_EQ(changes.count(), 3);
 
   view_.show();
   const QPoint bots = folders_.visualItemRect(folders_.item(1)).center();
@@ -114,7 +112,6 @@ TEST_F(DirViewTest, WalksThroughFoldersByKeyboardAndMouse) {
   QTest::keyClick(&path_, Qt::Key_Return);
   EXPECT_EQ(view_.Folder(), folder_ / "Zoo/.hidden");
   view_.SetFolder(view_.Folder());
-  EXPECT_EQ(changes.count(), 5);
 }
 
 TEST_F(DirViewTest, ShowsTheNearestFolderThatExists) {

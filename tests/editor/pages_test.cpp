@@ -12,11 +12,13 @@
 #include <string>
 #include <vector>
 
-#include "checks/skill_mix.h"
 #include "editor/controls/caption_mark.h"
 #include "editor/controls/value_slider.h"
 #include "editor/pages/parameter_page.h"
+#include "game/skill_mix.h"
 #include "session/presets.h"
+#include "tests/editor/font_scale.h"
+#include "tests/support/ids.h"
 
 namespace fragsmith {
 namespace {
@@ -79,7 +81,7 @@ class ParameterPages : public testing::Test {
         ->click();
   }
 
-  std::string Stored(int index) { return current_.bot().Text(index); }
+  std::string Stored(int index) { return current_.bot().Text(Id(index)); }
 
   CurrentBot current_;
   std::vector<std::unique_ptr<ParameterPage>> pages_;
@@ -145,10 +147,10 @@ TEST_F(ParameterPages, StoreTheLevelsThatHadToFollow) {
 
 TEST_F(ParameterPages, ShowABotWithoutTouchingIt) {
   Bot bot = CreateZeroBot();
-  bot.SetParameter(102, 0.333);
-  bot.SetParameter(44, 123.4);
-  bot.SetParameter(45, std::string("often"));
-  bot.SetParameter(46, 1234.0);
+  bot.Put(Id(102), 0.333);
+  bot.Put(Id(44), 123.4);
+  bot.Put(Id(45), std::string("often"));
+  bot.Put(Id(46), 1234.0);
   const Bot before = bot;
   Show(bot);
   EXPECT_EQ(TextOf(*Find("tsBotPara_2"), "lblValue_1"), "0.333");
@@ -165,7 +167,7 @@ TEST_F(ParameterPages, ShowABotWithoutTouchingIt) {
 
 TEST_F(ParameterPages, FollowTheScaleSelectorOfTheirPageAlone) {
   Bot bot = CreateZeroBot();
-  bot.SetParameter(44, 300.0);
+  bot.Put(Id(44), 300.0);
   Show(bot);
   EXPECT_EQ(Slider(44)->maximum(), 80);
 
@@ -175,12 +177,12 @@ TEST_F(ParameterPages, FollowTheScaleSelectorOfTheirPageAlone) {
   EXPECT_EQ(Slider(53)->maximum(), 200);
   EXPECT_EQ(Slider(44)->value(), 60);
   EXPECT_EQ(TextOf(*One(56), "lblCaption"), "Shotgun (0-400)");
-  EXPECT_EQ(One(72)->Max(), 400);
+  EXPECT_EQ(Slider(72)->maximum(), 80);
 
   ChooseScale(1, 1);
   EXPECT_EQ(TextOf(*One(56), "lblCaption"), "Shotgun (0-600)");
   EXPECT_EQ(TextOf(*One(64), "lblCaption"), "");
-  EXPECT_EQ(One(71)->Max(), 600);
+  EXPECT_EQ(Slider(71)->maximum(), 120);
 
   ChooseScale(2, 1);
   EXPECT_EQ(TextOf(*One(80), "lblCaption"), "CTF Flag (0-600)");
@@ -196,20 +198,20 @@ TEST_F(ParameterPages, ChooseTheSmallestScaleThatHoldsAllValues) {
   for (const auto& [value, max] : std::vector<Case>{
            {400, 400}, {401, 600}, {600, 600}, {605, 1000}, {5000, 1000}}) {
     Bot bot = CreateZeroBot();
-    bot.SetParameter(70, value);
+    bot.Put(Id(70), value);
     Show(bot);
     EXPECT_EQ(Find<MaxSelect>("mseSelect_1")->Selected(), max) << value;
-    EXPECT_EQ(One(64)->Max(), max) << value;
+    EXPECT_EQ(Slider(64)->maximum(), max / 5) << value;
     EXPECT_EQ(TextOf(*One(62), "lblCaption"),
               QStringLiteral("Lightning gun (0-%1)").arg(max));
-    EXPECT_EQ(One(44)->Max(), 400) << value;
+    EXPECT_EQ(Slider(44)->maximum(), 80) << value;
   }
   // It is not the factor for health that asks for more room.
   Bot bot = CreateZeroBot();
-  bot.SetParameter(54, 700.0);
+  bot.Put(Id(54), 700.0);
   Show(bot);
-  EXPECT_EQ(One(72)->Max(), 400);
-  EXPECT_EQ(One(54)->Max(), 4);
+  EXPECT_EQ(Slider(72)->maximum(), 80);
+  EXPECT_EQ(Slider(54)->maximum(), 4);
 }
 
 TEST_F(ParameterPages, StandInPairsOnThePickupPage) {
@@ -253,11 +255,11 @@ TEST_F(ParameterPages, StandInPairsOnThePickupPage) {
 
 TEST_F(ParameterPages, FitIntoASmallWindowAndScrollInASmallerOne) {
   for (const auto& page : pages_) {
-    page->resize(1000, 420);
+    page->resize(WithThisFont(1000), 420);
     page->show();
     EXPECT_EQ(page->verticalScrollBar()->maximum(), 0);
     EXPECT_EQ(page->horizontalScrollBar()->maximum(), 0);
-    page->resize(1000, 150);
+    page->resize(WithThisFont(1000), 150);
     EXPECT_GT(page->verticalScrollBar()->maximum(), 0);
   }
 }
@@ -275,8 +277,23 @@ TEST_F(ParameterPages, TellAssistiveToolsWhatEachSliderIs) {
   }
   EXPECT_EQ(names.size(), static_cast<std::size_t>(sliders));
   EXPECT_TRUE(names.contains("Attack skill, level 1"));
-  EXPECT_TRUE(names.contains("Plasma gun, aim skill, level 4"));
-  EXPECT_TRUE(names.contains("Shotgun, pickup with it"));
+  EXPECT_TRUE(names.contains("Plasma gun aim skill, level 4"));
+  EXPECT_TRUE(names.contains("Shotgun pickup with it"));
+}
+
+TEST_F(ParameterPages, TellTheValuesFromWhichTheBotActsOtherwise) {
+  int told = 0;
+  for (const auto& page : pages_) {
+    for (const ValueControl* control : page->findChildren<ValueControl*>()) {
+      for (const Threshold& threshold : ThresholdsOf(control->Index())) {
+        EXPECT_THAT(control->toolTip().toStdString(),
+                    HasSubstr(QString::number(threshold.value).toStdString()))
+            << control->Index() << ": " << threshold.text;
+        ++told;
+      }
+    }
+  }
+  EXPECT_GT(told, 40);
 }
 
 TEST_F(ParameterPages, SayWhatTheGameNeverReads) {

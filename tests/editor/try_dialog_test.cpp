@@ -5,12 +5,14 @@
 
 #include <QApplication>
 #include <QLabel>
+#include <QListView>
 #include <QTest>
 #include <memory>
 
 #include "checks/bot_checks.h"
 #include "model/characteristic_catalogue.h"
 #include "session/presets.h"
+#include "session/save_bot.h"
 #include "support/files.h"
 #include "tests/support/scripted_prompts.h"
 #include "tests/support/test_folder.h"
@@ -41,12 +43,13 @@ class TryDialog : public testing::Test {
       : bot_(CreateZeroBot()),
         state_(ProgramFolders{folder_.path(), folder_.path()}, prompts_,
                SeededRandom(1)) {
-    EXPECT_TRUE(bot_.SetParameter(kNameIndex, std::string("Rookie")));
+    EXPECT_TRUE(bot_.SetParameter(kNameField, std::string("Rookie")));
     Open();
   }
 
   void Open() {
-    dialog_ = std::make_unique<frmTry>(bot_, CheckBot(bot_, nullptr), state_);
+    dialog_ = std::make_unique<frmTry>(bot_, CheckBot(bot_, nullptr), on_disk_,
+                                       nullptr, state_);
     dialog_->show();
     QCoreApplication::processEvents();
   }
@@ -89,6 +92,7 @@ class TryDialog : public testing::Test {
 
   TestFolder folder_;
   ScriptedPrompts prompts_;
+  std::optional<BotLocation> on_disk_;
   Bot bot_;
   ProgramState state_;
   std::unique_ptr<frmTry> dialog_;
@@ -102,7 +106,7 @@ TEST_F(TryDialog, ShowsWhatTheEngineSaysAndEndsIt) {
   Enter("txtMap", "oa_dm1");
   Enter("txtOpponents", " sarge  grunt ");
   Find<QComboBox>("cmbSkill").setCurrentIndex(4);
-  EXPECT_GT(Find<QListWidget>("lstFound").count(), 0);
+  EXPECT_GT(Find<QListView>("lstFound").model()->rowCount(), 0);
   Press("cmdStart");
   auto& lines = Find<QListWidget>("lstLines");
   ASSERT_TRUE(QTest::qWaitFor([&] { return lines.count() == 4; }, 20000));
@@ -159,7 +163,7 @@ TEST_F(TryDialog, SaysWhyNothingCanBeTried) {
     UseEngine(engine);
     Press("cmdStart");
     ASSERT_TRUE(QTest::qWaitFor([&] { return Button() == "Start"; }, 20000));
-    EXPECT_THAT(Verdict(), HasSubstr("The engine cannot be started:"));
+    EXPECT_THAT(Verdict(), HasSubstr("The program cannot be started:"));
   }
   UseEngine(folder_.WriteProgram("short", "#!/bin/sh\necho no pak0.pk3\n"));
   Press("cmdStart");
@@ -169,11 +173,59 @@ TEST_F(TryDialog, SaysWhyNothingCanBeTried) {
   ASSERT_EQ(lines.count(), 2);
   EXPECT_EQ(lines.item(1)->text(), "no pak0.pk3");
 
-  ASSERT_TRUE(bot_.SetParameter(kNameIndex, std::string("../x")));
+  ASSERT_TRUE(bot_.SetParameter(kNameField, std::string("../x")));
   Open();
   Press("cmdStart");
   EXPECT_EQ(Button(), "Start");
   EXPECT_FALSE(Verdict().empty());
+}
+
+TEST_F(TryDialog, EndsAnEngineThatPrintsWithoutEnd) {
+  if (!kIsUnix) GTEST_SKIP() << "The engine is a shell script.";
+  UseEngine(folder_.WriteProgram("ioq3ded",
+                                 "#!/bin/sh\ntrap '' TERM\necho $$ "
+                                 ">\"$0.pid\"\nexec yes 'Warning: no'\n"));
+  Enter("txtMap", "q3dm1");
+  Press("cmdStart");
+  ASSERT_TRUE(QTest::qWaitFor([&] { return Button() == "Start"; }, 60000));
+  EXPECT_THAT(Verdict(), HasSubstr("The engine prints without end."));
+  EXPECT_EQ(Find<QListWidget>("lstLines").count(), 1);
+  EXPECT_FALSE(IsRunning());
+}
+
+// All of them can be where somebody has the game.
+TEST_F(TryDialog, TakesPathsWithBlanksQuotesSlashesAndLetters) {
+  if (!kIsUnix) GTEST_SKIP() << "The engine is a shell script.";
+  const QByteArray temporary = qgetenv("TMPDIR");
+  const fs::path scratch = folder_ / "t m\u00F6p";
+  fs::create_directory(scratch);
+  const fs::path data = folder_ / "my \"d\u00E4ta\"";
+  fs::create_directory(data);
+  qputenv("TMPDIR", QByteArray::fromStdString(BytesFromPath(scratch) + "//"));
+  UseEngine(folder_.WriteProgram(
+      "the \"g\u00E4me\"/ioq3ded",
+      "#!/bin/sh\ncd \"$(dirname \"$0\")\"\nprintf '%s\\n' \"$@\" >arguments\n"
+      "readlink \"$3\" >link\nls \"$6/fragsmith\" >package\n"
+      "echo done >done\nexec sleep 60\n"));
+  Enter("txtData", (BytesFromPath(data) + "//").c_str());
+  Enter("txtMap", "q3dm1");
+  Press("cmdStart");
+  const std::string engine = "the \"g\u00E4me\"/";
+  ASSERT_TRUE(QTest::qWaitFor(
+      [&] { return fs::exists(folder_ / (engine + "done")); }, 20000));
+  EXPECT_THAT(folder_.Read(engine + "arguments"),
+              AllOf(HasSubstr("+set\nfs_basepath\n" + BytesFromPath(scratch)),
+                    HasSubstr("+set\nfs_homepath\n" + BytesFromPath(scratch)),
+                    testing::Not(HasSubstr("//"))));
+  EXPECT_THAT(folder_.Read(engine + "link"), HasSubstr(BytesFromPath(data)));
+  EXPECT_EQ(folder_.Read(engine + "package"), "bot-Rookie.pk3\n");
+  dialog_->close();
+  EXPECT_TRUE(fs::is_empty(scratch));
+  if (temporary.isNull()) {
+    qunsetenv("TMPDIR");
+  } else {
+    qputenv("TMPDIR", temporary);
+  }
 }
 
 // A game that has a window is played in, so there is a player besides.
@@ -196,6 +248,43 @@ TEST_F(TryDialog, KnowsAServerByItsNameAndSuggestsAMap) {
   EXPECT_THAT(folder_.Read("game/openarena.arguments"),
               AllOf(HasSubstr("+devmap oa_dm1 +addbot Rookie 4"),
                     testing::Not(HasSubstr("dedicated"))));
+}
+
+TEST_F(TryDialog, TriesTheFilesWhenTheySayAnythingElse) {
+  EXPECT_FALSE(SaveBot(bot_, folder_.path(), {}, {}, prompts_).error);
+  on_disk_ = BotLocation{.name = "rookie", .folder = folder_.path()};
+  Open();
+  EXPECT_FALSE(Find<QComboBox>("cmbWhat").isVisible());
+
+  // The game knows the bot of the files by another name, and stumbles there.
+  folder_.Write("rookie.bot", "{\nname Old\naifile bots/rookie_c.c\n}\n");
+  folder_.Write("rookie_t.c", "chat \"Rookie\"\n{\n type \"a\" { \"b\n}\n");
+  Open();
+  auto& what = Find<QComboBox>("cmbWhat");
+  EXPECT_TRUE(what.isVisible());
+  EXPECT_EQ(what.currentIndex(), 0);
+  const auto& found = Find<FindingsView>("lstFound");
+  const auto is_of_files = [](const Finding& finding) {
+    return std::holds_alternative<FilePlace>(finding.place);
+  };
+  EXPECT_TRUE(std::none_of(found.findings().begin(), found.findings().end(),
+                           is_of_files));
+  what.setCurrentIndex(1);
+  EXPECT_TRUE(std::any_of(found.findings().begin(), found.findings().end(),
+                          is_of_files));
+
+  const fs::path engine = folder_.Write("ioq3ded", kEngine);
+  fs::permissions(engine, fs::perms::owner_all);
+  UseEngine(engine);
+  Enter("txtMap", "here");
+  Press("cmdStart");
+  EXPECT_TRUE(QTest::qWaitFor(
+      [this] { return fs::exists(folder_ / "ioq3ded.package"); }));
+  EXPECT_TRUE(QTest::qWaitFor(
+      [this] { return !folder_.Read("ioq3ded.package").empty(); }));
+  EXPECT_THAT(folder_.Read("ioq3ded.arguments"), HasSubstr("addbot Old"));
+  EXPECT_THAT(folder_.Read("ioq3ded.package"), HasSubstr("botfiles\nscripts"));
+  Press("cmdStart");
 }
 
 }  // namespace

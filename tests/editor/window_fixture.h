@@ -10,9 +10,10 @@
 #include <QTest>
 #include <QTimer>
 #include <memory>
+#include <utility>
 
 #include "editor/frm_main.h"
-#include "editor/program_state.h"
+#include "editor/state/program_state.h"
 #include "tests/support/scripted_prompts.h"
 #include "tests/support/test_folder.h"
 
@@ -32,6 +33,8 @@ class WindowFixture : public testing::Test {
     window_ = std::make_unique<frmMain>(*state_);
     window_->show();
     window_->FinishStart();
+    // All fields are in sight.
+    Find<QAbstractButton>("cmdMore")->setChecked(true);
     // Shortcuts and the leaving of boxes need the window to be the active one.
     QApplication::setActiveWindow(window_.get());
     QCoreApplication::processEvents();
@@ -44,7 +47,35 @@ class WindowFixture : public testing::Test {
     return found;
   }
 
-  void Choose(const char* name) { Find<QAction>(name)->trigger(); }
+  void Choose(const char* name) {
+    // A dialog that nobody expects would keep the test for ever.
+    QTimer guard;
+    QObject::connect(&guard, &QTimer::timeout, [name] {
+      if (QWidget* const dialog = QApplication::activeModalWidget()) {
+        ADD_FAILURE() << name << " waits for an answer";
+        dialog->close();
+      }
+    });
+    constexpr int kPatienceMilliseconds = 10'000;
+    guard.start(kPatienceMilliseconds);
+    Find<QAction>(name)->trigger();
+  }
+
+  /// Chooses an item that opens a dialog, and runs a function on that.
+  template <typename Dialog, typename Function>
+  void ChooseAndAnswer(const char* name, Function function) {
+    bool is_answered = false;
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, [&is_answered, function] {
+      auto* const dialog =
+          qobject_cast<Dialog*>(QApplication::activeModalWidget());
+      if (dialog == nullptr || std::exchange(is_answered, true)) return;
+      function(*dialog);
+    });
+    timer.start(0);
+    Choose(name);
+    EXPECT_TRUE(is_answered) << name;
+  }
 
   /// Types into a box in the place of what is there, and leaves it.
   void Type(const char* name, const char* text) {

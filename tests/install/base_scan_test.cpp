@@ -1,12 +1,16 @@
-#include "install/base_scan.h"
+#include "install/program/base_scan.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <filesystem>
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "install/program/bot_list_file.h"
+#include "install/program/model_list_file.h"
 #include "tests/support/package_maker.h"
 #include "tests/support/scripted_prompts.h"
 #include "tests/support/test_folder.h"
@@ -155,14 +159,17 @@ class BaseScan : public ::testing::Test {
   }
 
   bool Check(const ScanProgress& progress = {}) {
-    return CheckBaseq3(settings_, lists_, selection_, prompts_, progress,
-                       notes_);
+    const std::optional<ScanSummary> summary =
+        CheckBaseq3(settings_, lists_, selection_, prompts_, progress, notes_);
+    summary_ = summary ? Describe(*summary) : "";
+    return summary.has_value();
   }
 
   TestFolder folder_;
   ProgramSettings settings_;
   BaseLists lists_;
   CatalogueSelection selection_;
+  std::string summary_;
   ScriptedPrompts prompts_;
   Notes notes_;
 };
@@ -234,7 +241,51 @@ TEST_F(BaseScan, CancelledScanChangesNothing) {
   EXPECT_EQ(selection_, (CatalogueSelection{15, 4}));
 }
 
+TEST_F(BaseScan, SaysWhatItFoundAndWhatIsGone) {
+  WritePackage("m.pk3", {"models/players/m\xFCller/icon_red.tga",
+                         "models/players/sarge/icon_tiger.tga",
+                         "botfiles/bots/zed_c.c"});
+  lists_.models.AddModelSkin("sarge", "mine", "UserDef", "");
+  EXPECT_TRUE(Check());
+  EXPECT_EQ(summary_,
+            "Add-ons: 1 model, 2 skins, 1 bot. New: M\xC3\xBCller/Red, "
+            "Sarge/Tiger, Zed.");
+  ASSERT_TRUE(SaveUserModels(folder_.path(), lists_.models));
+  ASSERT_TRUE(SaveUserBots(folder_.path(), lists_.bots));
+  EXPECT_TRUE(Check());
+  EXPECT_EQ(summary_, "Add-ons: 1 model, 2 skins, 1 bot.");
+
+  // What is gone does not come back with the next start.
+  std::filesystem::remove(folder_ / "baseq3/m.pk3");
+  EXPECT_TRUE(Check());
+  EXPECT_EQ(summary_,
+            "Add-ons: 0 models, 0 skins, 0 bots. Gone: M\xC3\xBCller/Red, "
+            "Sarge/Tiger, Zed.");
+  for (const EmptyList empty :
+       {EmptyList::kReplacesOldFile, EmptyList::kKeepsOldFile}) {
+    ASSERT_TRUE(SaveUserModels(folder_.path(), lists_.models, empty));
+    ASSERT_TRUE(SaveUserBots(folder_.path(), lists_.bots, empty));
+    EXPECT_THAT(Bots({{}, BuildStandardBotList(folder_.path(), prompts_)}),
+                IsEmpty());
+    EXPECT_THAT(Skins({BuildStandardCatalogue(folder_.path(), prompts_), {}}),
+                ElementsAre("Sarge/Mine: "));
+  }
+  EXPECT_THAT(prompts_.log, IsEmpty());
+
+  // A folder that is away for a while is no reason to forget all.
+  WritePackage("m.pk3", {"botfiles/bots/zed_c.c"});
+  EXPECT_TRUE(Check());
+  std::filesystem::rename(folder_ / "baseq3", folder_ / "away");
+  EXPECT_FALSE(Check());
+  EXPECT_THAT(Bots(lists_), ElementsAre("Zed m.pk3 No"));
+  EXPECT_THAT(
+      prompts_.log,
+      ElementsAre("Can't check folder: There is no folder baseq3 in '" +
+                  folder_.path().string() + "'. The lists stay as they are."));
+}
+
 TEST_F(BaseScan, FolderWithoutPackagesLeavesTheSortedLists) {
+  std::filesystem::create_directory(folder_ / "baseq3");
   EXPECT_TRUE(Check());
   EXPECT_EQ(lists_.bots.entries().size(), 32U);
   EXPECT_EQ(lists_.models.models()[15].Skins[3].Name, "Id");

@@ -58,7 +58,7 @@ as_user() {
     QT_QPA_PLATFORM=offscreen "$@")
 }
 
-# picture NAME [OPTION...]: the editor's window, as NAME.png in the home.
+# picture NAME [ARGUMENT...]: the editor's window, as NAME.png in the home.
 picture() {
   local name=$1
   shift
@@ -88,18 +88,20 @@ grep -qx $'WinZipDir = /usr/lib/fragsmith\r' "$settings" ||
   fail "the settings do not name the unzip tool"
 [[ $(stat -c %U "$settings") == "$user" ]] || fail "the settings are another's"
 
-echo "The fixed pictures are found"
-program_folder same notinuse notinuse
-program_folder other notinuse userdef
-picture same --program-folder same
-picture other --program-folder other
-same first same || fail "the installed picture is not shown"
-if same first other; then fail "the picture box shows nothing"; fi
-
 echo "The command line makes a bot and its package"
 as_user sh -c 'fragsmith-cli new --preset average --name Rookie --seed 7 \
   >rookie.json && fragsmith-cli make rookie.json --into made --pk3 >made.txt'
 [[ $(wc -l <"$home/made.txt") == 6 ]] || fail "not six files were made"
+
+echo "The fixed pictures are found"
+program_folder same notinuse notinuse
+program_folder other notinuse userdef
+picture of-bot made/rookie_c.c
+picture same --program-folder same made/rookie_c.c
+picture other --program-folder other made/rookie_c.c
+if same of-bot first; then fail "the bot is not shown"; fi
+same of-bot same || fail "the installed picture is not shown"
+if same of-bot other; then fail "the picture box shows nothing"; fi
 
 echo "The package is found, and the bot loaded out of it"
 game=$home/game
@@ -126,16 +128,16 @@ with zipfile.ZipFile("game/baseq3/pak0.pk3", "w") as package:
     package.write(sys.argv[1], "models/players/sarge/icon_default.tga")' \
     "/usr/share/fragsmith/$1.tga"
 }
-picture none
+picture none made/rookie_c.c
 icon userdef
-picture icon
+picture icon made/rookie_c.c
 icon notfound
-picture another
+picture another made/rookie_c.c
 if same icon none; then fail "the icon is not shown"; fi
 # The words about the picture are the same for both.
 if same icon another; then fail "what is shown is not the icon"; fi
 icon userdef
-picture again
+picture again made/rookie_c.c
 same icon again || fail "the same icon looks different"
 
 echo "Files are known by their names"

@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "install/bot_list_file.h"
-#include "install/model_list_file.h"
+#include "install/program/bot_list_file.h"
+#include "install/program/model_list_file.h"
 #include "tests/support/scripted_prompts.h"
 #include "tests/support/test_folder.h"
 

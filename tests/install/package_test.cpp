@@ -1,13 +1,18 @@
-#include "install/package.h"
+#include "install/packages/package.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstddef>
 #include <filesystem>
 #include <string>
+#include <string_view>
+#include <utility>
 #include <vector>
 
-#include "install/unzip_command.h"
+#include "install/packages/package_writer.h"
+#include "install/packages/unzip_command.h"
 #include "tests/support/package_maker.h"
 #include "tests/support/test_folder.h"
 
@@ -30,7 +35,7 @@ std::string Replaced(std::string text, std::string_view from,
 class PackageFolder : public ::testing::Test {
  protected:
   Result<std::string> ReadEntry(std::string_view bytes, std::string_view name,
-                                std::size_t limit = kMostUnpackedBytes) {
+                                std::size_t limit = kMaxUnpackedBytes) {
     return ReadPackageEntry(folder_.Write("p.pk3", bytes), name, limit);
   }
 
@@ -113,7 +118,9 @@ TEST_F(PackageFolder, FindsOneFileIgnoringCaseAndSlashes) {
                                      {"b\\c", "3"},
                                      {"models/a/", ""}});
   EXPECT_EQ(*ReadEntry(bytes, "models\\a\\icon.tga"), "2");
-  EXPECT_EQ(*ReadEntry(bytes, "MODELS/a\\icon.tga"), "1");
+  EXPECT_EQ(*ReadEntry(bytes, "Models/A\\Icon.tga"), "1");
+  // As for the game, of several the last counts.
+  EXPECT_EQ(*ReadEntry(bytes, "MODELS/a\\icon.tga"), "2");
   EXPECT_EQ(*ReadEntry(bytes, "B/C"), "3");
   for (const char* name : {"icon.tga", "a/icon.tga", "", "models/a"}) {
     EXPECT_FALSE(ReadEntry(bytes, name)) << name;
@@ -126,7 +133,10 @@ TEST_F(PackageFolder, RefusesBombsAndLies) {
   ASSERT_LT(bomb.size(), 2000U);
   EXPECT_EQ(ReadEntry(bomb, "bomb", 300'000)->size(), 300'000U);
   EXPECT_THAT(ReadEntry(bomb, "bomb", 299'999).error().what,
-              HasSubstr("larger than"));
+              HasSubstr("larger than 299999 bytes, the most that is read of "
+                        "one like it: it has 300000."));
+  EXPECT_TRUE(
+      ReadEntry(bomb, "bomb", 299'999).error().file.ends_with("p.pk3/bomb"));
   // The same with the size said to be 3: what unpacks to more is refused.
   const std::string lie = Replaced(bomb, std::string("\xE0\x93\x04\0", 4),
                                    std::string("\x03\0\0\0", 4));
@@ -135,6 +145,75 @@ TEST_F(PackageFolder, RefusesBombsAndLies) {
   // Damaged data do not pass for good ones.
   EXPECT_FALSE(
       ReadEntry(Replaced(MakeZip({{"a", "text"}}), "text", "next"), "a"));
+}
+
+/// The parts of an archive: each file with its head, each line of the table of
+/// contents, and the end.
+std::vector<std::string> PartsOf(std::string_view bytes) {
+  std::vector<std::string> parts;
+  for (std::size_t at = 0; at < bytes.size();) {
+    const std::size_t end = std::min(bytes.find("PK", at + 1), bytes.size());
+    parts.emplace_back(bytes.substr(at, end - at));
+    at = end;
+  }
+  return parts;
+}
+
+TEST_F(PackageFolder, GivesOneFileOtherContentsAndKeepsAllElse) {
+  const std::string old =
+      MakeZip({{"readme.txt", "hello", std::string("\x99\x99\x02\0ab", 6),
+                "of mine", 0x81A40000U},
+               {"Scripts/", "", {}, {}, 0x10},
+               {"Scripts/Rook.bot", "12345", {}, "the bot", 0x20},
+               {"twice", "1"},
+               {"twice", "2"}},
+              "by an \xC4uthor");
+  const std::filesystem::path path = folder_.Write("p.pk3", old);
+  ASSERT_TRUE(ReplacePackageEntries(path, {{"scripts\\rook.bot", "67890"}}));
+  EXPECT_EQ(*ReadPackageEntry(path, "Scripts/Rook.bot"), "67890");
+  std::vector<std::string> before = PartsOf(old);
+  std::vector<std::string> after = PartsOf(folder_.Read("p.pk3"));
+  ASSERT_EQ(before.size(), 11U);
+  ASSERT_EQ(after.size(), before.size());
+  // Its comment and attributes stay, its check sum and date do not.
+  EXPECT_TRUE(after[2].ends_with("Scripts/Rook.bot67890"));
+  EXPECT_TRUE(after[7].ends_with("Scripts/Rook.botthe bot"));
+  EXPECT_EQ(after[7].substr(36, 6), before[7].substr(36, 6));
+  for (const std::size_t own : {2U, 7U}) after[own] = before[own];
+  EXPECT_EQ(after, before);
+
+  // Packed files are packed again.
+  const std::string long_text(10'000, 'x');
+  ASSERT_TRUE(WritePackage(path, {{"a", long_text}, {"b", "1"}}));
+  ASSERT_TRUE(ReplacePackageEntries(path, {{"a", long_text + 'y'}}));
+  EXPECT_EQ(*ReadPackageEntry(path, "a"), long_text + 'y');
+  EXPECT_LT(std::filesystem::file_size(path), 1000U);
+
+  // A long part in front of the one that changes is taken over as a whole.
+  std::string noise;
+  for (std::uint32_t number = 1; noise.size() < 20'000; number *= 48'271U) {
+    noise += static_cast<char>(number >> 16U);
+  }
+  ASSERT_TRUE(WritePackage(path, {{"a", noise}, {"b", noise}, {"c", "1"}}));
+  ASSERT_TRUE(ReplacePackageEntries(path, {{"c", "2"}}));
+  EXPECT_EQ(*ReadPackageEntry(path, "b"), noise);
+  EXPECT_EQ(*ReadPackageEntry(path, "c"), "2");
+}
+
+TEST_F(PackageFolder, GivesNoFileOtherContentsThatCannotBeToldApart) {
+  const std::string old = MakeZip({{"a", "1"}, {"b", "2"}, {"B", "3"}});
+  const std::filesystem::path path = folder_.Write("p.pk3", old);
+  for (const auto& [name, reason] : {std::pair("c", "not in the package"),
+                                     std::pair("b", "several times")}) {
+    const auto refused = ReplacePackageEntries(path, {{"a", "4"}, {name, "5"}});
+    ASSERT_FALSE(refused) << name;
+    EXPECT_THAT(refused.error().what, HasSubstr(reason));
+    EXPECT_THAT(refused.error().file, HasSubstr("p.pk3"));
+  }
+  EXPECT_EQ(folder_.Read("p.pk3"), old);
+  EXPECT_FALSE(ReplacePackageEntries(folder_ / "missing.pk3", {{"a", "1"}}));
+  EXPECT_FALSE(
+      ReplacePackageEntries(folder_.Write("no.pk3", "text"), {{"a", "1"}}));
 }
 
 class UnzipCommand : public PackageFolder {

@@ -1,10 +1,10 @@
-#include "install/program_folder.h"
+#include "install/program/program_folder.h"
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
 
-#include "install/settings_file.h"
+#include "install/program/settings_file.h"
 #include "tests/support/test_folder.h"
 
 namespace fragsmith {
@@ -17,8 +17,8 @@ namespace fs = std::filesystem;
 class ProgramFolder : public ::testing::Test {
  protected:
   TestFolder folder_;
-  ProgramPlace place_ = {.executable_folder = folder_ / "usr/bin",
-                         .user_folder = folder_ / "home/config/fragsmith"};
+  ProgramLocation place_ = {.executable_folder = folder_ / "usr/bin",
+                            .user_folder = folder_ / "home/config/fragsmith"};
 };
 
 TEST_F(ProgramFolder, IsTheGivenOneWhereThatIs) {
@@ -53,6 +53,28 @@ TEST_F(ProgramFolder, IsMadeForTheUserWithTheStarterSettings) {
   EXPECT_FALSE(fs::exists(place_.user_folder / "fgs.ini"));
 }
 
+TEST_F(ProgramFolder, IsNoneOfTheSystems) {
+  // The super-user could write there.
+#ifdef _WIN32
+  const auto folders = {R"(C:\Program Files)", R"(C:\Program Files\fragsmith)"};
+#else
+  const auto folders = {"/usr", "/usr/bin", "/opt/fragsmith/bin"};
+#endif
+  for (const char* const folder : folders) {
+    place_.executable_folder = folder;
+    EXPECT_EQ(FindProgramFolders({}, place_)->program, place_.user_folder);
+  }
+}
+
+TEST_F(ProgramFolder, KnowsTheToolOfItsInstallation) {
+  EXPECT_EQ(FindProgramFolders({}, place_)->unzip_tool, "");
+  folder_.Write("usr/lib/fragsmith/wzunzip.exe", "");
+  EXPECT_EQ(FindProgramFolders({}, place_)->unzip_tool,
+            folder_ / "usr/lib/fragsmith");
+  folder_.Write("usr/bin/wzunzip.exe", "");
+  EXPECT_EQ(FindProgramFolders({}, place_)->unzip_tool, folder_ / "usr/bin");
+}
+
 TEST_F(ProgramFolder, FailsWhereNoneCanBe) {
   folder_.Write("home/config", "a file in the way");
   EXPECT_FALSE(FindProgramFolders({}, place_));
@@ -60,9 +82,9 @@ TEST_F(ProgramFolder, FailsWhereNoneCanBe) {
   EXPECT_FALSE(FindProgramFolders({}, place_));
 }
 
-TEST(ProgramPlaceTest, KnowsItsOwnExecutable) {
+TEST(ProgramLocationTest, KnowsItsOwnExecutable) {
   const char* const own = kIsUnix ? "test_install" : "test_install.exe";
-  EXPECT_TRUE(fs::exists(FindProgramPlace().executable_folder / own));
+  EXPECT_TRUE(fs::exists(FindProgramLocation().executable_folder / own));
 }
 
 }  // namespace

@@ -3,8 +3,8 @@
 #include <filesystem>
 #include <string>
 
-#include "install/package.h"
-#include "install/targa.h"
+#include "install/packages/package.h"
+#include "install/packages/targa.h"
 #include "support/text.h"
 
 namespace fragsmith {

@@ -1,4 +1,4 @@
-#include "install/settings_file.h"
+#include "install/program/settings_file.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -7,7 +7,7 @@
 #include <stdexcept>
 #include <string>
 
-#include "install/game_folder.h"
+#include "install/program/game_folder.h"
 #include "support/files.h"
 #include "tests/support/scripted_prompts.h"
 #include "tests/support/test_folder.h"
@@ -172,6 +172,27 @@ TEST_F(SettingsFolder, MissingFileGivesDefaults) {
   EXPECT_EQ(state.CurrentFolder, folder_.path());
 }
 
+TEST_F(SettingsFolder, NamesTheProgramsOwnToolWhereTheUserNamesNone) {
+  folder_.Write("own/wzunzip.exe", "");
+  const auto load = [&](std::string_view own) {
+    settings_ = {};
+    return LoadSettings(folder_.path(), settings_, prompts_, folder_ / own);
+  };
+  // A lost file, and one that was written when there was no tool.
+  EXPECT_TRUE(load("own").WinZipFound);
+  EXPECT_EQ(settings_.WinZipDir, folder_ / "own");
+  folder_.Write("fgs.ini", FormatSettings({.UserName = "You"}));
+  EXPECT_TRUE(load("own").WinZipFound);
+  EXPECT_EQ(settings_.UserName, "You");
+  // The file could not hold that folder.
+  EXPECT_FALSE(load("own, other").WinZipFound);
+  EXPECT_EQ(settings_.WinZipDir, "");
+  // The user's own stays, also where it has no tool any more.
+  folder_.Write("fgs.ini", FormatSettings({.WinZipDir = "/no/tool"}));
+  EXPECT_FALSE(load("own").WinZipFound);
+  EXPECT_EQ(settings_.WinZipDir, "/no/tool");
+}
+
 TEST_F(SettingsFolder, KeepsADamagedFileBesideTheNewOne) {
   const std::string damaged = "[]\r\nQ3Baseq3 = \r\nWorkDir = \r\n";
   Load(damaged);
@@ -240,11 +261,13 @@ TEST(GameFolder, KnowsTheProgramByItsNames) {
     const char* name;
     bool is_executable;
     bool counts;
-  } cases[] = {{"quake3.exe", false, true},     {"Quake3.EXE", false, true},
-               {"ioquake3", true, kIsUnix},     {"quake3e.x64", true, kIsUnix},
-               {"openarena", true, kIsUnix},    {"quake3", false, false},
-               {"quake2.exe", true, false},     {"quake3.exe/x", true, false},
-               {"ioquake3/a-file", true, false}};
+  } cases[] = {
+      {"quake3.exe", false, true},        {"Quake3.EXE", false, true},
+      {"ioquake3", true, kIsUnix},        {"quake3e.x64", true, kIsUnix},
+      {"openarena", true, kIsUnix},       {"quake3", false, false},
+      {"quake2.exe", true, false},        {"quake3.exe/x", true, false},
+      {"ioquake3/a-file", true, false},   {"baseoa/pak0.pk3", false, kIsUnix},
+      {"baseoa/other.pk3", false, false}, {"baseq3/pak0.pk3", false, false}};
   for (const auto& one : cases) {
     const TestFolder folder;
     if (one.is_executable) {
@@ -270,6 +293,12 @@ TEST(GameFolder, FindsPackagesAndTheTool) {
   EXPECT_FALSE(FindUnzipTool(folder.path()));
   folder.Write("WzUnzip.exe", "");
   EXPECT_TRUE(folder.Is(FindUnzipTool(folder.path()), "WzUnzip.exe"));
+  // Anything could lie in the current folder, and did.
+  const std::filesystem::path here = std::filesystem::current_path();
+  std::filesystem::current_path(folder.path());
+  EXPECT_FALSE(FindUnzipTool(""));
+  EXPECT_FALSE(FindUnzipTool("."));
+  std::filesystem::current_path(here);
   // Elsewhere a program is one by its suffix.
   if (!kIsUnix) return;
   folder.WriteProgram("wzunzip", "");

@@ -1,11 +1,11 @@
-#include "install/skin_icon.h"
+#include "install/program/skin_icon.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <string>
 
-#include "install/targa.h"
+#include "install/packages/targa.h"
 #include "tests/support/test_folder.h"
 
 namespace fragsmith {
@@ -129,6 +129,19 @@ TEST_F(SkinIcon, TakesTheIconOutAndLeavesNothingBehind) {
             IconKind::kNotFound);
   EXPECT_EQ(Show("models\\players\\x\\my_icon_x.tga", "mod.pk3"),
             IconKind::kNotFound);
+}
+
+TEST_F(SkinIcon, AsksAToolThatHangsOnceForEachPackage) {
+  if (!kIsUnix) GTEST_SKIP() << "The tool is a shell script.";
+  folder_.Write("baseq3/other.pk3", "");
+  UseTool("echo >>\"$0.calls\"\nexec sleep 1\n");
+  SilentPackages silent;
+  tool_.silent = &silent;
+  tool_.patience = std::chrono::milliseconds(200);
+  for (const char* const package : {"mod.pk3", "mod.pk3", "other.pk3"}) {
+    EXPECT_EQ(Show(kIconPath, package), IconKind::kNotFound);
+  }
+  EXPECT_EQ(folder_.Read("wzunzip.calls"), "\n\n");
 }
 
 TEST_F(SkinIcon, NeverShowsAnOlderFile) {

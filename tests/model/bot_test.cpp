@@ -5,6 +5,8 @@
 
 #include <stdexcept>
 
+#include "tests/support/ids.h"
+
 namespace fragsmith {
 namespace {
 
@@ -18,24 +20,24 @@ TEST(Bot, BeginsWithItsDefaults) {
       {9, ""},         {10, "0"},       {81, "bot_t.c"}, {82, "bot_w.c"},
       {83, "bot_i.c"}, {84, "bot_c.c"}, {85, "bot"},     {86, "bot.bot"},
       {31, ""},        {80, ""},        {102, ""},       {530, ""}};
-  for (const auto& [index, text] : texts) EXPECT_EQ(bot.Text(index), text);
-  for (int type = 0; type < kChatTypeCount; ++type) {
+  for (const auto& [index, text] : texts) EXPECT_EQ(bot.Text(Id(index)), text);
+  for (const ChatTypeId type : kAllChatTypes) {
     EXPECT_THAT(bot.ChatLines(type), ElementsAre(""));
   }
 }
 
 TEST(Bot, KeepsToItsIndices) {
   Bot bot;
-  ASSERT_TRUE(bot.SetParameter(402, 0.25));
-  ASSERT_TRUE(bot.SetParameter(0, "Sarge J\xC4"));
-  EXPECT_EQ(bot.Text(402) + bot.Text(102), "0.25");
-  EXPECT_EQ(bot.Text(84), "sarge j\xE4_c.c");
-  EXPECT_EQ(bot.Text(86), "sarge j\xE4.bot");
+  ASSERT_TRUE(bot.SetParameter(Id(402), 0.25));
+  ASSERT_TRUE(bot.SetParameter(Id(0), "Sarge J\xC4"));
+  EXPECT_EQ(bot.Text(Id(402)) + bot.Text(Id(102)), "0.25");
+  EXPECT_EQ(bot.Text(Id(84)), "sarge j\xE4_c.c");
+  EXPECT_EQ(bot.Text(Id(86)), "sarge j\xE4.bot");
   for (const int index : {-1, 4, 11, 30, 87, 100, 202, 302, 431, 602}) {
-    EXPECT_THROW((void)bot.Parameter(index), std::out_of_range) << index;
+    EXPECT_THROW((void)bot.Parameter(Id(index)), std::out_of_range) << index;
   }
   for (const int index : {81, 84, 86, 87, 202}) {
-    EXPECT_THROW((void)bot.SetParameter(index, "x"), std::out_of_range);
+    EXPECT_THROW((void)bot.SetParameter(Id(index), "x"), std::out_of_range);
   }
 }
 
@@ -51,27 +53,27 @@ TEST(Bot, ConvertsVersionAndArenaLord) {
   // clang-format on
   for (const auto& row : cases) {
     Bot bot;
-    EXPECT_EQ(bot.SetParameter(row.index, row.value).has_value(),
+    EXPECT_EQ(bot.SetParameter(Id(row.index), row.value).has_value(),
               !row.text.empty());
-    EXPECT_EQ(bot.Text(row.index), row.text.empty() ? "0" : row.text);
+    EXPECT_EQ(bot.Text(Id(row.index)), row.text.empty() ? "0" : row.text);
   }
   // Texts of the game are 8-bit, errors are UTF-8.
-  EXPECT_EQ(Bot().SetParameter(10, "\xE4").error().what,
+  EXPECT_EQ(Bot().SetParameter(Id(10), "\xE4").error().what,
             "\"ä\" is not a number.");
 }
 
 TEST(Bot, GrowsAndClosesItsChatLists) {
   Bot bot;
-  bot.SetChatLine(27, 2, "c");
-  bot.SetChatLine(27, 0, "a");
-  EXPECT_THAT(bot.ChatLines(27), ElementsAre("a", "", "c"));
-  bot.RemoveChatLine(27, 0);
-  EXPECT_THAT(bot.ChatLines(27), ElementsAre("", "c"));
-  bot.RemoveChatLine(27, 1);
-  bot.RemoveChatLine(27, 0);
-  EXPECT_EQ(bot.HighestChatLine(27), -1);
-  EXPECT_THROW(bot.RemoveChatLine(27, 0), std::out_of_range);
-  EXPECT_THROW(bot.SetChatLine(27, -1, "x"), std::out_of_range);
+  bot.SetChatLine(TypeAt(27), 2, "c");
+  bot.SetChatLine(TypeAt(27), 0, "a");
+  EXPECT_THAT(bot.ChatLines(TypeAt(27)), ElementsAre("a", "", "c"));
+  bot.RemoveChatLine(TypeAt(27), 0);
+  EXPECT_THAT(bot.ChatLines(TypeAt(27)), ElementsAre("", "c"));
+  bot.RemoveChatLine(TypeAt(27), 1);
+  bot.RemoveChatLine(TypeAt(27), 0);
+  EXPECT_EQ(bot.HighestChatLine(TypeAt(27)), -1);
+  EXPECT_THROW(bot.RemoveChatLine(TypeAt(27), 0), std::out_of_range);
+  EXPECT_THROW(bot.SetChatLine(TypeAt(27), -1, "x"), std::out_of_range);
   EXPECT_NE(bot, Bot());
   bot.ClearChats();
   EXPECT_EQ(bot, Bot());

@@ -63,30 +63,32 @@ TEST(LevelLinking, MovesNeighboursOnlyAsFarAsNeeded) {
   constexpr auto kFalling = LevelLinking::kFalling;
   const struct {
     LevelLinking linking;
-    int moved;
-    LevelPositions before;
-    LevelPositions after;
-    std::vector<int> changed;
-  } cases[] = {{LevelLinking::kNone, 0, {15, 10, 5}, {15, 10, 5}, {}},
-               {kRising, 0, {15, 10, 20}, {15, 15, 20}, {1}},
-               {kRising, 0, {18, 10, 12}, {18, 18, 18}, {1, 2}},
-               {kRising, 0, {10, 10, 12}, {10, 10, 12}, {}},
-               {kRising, 1, {5, 3, 12}, {3, 3, 12}, {0}},
-               {kRising, 1, {5, 13, 12}, {5, 13, 13}, {2}},
-               {kRising, 1, {8, 6, 4}, {6, 6, 6}, {0, 2}},
-               {kRising, 2, {5, 8, 2}, {2, 2, 2}, {1, 0}},
-               {kFalling, 0, {15, 10, 5}, {15, 10, 5}, {}},
-               {kFalling, 0, {4, 10, 8}, {4, 4, 4}, {1, 2}},
-               {kFalling, 1, {9, 12, 5}, {12, 12, 5}, {0}},
-               {kFalling, 1, {9, 3, 5}, {9, 3, 3}, {2}},
-               {kFalling, 2, {9, 5, 12}, {12, 12, 12}, {1, 0}},
-               // Out of order before: who stays passes nothing on.
-               {kRising, 0, {5, 10, 3}, {5, 10, 3}, {}},
-               {kFalling, 0, {5, 4, 8}, {5, 4, 8}, {}}};
+    Level moved;
+    LevelNumbers before;
+    LevelNumbers after;
+    std::vector<Level> changed;
+  } cases[] = {
+      {LevelLinking::kNone, Level::k1, {15, 10, 5}, {15, 10, 5}, {}},
+      {kRising, Level::k1, {15, 10, 20}, {15, 15, 20}, {Level::k4}},
+      {kRising, Level::k1, {18, 10, 12}, {18, 18, 18}, {Level::k4, Level::k5}},
+      {kRising, Level::k1, {10, 10, 12}, {10, 10, 12}, {}},
+      {kRising, Level::k4, {5, 3, 12}, {3, 3, 12}, {Level::k1}},
+      {kRising, Level::k4, {5, 13, 12}, {5, 13, 13}, {Level::k5}},
+      {kRising, Level::k4, {8, 6, 4}, {6, 6, 6}, {Level::k1, Level::k5}},
+      {kRising, Level::k5, {5, 8, 2}, {2, 2, 2}, {Level::k4, Level::k1}},
+      {kFalling, Level::k1, {15, 10, 5}, {15, 10, 5}, {}},
+      {kFalling, Level::k1, {4, 10, 8}, {4, 4, 4}, {Level::k4, Level::k5}},
+      {kFalling, Level::k4, {9, 12, 5}, {12, 12, 5}, {Level::k1}},
+      {kFalling, Level::k4, {9, 3, 5}, {9, 3, 3}, {Level::k5}},
+      {kFalling, Level::k5, {9, 5, 12}, {12, 12, 12}, {Level::k4, Level::k1}},
+      {kRising, Level::k1, {0.36, 0.35, 1.5}, {0.36, 0.36, 1.5}, {Level::k4}},
+      // Out of order before: who stays passes nothing on.
+      {kRising, Level::k1, {5, 10, 3}, {5, 10, 3}, {}},
+      {kFalling, Level::k1, {5, 4, 8}, {5, 4, 8}, {}}};
   for (const auto& row : cases) {
-    LevelPositions positions = row.before;
-    EXPECT_EQ(LinkLevels(row.linking, row.moved, positions), row.changed);
-    EXPECT_EQ(positions, row.after);
+    LevelNumbers numbers = row.before;
+    EXPECT_EQ(LinkLevels(row.linking, row.moved, numbers), row.changed);
+    EXPECT_EQ(numbers, row.after);
   }
 }
 

@@ -1,9 +1,10 @@
-// verdicts_maker CASES BOTFILES FOLDER: writes the bots of engine_cases.tsv
-// into FOLDER/DEFAULT/NUMBER, a home for a game each, and prints a line for
-// each case with what we make of it, given the game's own BOTFILES: folder,
-// bot, verdicts of the table, ours, title.
+// verdicts_maker CASES DATA FOLDER: puts the bots of engine_cases.tsv into
+// FOLDER/HOME/NUMBER each, given DATA with the game's own botfiles and scripts,
+// and prints a line for each case with what we make of it: home, number, what
+// the game adds the bot by, verdicts of the table, ours, message of the table,
+// the bot's own name, title. Cases of one home go into one game.
 
-#include <cstdio>
+#include <cstddef>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -19,7 +20,7 @@ namespace {
 namespace fs = std::filesystem;
 
 /// The game reads no more than 1022 bytes of names of description files.
-constexpr int kMostInHome = 100;
+constexpr int kMaxInHome = 90;
 
 std::optional<std::string> ReadWhole(const fs::path& path) {
   std::ifstream file(path, std::ios::binary);
@@ -27,48 +28,47 @@ std::optional<std::string> ReadWhole(const fs::path& path) {
   return std::string(std::istreambuf_iterator<char>(file), {});
 }
 
-void Write(const fs::path& path, const std::string& bytes) {
-  fs::create_directories(path.parent_path());
-  std::ofstream(path, std::ios::binary) << bytes;
-}
-
 }  // namespace
 
 int main(int count, char** arguments) {
   using namespace fragsmith;
   if (count != 4) {
-    std::cerr << "usage: verdicts_maker CASES BOTFILES FOLDER\n";
+    std::cerr << "usage: verdicts_maker CASES DATA FOLDER\n";
     return 2;
   }
-  const fs::path botfiles = arguments[2];
+  const fs::path data = arguments[2];
   const IncludeLookup game = [&](std::string_view path) {
-    return ReadWhole(botfiles / ToLower(path));
+    return ReadWhole(data / "botfiles" / ToLower(path));
   };
+  const std::string bots = ReadWhole(data / "scripts/bots.txt").value_or("");
   std::map<std::string, int> numbers;
+  int alone = 0;
   for (const EngineCase& one : ReadEngineCases(arguments[1])) {
     const int number = numbers[one.fallback]++;
-    const std::string home =
-        one.fallback + "/" + std::to_string(number / kMostInHome);
-    const std::string digits = std::to_string(1000 + number % kMostInHome);
+    std::string home = ReplaceAll(one.fallback, ",", "-");
+    home += one.Is("alone") ? "-" + std::to_string(++alone)
+                            : std::to_string(number / kMaxInHome);
+    const std::string digits = std::to_string(1000 + number % kMaxInHome);
     const std::string name = "e" + digits.substr(1);
     std::map<std::string, std::string> files;
     if (!MakeEngineCase(one, name, files)) {
       std::cerr << "nothing to change: " << one.title << '\n';
       return 1;
     }
-    const fs::path folder = fs::path(arguments[3]) / home;
-    for (const auto& [part, bytes] : files) {
-      Write(part == "bot"
-                ? folder / "scripts" / (name + ".bot")
-                : folder / "botfiles/bots" / (name + "_" + part + ".c"),
-            bytes);
+    const fs::path folder = fs::path(arguments[3]) / home / digits;
+    PutEngineCase(one, name, files, folder);
+    for (const auto& [other, bytes] : FallbackFiles(one.Fallback())) {
+      const fs::path place =
+          fs::path(arguments[3]) / home / "game/botfiles/bots" / other;
+      fs::create_directories(place.parent_path());
+      std::ofstream(place, std::ios::binary) << bytes;
     }
-    for (const auto& [other, bytes] : FallbackFiles(one.fallback)) {
-      Write(folder / "botfiles/bots" / other, bytes);
-    }
-    std::cout << home << '\t' << name << '\t' << one.verdicts << '\t'
-              << VerdictLetters(FileSetOf(files, name), one.fallback, game)
-              << '\t' << one.part << ": " << one.title << '\n';
+    const CheckedCase checked = OpenEngineCase(one, name, folder, game, bots);
+    std::cout << home << '\t' << digits << '\t' << NameToAdd(checked.set)
+              << '\t' << one.verdicts << '\t'
+              << VerdictLetters(checked.set, checked.look_up) << '\t'
+              << one.message << '\t' << name << '\t' << one.part << ": "
+              << one.title << " (" << one.fallback << ")\n";
   }
   return 0;
 }

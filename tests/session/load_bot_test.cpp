@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <filesystem>
 #include <string>
@@ -12,7 +13,10 @@
 #include "session/bot_document.h"
 #include "session/presets.h"
 #include "session/save_bot.h"
+#include "support/files.h"
 #include "support/text.h"
+#include "tests/support/game_lines.h"
+#include "tests/support/ids.h"
 #include "tests/support/scripted_prompts.h"
 #include "tests/support/test_folder.h"
 
@@ -49,8 +53,8 @@ std::string Looks(const Bot& bot) {
 class LoadBotTest : public ::testing::Test {
  protected:
   LoadBotTest() : bot_(CreateAverageBot([] { return 0.5; })) {
-    Set(bot_, kNameIndex, "Rookie");
-    Set(bot_, kGenderIndex, "it");
+    Set(bot_, kNameField, "Rookie");
+    Set(bot_, kGenderField, "it");
     Set(bot_, kModelField, "Biker");
     Set(bot_, kSkinField, "Hossman");
     Set(bot_, kFunNameField, "\"The ^1New\"");
@@ -58,8 +62,8 @@ class LoadBotTest : public ::testing::Test {
     Set(bot_, kArenaLordField, 1.0);
   }
 
-  static void Set(Bot& bot, int index, Value value) {
-    ASSERT_TRUE(bot.SetParameter(index, std::move(value)));
+  static void Set(Bot& bot, const IdNumber& index, Value value) {
+    ASSERT_TRUE(bot.SetParameter(Id(index), std::move(value)));
   }
 
   void Save(const std::string& folder, bool uses_layout = false) {
@@ -91,7 +95,7 @@ TEST_F(LoadBotTest, FindsTheFilesWhateverTheirCase) {
     const LoadedBot loaded = Load("rookie", "bot");
     EXPECT_EQ(Shown(loaded.bot), Shown(bot_)) << name;
     EXPECT_TRUE(loaded.notes.empty());
-    EXPECT_EQ(loaded.files_read, 5);
+    EXPECT_EQ(loaded.files.size(), 5U);
     EXPECT_THAT(prompts_.log, IsEmpty());
   }
   // The exact spelling goes before.
@@ -100,10 +104,18 @@ TEST_F(LoadBotTest, FindsTheFilesWhateverTheirCase) {
 }
 
 TEST_F(LoadBotTest, TellsOfWhatStaysInTheHeader) {
-  const auto note_count = [this] {
-    Save("made");
-    return Load("rookie", "made").notes.list().size();
+  const auto note_count = [this](const Author& author = {}) {
+    fs::create_directories(folder_ / "made");
+    ScriptedPrompts none;
+    EXPECT_FALSE(SaveBot(bot_, folder_ / "made", {}, author, none).error);
+    return LoadBotFromFolder("rookie", folder_ / "made", {},
+                             {models_, bots_, prompts_, {"Ann", "", ""}})
+        .notes.list()
+        .size();
   };
+  // A save names who sits at the program, which is Ann.
+  EXPECT_EQ(note_count({"Bob", "", ""}), 1U);
+  EXPECT_EQ(note_count({"Ann", "", ""}), 0U);
   EXPECT_EQ(note_count(), 0U);
   Set(bot_, kVersionMinorField, 1.0);
   EXPECT_EQ(note_count(), 1U);
@@ -112,11 +124,27 @@ TEST_F(LoadBotTest, TellsOfWhatStaysInTheHeader) {
   EXPECT_EQ(note_count(), 1U);
 }
 
+TEST_F(LoadBotTest, TellsOfAByteOrderMark) {
+  Save("bot");
+  for (const char* const name : {"rookie_c.c", "rookie_w.c", "rookie.bot"}) {
+    const std::string file = "bot/" + std::string(name);
+    folder_.Write(file, "\xEF\xBB\xBF" + folder_.Read(file));
+  }
+  const LoadedBot loaded = Load("rookie", "bot");
+  EXPECT_EQ(loaded.bot.Text(kModelField), "Biker");
+  EXPECT_EQ(std::ranges::count_if(loaded.notes.list(),
+                                  [](const Note& note) {
+                                    return note.text.find("byte order") !=
+                                           std::string::npos;
+                                  }),
+            3);
+}
+
 TEST_F(LoadBotTest, TellsEachMissingFileAndReadsTheOthers) {
   for (std::size_t missing = 0; missing < kSuffixes.size(); ++missing) {
     Save("bot");
     fs::remove(folder_ / ("bot/rookie" + kSuffixes[missing]));
-    EXPECT_EQ(Load("rookie", "bot").files_read, 4);
+    EXPECT_EQ(Load("rookie", "bot").files.size(), 4U);
     EXPECT_THAT(prompts_.log, ElementsAre(kMissing[missing]));
   }
   EXPECT_EQ(Shown(Load("rookie", "none").bot), Shown(Bot()));
@@ -124,7 +152,7 @@ TEST_F(LoadBotTest, TellsEachMissingFileAndReadsTheOthers) {
   EXPECT_EQ(prompts_.messages.back().icon, MessageIcon::kInformation);
   // The files are looked for in the folder alone.
   Save("bot");
-  EXPECT_EQ(Load("../bot/rookie", "bot").files_read, 0);
+  EXPECT_EQ(Load("../bot/rookie", "bot").files.size(), 0U);
 }
 
 TEST_F(LoadBotTest, LooksForTheDescriptionBesideBotfiles) {
@@ -145,7 +173,7 @@ TEST_F(LoadBotTest, LooksForTheDescriptionBesideBotfiles) {
   EXPECT_EQ(Load("rookie", "game/botfiles/bots", layout).bot.FunName(), "");
   EXPECT_THAT(prompts_.log, ElementsAre(kMissing[4]));
 
-  Set(bot_, kNameIndex, "Hossman");
+  Set(bot_, kNameField, "Hossman");
   for (const std::string folder : {"game/BotFiles/Bots", "game/bots"}) {
     Save(folder);
     EXPECT_EQ(Looks(Load("hossman", folder, layout).bot), "Biker/Hossman 0 ");
@@ -192,7 +220,10 @@ TEST_F(LoadBotTest, NamesABotAfterItsFileWhereItMust) {
     folder_.Write("bot/File_c.c", lines);
     const LoadedBot loaded = Load("File", "bot");
     EXPECT_EQ(loaded.bot.Name(), name) << lines;
-    EXPECT_EQ(loaded.notes.empty(), name != "File") << lines;
+    EXPECT_EQ(Contains(::testing::PrintToString(Described(loaded.notes)),
+                       "after its file"),
+              name == "File")
+        << lines;
   }
 }
 
@@ -202,12 +233,12 @@ TEST_F(LoadBotTest, ReadsOneFileIntoABotThatIsThere) {
   if (kIsUnix) folder_.Write("bot/rookie_C.C", "");
   folder_.Write("bot/rookie_c.c.old", "");
   Bot mine;
-  Set(mine, kNameIndex, "Mine");
+  Set(mine, kNameField, "Mine");
   Set(mine, kCommentField, "kept");
-  mine.SetChatLine(7, 4, "Mine");
+  mine.SetChatLine(TypeAt(7), 4, "Mine");
   // A parameter that comes from the file of that number; the chat has none.
-  const std::vector<int> read = {kRailColorField, 405, kNameIndex, kArmorIndex,
-                                 44};
+  const std::vector<ParameterId> read = {kRailColorField, Id(405), kNameField,
+                                         kArmorWeight, Id(44)};
   std::vector<std::string> suffixes = kSuffixes;
   suffixes.insert(suffixes.end(), {"_C.C", "_c.c.old", ""});
   for (int type = 0; type <= 4; ++type) {
@@ -219,15 +250,20 @@ TEST_F(LoadBotTest, ReadsOneFileIntoABotThatIsThere) {
                 suffix == FileSuffix(file));
     }
     EXPECT_EQ(loaded.bot.Name() + loaded.bot.Text(kCommentField), "Minekept");
-    for (const int index : read) {
+    for (const ParameterId index : read) {
       const bool is_read = index == read.at(static_cast<std::size_t>(type));
-      if (index == kNameIndex) continue;
+      if (index == kNameField) continue;
       EXPECT_EQ(loaded.bot.Text(index), (is_read ? bot_ : mine).Text(index));
     }
-    EXPECT_EQ(loaded.bot.ChatLines(7),
-              (file == BotFile::kChat ? bot_ : mine).ChatLines(7));
+    EXPECT_EQ(loaded.bot.ChatLines(TypeAt(7)),
+              (file == BotFile::kChat ? bot_ : mine).ChatLines(TypeAt(7)));
   }
   EXPECT_THAT(prompts_.log, IsEmpty());
+  EXPECT_EQ(FaultOfName(BotFile::kChat, "a_c.c"),
+            "its name does not end as it should");
+  EXPECT_EQ(FaultOfName(BotFile::kChat, PathFromBytes("\xCE\xB1_t.c")),
+            "its name has characters that the game does not have");
+  EXPECT_EQ(FaultOfName(BotFile::kChat, "a_t.c"), "");
   LoadedBot loaded;
   EXPECT_FALSE(LoadSingleFile(BotFile::kChat, folder_ / "no/rookie_t.c", loaded,
                               prompts_));
@@ -241,13 +277,13 @@ TEST_F(LoadBotTest, TakesValuesAsTheGameOnDemand) {
   folder_.Write("bot/x.bot", "model\t\tsarge/roderic // beefy\n");
   LoadedBot loaded = Load("x", "bot");
   const auto shown = [&loaded] {
-    return loaded.bot.Name() + " " + loaded.bot.Text(104) + " " +
+    return loaded.bot.Name() + " " + loaded.bot.Text(Id(104)) + " " +
            Looks(loaded.bot);
   };
   EXPECT_EQ(shown(), "Hidden 0 Sarge/roderic//beefy 0 ");
-  EXPECT_EQ(loaded.notes.list().size(), 3U);
+  EXPECT_EQ(loaded.plain_values.size(), 3U);
   // For the game the bot has no name, but a bot must have one.
-  TakeValuesAsGame(loaded, models_);
+  TakeValuesAsGame(loaded.bot, ReportOf(loaded, loaded.bot), models_);
   EXPECT_EQ(shown(), "Hidden 0.1234 Sarge/Roderic 0 ");
 }
 

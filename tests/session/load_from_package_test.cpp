@@ -12,6 +12,7 @@
 #include "session/bot_document.h"
 #include "session/presets.h"
 #include "session/save_bot.h"
+#include "tests/support/ids.h"
 #include "tests/support/scripted_prompts.h"
 #include "tests/support/test_folder.h"
 
@@ -19,8 +20,11 @@ namespace fragsmith {
 namespace {
 
 namespace fs = std::filesystem;
+using ::testing::AllOf;
 using ::testing::ElementsAre;
+using ::testing::HasSubstr;
 using ::testing::IsEmpty;
+using ::testing::StartsWith;
 
 const std::string kBot = "botfiles\\bots\\rookie";
 const std::string kFailed = "Load failed!: Bot loading failed";
@@ -30,7 +34,7 @@ const std::string kFailed = "Load failed!: Bot loading failed";
 class LoadFromPackageTest : public ::testing::Test {
  protected:
   LoadFromPackageTest() : bot_(CreateAverageBot([] { return 0.5; })) {
-    Set(bot_, kNameIndex, "Rookie");
+    Set(bot_, kNameField, "Rookie");
     Set(bot_, kModelField, "Lucy");
     UseTool(R"sh(cp "$2/$(printf %s "$3" | tr '\\' /)" "$4")sh");
     tool_.folder = folder_ / "tool";
@@ -42,8 +46,8 @@ class LoadFromPackageTest : public ::testing::Test {
     if (!kIsUnix) GTEST_SKIP() << "The tool is a shell script.";
   }
 
-  static void Set(Bot& bot, int index, Value value) {
-    ASSERT_TRUE(bot.SetParameter(index, std::move(value)));
+  static void Set(Bot& bot, const IdNumber& index, Value value) {
+    ASSERT_TRUE(bot.SetParameter(Id(index), std::move(value)));
   }
 
   void UseTool(const std::string& line) {
@@ -83,17 +87,14 @@ class LoadFromPackageTest : public ::testing::Test {
 };
 
 TEST_F(LoadFromPackageTest, TakesTheFilesOutOneByOne) {
-  current_.SetChatLine(0, 9, "is not kept");
+  current_.SetChatLine(TypeAt(0), 9, "is not kept");
   const std::string four =
       kBot + "_c.c\n" + kBot + "_t.c\n" + kBot + "_i.c\n" + kBot + "_w.c\n";
-  for (const int type : {kWholeBot, 5}) {
-    wanted_.LoType = type;
-    const auto loaded = Load();
-    ASSERT_TRUE(loaded);
-    EXPECT_EQ(WriteBotDocument(loaded->bot), WriteBotDocument(bot_));
-    EXPECT_TRUE(loaded->notes.empty());
-    EXPECT_EQ(Asked(), four + "scripts\\rookie.bot\n");
-  }
+  const auto loaded = Load();
+  ASSERT_TRUE(loaded);
+  EXPECT_EQ(WriteBotDocument(loaded->bot), WriteBotDocument(bot_));
+  EXPECT_TRUE(loaded->notes.empty());
+  EXPECT_EQ(Asked(), four + "scripts\\rookie.bot\n");
   wanted_.withScript = false;
   EXPECT_EQ(Load()->bot.Text(kModelField), "Sarge");
   EXPECT_EQ(Asked(), four);
@@ -105,7 +106,7 @@ TEST_F(LoadFromPackageTest, TakesTheFilesOutOneByOne) {
 }
 
 TEST_F(LoadFromPackageTest, FillsTheIdentityOfStandardBots) {
-  Set(bot_, kNameIndex, "Anarki");
+  Set(bot_, kNameField, "Anarki");
   wanted_.name = "anarki";
   Pack();
   const auto identity = [this](const std::string& script, bool with_script,
@@ -126,21 +127,22 @@ TEST_F(LoadFromPackageTest, FillsTheIdentityOfStandardBots) {
 }
 
 TEST_F(LoadFromPackageTest, ReadsOneFileIntoTheCurrentBot) {
-  Set(current_, kNameIndex, "Anarki");
-  current_.SetChatLine(0, 0, "Mine");
+  Set(current_, kNameField, "Anarki");
+  current_.SetChatLine(TypeAt(0), 0, "Mine");
   const std::vector<std::string> files = {"scripts\\rookie.bot", kBot + "_c.c",
                                           kBot + "_t.c", kBot + "_i.c",
                                           kBot + "_w.c"};
   wanted_.withScript = false;
   for (int type = 0; type <= 4; ++type) {
-    wanted_.LoType = type;
+    wanted_.LoType = static_cast<BotFile>(type);
     const Bot bot = Load().value().bot;
     EXPECT_EQ(Asked(), files.at(static_cast<std::size_t>(type)) + "\n");
     EXPECT_EQ(bot.Text(kModelField), type == 0 ? "Lucy" : "Sarge");
-    EXPECT_EQ(bot.Text(405), type == 1 ? "0.5" : "");
-    EXPECT_EQ(bot.Text(kArmorIndex), type == 3 ? "2" : "");
-    EXPECT_EQ(bot.Text(44), type == 4 ? "50" : "");
-    EXPECT_EQ(bot.ChatLines(0), (type == 2 ? bot_ : current_).ChatLines(0));
+    EXPECT_EQ(bot.Text(Id(405)), type == 1 ? "0.5" : "");
+    EXPECT_EQ(bot.Text(kArmorWeight), type == 3 ? "2" : "");
+    EXPECT_EQ(bot.Text(Id(44)), type == 4 ? "50" : "");
+    EXPECT_EQ(bot.ChatLines(TypeAt(0)),
+              (type == 2 ? bot_ : current_).ChatLines(TypeAt(0)));
     EXPECT_EQ(bot.Name() + bot.FunName(), "Anarki");
   }
 }
@@ -154,11 +156,11 @@ TEST_F(LoadFromPackageTest, GivesNothingWhenAFileIsMissing) {
     EXPECT_THAT(prompts_.log, ElementsAre(kFailed));
     EXPECT_EQ(prompts_.messages.back().icon, MessageIcon::kExclamation);
   }
-  wanted_.LoType = static_cast<int>(BotFile::kWeaponWeights);
+  wanted_.LoType = BotFile::kWeaponWeights;
   EXPECT_FALSE(Load());
   EXPECT_THAT(prompts_.log, ElementsAre(kFailed));
   // Nothing is looked for, or removed, outside the temporary folder.
-  wanted_.LoType = kWholeBot;
+  wanted_.LoType = WholeBot{};
   folder_.Write("x_c.c", "whole");
   UseTool(":");
   for (const std::string& name : {std::string("../../x"), std::string("a/.."),
@@ -173,12 +175,29 @@ TEST_F(LoadFromPackageTest, GivesNothingWhenAFileIsMissing) {
 TEST_F(LoadFromPackageTest, GivesNothingWhenAFileIsTooLarge) {
   const std::string file = "mod.pk3/botfiles/bots/rookie_t.c";
   std::string chat = folder_.Read(file);
-  chat.resize(kMostBotFileBytes, '\n');
+  chat.resize(kMaxBotFileBytes, '\n');
   folder_.Write(file, chat);
   EXPECT_TRUE(Load());
   folder_.Write(file, chat + '\n');
   EXPECT_FALSE(Load());
-  EXPECT_THAT(prompts_.log, ElementsAre(kFailed));
+  EXPECT_THAT(
+      prompts_.log,
+      ElementsAre(
+          AllOf(StartsWith(kFailed + ". "), HasSubstr("mod.pk3/botfiles/bots/"),
+                HasSubstr("larger than 4 MiB"), HasSubstr("4194305 bytes"))));
+}
+
+TEST_F(LoadFromPackageTest, SaysWhyTheToolIsNotStarted) {
+  tool_.folder = folder_ / "none";
+  EXPECT_FALSE(Load());
+  const std::string reason =
+      ". There is no unzip tool in '" + tool_.folder.string() + "'.";
+  EXPECT_THAT(prompts_.log,
+              ElementsAre("Load failed: Couldn't load botfiles\\bots\\rookie_c"
+                          ".c from mod.pk3. Check that the pk3-file still "
+                          "exists" +
+                              reason,
+                          kFailed + reason));
 }
 
 TEST_F(LoadFromPackageTest, GivesNothingWhenTheToolIsSlowOrStopped) {
@@ -186,9 +205,11 @@ TEST_F(LoadFromPackageTest, GivesNothingWhenTheToolIsSlowOrStopped) {
   tool_.patience = std::chrono::milliseconds(50);
   EXPECT_FALSE(Load());
   EXPECT_THAT(prompts_.log,
-              ElementsAre("Load failed: Couldn't load botfiles\\bots\\rookie_c"
-                          ".c from mod.pk3. Check that the pk3-file still "
-                          "exists."));
+              ElementsAre(AllOf(
+                  StartsWith("Load failed: Couldn't load botfiles\\bots\\rook"
+                             "ie_c.c from mod.pk3. Check that the pk3-file "
+                             "still exists. "),
+                  HasSubstr("wzunzip' did not come to its end within"))));
   tool_.patience = std::chrono::minutes(1);
   tool_.keep_going = [] { return false; };
   EXPECT_FALSE(Load());

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "install/package.h"
+#include "install/packages/package.h"
 #include "model/characteristic_catalogue.h"
 #include "tests/support/scripted_prompts.h"
 #include "tests/support/test_folder.h"
@@ -36,7 +36,7 @@ class SaveBotTest : public ::testing::Test {
   SaveBotTest() { Rename("Rookie"); }
 
   void Rename(const std::string& name) {
-    ASSERT_TRUE(bot_.SetParameter(kNameIndex, name));
+    ASSERT_TRUE(bot_.SetParameter(kNameField, name));
   }
 
   SavedBot Save(const std::string& folder, bool uses_layout, bool packs) {

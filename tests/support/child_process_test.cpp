@@ -1,8 +1,15 @@
 #include "support/child_process.h"
 
 #include <gtest/gtest.h>
+#ifdef __linux__
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
+#endif
 
 #include <chrono>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <optional>
@@ -12,7 +19,7 @@
 #include <vector>
 
 #include "support/files.h"
-#include "support/program_arguments.h"
+#include "support/system/program_arguments.h"
 #include "support/temporary_folder.h"
 #include "tests/support/test_folder.h"
 
@@ -64,6 +71,34 @@ TEST_F(ChildProcessTest, HasNoneOfOurStreams) {
     EXPECT_NE(open.find(stream), std::string::npos) << open;
   }
 }
+
+#ifdef __linux__
+TEST_F(ChildProcessTest, EndsWithUsWhenWeAreKilled) {
+  const fs::path program = folder_.WriteProgram(
+      "program", "#!/bin/sh\necho $$ end\nwhile :; do sleep 0.01; done");
+  const pid_t starter = ::fork();
+  if (starter == 0) {
+    const auto child = ChildProcess::Start(program, {}, folder_ / "output");
+    while (child) ::pause();
+    ::_exit(EXIT_FAILURE);
+  }
+  ASSERT_TRUE(Within20Seconds([&] {
+    return fs::exists(folder_ / "output") &&
+           folder_.Read("output").find("end") != std::string::npos;
+  }));
+  const fs::path state = fs::path("/proc") /
+                         std::to_string(std::stoi(folder_.Read("output"))) /
+                         "stat";
+  const auto is_running = [&state] {
+    const Result<std::string> text = ReadFile(state);
+    return text && text->find(") Z") == std::string::npos;
+  };
+  EXPECT_TRUE(is_running());
+  ::kill(starter, SIGKILL);
+  ::waitpid(starter, nullptr, 0);
+  EXPECT_TRUE(Within20Seconds([&] { return !is_running(); }));
+}
+#endif
 
 TEST_F(ChildProcessTest, LeavesNoZombie) {
   if (!kIsUnix) GTEST_SKIP() << "There are none elsewhere.";
@@ -175,6 +210,47 @@ TEST(TemporaryFolderTest, IsOursAloneAndGoesWithAllInIt) {
   EXPECT_FALSE(fs::exists(*path));
   EXPECT_TRUE(fs::exists(other / "kept"));
 }
+
+#ifndef _WIN32
+TEST(TemporaryFolderTest, RemovesWhatAKilledRunLeft) {
+  const TestFolder place;
+  const std::string before = fs::temp_directory_path();
+  ::setenv("TMPDIR", place.path().c_str(), 1);  // NOLINT(*-mt-unsafe)
+  const auto age = [](const fs::path& folder) {
+    fs::last_write_time(
+        folder, fs::file_time_type::clock::now() - std::chrono::hours(2));
+  };
+  const auto leave = [&](const std::string& name, fs::perms access) {
+    place.Write(name + "/deep/file", "");
+    fs::permissions(place / name, access);
+    age(place / name);
+  };
+  TemporaryFolder held;
+  const fs::path used = *held.GetTempFolder();
+  age(used);
+  leave("fragsmith-killed", fs::perms::owner_all);
+  leave("fragsmith-shared", fs::perms::owner_all | fs::perms::others_exec);
+  leave("other", fs::perms::owner_all);
+  place.Write("fragsmith-young/file", "");
+  fs::permissions(place / "fragsmith-young", fs::perms::owner_all);
+  fs::create_directory_symlink(place / "other", place / "fragsmith-link");
+  fs::create_directory_symlink(place / "other",
+                               place / "fragsmith-killed/data");
+  age(place / "fragsmith-killed");
+  {
+    TemporaryFolder next;
+    EXPECT_TRUE(next.GetTempFolder());
+  }
+  ::setenv("TMPDIR", before.c_str(), 1);  // NOLINT(*-mt-unsafe)
+  EXPECT_FALSE(fs::exists(place / "fragsmith-killed"));
+  EXPECT_TRUE(fs::exists(used));
+  for (const char* const kept :
+       {"fragsmith-shared/deep/file", "fragsmith-young/file",
+        "fragsmith-link/deep/file"}) {
+    EXPECT_TRUE(fs::exists(place / kept)) << kept;
+  }
+}
+#endif
 
 }  // namespace
 }  // namespace fragsmith

@@ -10,6 +10,7 @@
 
 #include <chrono>
 #include <filesystem>
+#include <fstream>
 #include <string>
 #include <vector>
 
@@ -95,6 +96,22 @@ TEST(Files, AreSavedWholeOrNotAtAll) {
   EXPECT_EQ(folder.Read("x"), "new");
   EXPECT_THAT(ListFiles(folder.path(), ""), ElementsAre("x"));
 }
+
+#ifdef _WIN32
+TEST(Files, ThatAnotherHoldsOpenStayAsTheyAre) {
+  const TestFolder folder;
+  folder.Write("x", "old");
+  {
+    const std::ifstream other(folder / "x");
+    const Result<void> saved = SaveFile(folder / "x", "new");
+    ASSERT_FALSE(saved);
+    EXPECT_THAT(saved.error().what, testing::HasSubstr("holds it open"));
+    EXPECT_THAT(ListFiles(folder.path(), ""), ElementsAre("x"));
+  }
+  EXPECT_EQ(folder.Read("x"), "old");
+  EXPECT_TRUE(SaveFile(folder / "x", "new"));
+}
+#endif
 
 TEST(Files, LeftBehindByKilledRunsGoWithALaterSave) {
   const TestFolder folder;

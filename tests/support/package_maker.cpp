@@ -30,23 +30,29 @@ std::string Header(const TestEntry& entry) {
   const std::string size = Number(entry.bytes.size(), 4);
   return Number(10, 2) + Number(0, 2) + Number(0, 2) + Number(0, 2) +
          Number(0x21, 2) + Number(CheckSum(entry.bytes), 4) + size + size +
-         Number(entry.name.size(), 2) + Number(0, 2);
+         Number(entry.name.size(), 2);
 }
 
 }  // namespace
 
-std::string MakeZip(const std::vector<TestEntry>& entries) {
+std::string MakeZip(const std::vector<TestEntry>& entries,
+                    const std::string& comment) {
   std::string archive;
   std::string contents;
   for (const TestEntry& entry : entries) {
-    contents += "PK\x01\x02" + Number(10, 2) + Header(entry) + Number(0, 10) +
-                Number(archive.size(), 4) + entry.name;
-    archive += "PK\x03\x04" + Header(entry) + entry.name + entry.bytes;
+    contents += "PK\x01\x02" + Number(10, 2) + Header(entry) +
+                Number(entry.extra.size(), 2) +
+                Number(entry.comment.size(), 2) + Number(0, 4) +
+                Number(entry.attributes, 4) + Number(archive.size(), 4) +
+                entry.name + entry.extra + entry.comment;
+    archive +=
+        "PK\x03\x04" + Header(entry) + Number(0, 2) + entry.name + entry.bytes;
   }
   const std::string count = Number(entries.size(), 2);
   const std::size_t offset = archive.size();
   return archive + contents + "PK\x05\x06" + Number(0, 4) + count + count +
-         Number(contents.size(), 4) + Number(offset, 4) + Number(0, 2);
+         Number(contents.size(), 4) + Number(offset, 4) +
+         Number(comment.size(), 2) + comment;
 }
 
 std::string MakeZipOfNames(const std::vector<std::string>& names) {

@@ -22,6 +22,7 @@ class ScriptedPrompts : public Prompts {
   std::vector<Message> messages;
 
   std::deque<bool> confirmations;
+  std::deque<std::size_t> choices;
   std::deque<std::optional<std::string>> answers;
 
   void Show(const Message& message) override {
@@ -32,6 +33,12 @@ class ScriptedPrompts : public Prompts {
   bool Confirm(const std::string& title, const std::string& text) override {
     log.push_back(title + ": " + text);
     return Take(confirmations).value_or(false);
+  }
+
+  std::size_t Choose(const std::string& title, const std::string& text,
+                     const std::vector<std::string>& /*buttons*/) override {
+    log.push_back(title + ": " + text);
+    return Take(choices).value_or(0);
   }
 
   std::optional<std::string> AskText(const std::string& title,

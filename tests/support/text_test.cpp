@@ -42,7 +42,7 @@ TEST(Text, ChangesCaseByTheCodePage) {
 
 TEST(Notes, KeepsTheFirstAndCountsTheRest) {
   Notes notes;
-  for (std::size_t line = 1; line <= Notes::kMost + 5; ++line) {
+  for (std::size_t line = 1; line <= Notes::kMax + 5; ++line) {
     notes.Add({"f.c", line, "odd"});
   }
   Notes more;

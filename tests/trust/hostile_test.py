@@ -3,9 +3,8 @@
 
     hostile_test.py BIN [COUNT [SEED]]
 
-BIN is the folder of fragsmith-cli and wzunzip. No run may crash, take longer
-than the 5 seconds that the unzip tool is given and 3 for the rest, or more
-memory than MOST_MEMORY; nothing outside of the temporary folder may change,
+BIN is the folder of fragsmith-cli and wzunzip. No run may crash, hang, take
+more than MOST_SECONDS of the processor or more memory than MOST_MEMORY; nothing outside of the temporary folder may change,
 and that is empty in the end. The honest bots among the others have to load.
 """
 
@@ -15,7 +14,6 @@ import os
 import pathlib
 import shutil
 import tempfile
-import time
 
 import hostile_packages
 import hostile_trial
@@ -91,10 +89,8 @@ def try_all(bin_folder, tree, count, seed):
     trial = CommandLineTrial(bin_folder, tree)
     hostile_packages.make_packages(trial.packages, count, seed)
     before = trial.snapshot()
-    start = time.monotonic()
     listing = json.loads(trial.scan("--json"))
-    print(f"scanned {count} packages in {time.monotonic() - start:.1f} s",
-          flush=True)
+    print(f"scanned {count} packages", flush=True)
     if any(letter < 32 and letter != 10 for letter in trial.scan()):
         failures.append("scan: control characters go to the terminal")
     work = wanted_work(trial, listing)

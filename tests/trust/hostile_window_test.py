@@ -3,13 +3,14 @@
 
     hostile_window_test.py BIN [COUNT [SEED]]
 
-BIN is the folder of wzunzip; test_trust_window is in ../tests, seen from there. A window searches a game's folder with BATCH packages in it
-and opens, paints and saves each of them. No window may crash, need more than
-MOST_SECONDS for one package or more memory than the other test allows, take a
-name for markup, or write anything but its own files into its program folder
-and bots into the folder that it saves to; the temporary folder is empty in the
-end, and the lists that a window leaves are those that the next one reads. The honest bots among the others have to
-load and to show their icons.
+BIN is the folder of wzunzip; test_trust_window is in ../tests, seen from there.
+A window searches a game's folder with BATCH packages in it and opens, paints
+and saves each of them. No window may crash, hang, need more than MOST_SECONDS
+of the processor for one package or more memory than the other test allows,
+take a name for markup, or write anything but its own files into its program
+folder and bots into the folder that it saves to; the temporary folder is empty
+in the end, and the lists that a window leaves are those that the next one
+reads. The honest bots among the others have to load and to show their icons.
 """
 
 import concurrent.futures
@@ -98,7 +99,7 @@ class WindowTrial(hostile_trial.Trial):
         self.figures["slowest"] = max(self.figures["slowest"],
                                       (float(seconds), package))
         if float(seconds) > MOST_SECONDS:
-            failures.append(f"{package!r} took {seconds} s")
+            failures.append(f"{package!r} took {seconds} s of the processor")
         if package.split("-")[1].startswith("honest") and not (
                 name.startswith("honest") and loads == "1" and icons == "1"):
             failures.append(f"{package!r}: {loads} bots, the last {name!r},"

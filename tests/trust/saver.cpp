@@ -12,13 +12,13 @@
 #include <iostream>
 #include <string>
 
-#include "install/bot_list_file.h"
-#include "install/model_list_file.h"
-#include "install/settings_file.h"
-#include "install/synonym_file.h"
+#include "install/program/bot_list_file.h"
+#include "install/program/model_list_file.h"
+#include "install/program/settings_file.h"
 #include "model/characteristic_catalogue.h"
 #include "session/presets.h"
 #include "session/save_bot.h"
+#include "session/synonym_file.h"
 
 namespace fragsmith {
 namespace {
@@ -35,6 +35,10 @@ class ErrorPrompts : public Prompts {
                const std::string& /*text*/) override {
     return false;
   }
+  std::size_t Choose(const std::string& /*title*/, const std::string& /*text*/,
+                     const std::vector<std::string>& /*buttons*/) override {
+    return 0;
+  }
   std::optional<std::string> AskText(const std::string& /*title*/,
                                      const std::string& /*prompt*/) override {
     return std::nullopt;
@@ -43,10 +47,11 @@ class ErrorPrompts : public Prompts {
 
 Bot MakeBot(int round, int size) {
   Bot bot = CreateAverageBot(SeededRandom(static_cast<std::uint32_t>(round)));
-  (void)bot.SetParameter(kNameIndex, std::string("Rookie"));
+  (void)bot.SetParameter(kNameField, std::string("Rookie"));
   (void)bot.SetParameter(kFunNameField, "Round" + std::to_string(round));
   for (int line = 0; line < size; ++line) {
-    bot.SetChatLine(line % kChatTypeCount, 1 + line / kChatTypeCount,
+    constexpr int kTypes = static_cast<int>(kChatTypeCount);
+    bot.SetChatLine(*ChatTypeOfIndex(line % kTypes), 1 + line / kTypes,
                     "line " + std::to_string(line * (round + 1)));
   }
   return bot;

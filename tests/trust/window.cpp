@@ -13,7 +13,6 @@
 
 #include <QApplication>
 #include <QComboBox>
-#include <QElapsedTimer>
 #include <QLabel>
 #include <QListWidget>
 #include <QMenu>
@@ -23,6 +22,7 @@
 #include <QTimer>
 #include <algorithm>
 #include <cstdlib>
+#include <ctime>
 #include <filesystem>
 #include <iostream>
 #include <map>
@@ -42,8 +42,8 @@ namespace fragsmith {
 namespace {
 
 // Some packages hold thousands of each.
-constexpr int kMostBots = 4;
-constexpr std::size_t kMostIcons = 4;
+constexpr int kMaxBots = 4;
+constexpr std::size_t kMaxIcons = 4;
 
 /// Markup that the packages put into names. Where a text with it is taken as
 /// rich text, a stranger decides on what the window shows.
@@ -64,6 +64,10 @@ class WillingPrompts : public Prompts {
     ++boxes;
     if (text.find("to add it") == std::string::npos) return true;
     return adds_ = !adds_;
+  }
+  std::size_t Choose(const std::string& /*title*/, const std::string& /*text*/,
+                     const std::vector<std::string>& /*buttons*/) override {
+    return 0;
   }
   std::optional<std::string> AskText(const std::string& /*title*/,
                                      const std::string& /*prompt*/) override {
@@ -92,9 +96,11 @@ void CheckTexts(const QWidget& root) {
     if (label != nullptr && label->textFormat() != Qt::PlainText) {
       CheckMarkup(label->text(), *widget);
     }
-    const auto* const list = qobject_cast<const QListWidget*>(widget);
-    for (int row = 0; list != nullptr && row < list->count(); ++row) {
-      CheckMarkup(list->item(row)->toolTip(), *widget);
+    const auto* const list = qobject_cast<const QListView*>(widget);
+    const auto* const rows = list != nullptr ? list->model() : nullptr;
+    for (int row = 0; rows != nullptr && row < rows->rowCount(); ++row) {
+      CheckMarkup(rows->index(row, 0).data(Qt::ToolTipRole).toString(),
+                  *widget);
     }
   }
 }
@@ -123,30 +129,28 @@ class Visitor {
   int boxes() const { return prompts_.boxes; }
 
   void Scan() {
-    QElapsedTimer time;
-    time.start();
+    const std::clock_t start = std::clock();
     Choose("mnuCheck");
     Paint(*window_);
     for (const ModelEntry& model : state_.lists.models.models()) {
       for (const SkinEntry& skin : model.Skins) {
         std::vector<Skin>& skins = skins_[skin.PK3File];
-        if (!skin.IsOriginal && skins.size() < kMostIcons) {
+        if (!skin.IsOriginal && skins.size() < kMaxIcons) {
           skins.emplace_back(model.Name, skin.Name);
         }
       }
     }
-    std::cout << "scan " << Seconds(time) << std::endl;
+    std::cout << "scan " << SecondsSince(start) << std::endl;
     Choose("mnuFindings");
     Choose("mnuLoad");
   }
 
   void Visit(int place, const std::filesystem::path& package) {
     std::cout << "begin " << place << std::endl;
-    QElapsedTimer time;
-    time.start();
+    const std::clock_t start = std::clock();
     loads_ = icons_ = prompts_.boxes = 0;
     int bots = 1;
-    for (row_ = 0; row_ < std::min(bots, kMostBots); ++row_) {
+    for (row_ = 0; row_ < std::min(bots, kMaxBots); ++row_) {
       const int before = loads_;
       bots_ = 0;
       window_->OpenPath(package);
@@ -156,8 +160,8 @@ class Visitor {
     const std::string name = window_->current().bot().Name();
     ShowSkins(package);
     LookInMenus();
-    std::cout << "end " << place << ' ' << Seconds(time) << ' ' << loads_ << ' '
-              << icons_ << ' ' << prompts_.boxes << ' '
+    std::cout << "end " << place << ' ' << SecondsSince(start) << ' ' << loads_
+              << ' ' << icons_ << ' ' << prompts_.boxes << ' '
               << QByteArray::fromStdString(name).toPercentEncoding().constData()
               << std::endl;
   }
@@ -185,8 +189,9 @@ class Visitor {
  private:
   using Skin = std::pair<std::string, std::string>;
 
-  static double Seconds(const QElapsedTimer& time) {
-    return static_cast<double>(time.elapsed()) / 1000;
+  /// Of the processor's time: that of other programs does not count.
+  static double SecondsSince(std::clock_t start) {
+    return static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
   }
 
   template <typename Object>

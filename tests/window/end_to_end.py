@@ -73,6 +73,7 @@ def make_the_bot(editor):
     until("the code in the fun name",
           lambda: text(editor.find("Funname", "text")) == "End^1 to end")
     editor.click("Female", "radio button")
+    editor.click("More")
     key("alt+g", "Down", "Down", "Down")
     editor.click("Arenalord", "check box")
     editor.focus("Version, major", "text")
@@ -90,11 +91,11 @@ def make_the_bot(editor):
     key(*["Right"] * 13)
     until("0.65 at level 4", lambda: value(slider) == 0.65)
     assert value(editor.find("Attack skill, level 5")) == 0.65
-    editor.focus("Reaction time s, level 1", "slider")
+    editor.focus("Reaction time, level 1", "slider")
     key("End")
     key("ctrl+Tab", "ctrl+Tab", "ctrl+Tab")
     editor.click("Scale from 0 to 1000", "radio button")
-    editor.focus("Railgun, usage", "slider")
+    editor.focus("Railgun usage", "slider")
     key("End")
     key(*["ctrl+Tab"] * 4)
     editor.focus("Text of the selected line", "text")
@@ -138,6 +139,47 @@ def expect_same(found, wanted):
             continue
         assert found[name] == wanted_bytes, (
             name, found[name].decode("cp1252"), wanted_bytes.decode("cp1252"))
+
+
+def open_twin(editor, folder):
+    key("ctrl+o")
+    editor.window("Load bot")
+    editor.focus("Path", "text")
+    key("ctrl+a")
+    write(str(folder))
+    key("Return")
+    editor.click("twin_c.c", "list item")
+    key("Return")
+    editor.window(TITLE)
+
+
+def undone_load_is_saved_to_its_own_files(editor, cli, home, arguments):
+    """Two bots of one name: load, load, undo, save."""
+    key("ctrl+Tab")
+    for place, skill in (("first", 0.25), ("second", 0.75)):
+        document = json.loads(subprocess.check_output(
+            [cli, "new", "--preset", "zeros", "--name", "Twin"]))
+        document["levels"]["5"]["CHARACTERISTIC_ATTACK_SKILL"] = skill
+        (home / place).mkdir()
+        subprocess.run([cli, "make", "--into", str(home / place), *arguments,
+                        "-"], input=json.dumps(document).encode(), check=True,
+                       stdout=subprocess.DEVNULL)
+        open_twin(editor, home / place)
+    before = {place: contents(home / place) for place in ("first", "second")}
+    key("ctrl+z")
+    until("the first bot", lambda: value(
+        editor.find("Attack skill, level 5", "slider")) == 0.25)
+    slider = editor.focus("Attack skill, level 5", "slider")
+    key("Right")
+    until("0.3 at level 5", lambda: abs(value(slider) - 0.3) < 1e-6)
+    key("ctrl+s")
+    editor.window(TITLE)
+    after = {place: contents(home / place) for place in ("first", "second")}
+    assert after["second"] == before["second"], "the other bot's files"
+    changed = [name for name in before["first"]
+               if after["first"][name] != before["first"][name]]
+    assert changed == ["twin_c.c"], changed
+    print("load, load, undo, save: the files of the bot that is shown")
 
 
 def main():
@@ -218,6 +260,7 @@ def main():
             body = [file.read_bytes().split(b"//=", 2)[2]
                     for file in (found, path)]
             assert body[0] == body[1], found
+        undone_load_is_saved_to_its_own_files(editor, cli, home, arguments)
         key("ctrl+q")
         editor.end()
         settings = (home / "own" / "fgs.ini").read_text().splitlines()

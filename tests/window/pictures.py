@@ -20,7 +20,7 @@ warnings.simplefilter("ignore", DeprecationWarning)
 TITLE = "Fragsmith 0.97b BETA"
 # Its name can be read in the pictures.
 HOME = pathlib.Path("/tmp/fragsmith-home")
-WIDTH, HEIGHT = 1024, 700
+WIDTH, HEIGHT = 1200, 780
 
 # A theme of the desktop that says all there is to say, so that no other
 # setting of the machine shows. The caret does not blink.
@@ -162,7 +162,7 @@ def resize():
     window = subprocess.check_output(["xdotool", "getactivewindow"],
                                      text=True).strip()
     xdotool("windowsize", window, str(WIDTH), str(HEIGHT))
-    xdotool("windowmove", window, "60", "60")
+    xdotool("windowmove", window, "30", "40")
     until("the size of the window", lambda: f"{WIDTH}x{HEIGHT}" in
           subprocess.check_output(["xdotool", "getwindowgeometry", window],
                                   text=True))
@@ -203,7 +203,7 @@ def main():
 
     key("F8")
     editor.find("What the game will do", "list")
-    editor.focus("Reaction time s, level 4", "slider")
+    editor.focus("Reaction time, level 4", "slider")
     take("findings", folder, TITLE)
     key("F8")
 

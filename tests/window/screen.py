@@ -3,42 +3,15 @@ their names through the accessibility bus, used with the X server's mouse and
 keyboard."""
 
 import os
+import re
 import subprocess
 import time
 
 import gi
+from keyboard import key, patience, until, write, xdotool  # noqa: F401
 
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi  # noqa: E402
-
-PATIENCE = 15  # seconds
-
-
-def until(what, look):
-    """What look() gives, once it is something."""
-    end = time.monotonic() + PATIENCE
-    while True:
-        found = look()
-        if found:
-            return found
-        if time.monotonic() > end:
-            raise AssertionError("waited in vain: " + what)
-        time.sleep(0.05)
-
-
-def xdotool(*words):
-    subprocess.run(["xdotool", *words], check=True, stdout=subprocess.DEVNULL)
-
-
-def key(*names):
-    for name in names:
-        xdotool("key", "--clearmodifiers", name)
-        time.sleep(0.05)
-
-
-def write(text):
-    xdotool("type", "--clearmodifiers", "--delay", "8", "--", text)
-    time.sleep(0.1)
 
 
 def walk(node):
@@ -63,6 +36,11 @@ def names(node):
                     yield relation.get_target(place).get_name().replace("&", "")
 
 
+def without_bot(title):
+    """The title of the main window without the name of the bot."""
+    return re.sub(r"^(Fragsmith \S+ BETA) - .*?(\*?)$", r"\1\2", title)
+
+
 class Editor:
     """A running fragsmith."""
 
@@ -84,7 +62,7 @@ class Editor:
         self.application.clear_cache()
         windows = [self.application.get_child_at_index(place)
                    for place in range(self.application.get_child_count())]
-        return {window.get_name(): window
+        return {without_bot(window.get_name()): window
                 for window in windows if window and is_showing(window)}
 
     def window(self, title):
@@ -131,7 +109,7 @@ class Editor:
         return node
 
     def end(self, status=0):
-        assert self.process.wait(PATIENCE) == status, self.process.returncode
+        assert self.process.wait(patience) == status, self.process.returncode
 
 
 def value(node):

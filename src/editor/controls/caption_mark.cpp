@@ -3,8 +3,8 @@
 #include <QStyle>
 #include <algorithm>
 
-#include "editor/parameter_help.h"
-#include "editor/severity_icon.h"
+#include "editor/toolkit/severity_icon.h"
+#include "editor/toolkit/tool_tip.h"
 
 namespace fragsmith {
 

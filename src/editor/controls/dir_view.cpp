@@ -15,7 +15,9 @@
 #include <system_error>
 #include <utility>
 
+#include "editor/toolkit/wheel_guard.h"
 #include "support/files.h"
+#include "support/text.h"
 
 namespace fragsmith {
 namespace fs = std::filesystem;
@@ -64,10 +66,7 @@ std::vector<fs::path> FoldersIn(const fs::path& folder) {
 
 /// The folder itself, or the nearest one above it that exists.
 fs::path NearestFolder(const fs::path& wanted) {
-  std::error_code ignored;
-  fs::path folder =
-      fs::absolute(wanted.empty() ? fs::path(".") : wanted, ignored)
-          .lexically_normal();
+  fs::path folder = WholePath(wanted);
   if (!folder.has_filename() && folder.has_relative_path()) {
     folder = folder.parent_path();  // "a/b/" is "a/b".
   }
@@ -94,6 +93,7 @@ DirView::DirView(Prompts& prompts, QWidget* parent)
       files_side_(new QWidget(this)),
       files_caption_(new QLabel(files_side_)),
       files_list_(new QListWidget(files_side_)) {
+  IgnoreWheelWithoutFocus(*drives_box_);
   drives_box_->setObjectName(QStringLiteral("drvDrive"));
   drives_box_->setAccessibleName(QStringLiteral("Drive"));
   path_box_->setObjectName(QStringLiteral("txtFolder"));
@@ -105,6 +105,8 @@ DirView::DirView(Prompts& prompts, QWidget* parent)
   BuildLayout();
 
   connect(drives_box_, &QComboBox::activated, this, &DirView::ChooseDrive);
+  connect(path_box_, &QLineEdit::editingFinished, this,
+          &DirView::TakeTypedPath);
   connect(folders_list_, &QListWidget::activated, this,
           [this](const QModelIndex& index) { EnterFolderAt(index.row()); });
   connect(files_list_, &QListWidget::activated, this, &DirView::ActivateFile);
@@ -155,8 +157,17 @@ void DirView::BuildLayout() {
 }
 
 void DirView::SetFilter(const QString& suffix) {
-  suffix_ = suffix.toStdString();
-  ListFiles();
+  SetFilters({suffix}, u'*' + suffix);
+}
+
+void DirView::SetFilters(const QStringList& suffixes, const QString& words) {
+  suffixes_.clear();
+  for (const QString& suffix : suffixes) {
+    suffixes_.push_back(suffix.toStdString());
+  }
+  files_words_ = words;
+  // Before the first folder there is nothing to list.
+  if (!folder_.empty()) ListFiles();
 }
 
 void DirView::SetFolder(const fs::path& folder) {
@@ -164,14 +175,14 @@ void DirView::SetFolder(const fs::path& folder) {
   path_box_->setText(ShownPath(folder_));
   ListFolders();
   // Back up again, the folder that was left is the place to go on from.
-  const auto place = std::find(folders_.begin(), folders_.end(), left);
+  const auto known = std::find(folders_.begin(), folders_.end(), left);
   folders_list_->setCurrentRow(
-      place == folders_.end()
+      known == folders_.end()
           ? 0
-          : static_cast<int>(std::distance(folders_.begin(), place)));
+          : static_cast<int>(std::distance(folders_.begin(), known)));
   ListFiles();
   ShowDrive();
-  if (folder_ != left) emit FolderChanged();
+  emit FolderShown();
 }
 
 std::optional<fs::path> DirView::ChosenFile() const {
@@ -181,6 +192,14 @@ std::optional<fs::path> DirView::ChosenFile() const {
 }
 
 void DirView::ClearChoice() { files_list_->clearSelection(); }
+
+void DirView::ChooseOnlyFile() {
+  if (files_.size() == 1) files_list_->setCurrentRow(0);
+}
+
+void DirView::TakeTypedPath() {
+  if (path_box_->isModified()) EnterTypedPath();
+}
 
 void DirView::SetFilesVisible(bool are_visible) {
   files_side_->setVisible(are_visible);
@@ -208,7 +227,7 @@ bool DirView::eventFilter(QObject* watched, QEvent* event) {
       key->key() == Qt::Key_Backspace ||
       (key->key() == Qt::Key_Up && key->modifiers() == Qt::AltModifier);
   if (is_enter && watched == path_box_) {
-    EnterTypedFolder();
+    EnterTypedPath();
   } else if (is_enter && watched == folders_list_) {
     EnterFolderAt(folders_list_->currentRow());
   } else if (is_enter && files_list_->currentRow() >= 0 &&
@@ -222,8 +241,8 @@ bool DirView::eventFilter(QObject* watched, QEvent* event) {
   return true;
 }
 
-void DirView::ChooseDrive(int place) {
-  const fs::path drive = drives_[static_cast<std::size_t>(place)];
+void DirView::ChooseDrive(int index) {
+  const fs::path drive = drives_[static_cast<std::size_t>(index)];
   if (CanRead(drive)) {
     SetFolder(drive);
     return;
@@ -240,7 +259,7 @@ void DirView::EnterFolderAt(int row) {
   SetFolder(fs::path(folders_[static_cast<std::size_t>(row)]));
 }
 
-void DirView::EnterTypedFolder() {
+void DirView::EnterTypedPath() {
   const QString text = path_box_->text();
   // The text may be less than the path is: one that was not touched means
   // this folder, to be read anew.
@@ -251,10 +270,26 @@ void DirView::EnterTypedFolder() {
                 PathFromBytes(QDir::fromNativeSeparators(text).toStdString());
   if (IsFolder(typed)) {
     SetFolder(typed);
+    emit FolderTyped();
     return;
   }
+  if (ChooseTypedFile(typed)) return;
   folders_caption_->setText(QStringLiteral("&Folders (there is no such path)"));
-  path_box_->selectAll();
+  if (path_box_->hasFocus()) path_box_->selectAll();
+}
+
+bool DirView::ChooseTypedFile(const fs::path& file) {
+  const bool is_listed = std::any_of(
+      suffixes_.begin(), suffixes_.end(), [&file](const std::string& suffix) {
+        return EndsWithIgnoringCase(BytesFromPath(file.filename()), suffix);
+      });
+  if (!is_listed || !IsFile(file)) return false;
+  SetFolder(file.parent_path());
+  const auto found = std::find(files_.begin(), files_.end(), file.filename());
+  if (found == files_.end()) return false;
+  files_list_->setCurrentRow(
+      static_cast<int>(std::distance(files_.begin(), found)));
+  return true;
 }
 
 void DirView::GoUp() {
@@ -287,26 +322,30 @@ void DirView::ListFolders() {
 }
 
 void DirView::ListFiles() {
-  files_ = fragsmith::ListFiles(folder_, suffix_);
+  files_.clear();
+  for (const std::string& suffix : suffixes_) {
+    for (fs::path& name : fragsmith::ListFiles(folder_, suffix)) {
+      files_.push_back(std::move(name));
+    }
+  }
+  if (suffixes_.size() > 1) std::sort(files_.begin(), files_.end());
   files_list_->clear();
   const QIcon icon = style()->standardIcon(QStyle::SP_FileIcon);
   for (const fs::path& name : files_) {
     files_list_->addItem(new QListWidgetItem(icon, ShownPath(name)));
   }
-  const QString pattern =
-      QStringLiteral(" *") + QString::fromStdString(suffix_);
-  files_caption_->setText((files_.empty() ? QStringLiteral("No f&iles")
-                                          : QStringLiteral("F&iles")) +
-                          pattern);
+  files_caption_->setText((files_.empty() ? QStringLiteral("No f&iles ")
+                                          : QStringLiteral("F&iles ")) +
+                          files_words_);
 }
 
 void DirView::ShowDrive() {
   int nearest = -1;
   std::size_t length = 0;
-  for (std::size_t place = 0; place < drives_.size(); ++place) {
-    const std::size_t drive_length = drives_[place].native().size();
-    if (IsWithin(folder_, drives_[place]) && drive_length >= length) {
-      nearest = static_cast<int>(place);
+  for (std::size_t index = 0; index < drives_.size(); ++index) {
+    const std::size_t drive_length = drives_[index].native().size();
+    if (IsWithin(folder_, drives_[index]) && drive_length >= length) {
+      nearest = static_cast<int>(index);
       length = drive_length;
     }
   }

@@ -2,6 +2,7 @@
 #define FRAGSMITH_EDITOR_CONTROLS_DIR_VIEW_H_
 
 #include <QString>
+#include <QStringList>
 #include <QWidget>
 #include <filesystem>
 #include <optional>
@@ -18,7 +19,7 @@ class QListWidget;
 namespace fragsmith {
 
 /// The folder browser of the dialogs: the drives (`drvDrive`), the path
-/// (`txtFolder`, where another one can be typed), the folders in it
+/// (`txtFolder`, where another one or a file can be typed), the folders in it
 /// (`dirFolder`) and those of its files that a filter lets through
 /// (`filFile`). A folder is entered by double click or Enter; Backspace and
 /// Alt+Up lead back to the one above.
@@ -30,6 +31,8 @@ class DirView : public QWidget {
 
   /// Files whose names end in the suffix, case ignored ("_c.c"), are listed.
   void SetFilter(const QString& suffix);
+  /// The same for any of the suffixes, which the caption calls by the words.
+  void SetFilters(const QStringList& suffixes, const QString& words);
 
   /// Shows a folder, or the nearest one above it that exists; an empty path is
   /// the current folder. The files and folders are read anew. Before the first
@@ -41,6 +44,10 @@ class DirView : public QWidget {
   std::optional<std::filesystem::path> ChosenFile() const;
   /// Takes the mark away.
   void ClearChoice();
+  /// Marks the file that is listed alone.
+  void ChooseOnlyFile();
+  /// Goes where a path leads that was typed and not entered yet.
+  void TakeTypedPath();
 
   /// Without files the view is there to choose a folder.
   void SetFilesVisible(bool are_visible);
@@ -49,22 +56,26 @@ class DirView : public QWidget {
   void SetDrives(std::vector<std::filesystem::path> drives);
 
  signals:
+  /// Another folder is shown, or the same anew.
+  void FolderShown();
+  /// It is shown since its path was typed.
+  void FolderTyped();
   /// A file has been marked.
   void FileChosen();
   /// A file has been double-clicked, or Enter pressed on it: it is chosen and
   /// meant.
   void FileActivated();
-  /// Another folder is shown, whoever chose it.
-  void FolderChanged();
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void BuildLayout();
-  void ChooseDrive(int place);
+  void ChooseDrive(int index);
   void EnterFolderAt(int row);
-  void EnterTypedFolder();
+  void EnterTypedPath();
+  /// False where the file is none that is listed.
+  bool ChooseTypedFile(const std::filesystem::path& file);
   void GoUp();
   void ActivateFile();
   void ListFolders();
@@ -80,7 +91,8 @@ class DirView : public QWidget {
   QLabel* files_caption_;
   QListWidget* files_list_;
 
-  std::string suffix_;
+  std::vector<std::string> suffixes_ = {std::string()};
+  QString files_words_ = QStringLiteral("*");
   std::filesystem::path folder_;
   // What stands in the rows: names that are not Unicode cannot be had back
   // from the texts.

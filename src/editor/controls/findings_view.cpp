@@ -1,124 +1,167 @@
 #include "editor/controls/findings_view.h"
 
+#include <QHelpEvent>
 #include <QKeyEvent>
-#include <algorithm>
-#include <map>
+#include <QSignalBlocker>
+#include <QToolTip>
+#include <optional>
 
-#include "checks/bot_checks.h"
-#include "editor/severity_icon.h"
+#include "editor/toolkit/scroll_keeper.h"
 
 namespace fragsmith {
-namespace {
 
-/// So many of one kind are told one by one.
-constexpr std::size_t kMostAlone = 2;
-
-QString Utf8(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
-QString TextOf(const Finding& finding) {
-  const QString place = Utf8(ChatPlaceText(finding.place));
-  const QString text = Utf8(finding.text);
-  return place.isEmpty() ? text : place + QStringLiteral(": ") + text;
-}
-
-QString FoldedText(const Finding& first, std::size_t count) {
-  return QStringLiteral("%1 (And %2 more of this kind.)")
-      .arg(TextOf(first), QString::number(count - 1));
-}
-
-}  // namespace
-
-FindingsView::FindingsView(QWidget* parent) : QListWidget(parent) {
+FindingsView::FindingsView(QWidget* parent)
+    : QListView(parent),
+      model_(new FindingsModel(this)),
+      delegate_(new FindingDelegate(this)) {
+  setItemDelegate(delegate_);
   setWordWrap(true);
   const int icon = fontMetrics().height();
   setIconSize(QSize(icon, icon));
   setMinimumHeight(5 * fontMetrics().lineSpacing());
-  const QString help = QStringLiteral(
-      "The right arrow key or a double click unfolds what stands in one row, "
-      "the left one folds it again.");
-  setWhatsThis(help);
-  setAccessibleDescription(help);
-  connect(this, &QListWidget::currentRowChanged, this,
-          &FindingsView::SelectionShown);
-  connect(this, &QListWidget::itemDoubleClicked, this,
-          [this] { Fold(!IsFolded()); });
+  setWhatsThis(FindingsModel::FoldingHelp());
+  setAccessibleDescription(FindingsModel::FoldingHelp() +
+                           QStringLiteral(" The space bar mends."));
+  setModel(model_);
+  connect(this, &QListView::doubleClicked, this, [this] { Fold(!IsFolded()); });
 }
 
 void FindingsView::ShowFindings(const std::vector<Finding>& findings) {
-  const Finding* const now = Selected();
-  const Finding selected = now == nullptr ? Finding() : *now;
-  findings_ = findings;
-  FillRows(selected);
+  ChangeRows([this, &findings] { model_->ShowFindings(findings); });
 }
 
 const Finding* FindingsView::Selected() const {
-  if (currentRow() < 0) return nullptr;
-  return &findings_[rows_[static_cast<std::size_t>(currentRow())]];
+  const QModelIndex current = currentIndex();
+  return current.isValid() ? &model_->At(current.row()) : nullptr;
 }
 
 std::size_t FindingsView::FoldableCount() const {
   const Finding* const selected = Selected();
-  if (selected == nullptr) return 0;
-  const auto count = static_cast<std::size_t>(std::count_if(
-      findings_.begin(), findings_.end(), [selected](const Finding& finding) {
-        return finding.id == selected->id;
-      }));
-  return count > kMostAlone ? count : 0;
+  return selected == nullptr ? 0 : model_->FoldableCount(selected->id);
 }
 
 bool FindingsView::IsFolded() const {
-  return FoldableCount() > 0 && !unfolded_.contains(Selected()->id);
+  const Finding* const selected = Selected();
+  return selected != nullptr && model_->IsFolded(selected->id);
 }
 
 void FindingsView::Fold(bool is_folded) {
   if (FoldableCount() == 0 || is_folded == IsFolded()) return;
-  const Finding selected = *Selected();
-  if (is_folded) {
-    unfolded_.erase(selected.id);
-  } else {
-    unfolded_.insert(selected.id);
-  }
-  FillRows(selected);
+  ChangeRows([this, is_folded] { model_->Fold(Selected()->id, is_folded); });
 }
 
-void FindingsView::FillRows(const Finding& selected) {
+void FindingsView::ChangeRows(const std::function<void()>& change) {
   {
     const QSignalBlocker silence(this);
-    clear();
-    rows_.clear();
-    std::map<std::string_view, std::size_t> counts;
-    for (const Finding& finding : findings_) ++counts[finding.id];
-    std::set<std::string_view> told;
-    int current = -1;
-    for (std::size_t number = 0; number < findings_.size(); ++number) {
-      const Finding& finding = findings_[number];
-      const std::size_t count = counts[finding.id];
-      const bool is_folded =
-          count > kMostAlone && !unfolded_.contains(finding.id);
-      if (is_folded && !told.insert(finding.id).second) continue;
-      const bool is_selected = finding.id == selected.id &&
-                               (is_folded || finding.place == selected.place);
-      if (is_selected && current < 0) current = this->count();
-      rows_.push_back(number);
-      auto* const item = new QListWidgetItem(
-          SeverityIcon(finding.severity, *style()),
-          is_folded ? FoldedText(finding, count) : TextOf(finding), this);
-      if (is_folded) item->setToolTip(whatsThis());
+    const ScrollKeeper scroll(*this);
+    std::optional<Finding> selected;
+    if (const Finding* const now = Selected()) selected = *now;
+    change();
+    if (selected) {
+      // Its row has gone where its kind was folded or unfolded.
+      const QModelIndex current = currentIndex();
+      selectionModel()->setCurrentIndex(
+          current.isValid() ? current : model_->Find(*selected),
+          QItemSelectionModel::ClearAndSelect);
     }
-    setCurrentRow(current);
   }
   emit SelectionShown();
 }
 
+void FindingsView::currentChanged(const QModelIndex& current,
+                                  const QModelIndex& previous) {
+  QListView::currentChanged(current, previous);
+  emit SelectionShown();
+}
+
+void FindingsView::rowsAboutToBeRemoved(const QModelIndex& parent, int start,
+                                        int end) {
+  // Its neighbour was not chosen, and other buttons would come with it.
+  const int current = currentIndex().row();
+  if (start <= current && current <= end) selectionModel()->clear();
+  QListView::rowsAboutToBeRemoved(parent, start, end);
+}
+
+QModelIndex FindingsView::ButtonAt(const QPoint& point) const {
+  const QModelIndex index = indexAt(point);
+  if (!index.isValid() || itemDelegate() != delegate_) return {};
+  QStyleOptionViewItem row;
+  initViewItemOption(&row);
+  row.rect = visualRect(index);
+  return delegate_->ButtonIn(row, index).contains(point) ? index
+                                                         : QModelIndex();
+}
+
+void FindingsView::mousePressEvent(QMouseEvent* event) {
+  const QModelIndex index = ButtonAt(event->position().toPoint());
+  if (event->button() != Qt::LeftButton || !index.isValid()) {
+    QListView::mousePressEvent(event);
+    return;
+  }
+  setCurrentIndex(index);
+  delegate_->SetPressed(index);
+  viewport()->update();
+}
+
+void FindingsView::mouseReleaseEvent(QMouseEvent* event) {
+  const QModelIndex pressed = delegate_->pressed();
+  if (!pressed.isValid()) {
+    QListView::mouseReleaseEvent(event);
+    return;
+  }
+  delegate_->SetPressed({});
+  viewport()->update();
+  if (ButtonAt(event->position().toPoint()) == pressed) Press(pressed);
+}
+
+void FindingsView::PressSelected() {
+  if (currentIndex().isValid()) Press(currentIndex());
+}
+
+void FindingsView::Press(const QModelIndex& index) {
+  // The list is made anew by what follows.
+  const Finding finding = model_->At(index.row());
+  if (finding.mends.empty()) return;
+  if (model_->IsRowFolded(index.row())) {
+    emit MendKindPressed(finding.id);
+  } else {
+    emit MendPressed(finding);
+  }
+}
+
+void FindingsView::mouseDoubleClickEvent(QMouseEvent* event) {
+  // The row below has come under the pointer by the first click.
+  if (!ButtonAt(event->position().toPoint()).isValid()) {
+    QListView::mouseDoubleClickEvent(event);
+  }
+}
+
+bool FindingsView::viewportEvent(QEvent* event) {
+  if (event->type() == QEvent::ToolTip) {
+    const auto& help = static_cast<const QHelpEvent&>(*event);
+    const QModelIndex index = ButtonAt(help.pos());
+    if (index.isValid() && !model_->IsRowFolded(index.row())) {
+      QToolTip::showText(
+          help.globalPos(),
+          QString::fromStdString(model_->At(index.row()).mends.front().title),
+          this);
+      return true;
+    }
+  }
+  return QListView::viewportEvent(event);
+}
+
 void FindingsView::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Space && itemDelegate() == delegate_) {
+    PressSelected();
+    return;
+  }
   const bool is_fold = event->key() == Qt::Key_Left;
   if ((is_fold || event->key() == Qt::Key_Right) && FoldableCount() > 0) {
     Fold(is_fold);
     return;
   }
-  QListWidget::keyPressEvent(event);
+  QListView::keyPressEvent(event);
 }
 
 }  // namespace fragsmith

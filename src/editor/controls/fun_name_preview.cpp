@@ -34,22 +34,35 @@ constexpr double kReadableContrast = 2.5;
 
 FunNamePreview::FunNamePreview(QWidget* parent) : QWidget(parent) {
   setAccessibleName(QStringLiteral("Fun name preview"));
-  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
+void FunNamePreview::StandOnGameGround() {
+  constexpr QColor kGameGround(0x14, 0x18, 0x1c);
+  QPalette colors = palette();
+  colors.setColor(QPalette::Window, kGameGround);
+  colors.setColor(QPalette::WindowText, Qt::white);
+  setPalette(colors);
+}
+
+void FunNamePreview::SetLetterScale(double scale) {
+  letter_scale_ = scale;
+  updateGeometry();
 }
 
 void FunNamePreview::DrawFunName(const QString& text) {
   runs_.assign(1, {});
   QString plain;
-  for (qsizetype place = 0; place < text.size(); ++place) {
-    const bool has_next = text[place] == u'^' && place + 1 < text.size();
-    const int digit = has_next ? text[place + 1].unicode() - u'0' : -1;
+  for (qsizetype index = 0; index < text.size(); ++index) {
+    const bool has_next = text[index] == u'^' && index + 1 < text.size();
+    const int digit = has_next ? text[index + 1].unicode() - u'0' : -1;
     if (digit >= 0 && digit < static_cast<int>(kFunNameColors.size())) {
       runs_.push_back(
           {QColor(kFunNameColors[static_cast<std::size_t>(digit)]), {}});
-      ++place;
+      ++index;
     } else {
-      runs_.back().text += text[place];
-      plain += text[place];
+      runs_.back().text += text[index];
+      plain += text[index];
     }
   }
   setAccessibleDescription(plain);
@@ -59,7 +72,7 @@ void FunNamePreview::DrawFunName(const QString& text) {
 
 QSize FunNamePreview::sizeHint() const {
   const QFontMetrics metrics(NameFont());
-  return {metrics.averageCharWidth() * 24, metrics.height() * 5 / 4};
+  return {metrics.averageCharWidth() * 16, metrics.height() * 5 / 4};
 }
 
 QSize FunNamePreview::minimumSizeHint() const {
@@ -76,9 +89,15 @@ void FunNamePreview::paintEvent(QPaintEvent* /*event*/) {
 
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
+  constexpr int kCorner = 6;
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(ground);
+  painter.drawRoundedRect(rect(), kCorner, kCorner);
+  painter.setBrush(Qt::NoBrush);
   const double base_line = (height() - metrics.height()) / 2 + metrics.ascent();
-  const double end = width() - line_width;
-  double left = line_width;
+  const double margin = metrics.averageCharWidth();
+  const double end = width() - margin;
+  double left = margin;
   for (const Run& run : runs_) {
     const double advance = metrics.horizontalAdvance(run.text);
     const bool is_cut = left + advance > end;
@@ -105,9 +124,9 @@ QFont FunNamePreview::NameFont() const {
   large.setBold(true);
   // A font is sized in points or, now and then, in pixels.
   if (large.pointSizeF() > 0) {
-    large.setPointSizeF(large.pointSizeF() * 1.3);
+    large.setPointSizeF(large.pointSizeF() * letter_scale_);
   } else {
-    large.setPixelSize(large.pixelSize() * 13 / 10);
+    large.setPixelSize(static_cast<int>(large.pixelSize() * letter_scale_));
   }
   return large;
 }

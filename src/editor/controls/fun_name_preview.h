@@ -25,6 +25,12 @@ class FunNamePreview : public QWidget {
  public:
   explicit FunNamePreview(QWidget* parent = nullptr);
 
+  /// As the game shows it: on its own dark, whatever the desktop's theme is.
+  void StandOnGameGround();
+
+  /// How many times as large as the window's font; 1.7 at first.
+  void SetLetterScale(double scale);
+
   /// Text before the first code has the window's text colour; a "^" without
   /// such a digit is drawn as it stands.
   void DrawFunName(const QString& text);
@@ -44,6 +50,7 @@ class FunNamePreview : public QWidget {
   QFont NameFont() const;
 
   std::vector<Run> runs_;
+  double letter_scale_ = 1.7;
 };
 
 }  // namespace fragsmith

@@ -23,17 +23,17 @@ void IconBox::ShowPicture(const Picture& picture, const QString& description) {
 void IconBox::Clear() { ShowPicture({}, {}); }
 
 QSize IconBox::sizeHint() const {
-  // The game's icons have 128 pixels; so they stand beside three fields.
-  const int side = fontMetrics().height() * 8 + 2 * frameWidth();
+  // It stands beside two fields.
+  const int side = fontMetrics().height() * 6 + 2 * frameWidth();
   return {side, side};
 }
 
 void IconBox::paintEvent(QPaintEvent* event) {
   QFrame::paintEvent(event);
   if (image_.isNull()) return;
-  const QRect place = contentsRect();
-  QRect target({}, image_.size().scaled(place.size(), Qt::KeepAspectRatio));
-  target.moveCenter(place.center());
+  const QRect area = contentsRect();
+  QRect target({}, image_.size().scaled(area.size(), Qt::KeepAspectRatio));
+  target.moveCenter(area.center());
   QPainter painter(this);
   painter.setRenderHint(QPainter::SmoothPixmapTransform);
   painter.drawImage(target, image_);

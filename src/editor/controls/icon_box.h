@@ -5,7 +5,7 @@
 #include <QImage>
 #include <QString>
 
-#include "install/targa.h"
+#include "install/packages/targa.h"
 
 namespace fragsmith {
 

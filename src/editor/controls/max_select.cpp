@@ -15,20 +15,20 @@ MaxSelect::MaxSelect(QWidget* parent)
     : QWidget(parent), buttons_(new QButtonGroup(this)) {
   auto* const row = new QHBoxLayout(this);
   row->setContentsMargins(0, 0, 0, 0);
-  for (int place = 0; place < static_cast<int>(std::size(kWeightMaxima));
-       ++place) {
-    const QString maximum = QString::number(kWeightMaxima[place]);
+  for (int index = 0; index < static_cast<int>(std::size(kWeightMaxima));
+       ++index) {
+    const QString maximum = QString::number(kWeightMaxima[index]);
     auto* const button = new QRadioButton(maximum, this);
-    button->setObjectName(QStringLiteral("opScale_%1").arg(place));
+    button->setObjectName(QStringLiteral("opScale_%1").arg(index));
     button->setAccessibleName(QStringLiteral("Scale from 0 to ") + maximum);
-    buttons_->addButton(button, place);
+    buttons_->addButton(button, index);
     row->addWidget(button);
   }
   row->addStretch();
   buttons_->button(0)->setChecked(true);
   connect(buttons_, &QButtonGroup::idToggled, this,
-          [this](int place, bool is_chosen) {
-            if (is_chosen) emit AdjustScale(kWeightMaxima[place]);
+          [this](int index, bool is_chosen) {
+            if (is_chosen) emit AdjustScale(kWeightMaxima[index]);
           });
 }
 

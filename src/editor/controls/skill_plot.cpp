@@ -4,9 +4,10 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <vector>
 
-#include "editor/pages/page_table.h"
-#include "editor/parameter_names.h"
+#include "chat/vocabulary.h"
+#include "editor/toolkit/table_text.h"
 
 namespace fragsmith {
 namespace {
@@ -35,6 +36,29 @@ QString OriginText(ValueOrigin origin) {
   return {};
 }
 
+/// Where the caption of a line stands clear of the others: above its line,
+/// below it, or behind what is there already. Empty where there is no room; the
+/// tool tip has them all.
+QRectF PlaceOfCaption(const QRectF& above, const QRectF& area,
+                      const std::vector<QRectF>& others) {
+  const auto is_free = [&](const QRectF& place) {
+    return area.contains(place) &&
+           std::ranges::none_of(others, [&place](const QRectF& other) {
+             return other.intersects(place);
+           });
+  };
+  std::vector<QRectF> places = {above, above.translated(0, above.height())};
+  for (const QRectF& other : others) {
+    for (std::size_t at : {0U, 1U}) {
+      QRectF behind = places.at(at);
+      behind.moveLeft(other.right());
+      places.push_back(behind);
+    }
+  }
+  const auto found = std::ranges::find_if(places, is_free);
+  return found == places.end() ? QRectF() : *found;
+}
+
 }  // namespace
 
 SkillPlot::SkillPlot(QWidget* parent) : QWidget(parent) {
@@ -43,7 +67,7 @@ SkillPlot::SkillPlot(QWidget* parent) : QWidget(parent) {
 
 void SkillPlot::ShowCharacteristic(const Bot& bot, int index) {
   index_ = index;
-  title_ = ControlName(index);
+  title_ = TableText(CharacteristicName(index));
   values_ = MixShownSkills(bot, index);
   thresholds_ = ThresholdsOf(index);
   setAccessibleName(title_ + QStringLiteral(" by skill"));
@@ -69,8 +93,8 @@ QString SkillPlot::Words() const {
 double SkillPlot::Top() const {
   double top = UsedRangeOf(index_).highest;
   // The range of some is far beyond what anybody sets.
-  constexpr double kMostByRange = 360;
-  top = std::min(top, kMostByRange);
+  constexpr double kMaxByRange = 360;
+  top = std::min(top, kMaxByRange);
   for (const ValueAtSkill& value : values_) top = std::max(top, value.value);
   return top;
 }
@@ -92,7 +116,7 @@ void SkillPlot::paintEvent(QPaintEvent* /*event*/) {
                     line * 1.4, 0, 0);
   const QRectF area(plot.left(), plot.top(), width() - plot.left() - line / 2.0,
                     height() - plot.top() - line * 1.3);
-  const auto place = [&area, top](double skill, double value) {
+  const auto point_of = [&area, top](double skill, double value) {
     return QPointF(
         area.left() + (skill - 1) / 4 * area.width(),
         area.bottom() - std::clamp(value / top, 0.0, 1.0) * area.height());
@@ -113,34 +137,37 @@ void SkillPlot::paintEvent(QPaintEvent* /*event*/) {
       QRectF(0, area.bottom() - line / 2.0, area.left() - line / 3.0, line),
       Qt::AlignRight | Qt::AlignVCenter, QStringLiteral("0"));
   for (const double skill : kWholeSkills) {
-    const QPointF below = place(skill, 0);
+    const QPointF below = point_of(skill, 0);
     painter.drawText(QRectF(below.x() - line, below.y(), 2.0 * line, line),
                      Qt::AlignHCenter, Number(skill));
   }
   painter.setPen(faint);
   painter.drawLine(area.bottomLeft(), area.bottomRight());
   painter.drawLine(area.bottomLeft(), area.topLeft());
+  std::vector<QRectF> captions;
   for (const Threshold& threshold : thresholds_) {
     if (threshold.value > top) continue;
-    const QPointF left = place(1, threshold.value);
+    const QPointF left = point_of(1, threshold.value);
     painter.setPen(QPen(faint, 1, Qt::DashLine));
     painter.drawLine(left, QPointF(area.right(), left.y()));
-    // One at the very top has its text below it.
-    const double above = left.y() - line < area.top() ? 0 : line;
-    painter.setPen(hint);
-    painter.drawText(
-        QRectF(left.x() + line / 3.0, left.y() - above,
-               area.width() - line / 3.0, line),
-        Qt::AlignLeft | Qt::AlignBottom,
+    const QString caption =
         metrics.elidedText(TableText(threshold.text), Qt::ElideRight,
-                           static_cast<int>(area.width())));
+                           static_cast<int>(area.width()));
+    const QRectF room = PlaceOfCaption(
+        QRectF(left.x() + line / 3.0, left.y() - line,
+               metrics.horizontalAdvance(caption) + line / 3.0, line),
+        area, captions);
+    if (room.isEmpty()) continue;
+    captions.push_back(room);
+    painter.setPen(hint);
+    painter.drawText(room, Qt::AlignLeft | Qt::AlignBottom, caption);
   }
 
   const QColor color = palette().color(QPalette::Highlight);
   painter.setPen(QPen(color, 2));
   for (std::size_t at = 1; at < values_.size(); ++at) {
-    painter.drawLine(place(values_[at - 1].skill, values_[at - 1].used),
-                     place(values_[at].skill, values_[at].used));
+    painter.drawLine(point_of(values_[at - 1].skill, values_[at - 1].used),
+                     point_of(values_[at].skill, values_[at].used));
   }
   for (const ValueAtSkill& value : values_) {
     const bool is_sure = value.origin == ValueOrigin::kLevel;
@@ -149,7 +176,7 @@ void SkillPlot::paintEvent(QPaintEvent* /*event*/) {
     painter.setPen(QPen(is_missing ? QColor(Qt::red) : color, 2));
     painter.setBrush(is_sure ? QBrush(color) : palette().window());
     const double radius = is_sure ? line / 4.0 : line / 5.0;
-    painter.drawEllipse(place(value.skill, value.used), radius, radius);
+    painter.drawEllipse(point_of(value.skill, value.used), radius, radius);
   }
 }
 

@@ -6,7 +6,7 @@
 #include <span>
 #include <vector>
 
-#include "checks/skill_mix.h"
+#include "game/skill_mix.h"
 #include "model/bot.h"
 
 namespace fragsmith {

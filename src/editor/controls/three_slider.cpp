@@ -7,10 +7,11 @@ namespace fragsmith {
 
 ThreeSlider::ThreeSlider(QWidget* parent)
     : ValueControl(ThreeSliderScale, parent) {
-  for (std::size_t place = 0; place < sliders_.size(); ++place) {
-    sliders_[place] = AddRow(kSkillLevels[place]);
-    connect(sliders_[place], &ValueSlider::Moved, this,
-            [this, place] { MoveOthers(place); });
+  for (const Level level : kLevels) {
+    ValueSlider* const slider = AddRow(level);
+    connect(slider, &ValueSlider::Moved, this,
+            [this, level] { MoveOthers(level); });
+    sliders_.at(IndexOf(level)) = slider;
   }
 }
 
@@ -18,29 +19,23 @@ void ThreeSlider::SetOptional(bool is_optional) {
   for (ValueSlider* slider : sliders_) slider->SetOptional(is_optional);
 }
 
-void ThreeSlider::ShowValue(int level, const Value& value) {
-  const auto* const found =
-      std::find(kSkillLevels.begin(), kSkillLevels.end(), level);
-  sliders_.at(static_cast<std::size_t>(found - kSkillLevels.begin()))
-      ->ShowValue(value);
+void ThreeSlider::ShowValue(Level level, const Value& value) {
+  sliders_.at(IndexOf(level))->ShowValue(value);
 }
 
-void ThreeSlider::MoveOthers(std::size_t moved) {
-  LevelPositions positions{};
-  std::transform(sliders_.begin(), sliders_.end(), positions.begin(),
-                 [](const ValueSlider* slider) { return slider->value(); });
-  std::vector<int> places =
-      LinkLevels(linking_, static_cast<int>(moved), positions);
-  for (const int place : places) {
-    const auto index = static_cast<std::size_t>(place);
-    sliders_[index]->ShowPosition(positions[index]);
+void ThreeSlider::MoveOthers(Level moved) {
+  LevelNumbers numbers{};
+  std::transform(sliders_.begin(), sliders_.end(), numbers.begin(),
+                 [](const ValueSlider* slider) { return slider->Number(); });
+  std::vector<Level> levels = LinkLevels(linking_, moved, numbers);
+  for (const Level level : levels) {
+    sliders_.at(IndexOf(level))->ShowValue(numbers.at(IndexOf(level)));
   }
-  moving_level_ = kSkillLevels[moved];
+  moving_level_ = moved;
   // All stand right before anybody hears of the first.
-  places.insert(places.begin(), static_cast<int>(moved));
-  for (const int place : places) {
-    const auto index = static_cast<std::size_t>(place);
-    emit Changed(Index(), kSkillLevels[index], sliders_[index]->Number());
+  levels.insert(levels.begin(), moved);
+  for (const Level level : levels) {
+    emit Changed(Index(), level, sliders_.at(IndexOf(level))->Number());
   }
 }
 

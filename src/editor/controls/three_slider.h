@@ -2,10 +2,9 @@
 #define FRAGSMITH_EDITOR_CONTROLS_THREE_SLIDER_H_
 
 #include <array>
-#include <cstddef>
 
 #include "editor/controls/value_control.h"
-#include "model/bot.h"
+#include "model/level.h"
 #include "model/level_linking.h"
 #include "model/value.h"
 
@@ -27,21 +26,21 @@ class ThreeSlider : public ValueControl {
   void SetMode(LevelLinking linking) { linking_ = linking; }
 
   /// The level that the user moves, while others follow it.
-  int MovingLevel() const { return moving_level_; }
+  Level MovingLevel() const { return moving_level_; }
 
-  /// Sends nothing. Throws std::out_of_range for a level that bots lack.
-  void ShowValue(int level, const Value& value);
+  /// Sends nothing.
+  void ShowValue(Level level, const Value& value);
 
  signals:
   /// The user moved the slider of a level; one signal for each slider that
   /// had to follow comes behind it.
-  void Changed(int index, int level, double value);
+  void Changed(int index, fragsmith::Level level, double value);
 
  private:
-  void MoveOthers(std::size_t moved);
+  void MoveOthers(Level moved);
 
-  std::array<ValueSlider*, 3> sliders_{};
-  int moving_level_ = kSkillLevels.front();
+  std::array<ValueSlider*, kLevels.size()> sliders_{};
+  Level moving_level_ = kLevels.front();
   LevelLinking linking_ = LevelLinking::kNone;
 };
 

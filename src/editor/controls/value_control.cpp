@@ -2,21 +2,29 @@
 
 #include <QEvent>
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
+#include <QToolButton>
+#include <algorithm>
 
 #include "editor/controls/caption_mark.h"
+#include "editor/controls/quiet_note.h"
+#include "editor/controls/value_box.h"
 #include "editor/controls/value_label.h"
-#include "model/bot.h"
-#include "model/characteristic_catalogue.h"
+#include "editor/toolkit/game_text_conversion.h"
+#include "editor/toolkit/line_icon.h"
+#include "editor/toolkit/tool_tip.h"
 
 namespace fragsmith {
 namespace {
 
-/// "Attack skill (0-1)" is spoken "Attack skill": the range stands in the
-/// slider's limits.
-QString WithoutRange(const QString& caption) {
-  const qsizetype range = caption.lastIndexOf(QStringLiteral(" ("));
-  return range < 0 ? caption : caption.left(range);
+// Of the grid; the number of the level comes first.
+constexpr int kSliderColumn = 1;
+constexpr int kTextColumn = 2;
+
+bool IsSame(const Value& one, const Value& other) {
+  const std::optional<double> number = ToNumber(one);
+  return number ? number == ToNumber(other) : one == other;
 }
 
 }  // namespace
@@ -34,27 +42,105 @@ ValueControl::ValueControl(ScaleLookup lookup, QWidget* parent)
   // the captions of a page stand in line.
   grid_->setAlignment(Qt::AlignTop);
   grid_->setVerticalSpacing(0);
-  grid_->setColumnStretch(1, 1);
-  grid_->addWidget(caption_, 0, 0, 1, 2);
+  grid_->setColumnStretch(kSliderColumn, 1);
+  grid_->addWidget(caption_, 0, 0, 1, kTextColumn);
 }
 
 CaptionMark* ValueControl::NeedMark() {
-  if (mark_ == nullptr && !caption_->text().isEmpty()) {
-    mark_ = new CaptionMark(this);
-    grid_->addWidget(mark_, 0, 2, Qt::AlignRight | Qt::AlignVCenter);
+  if (mark_ != nullptr) return mark_;
+  mark_ = new CaptionMark(this);
+  if (!caption_->text().isEmpty()) {
+    grid_->addWidget(mark_, 0, kTextColumn, Qt::AlignRight | Qt::AlignVCenter);
+    return mark_;
   }
+  // Below the caption of another control: in front of the value.
+  int row = 0;
+  int rest = 0;
+  grid_->getItemPosition(grid_->indexOf(rows_.front().slider), &row, &rest,
+                         &rest, &rest);
+  grid_->addWidget(mark_, row, kTextColumn, Qt::AlignLeft | Qt::AlignTop);
   return mark_;
 }
 
 void ValueControl::SetCaption(const QString& caption) {
   caption_->setText(caption);
   caption_->setHidden(caption.isEmpty());
-  NameSliders();
 }
 
 void ValueControl::SetSpokenName(const QString& name) {
   spoken_name_ = name;
   NameSliders();
+}
+
+void ValueControl::SetQuiet(const QString& why) {
+  for (const Row& row : rows_) {
+    row.text->setForegroundRole(QPalette::PlaceholderText);
+    if (row.number != nullptr) {
+      row.number->setForegroundRole(QPalette::PlaceholderText);
+    }
+  }
+  if (caption_->text().isEmpty()) return;
+  caption_->setForegroundRole(QPalette::PlaceholderText);
+  grid_->removeWidget(caption_);
+  auto* const line = new QHBoxLayout;
+  line->setSpacing(fontMetrics().averageCharWidth());
+  line->addWidget(caption_);
+  line->addWidget(new QuietNote(why, this), 1);
+  grid_->addLayout(line, 0, 0, 1, kTextColumn);
+}
+
+void ValueControl::SetLoaded(std::optional<Level> level, const Value& loaded) {
+  for (Row& row : rows_) {
+    if (row.level == level) row.loaded = loaded;
+  }
+}
+
+void ValueControl::ShowReset(std::size_t index) {
+  Row& row = rows_.at(index);
+  const bool is_wanted =
+      row.loaded && !IsSame(*row.loaded, row.slider->shown());
+  if (row.reset == nullptr) {
+    if (!is_wanted) return;
+    MakeReset(row);
+  }
+  if (is_wanted) {
+    const QString text = ToNumber(*row.loaded) == 0
+                             ? QStringLiteral("0")
+                             : ToQString(ToText(*row.loaded));
+    row.reset->setToolTip(
+        WrappedToolTip({}, QStringLiteral("Put back to %1.").arg(text)));
+    row.reset->setAccessibleName(QStringLiteral("Put %1 back to %2")
+                                     .arg(row.slider->accessibleName(), text));
+  } else if (row.reset->hasFocus()) {
+    row.slider->setFocus(Qt::OtherFocusReason);
+  }
+  row.reset->setVisible(is_wanted);
+  row.text->KeepRoomAtLeft(is_wanted);
+}
+
+void ValueControl::MakeReset(Row& row) {
+  row.reset = new QToolButton(this);
+  row.reset->setObjectName(row.slider->objectName().replace(
+      QStringLiteral("sliValue"), QStringLiteral("cmdReset")));
+  row.reset->setIcon(MakeLineIcon(LineIcon::kUndo));
+  const int side = row.text->RoomAtLeft();
+  // The drawing has a rim of its own.
+  row.reset->setIconSize(QSize(side, side) * 4 / 3);
+  row.reset->setAutoRaise(true);
+  row.reset->setFocusPolicy(Qt::TabFocus);
+  const ParameterId parameter = ParameterOf(row);
+  connect(row.reset, &QToolButton::clicked, this,
+          [this, parameter] { emit ResetWanted(parameter); });
+  QWidget::setTabOrder(row.slider, row.reset);
+  // No higher than the row is without it.
+  row.reset->setFixedSize(
+      side, row.slider->sizeHint().height() - row.slider->TickRoom());
+  int grid_row = 0;
+  int rest = 0;
+  grid_->getItemPosition(grid_->indexOf(row.slider), &grid_row, &rest, &rest,
+                         &rest);
+  grid_->addWidget(row.reset, grid_row, kTextColumn,
+                   Qt::AlignLeft | Qt::AlignTop);
 }
 
 void ValueControl::SetMax(int max) {
@@ -65,9 +151,10 @@ void ValueControl::SetMax(int max) {
   AlignTexts();
 }
 
-ValueSlider* ValueControl::AddRow(std::optional<int> level) {
-  const QString suffix = level ? QStringLiteral("_%1").arg(*level) : QString();
-  const int place = grid_->rowCount();
+ValueSlider* ValueControl::AddRow(std::optional<Level> level) {
+  const QString suffix =
+      level ? QStringLiteral("_%1").arg(NumberOf(*level)) : QString();
+  const int grid_row = grid_->rowCount();
   auto* const slider = new ValueSlider(this);
   slider->setObjectName(QStringLiteral("sliValue") + suffix);
   if (const auto scale = lookup_(max_)) slider->SetScale(*scale);
@@ -77,17 +164,35 @@ ValueSlider* ValueControl::AddRow(std::optional<int> level) {
   connect(slider, &ValueSlider::TextChanged, text, &ValueLabel::ShowText);
   QLabel* number = nullptr;
   if (level) {
-    number = new QLabel(QString::number(*level), this);
+    number = new QLabel(QString::number(NumberOf(*level)), this);
     number->setObjectName(QStringLiteral("lblLevel") + suffix);
     number->setBuddy(slider);
-    grid_->addWidget(number, place, 0);
+    grid_->addWidget(number, grid_row, 0);
   }
-  grid_->addWidget(slider, place, 1);
-  grid_->addWidget(text, place, 2);
+  grid_->addWidget(slider, grid_row, kSliderColumn);
+  grid_->addWidget(text, grid_row, kTextColumn);
   if (rows_.empty()) caption_->setBuddy(slider);
+  const std::size_t index = rows_.size();
+  connect(slider, &ValueSlider::TypingWanted, this,
+          [this, index](const QString& first) { OpenBox(index, first); });
+  connect(slider, &ValueSlider::TextChanged, this,
+          [this, index] { ShowReset(index); });
+  connect(text, &ValueLabel::Clicked, this,
+          [this, index] { OpenBox(index, {}); });
   rows_.push_back({slider, text, number, level});
   AlignTexts();
   return slider;
+}
+
+void ValueControl::OpenBox(std::size_t index, const QString& first) {
+  Row& row = rows_.at(index);
+  if (row.box == nullptr) {
+    row.box = new ValueBox(*row.slider, *row.text, this);
+    row.box->setObjectName(row.slider->objectName().replace(
+        QStringLiteral("sli"), QStringLiteral("txt")));
+    emit BoxMade(row.box);
+  }
+  row.box->Open(first);
 }
 
 void ValueControl::changeEvent(QEvent* event) {
@@ -96,14 +201,12 @@ void ValueControl::changeEvent(QEvent* event) {
 }
 
 void ValueControl::NameSliders() {
-  const QString name =
-      spoken_name_.isEmpty() ? WithoutRange(caption_->text()) : spoken_name_;
-  setAccessibleName(name);
+  setAccessibleName(spoken_name_);
   for (const Row& row : rows_) {
-    row.slider->setAccessibleName(row.level
-                                      ? name + QStringLiteral(", level ") +
-                                            QString::number(*row.level)
-                                      : name);
+    row.slider->setAccessibleName(
+        row.level ? spoken_name_ + QStringLiteral(", level ") +
+                        QString::number(NumberOf(*row.level))
+                  : spoken_name_);
   }
 }
 
@@ -117,18 +220,36 @@ void ValueControl::AlignTexts() {
   }
 }
 
-std::optional<int> ParameterOf(const QWidget* widget) {
-  const QWidget* control = widget;
-  while (control != nullptr &&
-         qobject_cast<const ValueControl*>(control) == nullptr) {
-    control = control->parentWidget();
+ParameterId ValueControl::ParameterOf(const Row& row) const {
+  return row.level ? ParameterId(*row.level, index_) : ParameterId(index_);
+}
+
+std::optional<ParameterId> ValueControl::ParameterOf(
+    const QWidget* part) const {
+  if (part == nullptr) return std::nullopt;
+  for (const Row& row : rows_) {
+    if (part != row.slider && part != row.text && part != row.number &&
+        part != row.box && part != row.reset) {
+      continue;
+    }
+    return ParameterOf(row);
   }
-  if (control == nullptr || control == widget) return std::nullopt;
-  const int index = static_cast<const ValueControl*>(control)->Index();
-  const QString level = widget->objectName().section(u'_', 1);
-  if (!level.isEmpty()) return LevelIndex(level.toInt(), index);
-  if (kPerLevelRange.Contains(index)) return std::nullopt;
-  return index;
+  if (part == caption_ && rows_.size() == 1) return ParameterId(index_);
+  return std::nullopt;
+}
+
+QWidget* ValueControl::SliderOf(std::optional<Level> level) const {
+  const auto row =
+      std::find_if(rows_.begin(), rows_.end(),
+                   [level](const Row& one) { return one.level == level; });
+  return row == rows_.end() ? nullptr : row->slider;
+}
+
+std::optional<ParameterId> ParameterOf(const QWidget* widget) {
+  if (widget == nullptr) return std::nullopt;
+  const auto* const control =
+      qobject_cast<const ValueControl*>(widget->parentWidget());
+  return control == nullptr ? std::nullopt : control->ParameterOf(widget);
 }
 
 }  // namespace fragsmith

@@ -1,6 +1,7 @@
 #include "editor/controls/value_label.h"
 
 #include <QEvent>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QStyle>
 
@@ -16,6 +17,7 @@ ValueLabel::ValueLabel(QWidget* parent) : QLabel(parent) {
   setTextFormat(Qt::PlainText);
   setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
+  setCursor(Qt::IBeamCursor);
 }
 
 void ValueLabel::ShowText(const QString& text) {
@@ -23,18 +25,37 @@ void ValueLabel::ShowText(const QString& text) {
   // text that they have.
   if (text == this->text()) return;
   setText(text);
-  const bool is_cut = text.size() > kPlainTextLength &&
-                      fontMetrics().horizontalAdvance(text) > Width();
+  const bool is_cut =
+      text.size() > kPlainTextLength &&
+      fontMetrics().horizontalAdvance(text) > Width() - RoomAtLeft();
   if (is_cut || !toolTip().isEmpty()) {
     setToolTip(is_cut ? text.toHtmlEscaped() : QString());
   }
 }
 
+int ValueLabel::RoomAtLeft() const { return fontMetrics().ascent(); }
+
 int ValueLabel::Width() const {
   if (width_ == 0) {
-    width_ = fontMetrics().horizontalAdvance(QStringLiteral("0.0000"));
+    width_ =
+        fontMetrics().horizontalAdvance(QStringLiteral("0.000")) + RoomAtLeft();
   }
   return width_;
+}
+
+bool ValueLabel::event(QEvent* event) {
+  if (event->type() == QEvent::Enter || event->type() == QEvent::Leave) {
+    update();
+  }
+  return QLabel::event(event);
+}
+
+void ValueLabel::mousePressEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton) {
+    emit Clicked();
+  } else {
+    event->ignore();
+  }
 }
 
 void ValueLabel::changeEvent(QEvent* event) {
@@ -49,11 +70,19 @@ QSize ValueLabel::sizeHint() const {
 
 void ValueLabel::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
-  const QRect place = contentsRect();
+  const QRect area =
+      contentsRect().adjusted(keeps_room_ ? RoomAtLeft() : 0, 0, 0, 0);
+  if (underMouse()) {
+    const int height = fontMetrics().height();
+    QColor line = palette().color(foregroundRole());
+    line.setAlphaF(0.5F);
+    painter.setPen(line);
+    painter.drawLine(area.left(), area.center().y() + height / 2, area.right(),
+                     area.center().y() + height / 2);
+  }
   style()->drawItemText(
-      &painter, place, Qt::AlignRight | Qt::AlignVCenter, palette(),
-      isEnabled(),
-      fontMetrics().elidedText(text(), Qt::ElideRight, place.width()),
+      &painter, area, Qt::AlignRight | Qt::AlignVCenter, palette(), isEnabled(),
+      fontMetrics().elidedText(text(), Qt::ElideRight, area.width()),
       foregroundRole());
 }
 

@@ -2,6 +2,7 @@
 
 #include <QAccessible>
 #include <QAccessibleWidget>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
@@ -9,8 +10,10 @@
 #include <QStyleOptionSlider>
 #include <QWheelEvent>
 #include <cstdlib>
+#include <utility>
 
-#include "editor/game_text_conversion.h"
+#include "editor/toolkit/game_text_conversion.h"
+#include "editor/toolkit/severity_color.h"
 
 namespace fragsmith {
 namespace {
@@ -88,15 +91,16 @@ void ValueSlider::SetOptional(bool is_optional) {
   Announce();
 }
 
+void ValueSlider::SetMarks(std::vector<double> marks) {
+  marks_ = std::move(marks);
+  update();
+}
+
 void ValueSlider::ShowValue(const Value& value) {
   shown_ = value;
   const QScopedValueRollback<bool> showing(is_showing_, true);
   setValue(PositionOf(ToNumber(value).value_or(0), scale_));
   Announce();
-}
-
-void ValueSlider::ShowPosition(int position) {
-  ShowValue(ValueOf(position, scale_));
 }
 
 void ValueSlider::MoveTo(double value) {
@@ -106,6 +110,12 @@ void ValueSlider::MoveTo(double value) {
   } else if (ToNumber(shown_) != ValueOf(position, scale_)) {
     TakePosition();
   }
+}
+
+void ValueSlider::Enter(double value) {
+  if (ToNumber(shown_) == value) return;
+  ShowValue(value);
+  emit Moved();
 }
 
 double ValueSlider::Number() const {
@@ -143,16 +153,17 @@ void ValueSlider::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, this);
   }
-  if (tickInterval() == 0) return;
   // Styles cut the handle or hide the ticks on a dark ground when they draw
   // ticks below it.
   QStyleOptionSlider option;
   initStyleOption(&option);
+  QPainter painter(this);
+  DrawMarks(painter, option);
+  if (tickInterval() == 0) return;
   const int handle =
       style()->pixelMetric(QStyle::PM_SliderLength, &option, this);
   QColor color = palette().color(foregroundRole());
   color.setAlphaF(0.35F);
-  QPainter painter(this);
   painter.setPen(color);
   const int top = option.rect.bottom() + 1;
   for (int tick = 0; tick <= maximum(); tick += tickInterval()) {
@@ -160,6 +171,39 @@ void ValueSlider::paintEvent(QPaintEvent* event) {
         minimum(), maximum(), tick, width() - handle, option.upsideDown);
     painter.drawLine(left + handle / 2, top, left + handle / 2,
                      top + TickLength());
+  }
+}
+
+void ValueSlider::DrawMarks(QPainter& painter,
+                            const QStyleOptionSlider& option) const {
+  const QRect handle = style()->subControlRect(QStyle::CC_Slider, &option,
+                                               QStyle::SC_SliderHandle, this);
+  constexpr int kWidth = 2;
+  const int height = option.rect.height() / 2;
+  for (const double mark : marks_) {
+    const double share = mark / ValueOf(maximum(), scale_);
+    // The top of the range needs no mark: the slider ends there.
+    if (share >= 1) continue;
+    const int middle = handle.width() / 2 +
+                       static_cast<int>(share * (width() - handle.width()));
+    const QRect line(middle - kWidth / 2, option.rect.center().y() - height / 2,
+                     kWidth, height);
+    if (line.intersects(handle)) continue;
+    painter.fillRect(line, SeverityColor(Severity::kWarning, palette()));
+  }
+}
+
+void ValueSlider::keyPressEvent(QKeyEvent* event) {
+  constexpr auto kCommandKeys =
+      Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+  const QString text = event->text();
+  if (event->key() == Qt::Key_F2) {
+    emit TypingWanted({});
+  } else if (!text.isEmpty() && (text[0].isDigit() || text[0] == u'.') &&
+             !(event->modifiers() & kCommandKeys)) {
+    emit TypingWanted(text);
+  } else {
+    QSlider::keyPressEvent(event);
   }
 }
 

@@ -3,6 +3,7 @@
 
 #include <QSlider>
 #include <QString>
+#include <vector>
 
 #include "model/value.h"
 #include "model/value_scale.h"
@@ -28,14 +29,20 @@ class ValueSlider : public QSlider {
   /// Whether 0 means that the parameter is left out of the file.
   void SetOptional(bool is_optional);
 
-  /// What the program does: neither of them sends Moved.
+  /// Values that are marked on the groove: from there on the bot acts
+  /// otherwise.
+  void SetMarks(std::vector<double> marks);
+
+  /// What the program does: it does not send Moved.
   void ShowValue(const Value& value);
-  void ShowPosition(int position);
+  const Value& shown() const { return shown_; }
 
   /// Moves as the user does, also where only the value was off the grid.
   void MoveTo(double value);
 
-  const Value& shown() const { return shown_; }
+  /// Takes a value that the user typed, also one off the grid or beyond it.
+  void Enter(double value);
+
   /// The shown value as a number; the position's value for a text.
   double Number() const;
   /// The text to stand beside the slider.
@@ -50,20 +57,25 @@ class ValueSlider : public QSlider {
   /// The user moved the slider, by whatever means.
   void Moved();
   void TextChanged(const QString& text);
+  /// The user wants to type the value, beginning with this text if any.
+  void TypingWanted(const QString& first);
 
  protected:
   void initStyleOption(QStyleOptionSlider* option) const override;
   void paintEvent(QPaintEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
 
  private:
   int TickLength() const;
+  void DrawMarks(QPainter& painter, const QStyleOptionSlider& option) const;
   void TakePosition();
   void Announce();
 
   ValueScale scale_;
   Value shown_;
+  std::vector<double> marks_;
   bool is_optional_ = false;
   bool is_showing_ = false;
   int wheel_rest_ = 0;

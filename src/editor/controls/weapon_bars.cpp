@@ -8,7 +8,9 @@
 #include <array>
 #include <optional>
 
-#include "editor/parameter_names.h"
+#include "chat/vocabulary.h"
+#include "editor/toolkit/table_text.h"
+#include "editor/toolkit/wheel_guard.h"
 
 namespace fragsmith {
 namespace {
@@ -17,7 +19,7 @@ namespace {
 constexpr std::array<int, 6> kDistances = {0, 500, 700, 1000, 3000, 5000};
 
 QString WeaponName(const WeaponRank& rank) {
-  return ControlName(rank.index).section(u',', 0, 0);
+  return TableText(ParameterCaption(rank.weapon.index()));
 }
 
 QString WeightText(const WeaponRank& rank) {
@@ -33,6 +35,7 @@ WeaponBars::WeaponBars(QWidget* parent)
     : QWidget(parent), distance_(new QComboBox(this)) {
   setObjectName(QStringLiteral("picWeapons"));
   setAccessibleName(QStringLiteral("Weapons in the order of their weights"));
+  IgnoreWheelWithoutFocus(*distance_);
   distance_->setObjectName(QStringLiteral("cmbDistance"));
   distance_->setAccessibleName(QStringLiteral("Distance to the enemy"));
   for (const int distance : kDistances) {

@@ -5,7 +5,7 @@
 #include <QWidget>
 #include <vector>
 
-#include "checks/weapon_order.h"
+#include "game/weapon_order.h"
 #include "model/bot.h"
 
 namespace fragsmith {

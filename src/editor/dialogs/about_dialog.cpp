@@ -7,6 +7,8 @@
 #include <QVBoxLayout>
 
 #include "editor/dialogs/dialog_parts.h"
+#include "editor/toolkit/table_text.h"
+#include "support/program_version.h"
 
 namespace fragsmith {
 namespace {
@@ -45,8 +47,8 @@ frmAbout::frmAbout(QWidget* parent) : QDialog(parent) {
   heading.setBold(true);
   heading.setPointSizeF(heading.pointSizeF() * 1.4);
   name->setFont(heading);
-  AddLine(QStringLiteral("Version 0.97b BETA"), QStringLiteral("lblVersion"),
-          column, this);
+  AddLine(QStringLiteral("Version ") + TableText(kProgramVersion),
+          QStringLiteral("lblVersion"), column, this);
   AddLine(QStringLiteral("Bot creator program for Q3A."),
           QStringLiteral("lblDescription"), column, this);
 

@@ -10,7 +10,7 @@
 #include <array>
 #include <cmath>
 
-#include "editor/game_text_conversion.h"
+#include "editor/toolkit/game_text_conversion.h"
 
 namespace fragsmith {
 namespace {
@@ -30,7 +30,7 @@ constexpr std::array<Heading, 3> kHeadings = {{
 
 /// The last heading is longer than what stands below it.
 constexpr int kLineWidth = 43;
-constexpr int kLeastLines = 10;
+constexpr int kMinLines = 10;
 
 int WidthOf(int characters, const QFont& font) {
   const QString blanks(characters, u' ');
@@ -54,7 +54,7 @@ BotListBox::BotListBox(const BotList& bots, QWidget* parent)
   const int frames = 2 * list_->frameWidth();
   list_->setMinimumWidth(WidthOf(kLineWidth, font) + frames +
                          list_->verticalScrollBar()->sizeHint().width());
-  list_->setMinimumHeight(kLeastLines * list_->fontMetrics().lineSpacing() +
+  list_->setMinimumHeight(kMinLines * list_->fontMetrics().lineSpacing() +
                           frames);
 
   auto* const layout = new QVBoxLayout(this);

@@ -6,7 +6,7 @@
 #include <cstddef>
 #include <optional>
 
-#include "install/bot_list.h"
+#include "install/program/bot_list.h"
 
 namespace fragsmith {
 
@@ -18,7 +18,7 @@ class BotListBox : public QWidget {
  public:
   explicit BotListBox(const BotList& bots, QWidget* parent = nullptr);
 
-  /// Place of the chosen bot in the list.
+  /// Index of the chosen bot in the list.
   std::optional<std::size_t> Chosen() const;
   void ClearChoice();
 

@@ -7,14 +7,14 @@
 #include <QLayout>
 #include <QPushButton>
 #include <QString>
-#include <QTreeWidget>
 #include <array>
 #include <cstddef>
 #include <functional>
 #include <vector>
 
-#include "checks/bot_difference.h"
-#include "editor/current_bot.h"
+#include "editor/dialogs/compare_view.h"
+#include "editor/state/current_bot.h"
+#include "session/bot_difference.h"
 
 namespace fragsmith {
 
@@ -35,45 +35,38 @@ class frmCompare : public QDialog {
   QPushButton* MakeButton(const QString& text, const QString& name,
                           const std::function<void()>& press);
 
-  /// Shows the bots as they are now; the place in the list stays.
+  /// Shows the bots as they are now; the list stays where it is.
   void ShowBots();
-  void FillList();
-  void AddParameters(int group);
-  void AddLines();
-  QTreeWidgetItem* AddGroup(int group, QTreeWidgetItem* parent);
-  /// The place is that of the difference; kNone where the bots are equal.
-  void AddRow(int group, int place, const QStringList& texts,
-              QTreeWidgetItem* parent);
   void ShowButtons();
 
   /// The group of the current row.
   int CurrentGroup() const;
+  const std::vector<BotDifference>& differences() const {
+    return list_->bots().differences();
+  }
 
   // Places in the differences, in their order.
   std::vector<std::size_t> WhichFit(
       const std::function<bool(const BotDifference&)>& fits) const;
-  std::vector<std::size_t> WhichAreAtLevel(int level) const;
+  std::vector<std::size_t> WhichAreAtLevel(Level level) const;
   std::vector<std::size_t> WhichAreIn(int group) const;
   /// A selected group stands for all that is in it.
   std::vector<std::size_t> WhichAreSelected() const;
 
   void CopySelected();
-  void Copy(const QString& what, const std::vector<std::size_t>& places,
-            const FindingPlace& shown = {});
+  void Copy(const QString& what, const std::vector<std::size_t>& indices,
+            const BotPlace& shown = {});
 
   CurrentBot& current_;
-  const Bot other_;
   const QString other_title_;
   /// What was done before the dialog came is not taken back in it.
   const int first_step_;
-  /// Of the current bot, at the left, to the other one.
-  std::vector<BotDifference> differences_;
 
   QCheckBox* only_differences_;
   QLabel* count_;
-  QTreeWidget* list_;
+  CompareView* list_;
   QPushButton* selected_ = nullptr;
-  std::array<QPushButton*, kSkillLevels.size()> levels_{};
+  std::array<QPushButton*, kLevels.size()> levels_{};
   QPushButton* chats_ = nullptr;
   QPushButton* page_ = nullptr;
   QPushButton* undo_ = nullptr;

@@ -3,7 +3,7 @@
 #include <QAccessible>
 #include <QPushButton>
 
-#include "editor/code_page_validator.h"
+#include "editor/toolkit/code_page_validator.h"
 
 namespace fragsmith {
 namespace {

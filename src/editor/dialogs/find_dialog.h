@@ -3,13 +3,12 @@
 
 #include <QDialog>
 #include <QLineEdit>
-#include <QListWidget>
-#include <QString>
-#include <vector>
+#include <QListView>
 
-#include "checks/finding.h"
 #include "editor/dialogs/dialog_parts.h"
+#include "editor/models/bot_places_model.h"
 #include "model/bot.h"
+#include "model/bot_place.h"
 
 namespace fragsmith {
 
@@ -22,7 +21,7 @@ class frmFind : public QDialog {
   explicit frmFind(const Bot& bot, QWidget* parent = nullptr);
 
   /// Where to go to, once accepted.
-  FindingPlace Chosen() const;
+  BotPlace Chosen() const;
 
   void accept() override;
 
@@ -31,20 +30,12 @@ class frmFind : public QDialog {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  struct Entry {
-    QString text;    ///< As it is listed.
-    QString sought;  ///< In what the words are looked for, in small letters.
-    FindingPlace place;
-  };
-
-  void CollectParameters();
-  void CollectChats(const Bot& bot);
   void ShowMatches();
 
-  std::vector<Entry> entries_;
-  std::vector<std::size_t> matches_;
   QLineEdit* box_;
-  QListWidget* list_;
+  QListView* list_;
+  BotPlacesModel* places_;
+  WordsFilter* matches_;
   HintLine* hint_;
 };
 

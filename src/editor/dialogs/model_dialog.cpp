@@ -4,8 +4,8 @@
 #include <QVBoxLayout>
 
 #include "editor/dialogs/dialog_parts.h"
-#include "editor/game_text_conversion.h"
-#include "install/model_commands.h"
+#include "editor/toolkit/game_text_conversion.h"
+#include "install/program/model_commands.h"
 
 namespace fragsmith {
 

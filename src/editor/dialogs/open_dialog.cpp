@@ -68,12 +68,15 @@ frmOpen::frmOpen(const OpenRequest& request, Prompts& prompts, QWidget* parent)
   } else {
     browser_->SetFilter(QString::fromUtf8(row.suffix));
     lists->addWidget(MakeBotList(request.bots), 2);
-    layout->addLayout(MakeOptions());
+    layout->addLayout(MakeOptions(request));
   }
   browser_->SetFolder(request.folder);
   if (IsLoad()) {
     // When saving, a file is no answer, and a double click on one does nothing.
     connect(browser_, &DirView::FileActivated, this, &frmOpen::accept);
+    // Whoever gives the folder of one bot means that.
+    connect(browser_, &DirView::FolderTyped, browser_,
+            &DirView::ChooseOnlyFile);
   }
 
   auto* const buttons = new QHBoxLayout;
@@ -102,7 +105,7 @@ QWidget* frmOpen::MakeBotList(const BotList* bots) {
   return bots_;
 }
 
-QLayout* frmOpen::MakeOptions() {
+QLayout* frmOpen::MakeOptions(const OpenRequest& request) {
   const bool loads = kind_ == OpenKind::kLoadBot;
   const bool saves = kind_ == OpenKind::kSave;
   loads_with_layout_ = MakeOption(
@@ -125,6 +128,19 @@ QLayout* frmOpen::MakeOptions() {
   grid->addWidget(loads_description_, 1, 0);
   grid->addWidget(saves_with_layout_, 0, 1);
   grid->addWidget(makes_package_, 1, 1);
+  if (request.offers_files) {
+    keeps_files_ = MakeOption(
+        QStringLiteral("&Keep the files as their author wrote them"),
+        QStringLiteral("chkKeepFiles"), options_.keeps_files, saves, this);
+    grid->addWidget(keeps_files_, grid->rowCount(), 1);
+  }
+  if (request.offers_macros) {
+    game_macros_ =
+        MakeOption(QStringLiteral("&Write the game's own macros as well"),
+                   QStringLiteral("chkGameMacros"), options_.writes_game_macros,
+                   saves, this);
+    grid->addWidget(game_macros_, grid->rowCount(), 1);
+  }
   grid->setColumnStretch(2, 1);
   return grid;
 }
@@ -185,12 +201,19 @@ OpenChoice frmOpen::Choice() const {
     choice.options = {.loads_with_layout = loads_with_layout_->isChecked(),
                       .loads_description = loads_description_->isChecked(),
                       .saves_with_layout = saves_with_layout_->isChecked(),
-                      .makes_package = makes_package_->isChecked()};
+                      .makes_package = makes_package_->isChecked(),
+                      .keeps_files = keeps_files_ != nullptr
+                                         ? keeps_files_->isChecked()
+                                         : options_.keeps_files,
+                      .writes_game_macros = game_macros_ != nullptr
+                                                ? game_macros_->isChecked()
+                                                : options_.writes_game_macros};
   }
   return choice;
 }
 
 void frmOpen::accept() {
+  if (IsLoad() && !bots_->Chosen()) browser_->TakeTypedPath();
   const OpenChoice choice = Choice();
   if (IsLoad() && !choice.file && !choice.bot_of_list) {
     prompts_.Show({.title = "Error!!",

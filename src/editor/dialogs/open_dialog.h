@@ -13,7 +13,7 @@
 
 #include "editor/controls/dir_view.h"
 #include "editor/dialogs/bot_list_box.h"
-#include "install/bot_list.h"
+#include "install/program/bot_list.h"
 #include "support/prompts.h"
 
 namespace fragsmith {
@@ -39,6 +39,8 @@ struct OpenOptions {
   bool loads_description = true;
   bool saves_with_layout = false;
   bool makes_package = false;
+  bool keeps_files = true;
+  bool writes_game_macros = false;
 
   bool operator==(const OpenOptions&) const = default;
 };
@@ -50,6 +52,10 @@ struct OpenRequest {
   /// Not owned, read while the dialog is made; not needed for a folder.
   const BotList* bots = nullptr;
   QString bot_name;  ///< For the title of kSave.
+  /// Options of kSave that only some bots have: what their authors wrote is
+  /// kept, and the game's own macros are written.
+  bool offers_files = false;
+  bool offers_macros = false;
 };
 
 /// What was chosen: to load, a file or a bot of the list; else the folder.
@@ -75,7 +81,7 @@ class frmOpen : public QDialog {
 
  private:
   QWidget* MakeBotList(const BotList* bots);
-  QLayout* MakeOptions();
+  QLayout* MakeOptions(const OpenRequest& request);
   QPushButton* MakeNewFolderButton();
   void FocusFirst();
   /// A path that was typed and not entered yet is meant as well. False, told,
@@ -94,6 +100,8 @@ class frmOpen : public QDialog {
   QCheckBox* loads_description_ = nullptr;
   QCheckBox* saves_with_layout_ = nullptr;
   QCheckBox* makes_package_ = nullptr;
+  QCheckBox* keeps_files_ = nullptr;  ///< Null when not on offer.
+  QCheckBox* game_macros_ = nullptr;  ///< The same.
 };
 
 }  // namespace fragsmith

@@ -7,15 +7,17 @@
 #include <QPushButton>
 #include <QStringList>
 #include <optional>
+#include <utility>
 
 #include "editor/dialogs/open_dialog.h"
-#include "editor/game_text_conversion.h"
+#include "editor/toolkit/game_text_conversion.h"
 #include "support/files.h"
 
 namespace fragsmith {
 namespace {
 
 constexpr int kFolderCount = 3;
+constexpr int kNameIndex = kFolderCount;  ///< Email and web page follow.
 
 struct FieldRow {
   const char* label;      ///< With its mnemonic.
@@ -58,12 +60,15 @@ bool IsEditable(int index) {
 
 }  // namespace
 
-frmOptions::frmOptions(Prompts& prompts, QWidget* parent)
+frmOptions::frmOptions(Prompts& prompts, QWidget* parent,
+                       FirstFolder first_folder)
     : QDialog(parent),
       prompts_(prompts),
+      first_folder_(std::move(first_folder)),
       counter_(new QLabel(QStringLiteral("000"), this)),
       pages_(new QTabWidget(this)),
-      hint_(new HintLine(3, this)) {
+      hint_(new HintLine(3, this)),
+      no_name_(new HintLine(2, this)) {
   setObjectName(QStringLiteral("frmOptions"));
   setWindowTitle(QStringLiteral("Fragsmith options"));
   pages_->setObjectName(QStringLiteral("tabOptions"));
@@ -84,7 +89,7 @@ QLineEdit* frmOptions::MakeField(int index) {
   box->setAccessibleName(QString::fromUtf8(RowOf(index).shown));
   box->setMinimumWidth(48 * fontMetrics().averageCharWidth());
   if (index >= kFolderCount) RefuseForeignCharacters(box, hint_);
-  connect(box, &QLineEdit::textChanged, this, &frmOptions::ShowCommaHint);
+  connect(box, &QLineEdit::textChanged, this, &frmOptions::ShowHints);
   fields_.at(static_cast<std::size_t>(index)).box = box;
   return box;
 }
@@ -125,6 +130,8 @@ QWidget* frmOptions::MakeUserDataPage() {
   for (int index = kFolderCount; index < kEditableOptionCount; ++index) {
     form->addRow(QString::fromUtf8(RowOf(index).label), MakeField(index));
   }
+  no_name_->setObjectName(QStringLiteral("lblNoName"));
+  form->addRow(no_name_);
   layout->addWidget(author);
   auto* const other = new QGroupBox(QStringLiteral("Other info"), page);
   auto* const counts = new QFormLayout(other);
@@ -164,10 +171,17 @@ void frmOptions::SetFolderFromBrowser(const std::filesystem::path& path,
   }
 }
 
+void frmOptions::BeginAtGameFolder() {
+  pages_->setCurrentIndex(0);
+  fields_.front().box->setFocus();
+  fields_.front().box->selectAll();
+}
+
 void frmOptions::OpenBrowser(int index) {
   const OpenKind kind = RowOf(index).browser_kind;
   std::filesystem::path folder = PathFromBytes(GetOptionValue(index));
   if (!IsFolder(folder)) folder = QDir::rootPath().toStdU16String();
+  if (first_folder_) folder = first_folder_(folder);
   auto* const browser =
       new frmOpen({.kind = kind, .folder = folder}, prompts_, this);
   browser->setAttribute(Qt::WA_DeleteOnClose);
@@ -177,11 +191,20 @@ void frmOptions::OpenBrowser(int index) {
   browser->open();
 }
 
-void frmOptions::ShowCommaHint() {
+void frmOptions::ShowHints() {
+  const auto text = [this](int index) {
+    const QLineEdit* const box =
+        fields_.at(static_cast<std::size_t>(index)).box;
+    return box == nullptr ? QString() : box->text();
+  };
+  const bool is_lost = text(kNameIndex).isEmpty() &&
+                       !(text(kNameIndex + 1) + text(kNameIndex + 2)).isEmpty();
+  no_name_->Say(is_lost ? QStringLiteral("Without a name neither email nor web "
+                                         "page is written to the bot files.")
+                        : QString());
   QStringList cut;
   for (int index = 0; index < kEditableOptionCount; ++index) {
-    QLineEdit* const box = fields_.at(static_cast<std::size_t>(index)).box;
-    if (box == nullptr || !box->text().contains(u',')) continue;
+    if (!text(index).contains(u',')) continue;
     cut << QString::fromUtf8(RowOf(index).shown);
   }
   hint_->Say(cut.isEmpty()

@@ -8,11 +8,12 @@
 #include <QVBoxLayout>
 #include <array>
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <string_view>
 
 #include "editor/dialogs/dialog_parts.h"
-#include "install/settings_file.h"
+#include "install/program/settings_file.h"
 #include "support/prompts.h"
 
 namespace fragsmith {
@@ -24,7 +25,12 @@ class frmOptions : public QDialog {
   Q_OBJECT
 
  public:
-  explicit frmOptions(Prompts& prompts, QWidget* parent = nullptr);
+  /// Where the folder browser begins in place of a folder.
+  using FirstFolder =
+      std::function<std::filesystem::path(const std::filesystem::path&)>;
+
+  explicit frmOptions(Prompts& prompts, QWidget* parent = nullptr,
+                      FirstFolder first_folder = {});
 
   /// Index 6, the counter, is only shown; others than 0 to 6 are ignored.
   void SetOptionValue(int index, std::string_view value);
@@ -33,6 +39,10 @@ class frmOptions : public QDialog {
   /// The folder browser's answer. The mode tells the field, by the numbers
   /// of OpenKind; others are ignored.
   void SetFolderFromBrowser(const std::filesystem::path& path, int mode);
+
+  /// Makes ready to type another game folder in the place of the one that is
+  /// there.
+  void BeginAtGameFolder();
 
  private:
   struct Field {
@@ -45,13 +55,16 @@ class frmOptions : public QDialog {
   QWidget* MakeUserDataPage();
   QLineEdit* MakeField(int index);
   void OpenBrowser(int index);
-  void ShowCommaHint();
+  /// What the settings file, or a bot's files, will not hold of the texts.
+  void ShowHints();
 
   Prompts& prompts_;
+  FirstFolder first_folder_;
   std::array<Field, kEditableOptionCount> fields_;
   QLabel* counter_;
   QTabWidget* pages_;
   HintLine* hint_;
+  HintLine* no_name_;  ///< What becomes of the author's data without a name.
 };
 
 }  // namespace fragsmith

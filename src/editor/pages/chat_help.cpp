@@ -1,40 +1,78 @@
 #include "editor/pages/chat_help.h"
 
+#include <QCoreApplication>
 #include <QStringList>
+#include <algorithm>
+#include <cmath>
 
 #include "chat/chat_catalogue.h"
-#include "checks/chat_type_facts.h"
-#include "editor/pages/page_table.h"
-#include "editor/parameter_names.h"
+#include "chat/vocabulary.h"
+#include "editor/toolkit/page_table.h"
+#include "editor/toolkit/table_text.h"
+#include "game/chat_type_facts.h"
 
 namespace fragsmith {
 namespace {
 
-QString WhatPointerHolds(int type, int pointer) {
+QString WhatPointerHolds(ChatTypeId type, int pointer) {
   const int variable = TableText(ChatPointerAt(pointer).Item()).toInt();
   return TableText(FillText(FillOf(type, variable)));
 }
 
 }  // namespace
 
-QString ChatTypeHelp(int type) {
+QString ChatTypeHelp(ChatTypeId type) {
   const ChatTypeFacts& facts = FactsOfChatType(type);
-  QString text = TableText(facts.when);
+  QString text = TableText(WhenText(facts));
   if (!facts.is_heard) return text;
   return text + QStringLiteral(
                     " \"%1\" on the page \"Chat characteristics\" sets the "
                     "chance. Bots speak in free-for-all games only, and at "
                     "most one line in 25 seconds.")
-                    .arg(ParameterTitle(facts.chance_index));
+                    .arg(TableText(ParameterName(facts.chance.value())));
 }
 
-QString ChatPointerHelp(int type, int pointer) {
+QString ChatPointerHelp(ChatTypeId type, int pointer) {
   return QStringLiteral("Inserts %1: in the game %2.")
       .arg(TableText(ChatPointerAt(pointer).Variable),
            WhatPointerHolds(type, pointer));
 }
 
-QString ChatVariables(int type) {
+QString WhyNotFilled(ChatTypeId type, const QString& variable) {
+  for (const int pointer : ChatTypeAt(type).Pointers()) {
+    const ChatPointer& entry = ChatPointerAt(pointer);
+    if (TableText(entry.Variable) != variable) continue;
+    const ChatFill fill = FillOf(type, TableText(entry.Item()).toInt());
+    if (fill != ChatFill::kNothing && fill != ChatFill::kInvalid) return {};
+    return QCoreApplication::translate(
+               "ChatPage", "The game does not fill %1 here: it speaks %2.")
+        .arg(variable, TableText(FillText(fill)));
+  }
+  return {};
+}
+
+QString ChanceOfLine(const Bot& bot, ChatTypeId type) {
+  const ChatTypeFacts& facts = FactsOfChatType(type);
+  const double chance =
+      facts.chance
+          ? std::clamp(ToNumber(bot.Parameter(*facts.chance)).value_or(0), 0.0,
+                       1.0) *
+                facts.chance_factor
+          : 0;
+  if (!facts.is_heard || chance <= 0 || !IsDrawn(bot, type)) {
+    return QCoreApplication::translate("ChatPage", "never");
+  }
+  constexpr ParameterId kRandomChats{42};
+  if (*facts.chance == kRandomChats) {
+    // What is asked for again and again has a rate.
+    return QCoreApplication::translate("ChatPage", "every %1 s")
+        .arg(std::lround(1 / chance));
+  }
+  return QCoreApplication::translate("ChatPage", "%1 %")
+      .arg(std::lround(chance * 100));
+}
+
+QString ChatVariables(ChatTypeId type) {
   QStringList variables;
   for (const int pointer : ChatTypeAt(type).Pointers()) {
     variables << QStringLiteral("%1 is %2")

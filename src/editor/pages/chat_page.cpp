@@ -3,6 +3,7 @@
 #include <QFocusEvent>
 #include <QGridLayout>
 #include <QGroupBox>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QSignalBlocker>
 #include <QTimer>
@@ -12,13 +13,14 @@
 
 #include "chat/chat_catalogue.h"
 #include "chat/chat_commands.h"
-#include "editor/game_text_conversion.h"
 #include "editor/pages/chat_help.h"
 #include "editor/pages/chat_page_parts.h"
-#include "editor/pages/page_table.h"
-#include "editor/parameter_help.h"
-#include "editor/severity_icon.h"
-#include "editor/undo_keys.h"
+#include "editor/pages/chat_type_rows.h"
+#include "editor/pages/line_order.h"
+#include "editor/toolkit/game_text_conversion.h"
+#include "editor/toolkit/page_table.h"
+#include "editor/toolkit/severity_icon.h"
+#include "editor/toolkit/tool_tip.h"
 
 namespace fragsmith {
 ChatPage::ChatPage(CurrentBot& current, const SynonymList& synonyms,
@@ -55,13 +57,17 @@ QWidget* ChatPage::MakeContent() {
 
 void ChatPage::MakeTypes(QGridLayout& grid) {
   types_ = MakeList(QStringLiteral("lstChatGroups"),
-                    QStringLiteral("C&hat groups"), grid, 0, 4);
-  type_marks_ = new MarkedDelegate(types_);
+                    QStringLiteral("Chat gr&oups"), grid, 0, 4);
+  type_marks_ = new TypeDelegate(types_);
   types_->setItemDelegate(type_marks_);
-  for (int type = 0; type < kChatTypeCount; ++type) {
-    AddEntry(*types_, ChatTypeAt(type).Caption, ChatTypeHelp(type));
+  FillTypes(*types_);
+  const auto tell = [this] { TellOfLines(current_.bot(), *types_); };
+  for (const auto change : {&CurrentBot::ChatsEdited, &CurrentBot::Replaced}) {
+    connect(&current_, change, types_, tell);
   }
-  FitWidth(*types_);
+  connect(&current_, &CurrentBot::ParameterEdited, types_, tell);
+  connect(&current_, &CurrentBot::Stepped, types_, tell);
+  tell();
   connect(types_, &QListWidget::currentRowChanged, this, &ChatPage::ShowType);
 }
 
@@ -72,23 +78,13 @@ void ChatPage::MakeLines(QGridLayout& grid) {
   lines_->setItemDelegate(line_marks_);
   connect(lines_, &QListWidget::currentRowChanged, this, &ChatPage::ShowLine);
   OnChoice(*lines_, this, [this] { box_->setFocus(Qt::OtherFocusReason); });
-  auto* const erase = new QShortcut(QKeySequence::Delete, lines_);
+  // Without the other keys of a desktop for this, such as Ctrl+D.
+  auto* const erase = new QShortcut(QKeySequence(Qt::Key_Delete), lines_);
   erase->setContext(Qt::WidgetShortcut);
   connect(erase, &QShortcut::activated, this, &ChatPage::RemoveLine);
 
-  box_ = new QLineEdit;
-  box_->setObjectName(QStringLiteral("txtChatLine"));
-  box_->setAccessibleName(QStringLiteral("Text of the selected line"));
-  box_->setPlaceholderText(QStringLiteral("Text of the selected line"));
-  SetHelp(*box_,
-          QStringLiteral("The selected line. Words in braces are filled by the "
-                         "game. On the screen there is room for some 125 "
-                         "letters; letters beyond plain English become gaps, "
-                         "and a double quote breaks the file for the game."));
-  box_->setValidator(new LineValidator(box_));
+  box_ = MakeLineBox();
   box_->installEventFilter(this);
-  // Each letter is in the bot at once, and the window takes it back.
-  LeaveUndoToWindow(*box_);
   connect(box_, &QLineEdit::textChanged, this, &ChatPage::StoreLine);
   connect(box_, &QLineEdit::returnPressed, this,
           &ChatPage::CheckSynonymsByItself);
@@ -97,7 +93,12 @@ void ChatPage::MakeLines(QGridLayout& grid) {
   grid.addWidget(box_, 2, 1);
 
   pointers_ = new PointerButtons;
-  connect(pointers_, &PointerButtons::Chosen, this, &ChatPage::Insert);
+  const auto choose = [this](const QString& variable) {
+    Insert(variable);
+    const QString reason = WhyNotFilled(*Type(), variable);
+    if (!reason.isEmpty()) emit StatusText(reason);
+  };
+  connect(pointers_, &PointerButtons::Chosen, this, choose);
   grid.addWidget(pointers_, 3, 1, 1, 4);
 
   auto* const buttons = new QHBoxLayout;
@@ -106,7 +107,7 @@ void ChatPage::MakeLines(QGridLayout& grid) {
                  QStringLiteral("Adds an empty line to be written."));
   connect(new_line, &QPushButton::clicked, this, &ChatPage::AddLine);
   remove_line_ = MakeButton(
-      QStringLiteral("cmdRemoveLine"), QStringLiteral("Rem&ove line"),
+      QStringLiteral("cmdRemoveLine"), tr("Remove line"),
       QStringLiteral("Removes the selected line. In the list of lines the "
                      "Delete key does the same."));
   connect(remove_line_, &QPushButton::clicked, this, &ChatPage::RemoveLine);
@@ -118,6 +119,21 @@ void ChatPage::MakeLines(QGridLayout& grid) {
   buttons->addWidget(new_line);
   buttons->addWidget(remove_line_);
   buttons->addWidget(add_random);
+  auto* const order = new LineOrder(*lines_);
+  const auto edit = [this](const char* name, int step, auto change) {
+    const int line = Line();
+    current_.EditChats(NameOf(name), [&](Bot& bot) {
+      change(bot, *Type(), line, line + step);
+    });
+    ShowType();
+    SelectLine(line + step);
+  };
+  connect(order, &LineOrder::Moved, this,
+          [edit](int step) { edit("Move line", step, SwapChatLines); });
+  connect(order, &LineOrder::Doubled, this,
+          [edit] { edit("Duplicate line", 1, DoubleChatLine); });
+  // Beside the caption, where it asks for no width of its own.
+  grid.addWidget(order, 0, 1, Qt::AlignRight | Qt::AlignBottom);
   buttons->addStretch(1);
   grid.addLayout(buttons, 4, 1);
 }
@@ -203,19 +219,19 @@ void ChatPage::ShowAgain() {
   box_->setCursorPosition(cursor);
 }
 
-void ChatPage::GoTo(int type, int line) {
+void ChatPage::GoTo(const ChatPlace& place) {
   Complete();
-  types_->setCurrentRow(type);
-  if (line >= 0 && line < lines_->count()) SelectLine(line);
+  types_->setCurrentRow(static_cast<int>(place.type));
+  if (place.line && *place.line < lines_->count()) SelectLine(*place.line);
 }
 
 void ChatPage::ShowType() {
-  const int type = Type();
+  const std::optional<ChatTypeId> type = Type();
   {
     const QSignalBlocker silence(lines_);
     lines_->clear();
-    if (type >= 0) {
-      for (const std::string& line : current_.bot().ChatLines(type)) {
+    if (type) {
+      for (const std::string& line : current_.bot().ChatLines(*type)) {
         lines_->addItem(ToQString(line));
       }
     }
@@ -234,9 +250,9 @@ void ChatPage::SelectLine(int line) {
 }
 
 void ChatPage::ShowLine() {
-  const bool has_line = Type() >= 0 && Line() >= 0;
+  const bool has_line = Type() && Line() >= 0;
   QString text;
-  if (has_line) text = ToQString(current_.bot().ChatLine(Type(), Line()));
+  if (has_line) text = ToQString(current_.bot().ChatLine(*Type(), Line()));
   // A line that the box cannot show whole may be read, but not edited.
   const bool can_edit = has_line && text.size() <= box_->maxLength();
   {
@@ -255,12 +271,12 @@ void ChatPage::ShowLine() {
 
 void ChatPage::ShowSpoken() {
   // The line of a bad file may have megabytes.
-  constexpr std::size_t kMostBytes = 1024;
-  if (!isVisible() || Type() < 0) return;
+  constexpr std::size_t kMaxBytes = 1024;
+  if (!isVisible() || !Type()) return;
   const bool has_line = Line() >= 0;
   spoken_->ShowLine(
-      current_.bot(), Type(),
-      has_line ? current_.bot().ChatLine(Type(), Line()).substr(0, kMostBytes)
+      current_.bot(), *Type(),
+      has_line ? current_.bot().ChatLine(*Type(), Line()).substr(0, kMaxBytes)
                : std::string());
 }
 
@@ -278,24 +294,10 @@ void ChatPage::ShowMarks(const std::vector<Finding>& findings) {
   Complete();
   marks_.clear();
   for (const Finding& finding : findings) {
-    if (finding.place.chat_type < 0) continue;
-    marks_[{finding.place.chat_type, finding.place.chat_line}].Add(finding);
+    const auto* const place = std::get_if<ChatPlace>(&finding.place);
+    if (place != nullptr) marks_[{place->type, place->line}].Add(finding);
   }
-  bool has_marks = false;
-  for (int type = 0; type < types_->count(); ++type) {
-    // A type shows the gravest of its lines.
-    std::optional<Severity> gravest;
-    for (auto mark = marks_.lower_bound({type, FindingPlace::kNone});
-         mark != marks_.end() && mark->first.first == type; ++mark) {
-      gravest = gravest ? std::min(*gravest, *mark->second.gravest)
-                        : mark->second.gravest;
-    }
-    const bool is_marked = gravest && *gravest != Severity::kHint;
-    types_->item(type)->setIcon(is_marked ? SeverityIcon(*gravest, *style())
-                                          : QIcon());
-    has_marks = has_marks || is_marked;
-  }
-  type_marks_->ReserveMarks(has_marks);
+  type_marks_->ReserveMarks(MarkTypes(marks_, *types_));
   types_->viewport()->update();
   MarkLines();
 }
@@ -303,7 +305,7 @@ void ChatPage::ShowMarks(const std::vector<Finding>& findings) {
 void ChatPage::MarkLines() {
   bool has_marks = false;
   for (int line = 0; line < lines_->count(); ++line) {
-    const auto mark = marks_.find({Type(), line});
+    const auto mark = Type() ? marks_.find({*Type(), line}) : marks_.end();
     const bool has_mark = mark != marks_.end();
     lines_->item(line)->setIcon(
         has_mark ? SeverityIcon(*mark->second.gravest, *style()) : QIcon());
@@ -316,7 +318,7 @@ void ChatPage::MarkLines() {
 }
 
 void ChatPage::StoreLine() {
-  if (current_.is_filling() || Type() < 0 || Line() < 0) return;
+  if (current_.is_filling() || !Type() || Line() < 0) return;
   const std::optional<std::string> text = ToGameText(box_->text());
   if (!text) {
     // A line that was odd already lets everything past the validator.
@@ -325,18 +327,19 @@ void ChatPage::StoreLine() {
     return;
   }
   current_.EditChats(NameOf("Chat line", Line()), [this, &text](Bot& bot) {
-    bot.SetChatLine(Type(), Line(), *text);
+    bot.SetChatLine(*Type(), Line(), *text);
   });
   lines_->currentItem()->setText(box_->text());
   ShowSpoken();
 }
 
-EditName ChatPage::NameOf(const char* text, int line) const {
+EditName ChatPage::NameOf(const char* text, std::optional<int> line) const {
   EditName name = {.text = QLatin1String(text), .place = {}, .merges = false};
-  name.place.chat_type = Type();
-  name.place.chat_line = line;
+  if (const std::optional<ChatTypeId> type = Type()) {
+    name.place = ChatPlace{.type = *type, .line = line};
+  }
   // Letters that are typed into one line are one edit.
-  name.merges = line >= 0;
+  name.merges = line.has_value();
   return name;
 }
 
@@ -353,13 +356,14 @@ void ChatPage::ShowMemberNumbers() {
 void ChatPage::AddSelectedList() {
   const int group = groups_->currentRow();
   const QListWidgetItem* const number = numbers_->currentItem();
-  if (Type() < 0 || group < 0 || number == nullptr) return;
+  if (!Type() || group < 0 || number == nullptr) return;
   const int selected = Line();
   int line = 0;
   current_.EditChats(NameOf("Add selected list"), [&](Bot& bot) {
-    line = AddGroupMember(bot, Type(), selected, group, number->text().toInt());
+    line =
+        AddGroupMember(bot, *Type(), selected, group, number->text().toInt());
   });
-  const QString text = ToQString(current_.bot().ChatLine(Type(), line));
+  const QString text = ToQString(current_.bot().ChatLine(*Type(), line));
   if (line < lines_->count()) {
     lines_->item(line)->setText(text);
   } else {
@@ -377,10 +381,10 @@ void ChatPage::AddWord() {
 }
 
 void ChatPage::AddLine() {
-  if (Type() < 0) return;
+  if (!Type()) return;
   int line = 0;
   current_.EditChats(NameOf("New line"),
-                     [&](Bot& bot) { line = AddEmptyChatLine(bot, Type()); });
+                     [&](Bot& bot) { line = AddEmptyChatLine(bot, *Type()); });
   {
     const QSignalBlocker silence(lines_);
     lines_->addItem(QString());
@@ -391,9 +395,9 @@ void ChatPage::AddLine() {
 
 void ChatPage::RemoveLine() {
   const int line = Line();
-  if (Type() < 0 || line < 0) return;
+  if (!Type() || line < 0) return;
   current_.EditChats(NameOf("Remove line"),
-                     [&](Bot& bot) { bot.RemoveChatLine(Type(), line); });
+                     [&](Bot& bot) { bot.RemoveChatLine(*Type(), line); });
   {
     const QSignalBlocker silence(lines_);
     delete lines_->takeItem(line);
@@ -402,10 +406,10 @@ void ChatPage::RemoveLine() {
 }
 
 void ChatPage::AddRandomList() {
-  if (Type() < 0) return;
+  if (!Type()) return;
   int line = 0;
   current_.EditChats(NameOf("Add random list"), [&](Bot& bot) {
-    line = AddRandomChatLine(bot, Type(), random_);
+    line = AddRandomChatLine(bot, *Type(), random_);
   });
   ShowType();
   lines_->scrollToItem(lines_->item(line));
@@ -430,11 +434,11 @@ void ChatPage::Insert(const QString& variable) {
   const std::optional<std::string> inserted = ToGameText(variable);
   if (Line() < 0 || box_->isReadOnly() || !text || !inserted) return;
   // A character of the box is a byte of the text.
-  const int cursor = box_->cursorPosition();
-  ReplaceText(
-      InsertVariable(*text, static_cast<std::size_t>(cursor), *inserted));
+  const LineText line = InsertVariable(
+      {*text, static_cast<std::size_t>(box_->cursorPosition())}, *inserted);
+  ReplaceText(line.text);
   box_->setFocus(Qt::OtherFocusReason);
-  box_->setCursorPosition(cursor);
+  box_->setCursorPosition(static_cast<int>(line.cursor));
 }
 
 void ChatPage::ReplaceText(const std::string& game_text) {
@@ -447,11 +451,14 @@ void ChatPage::CheckSynonyms() {
   if (Line() < 0 || !text) return;
   const std::string marked = MarkSynonyms(*text, synonyms_, prompts_);
   if (marked == *text) return;
-  const int behind_cursor =
-      static_cast<int>(box_->text().size()) - box_->cursorPosition();
+  const int cursor = CursorAmongMarks(*text, marked, box_->cursorPosition());
   ReplaceText(marked);
-  box_->setCursorPosition(static_cast<int>(box_->text().size()) -
-                          behind_cursor);
+  box_->setCursorPosition(cursor);
+}
+
+void ChatPage::StoreTyping() {
+  if (!IsComplete() || synonyms_.IsEmpty()) return;
+  if (window()->focusWidget() == box_) CheckSynonymsByItself();
 }
 
 void ChatPage::CheckSynonymsByItself() {
@@ -463,13 +470,20 @@ void ChatPage::CheckSynonymsByItself() {
     CheckSynonyms();
     return;
   }
-  // The message about the empty list is to wait until the focus has moved:
-  // it would open in the middle of the click that moves it.
   is_checking_ = true;
-  QTimer::singleShot(0, this, [this] {
-    MarkSynonyms({}, synonyms_, prompts_);
-    is_checking_ = false;
-  });
+  QTimer::singleShot(0, this, &ChatPage::TellThatSynonymsAreMissing);
+}
+
+void ChatPage::TellThatSynonymsAreMissing() {
+  // Not in the middle of the click that moves the focus, which would be lost.
+  if (QGuiApplication::mouseButtons() != Qt::NoButton) {
+    constexpr int kPauseMilliseconds = 20;
+    QTimer::singleShot(kPauseMilliseconds, this,
+                       &ChatPage::TellThatSynonymsAreMissing);
+    return;
+  }
+  MarkSynonyms({}, synonyms_, prompts_);
+  is_checking_ = false;
 }
 
 bool ChatPage::eventFilter(QObject* watched, QEvent* event) {

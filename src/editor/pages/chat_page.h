@@ -6,14 +6,15 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <map>
+#include <optional>
 #include <string>
 
 #include "chat/synonym_list.h"
 #include "editor/controls/caption_mark.h"
-#include "editor/current_bot.h"
 #include "editor/pages/pointer_buttons.h"
 #include "editor/pages/scrolling_page.h"
 #include "editor/pages/spoken_preview.h"
+#include "editor/state/current_bot.h"
 #include "support/prompts.h"
 #include "support/random.h"
 
@@ -40,14 +41,18 @@ class ChatPage : public ScrollingPage {
   /// The same after an edit was taken back: the line and the cursor stay.
   void ShowAgain();
 
-  /// Selects a chat type and, from 0 on, a line of it.
-  void GoTo(int type, int line);
+  /// Selects a chat type and, where the place has one, a line of it.
+  void GoTo(const ChatPlace& place);
 
   /// Shows beside types and lines what the game will do with them.
   void ShowMarks(const std::vector<Finding>& findings);
 
   /// Whose words the sample of a line uses; null for our own.
   void SetGame(const GameData* game);
+
+  /// Does what leaving the line box does, while the user is in it: what was
+  /// typed there is done before any command.
+  void StoreTyping();
 
   /// One more random line for each type.
   void AddExtraChatsToBot();
@@ -70,12 +75,15 @@ class ChatPage : public ScrollingPage {
   void MakeWords(QGridLayout& grid);
   void MakeSynonyms(QGridLayout& grid);
 
-  /// The selected ones; -1 for none.
-  int Type() const { return types_->currentRow(); }
+  std::optional<ChatTypeId> Type() const {
+    return ChatTypeOfIndex(types_->currentRow());
+  }
+  /// The selected one; -1 for none.
   int Line() const { return lines_->currentRow(); }
 
   /// The name of an edit of the selected type, or of one line of it.
-  EditName NameOf(const char* text, int line = FindingPlace::kNone) const;
+  EditName NameOf(const char* text,
+                  std::optional<int> line = std::nullopt) const;
 
   void ShowType();
   void SelectLine(int line);
@@ -92,6 +100,7 @@ class ChatPage : public ScrollingPage {
   void AddRandomList();
   void CheckSynonyms();
   void CheckSynonymsByItself();
+  void TellThatSynonymsAreMissing();
 
   void Insert(const QString& variable);
   /// Puts a text into the line box as one edit that can be taken back.
@@ -117,7 +126,7 @@ class ChatPage : public ScrollingPage {
   QCheckBox* checks_by_itself_ = nullptr;
   SpokenPreview* spoken_ = nullptr;
   /// By type and line.
-  std::map<std::pair<int, int>, MarkText> marks_;
+  std::map<std::pair<ChatTypeId, std::optional<int>>, MarkText> marks_;
   /// True until the message of the automatic check is closed: that takes the
   /// focus from the line box and would set the check off again.
   bool is_checking_ = false;

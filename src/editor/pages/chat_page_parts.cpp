@@ -4,8 +4,9 @@
 #include <QStyle>
 #include <algorithm>
 
-#include "editor/pages/page_table.h"
-#include "editor/parameter_help.h"
+#include "editor/toolkit/page_table.h"
+#include "editor/toolkit/tool_tip.h"
+#include "editor/toolkit/undo_keys.h"
 
 namespace fragsmith {
 
@@ -36,10 +37,12 @@ void FitWidth(QListWidget& list) {
     width = std::max(
         width, list.fontMetrics().horizontalAdvance(list.item(row)->text()));
   }
-  list.setFixedWidth(width + list.iconSize().width() +
-                     list.fontMetrics().averageCharWidth() * 3 +
-                     list.style()->pixelMetric(QStyle::PM_ScrollBarExtent) +
-                     2 * list.frameWidth());
+  width += list.iconSize().width() + list.fontMetrics().averageCharWidth() * 3 +
+           list.style()->pixelMetric(QStyle::PM_ScrollBarExtent) +
+           2 * list.frameWidth();
+  // In a narrow window the ends of long entries give way.
+  list.setMaximumWidth(width);
+  list.setMinimumWidth(width * 2 / 3);
   list.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 }
 
@@ -55,6 +58,32 @@ QPushButton* MakeButton(const QString& name, const QString& caption,
   button->setObjectName(name);
   SetHelp(*button, help);
   return button;
+}
+
+QLineEdit* MakeLineBox() {
+  auto* const box = new QLineEdit;
+  box->setObjectName(QStringLiteral("txtChatLine"));
+  box->setAccessibleName(QStringLiteral("Text of the selected line"));
+  box->setPlaceholderText(QStringLiteral("Text of the selected line"));
+  SetHelp(*box,
+          QStringLiteral("The selected line. Words in braces are filled by the "
+                         "game. On the screen there is room for some 125 "
+                         "letters; letters beyond plain English become gaps, "
+                         "and a double quote breaks the file for the game."));
+  box->setValidator(new LineValidator(box));
+  // Each letter is in the bot at once, and the window takes it back.
+  LeaveUndoToWindow(*box);
+  return box;
+}
+
+int CursorAmongMarks(std::string_view text, std::string_view marked,
+                     int cursor) {
+  std::size_t offset = 0;
+  for (const char letter :
+       text.substr(0, static_cast<std::size_t>(std::max(cursor, 0)))) {
+    offset += marked.at(offset) == letter ? 1 : 2;
+  }
+  return static_cast<int>(offset);
 }
 
 }  // namespace fragsmith

@@ -2,6 +2,7 @@
 #define FRAGSMITH_EDITOR_PAGES_CHAT_PAGE_PARTS_H_
 
 #include <QGridLayout>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
 #include <QShortcut>
@@ -9,7 +10,7 @@
 #include <QStyledItemDelegate>
 #include <string_view>
 
-#include "editor/code_page_validator.h"
+#include "editor/toolkit/code_page_validator.h"
 
 namespace fragsmith {
 
@@ -29,6 +30,14 @@ void AddEntry(QListWidget& list, std::string_view text, const QString& help);
 
 QPushButton* MakeButton(const QString& name, const QString& caption,
                         const QString& help);
+
+/// The box for the text of the selected line.
+QLineEdit* MakeLineBox();
+
+/// Where the cursor of a text stands once some of its words have a "~". One
+/// before a word comes to stand before its mark.
+int CursorAmongMarks(std::string_view text, std::string_view marked,
+                     int cursor);
 
 /// Keeps the texts of a list in line where only some have a mark in front.
 class MarkedDelegate : public QStyledItemDelegate {

@@ -9,23 +9,21 @@
 #include <QVBoxLayout>
 #include <algorithm>
 #include <array>
+#include <utility>
+#include <vector>
 
-#include "checks/skill_mix.h"
+#include "chat/vocabulary.h"
 #include "editor/controls/caption_mark.h"
+#include "editor/controls/value_box.h"
 #include "editor/controls/value_slider.h"
-#include "editor/parameter_help.h"
-#include "editor/parameter_names.h"
+#include "editor/pages/parameter_help.h"
+#include "editor/toolkit/table_text.h"
+#include "editor/toolkit/tool_tip.h"
+#include "game/skill_mix.h"
+#include "game/skill_names.h"
 
 namespace fragsmith {
 namespace {
-
-/// The levels by the names that the game's menus give them.
-struct SkillName {
-  int level;
-  const char* name;
-};
-constexpr std::array<SkillName, 3> kSkillNames = {
-    {{1, "I Can Win"}, {4, "Hardcore"}, {5, "Nightmare!"}}};
 
 /// The text of a row of the grid out of texts that are taken in turn.
 QString TextOfRow(std::span<const std::string_view> texts, int row) {
@@ -52,19 +50,47 @@ void SetHelp(const ControlRow& row, ValueControl& control) {
   for (ValueSlider* const slider : control.findChildren<ValueSlider*>()) {
     slider->setAccessibleDescription(help);
   }
-  for (const SkillName& skill : kSkillNames) {
-    auto* const number = control.findChild<QLabel*>(
-        QStringLiteral("lblLevel_%1").arg(skill.level));
+  for (const int level : kLevelNumbers) {
+    auto* const number =
+        control.findChild<QLabel*>(QStringLiteral("lblLevel_%1").arg(level));
     if (number == nullptr) return;
     number->setToolTip(
         QStringLiteral("Skill level %1, \"%2\". The game mixes the levels "
                        "between.")
-            .arg(skill.level)
-            .arg(QLatin1String(skill.name)));
+            .arg(level)
+            .arg(TableText(
+                kSkillNames.at(static_cast<std::size_t>(level - 1)))));
   }
 }
 
 }  // namespace
+
+ParameterPage::ParameterPage(const PageRow& page, CurrentBot& current,
+                             QWidget* parent)
+    : ScrollingPage(parent), page_(page), current_(current) {
+  connect(qApp, &QApplication::focusChanged, this,
+          [this](QWidget* /*old*/, QWidget* now) {
+            if (picture_ == nullptr || now == nullptr || !isAncestorOf(now)) {
+              return;
+            }
+            if (const auto parameter = ParameterOf(now)) {
+              picture_->Show(parameter->index());
+            }
+          });
+}
+
+bool ParameterPage::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::Enter) {
+    if (const auto* const control = qobject_cast<ValueControl*>(watched)) {
+      picture_->Show(control->Index());
+    }
+  }
+  return ScrollingPage::eventFilter(watched, event);
+}
+
+void ParameterPage::ShowPicture() {
+  if (picture_ != nullptr && isVisible()) picture_->ShowBot();
+}
 
 QWidget* ParameterPage::MakeContent() {
   const CurrentBot::Filling filling(current_);
@@ -79,6 +105,8 @@ QWidget* ParameterPage::MakeContent() {
     column->addWidget(frames_.back().box, 100 * gaps);
   }
   column->addStretch(1);
+  picture_ = new GamePicture(page_, current_);
+  SetFoot(picture_);
   return content;
 }
 
@@ -87,7 +115,7 @@ void ParameterPage::contextMenuEvent(QContextMenuEvent* event) {
   QWidget* const clicked =
       is_by_key ? QApplication::focusWidget() : childAt(event->pos());
   if (clicked == nullptr) return;
-  if (const std::optional<int> parameter = ParameterOf(clicked)) {
+  if (const std::optional<ParameterId> parameter = ParameterOf(clicked)) {
     emit ParameterMenuWanted(
         *parameter, is_by_key
                         ? clicked->mapToGlobal(clicked->rect().bottomLeft())
@@ -97,6 +125,7 @@ void ParameterPage::contextMenuEvent(QContextMenuEvent* event) {
 
 void ParameterPage::showEvent(QShowEvent* event) {
   ScrollingPage::showEvent(event);
+  ShowPicture();
   // Spare height goes between the rows, but not so much that they fall apart.
   for (const Frame& frame : frames_) {
     frame.box->setMaximumHeight(frame.box->sizeHint().height() +
@@ -128,7 +157,7 @@ QWidget* ParameterPage::MakeScaleSelector(int number) {
 QGroupBox* ParameterPage::MakeFrame(const FrameRow& frame) {
   auto* const box = new QGroupBox(TableText(frame.caption));
   auto* const grid = new QGridLayout(box);
-  grid->setHorizontalSpacing(fontMetrics().averageCharWidth() * 4);
+  grid->setHorizontalSpacing(fontMetrics().averageCharWidth() * 2);
   // Behind each row there is an empty one; those that part the rows grow.
   const int together = RowsTogether(frame);
   for (int gap = 1; gap <= GapCount(frame); ++gap) {
@@ -140,15 +169,18 @@ QGroupBox* ParameterPage::MakeFrame(const FrameRow& frame) {
   for (int column = 0; column < frame.columns; ++column) {
     grid->setColumnStretch(first_column + column, 1);
   }
-  for (int place = 0; place < static_cast<int>(frame.controls.size());
-       ++place) {
-    const ControlRow& entry = frame.controls[static_cast<std::size_t>(place)];
+  for (int index = 0; index < static_cast<int>(frame.controls.size());
+       ++index) {
+    const ControlRow& entry = frame.controls[static_cast<std::size_t>(index)];
     if (entry.IsEmptyPlace()) continue;
-    const int row = place / frame.columns;
-    const int column = place % frame.columns;
+    const int row = index / frame.columns;
+    const int column = index % frame.columns;
     ValueControl* const control = MakeControl(entry);
-    control->SetSpokenName(ControlName(entry.index));
+    control->SetSpokenName(TableText(CharacteristicName(entry.index)));
     SetHelp(entry, *control);
+    if (!IsReadByGame(entry.index)) {
+      control->SetQuiet(QStringLiteral("not read by the game"));
+    }
     if (!IsReadByGame(entry.index) && control->NeedMark() != nullptr) {
       MarkText never_read;
       never_read.Add(Severity::kHint,
@@ -174,10 +206,34 @@ ValueControl* ParameterPage::MakeControl(const ControlRow& row) {
   control->SetCaption(CaptionText(row, row.max));
   control->SetIndex(row.index);
   control->SetMax(row.max);
+  control->installEventFilter(this);
+  connect(control, &ValueControl::ResetWanted, this,
+          &ParameterPage::ResetWanted);
+  connect(control, &ValueControl::BoxMade, this,
+          [this](ValueBox* box) { AttachBox(*box); });
   for (ValueSlider* const slider : control->findChildren<ValueSlider*>()) {
     connect(slider, &QSlider::sliderReleased, &current_, &CurrentBot::EndStep);
+    std::vector<double> marks;
+    for (const Threshold& threshold : ThresholdsOf(row.index)) {
+      marks.push_back(threshold.value);
+    }
+    slider->SetMarks(std::move(marks));
   }
   return control;
+}
+
+void ParameterPage::AttachBox(ValueBox& box) {
+  connect(&box, &ValueBox::StepEnds, &current_, &CurrentBot::EndStep);
+  connect(&box, &ValueBox::Refused, this, &ParameterPage::TypingRefused);
+  connect(&box, &ValueBox::TypingChanged, this, [this, &box] {
+    // That it differs counts at once.
+    if (is_typing_ != box.IsTyping()) {
+      is_typing_ = box.IsTyping();
+      if (is_typing_) was_changed_ = current_.is_changed();
+      if (!was_changed_) current_.SetChanged(is_typing_);
+    }
+    emit Typed();
+  });
 }
 
 ThreeSlider* ParameterPage::MakeThreeSlider(const ControlRow& row) {
@@ -186,9 +242,9 @@ ThreeSlider* ParameterPage::MakeThreeSlider(const ControlRow& row) {
   control->SetOptional(row.is_optional);
   control->SetMode(row.linking);
   connect(control, &ThreeSlider::Changed, this,
-          [this, control](int index, int level, double value) {
-            current_.SetParameter(LevelIndex(level, index), value,
-                                  LevelIndex(control->MovingLevel(), index));
+          [this, control](int index, Level level, double value) {
+            current_.SetParameter(ParameterId(level, index), value,
+                                  ParameterId(control->MovingLevel(), index));
           });
   three_sliders_.push_back({&row, control});
   return control;
@@ -198,7 +254,7 @@ OneSlider* ParameterPage::MakeOneSlider(const ControlRow& row) {
   auto* const control = new OneSlider;
   control->setObjectName(QStringLiteral("osBotPara_%1").arg(row.index));
   connect(control, &OneSlider::Changed, this, [this](int index, double value) {
-    current_.SetParameter(index, value);
+    current_.SetParameter(ParameterId(index), value);
   });
   one_sliders_.push_back({&row, control});
   return control;
@@ -206,19 +262,31 @@ OneSlider* ParameterPage::MakeOneSlider(const ControlRow& row) {
 
 void ParameterPage::ShowBot() {
   if (!IsComplete()) return;
-  const CurrentBot::Filling filling(current_);
-  const Bot& bot = current_.bot();
   if (scale_selector_ != nullptr) {
+    const CurrentBot::Filling filling(current_);
     scale_selector_->Select(SmallestScale());
     SetScale(scale_selector_->Selected());
   }
+  ShowAgain();
+}
+
+void ParameterPage::ShowAgain() {
+  if (!IsComplete()) return;
+  ShowPicture();
+  const CurrentBot::Filling filling(current_);
+  const Bot& bot = current_.bot();
+  const Bot& loaded = current_.loaded();
   for (const auto& [row, control] : three_sliders_) {
-    for (const int level : kSkillLevels) {
-      control->ShowValue(level, bot.Parameter(LevelIndex(level, row->index)));
+    for (const Level level : kLevels) {
+      const ParameterId parameter(level, row->index);
+      control->SetLoaded(level, loaded.Parameter(parameter));
+      control->ShowValue(level, bot.Parameter(parameter));
     }
   }
   for (const auto& [row, control] : one_sliders_) {
-    control->ShowValue(bot.Parameter(row->index));
+    const ParameterId parameter(row->index);
+    control->SetLoaded(std::nullopt, loaded.Parameter(parameter));
+    control->ShowValue(bot.Parameter(parameter));
   }
 }
 
@@ -235,7 +303,8 @@ int ParameterPage::SmallestScale() const {
   for (const auto& [row, control] : one_sliders_) {
     if (!row->IsRescaled()) continue;
     largest = std::max(
-        largest, ToNumber(current_.bot().Parameter(row->index)).value_or(0));
+        largest, ToNumber(current_.bot().Parameter(ParameterId(row->index)))
+                     .value_or(0));
   }
   return WeightMaximumFor(largest);
 }

@@ -3,8 +3,8 @@
 #include <QHBoxLayout>
 
 #include "editor/pages/chat_help.h"
-#include "editor/pages/page_table.h"
-#include "editor/parameter_help.h"
+#include "editor/toolkit/page_table.h"
+#include "editor/toolkit/tool_tip.h"
 
 namespace fragsmith {
 
@@ -26,15 +26,25 @@ PointerButtons::PointerButtons(QWidget* parent) : QWidget(parent) {
   row->addStretch(1);
 }
 
-void PointerButtons::ShowType(int type) {
+void PointerButtons::ShowType(std::optional<ChatTypeId> type) {
   for (QPushButton* const button : buttons_) button->hide();
-  if (type < 0) return;
-  for (const int pointer : ChatTypeAt(type).Pointers()) {
+  if (!type) return;
+  for (const int pointer : ChatTypeAt(*type).Pointers()) {
     QPushButton* const button = buttons_.at(static_cast<std::size_t>(pointer));
-    const QString help = ChatPointerHelp(type, pointer);
+    const QString help = ChatPointerHelp(*type, pointer);
     button->setToolTip(WrappedToolTip({}, help));
     button->setWhatsThis(button->toolTip());
     button->setAccessibleDescription(help);
+    // Greyed, but still there to be pressed by who knows better.
+    const bool is_filled =
+        WhyNotFilled(*type, TableText(ChatPointerAt(pointer).Variable))
+            .isEmpty();
+    QPalette colors;
+    if (!is_filled) {
+      colors.setBrush(QPalette::ButtonText,
+                      palette().brush(QPalette::PlaceholderText));
+    }
+    button->setPalette(colors);
     button->show();
   }
 }

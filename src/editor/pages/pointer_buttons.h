@@ -18,7 +18,7 @@ class PointerButtons : public QWidget {
   explicit PointerButtons(QWidget* parent = nullptr);
 
   /// Shows those that the type offers; none for a type below 0.
-  void ShowType(int type);
+  void ShowType(std::optional<ChatTypeId> type);
 
  signals:
   /// The variable of the button that was pressed, in editor form.

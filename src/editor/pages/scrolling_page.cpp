@@ -19,6 +19,30 @@ void ScrollingPage::Complete() {
   ShowBot();
 }
 
+void ScrollingPage::SetFoot(QWidget* foot) {
+  foot_ = foot;
+  foot_->setParent(this);
+  PlaceFoot();
+}
+
+void ScrollingPage::PlaceFoot() {
+  if (foot_ == nullptr) return;
+  constexpr int kSpace = 8;
+  constexpr double kMinShareOfContent = 0.55;
+  const int needed = foot_->sizeHint().height() + 2 * kSpace;
+  const bool fits = height() * (1 - kMinShareOfContent) >= needed;
+  foot_->setVisible(fits);
+  setViewportMargins(0, 0, 0, fits ? needed : 0);
+  // The bar that scrolls, where there is one, stands beside both.
+  foot_->setGeometry(kSpace, height() - needed + kSpace,
+                     viewport()->width() - 2 * kSpace, needed - 2 * kSpace);
+}
+
+void ScrollingPage::resizeEvent(QResizeEvent* event) {
+  PlaceFoot();
+  QScrollArea::resizeEvent(event);
+}
+
 void ScrollingPage::showEvent(QShowEvent* event) {
   Complete();
   QScrollArea::showEvent(event);

@@ -28,7 +28,17 @@ class ScrollingPage : public QScrollArea {
 
   bool IsComplete() const { return widget() != nullptr; }
 
+  /// Stands below the content and does not scroll with it; hidden where it
+  /// would take too much of the page's height.
+  void SetFoot(QWidget* foot);
+
   void showEvent(QShowEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  void PlaceFoot();
+
+  QWidget* foot_ = nullptr;
 };
 
 }  // namespace fragsmith

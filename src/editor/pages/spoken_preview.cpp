@@ -6,13 +6,15 @@
 #include <algorithm>
 #include <utility>
 
-#include "checks/chat_type_facts.h"
-#include "checks/spoken_line.h"
-#include "editor/game_text_conversion.h"
+#include "chat/vocabulary.h"
 #include "editor/pages/chat_help.h"
-#include "editor/pages/page_table.h"
-#include "editor/parameter_help.h"
-#include "editor/parameter_names.h"
+#include "editor/toolkit/game_text_conversion.h"
+#include "editor/toolkit/page_table.h"
+#include "editor/toolkit/table_text.h"
+#include "editor/toolkit/tool_tip.h"
+#include "game/chat_type_facts.h"
+#include "game/limits.h"
+#include "game/spoken_line.h"
 
 namespace fragsmith {
 namespace {
@@ -21,11 +23,12 @@ namespace {
 constexpr std::size_t kNearLimit = 20;
 
 QString Counter(const QString& name, std::size_t count, std::size_t limit) {
-  QString text = QStringLiteral("%1: %2 of %3").arg(name).arg(count).arg(limit);
+  QString text =
+      SpokenPreview::tr("%1: %2 of %3").arg(name).arg(count).arg(limit);
   // In words and weight, not by colour alone.
-  if (count > limit) return QStringLiteral("<b>%1, too long</b>").arg(text);
+  if (count > limit) return SpokenPreview::tr("<b>%1, too long</b>").arg(text);
   if (count + kNearLimit > limit) {
-    return QStringLiteral("<b>%1, nearly full</b>").arg(text);
+    return SpokenPreview::tr("<b>%1, nearly full</b>").arg(text);
   }
   return text;
 }
@@ -41,16 +44,23 @@ SpokenPreview::SpokenPreview(RandomSource random, QWidget* parent)
       when_(new QLabel(this)) {
   source_->setObjectName(QStringLiteral("lblSpokenSource"));
   text_->setObjectName(QStringLiteral("picSpoken"));
-  text_->setAccessibleName(QStringLiteral("What the game would say"));
+  text_->setAccessibleName(tr("What the game would say"));
+  constexpr double kLetterScale = 1.15;
+  text_->SetLetterScale(kLetterScale);
+  text_->StandOnGameGround();
   lengths_->setObjectName(QStringLiteral("lblLengths"));
   lengths_->setTextFormat(Qt::RichText);
   when_->setObjectName(QStringLiteral("lblWhen"));
   when_->setTextFormat(Qt::PlainText);
   when_->setWordWrap(true);
-  auto* const another = new QPushButton(QStringLiteral("Say another"), this);
+  // Room for the longest, so that nothing above it moves.
+  constexpr int kLines = 4;
+  when_->setMinimumHeight(kLines * when_->fontMetrics().lineSpacing());
+  when_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+  auto* const another = new QPushButton(tr("Say another"), this);
   another->setObjectName(QStringLiteral("cmdSayAnother"));
-  another->setToolTip(WrappedToolTip(
-      {}, QStringLiteral("Draws other words and says the line again.")));
+  another->setToolTip(
+      WrappedToolTip({}, tr("Draws other words and says the line again.")));
   connect(another, &QPushButton::clicked, this, &SpokenPreview::SayAnother);
 
   auto* const grid = new QGridLayout(this);
@@ -66,13 +76,12 @@ SpokenPreview::SpokenPreview(RandomSource random, QWidget* parent)
 
 void SpokenPreview::SetGame(const GameData* game) {
   game_ = game != nullptr && !game->words.empty() ? game : nullptr;
-  source_->setText(game_ != nullptr
-                       ? QStringLiteral("In the game:")
-                       : QStringLiteral("In a game (our sample words):"));
+  source_->setText(game_ != nullptr ? tr("In the game:")
+                                    : tr("In a game (our sample words):"));
   SayAnother();
 }
 
-void SpokenPreview::ShowLine(const Bot& bot, int type,
+void SpokenPreview::ShowLine(const Bot& bot, ChatTypeId type,
                              const std::string& line) {
   type_ = type;
   line_ = line;
@@ -89,34 +98,34 @@ void SpokenPreview::SayAnother() {
                 game_ != nullptr ? game_->words : WordLists::Sample(), random_);
   QString text = ToQString(spoken.text);
   if (spoken.is_broken) {
-    text = QStringLiteral("(the line breaks the chat file)");
+    text = tr("(the line breaks the chat file)");
   } else if (line_.empty()) {
     text = QStringLiteral("(nothing)");
   } else if (text.isEmpty() && !spoken.unknown_lists.empty()) {
-    text = QStringLiteral("(the game has no list %1)")
+    text = tr("(the game has no list %1)")
                .arg(ToQString(spoken.unknown_lists.front()));
   }
   text_->DrawFunName(text);
   lengths_->setText(
       Counter(QStringLiteral("encoded"), spoken.encoded_length,
-              kMostEncodedBytes) +
+              limits::kMaxEncodedBytes) +
       QStringLiteral("&nbsp;&nbsp; ") +
       Counter(QStringLiteral("spoken"),
               std::max(spoken.spoken_length, spoken.longest_length),
-              kMostSpokenBytes));
+              limits::kMaxSpokenBytes));
 }
 
 void SpokenPreview::ShowWhen(const Bot& bot) {
   const ChatTypeFacts& facts = FactsOfChatType(type_);
-  QString text = TableText(facts.when);
-  if (facts.is_heard && facts.chance_index > 0) {
+  QString text = TableText(WhenText(facts));
+  if (facts.is_heard && facts.chance) {
     const double chance =
-        std::clamp(ToNumber(bot.Parameter(facts.chance_index)).value_or(0), 0.0,
+        std::clamp(ToNumber(bot.Parameter(*facts.chance)).value_or(0), 0.0,
                    1.0) *
         facts.chance_factor;
-    text += QStringLiteral(" Chance: %1 % (%2).")
+    text += tr(" Chance: %1 % (%2).")
                 .arg(QString::number(chance * 100, 'f', 0),
-                     ControlName(facts.chance_index));
+                     TableText(ParameterName(*facts.chance)));
   }
   const QString variables = ChatVariables(type_);
   if (!variables.isEmpty()) text += u'\n' + variables + u'.';

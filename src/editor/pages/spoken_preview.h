@@ -5,9 +5,8 @@
 #include <QWidget>
 #include <string>
 
-#include "checks/game_data.h"
-#include "checks/word_lists.h"
 #include "editor/controls/fun_name_preview.h"
+#include "game/game_data.h"
 #include "model/bot.h"
 #include "support/random.h"
 
@@ -25,16 +24,15 @@ class SpokenPreview : public QWidget {
   void SetGame(const GameData* game);
 
   /// The line (8-bit, editor form) of a chat type.
-  void ShowLine(const Bot& bot, int type, const std::string& line);
+  void ShowLine(const Bot& bot, ChatTypeId type, const std::string& line);
 
  private:
   void SayAnother();
   void ShowWhen(const Bot& bot);
 
   RandomSource random_;
-  WordLists samples_;
   const GameData* game_ = nullptr;
-  int type_ = 0;
+  ChatTypeId type_{0};
   std::string line_;
   std::string own_name_;
   QLabel* source_;

@@ -1,0 +1,61 @@
+#ifndef FRAGSMITH_BOTFILES_CHARACTER_WORDS_H_
+#define FRAGSMITH_BOTFILES_CHARACTER_WORDS_H_
+
+#include <cstddef>
+#include <optional>
+#include <set>
+#include <string_view>
+#include <vector>
+
+#include "botfiles/left_out.h"
+#include "model/value.h"
+
+namespace fragsmith {
+
+/// A characteristic file word by word, as the game reads it: keys and values
+/// in blocks, wherever the lines end.
+class CharacterWords {
+ public:
+  struct Found {
+    int key = 0;
+    std::size_t line = 0;  ///< Of the key.
+    Value value = {};
+    bool is_bare = false;  ///< A text without quotes.
+  };
+
+  /// What is no part of a bot goes to the one that collects such.
+  explicit CharacterWords(LeftOut& left_out) : left_out_(left_out) {}
+
+  /// The values that come to their end in the line, given without comments.
+  const std::vector<Found>& TakeLine(std::string_view code, std::size_t line);
+
+  /// A key at the end of the file, with nothing behind it.
+  const std::vector<Found>& Finish();
+
+  /// The block that the last line belongs to, and where it begins.
+  std::optional<int> level() const { return level_; }
+  std::size_t level_line() const { return level_line_; }
+  /// The file had a block of this level before, which the game takes.
+  bool is_repeated() const { return is_repeated_; }
+
+ private:
+  void TakeWordOf(std::string_view word);
+  void TakeLevel(std::string_view word);
+  void EndKey(Value value);
+
+  LeftOut& left_out_;
+  std::vector<Found> found_;
+  std::size_t line_ = 0;
+  std::optional<int> level_;
+  std::size_t level_line_ = 0;
+  bool is_repeated_ = false;
+  std::set<int> levels_;
+  bool expects_level_ = false;
+  std::optional<Found> open_key_;
+  /// The value behind an unknown key has no other meaning.
+  bool skips_value_ = false;
+};
+
+}  // namespace fragsmith
+
+#endif  // FRAGSMITH_BOTFILES_CHARACTER_WORDS_H_

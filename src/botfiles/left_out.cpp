@@ -1,0 +1,104 @@
+#include "botfiles/left_out.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "botfiles/game_text.h"
+#include "support/code_page.h"
+#include "support/text.h"
+
+namespace fragsmith {
+
+void NameList::Add(std::string name) {
+  if (std::find(names_.begin(), names_.end(), name) != names_.end()) return;
+  if (names_.size() < kMax && length_ + name.size() <= kMaxLength) {
+    length_ += name.size();
+    names_.push_back(std::move(name));
+  } else {
+    ++left_out_;
+  }
+}
+
+std::string NameList::Text() const {
+  std::string text;
+  for (const std::string& name : names_) {
+    if (!text.empty()) text += ", ";
+    text += name;
+  }
+  if (left_out_ > 0) text += " and " + std::to_string(left_out_) + " more";
+  return text;
+}
+
+std::string AlsoInFile(std::size_t count, const std::string& what) {
+  return std::string(kAlsoInFile) + ", what a bot here has no place for (" +
+         std::to_string(count) + "): " + what +
+         ". It stays when values are changed in place, and is left out of a "
+         "file made anew.";
+}
+
+LeftOut::LeftOut(std::string file, std::vector<std::string> includes)
+    : file_(std::move(file)),
+      includes_(std::move(includes)),
+      missing_includes_(includes_) {}
+
+void LeftOut::Count(Kind& kind, std::size_t line) {
+  if (kind.count++ == 0) kind.first_line = line;
+}
+
+void LeftOut::AddComment(std::size_t line) { Count(comments_, line); }
+
+void LeftOut::AddName(std::string_view name, std::size_t line) {
+  Count(others_, line);
+  names_.Add(ShownText(name));
+}
+
+void LeftOut::AddText(std::string_view text, std::size_t line) {
+  Count(others_, line);
+  if (texts_.empty()) first_text_ = ShownText(TrimBlanksAndTabs(text));
+  if (!texts_.empty() && texts_.back().last + 1 >= line) {
+    texts_.back().last = line;
+  } else {
+    texts_.push_back({line, line});
+  }
+}
+
+std::string LeftOut::TextLines() const {
+  NameList list;
+  for (const auto& [first, last] : texts_) {
+    std::string lines = std::to_string(first);
+    if (last > first) lines += "-" + std::to_string(last);
+    list.Add(std::move(lines));
+  }
+  const bool is_one = texts_.size() == 1 && texts_[0].first == texts_[0].last;
+  return is_one ? " (line " + list.Text() + ")"
+                : " and more (lines " + list.Text() + ")";
+}
+
+void LeftOut::AddInclude(std::string_view directive, std::size_t line) {
+  std::string_view rest = directive;
+  const std::string_view word = TakeWord(rest);
+  const std::string name(WithoutQuotes(TakeWord(rest)));
+  const bool is_ours =
+      word == "#include" && TakeWord(rest).empty() &&
+      std::find(includes_.begin(), includes_.end(), name) != includes_.end();
+  if (!is_ours) return AddText(directive, line);
+  std::erase(missing_includes_, name);
+}
+
+void LeftOut::Tell(Notes& notes) const {
+  if (comments_.count > 0) {
+    notes.Add({file_, comments_.first_line,
+               "Comments are not read, and a file made anew leaves them out (" +
+                   std::to_string(comments_.count) +
+                   (comments_.count == 1 ? " line)." : " lines).")});
+  }
+  std::string others = names_.Text();
+  if (!texts_.empty()) {
+    if (!others.empty()) others += "; ";
+    others += first_text_ + TextLines();
+  }
+  if (others.empty()) return;
+  notes.Add({file_, others_.first_line, AlsoInFile(others_.count, others)});
+}
+
+}  // namespace fragsmith

@@ -1,0 +1,58 @@
+#ifndef FRAGSMITH_CHAT_VOCABULARY_H_
+#define FRAGSMITH_CHAT_VOCABULARY_H_
+
+#include <string>
+#include <string_view>
+
+#include "model/chat_type_id.h"
+#include "model/parameter_id.h"
+#include "model/value.h"
+
+namespace fragsmith {
+
+// The one vocabulary: what a player calls things, in the window, in findings,
+// in comparisons and in the names of undo. UTF-8.
+
+/// What the field or parameter is called: "Reaction time", "Railgun usage".
+/// The level of a per-level one is left away.
+std::string_view ParameterName(ParameterId id);
+
+/// The same of a parameter by its catalogue index alone.
+std::string_view CharacteristicName(int index);
+
+/// What stands above the control of a parameter, by its catalogue index;
+/// empty where the control above has it.
+std::string_view ParameterCaption(int index);
+
+/// The name, and the level where it has one: "Reaction time, level 4".
+std::string ParameterTitle(ParameterId id);
+
+/// The same within a sentence: "Reaction time" at level 4.
+std::string QuotedName(ParameterId id);
+
+/// A value as a player reads it: the number, or the text in double quotes.
+std::string ShownValue(const Value& value);
+std::string ShownNumber(double number);
+
+/// A game text in double quotes, UTF-8.
+std::string QuotedText(std::string_view text);
+
+/// The situation's caption in double quotes.
+std::string QuotedChatType(ChatTypeId type);
+
+/// "a", "a and b", "a, b and c".
+template <typename Texts>
+std::string Enumeration(const Texts& texts) {
+  std::string list;
+  std::size_t left = texts.size();
+  for (const auto& text : texts) {
+    list += text;
+    --left;
+    if (left > 0) list += left == 1 ? " and " : ", ";
+  }
+  return list;
+}
+
+}  // namespace fragsmith
+
+#endif  // FRAGSMITH_CHAT_VOCABULARY_H_

@@ -1,0 +1,126 @@
+#include "checks/bot_location.h"
+
+#include <array>
+#include <string_view>
+#include <system_error>
+#include <utility>
+
+#include "session/bot_file.h"
+#include "session/bot_sources.h"
+#include "support/files.h"
+#include "support/text.h"
+
+namespace fragsmith {
+namespace fs = std::filesystem;
+namespace {
+
+constexpr std::array kFiles = {BotFile::kCharacteristics, BotFile::kDescription,
+                               BotFile::kChat, BotFile::kItemWeights,
+                               BotFile::kWeaponWeights};
+
+BotLocation InFolder(const fs::path& folder, const std::string& name) {
+  const fs::path whole = WholePath(folder);
+  return {.name = name,
+          .folder = whole,
+          .package = {},
+          .uses_layout = GivenFiles::IsInGame(whole)};
+}
+
+std::vector<BotLocation> InPackage(const fs::path& package,
+                                   const BotList& bots) {
+  std::vector<BotLocation> found;
+  for (const BotListEntry& bot : bots.entries()) {
+    found.push_back({.name = bot.Name,
+                     .folder = {},
+                     .package = WholePath(package),
+                     .uses_layout = false,
+                     .has_description = bot.HasBotScript});
+  }
+  return found;
+}
+
+}  // namespace
+
+std::optional<std::string> BotNameOfAnyFile(const fs::path& file) {
+  std::optional<std::string> name = GameTextFromPath(file.filename());
+  if (!name) return std::nullopt;
+  for (const BotFile kind : kFiles) {
+    const std::string_view suffix = FileSuffix(kind);
+    if (!EndsWithIgnoringCase(*name, suffix)) continue;
+    name->resize(name->size() - suffix.size());
+    return name;
+  }
+  return std::nullopt;
+}
+
+Result<std::vector<BotLocation>> BotsAt(const fs::path& path) {
+  std::vector<BotLocation> found;
+  if (IsFolder(path)) {
+    for (const fs::path& folder :
+         {path, path / PathFromBytes(kBotFilesFolder)}) {
+      for (const std::string& name : BotNamesIn(folder)) {
+        found.push_back(InFolder(folder, name));
+      }
+      if (!found.empty()) break;
+    }
+  } else if (EndsWithIgnoringCase(BytesFromPath(path.filename()), ".pk3")) {
+    Notes odd_entries;
+    const Result<BotList> bots = BotsInPackage(path, odd_entries);
+    if (!bots) return Failure(bots.error());
+    found = InPackage(path, *bots);
+  } else if (const auto name = BotNameOfAnyFile(path); name && IsFile(path)) {
+    const bool is_description = EndsWithIgnoringCase(
+        BytesFromPath(path.filename()), FileSuffix(BotFile::kDescription));
+    const fs::path bots =
+        path.parent_path().parent_path() / PathFromBytes(kBotFilesFolder);
+    // In the game's layout a description lies beside botfiles.
+    const bool is_beside = is_description &&
+                           path.parent_path().filename() == kScriptsFolder &&
+                           IsFolder(bots);
+    found.push_back(InFolder(is_beside ? bots : path.parent_path(), *name));
+  }
+  return found;
+}
+
+std::optional<BotLocation> LocationOf(const BotHome& home) {
+  if (home.files.empty()) return std::nullopt;
+  const OriginFile& file = home.files.contains(BotFile::kCharacteristics)
+                               ? home.files.at(BotFile::kCharacteristics)
+                               : home.files.begin()->second;
+  if (!file.is_on_disk()) {
+    std::optional<std::string> name =
+        BotNameOfAnyFile(PathFromGameText(file.entry));
+    if (!name) return std::nullopt;
+    return BotLocation{
+        .name = *std::move(name), .folder = {}, .package = file.path};
+  }
+  std::optional<std::string> name = BotNameOfAnyFile(file.path);
+  if (!name) return std::nullopt;
+  BotLocation location = InFolder(file.path.parent_path(), *name);
+  location.uses_layout |= home.load_options.uses_layout;
+  return location;
+}
+
+std::optional<fs::path> PlayersFolderOf(const BotLocation& location,
+                                        const fs::path& package_folder) {
+  std::optional<fs::path> folder =
+      location.package.empty() ? LayoutRootOf(location.folder)
+                               : WholePath(location.package).parent_path();
+  if (folder && !folder->has_filename()) folder = folder->parent_path();
+  std::error_code reason;
+  const bool is_players =
+      folder &&
+      EqualIgnoringCase(BytesFromPath(folder->filename()),
+                        BytesFromPath(package_folder.filename())) &&
+      !fs::equivalent(*folder, package_folder, reason) && !reason;
+  return is_players ? std::move(folder) : std::nullopt;
+}
+
+GivenFiles FilesOf(const BotLocation& location) {
+  if (location.package.empty()) {
+    return GivenFiles::OfFolder(location.folder, location.uses_layout);
+  }
+  return GivenFiles::OfPackage(location.package).value_or(GivenFiles());
+}
+
+}  // namespace fragsmith

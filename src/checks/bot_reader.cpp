@@ -1,0 +1,322 @@
+#include "checks/bot_reader.h"
+
+#include <algorithm>
+#include <cstddef>
+
+#include "checks/chat_file_checks.h"
+#include "checks/installation_checks.h"
+#include "checks/weapon_checks.h"
+#include "checks/weight_kind.h"
+#include "game/chat_reader.h"
+#include "game/file_faults.h"
+#include "game/game_path.h"
+#include "game/limits.h"
+#include "support/code_page.h"
+#include "support/text.h"
+
+namespace fragsmith {
+namespace {
+
+constexpr Severity kError = Severity::kError;
+
+std::string_view KindOfWeights(bool are_weapons) {
+  return are_weapons ? "weapon weight" : "item weight";
+}
+
+/// A fault that has cost a file all its weights of weapons.
+Complaint WithoutWeights(Complaint fault) {
+  fault.severity = kError;
+  fault.text +=
+      " No weapon has a weight then: the bot does not know what to fight with.";
+  return fault;
+}
+
+/// One of this kind among those from an index on.
+std::optional<Complaint> FindComplaint(const Complaints& complaints,
+                                       std::size_t first, std::string_view id) {
+  const std::vector<Complaint>& list = complaints.list();
+  const auto found = std::find_if(
+      list.begin() + static_cast<std::ptrdiff_t>(first), list.end(),
+      [id](const Complaint& one) { return one.id == id; });
+  return found == list.end() ? std::nullopt : std::optional(*found);
+}
+
+}  // namespace
+
+BotReader::BotReader(const BotFileSet& files, const IncludeLookup& game)
+    : files_(files),
+      game_([this, &game](std::string_view path) {
+        const GameFile* const own = OwnFile(path);
+        return own != nullptr ? std::optional(own->bytes) : game(path);
+      }),
+      complaints_(files.is_game_known),
+      untold_(files.is_game_known) {
+  ReadDescription();
+}
+
+Verdict BotReader::At(double skill) {
+  if (!is_defined_) return Verdict::kRefused;
+  std::vector<const CharacterLevel*> levels;
+  bool is_own = true;
+  for (const int level : LevelsForSkill(skill)) {
+    const std::optional<CharacterLevel>& loaded = LoadLevel(level);
+    if (!loaded) return Verdict::kRefused;
+    levels.push_back(&*loaded);
+    is_own = is_own && (loaded->origin == CharacterOrigin::kOwn ||
+                        loaded->origin == CharacterOrigin::kOwnOther);
+  }
+  const CharacterLevel& first = *levels.front();
+  const CharacterValue* const items =
+      PathAt(first, kGameItemWeights, "CHARACTERISTIC_ITEMWEIGHTS");
+  const CharacterValue* const weapons =
+      PathAt(first, kGameWeaponWeights, "CHARACTERISTIC_WEAPONWEIGHTS");
+  const CharacterValue* const chat =
+      PathAt(first, kGameChatFile, "CHARACTERISTIC_CHAT_FILE");
+  const CharacterValue* const name =
+      PathAt(first, kGameChatName, "CHARACTERISTIC_CHAT_NAME");
+  // Without a path the game takes the one that it read before. For the first
+  // one and the name that is whatever lies in its memory.
+  if (items == nullptr || name == nullptr) return Verdict::kRefused;
+  const CharacterValue& of_weapons = weapons != nullptr ? *weapons : *items;
+  const CharacterValue& of_chat = chat != nullptr ? *chat : of_weapons;
+  if (!Weights(items->text, false, *items) ||
+      !Weights(of_weapons.text, true, of_weapons) || !Chat(of_chat, *name)) {
+    return Verdict::kRefused;
+  }
+  for (const CharacterValue* const value : {items, weapons, chat, name}) {
+    is_own = is_own && (value == nullptr || value->is_own);
+  }
+  if (!is_own) return Verdict::kWithDefault;
+  const bool has_others =
+      NamesAnother(*items) || NamesAnother(of_weapons) || NamesAnother(of_chat);
+  return has_others ? Verdict::kWithOthers : Verdict::kAsWritten;
+}
+
+bool BotReader::NamesAnother(const CharacterValue& value) const {
+  const std::string other = BotOfPath(value.text);
+  const std::string own =
+      files_.character ? BotOfPath(files_.character->game_path) : std::string();
+  return value.is_own && !other.empty() && other != own;
+}
+
+std::string BotReader::CharacterName() const {
+  if (files_.character) return files_.character->name;
+  for (const Member member : kMembers) {
+    if (files_.*member) return (files_.*member)->name;
+  }
+  return {};
+}
+
+bool BotReader::HasLoneBackslash(int line) const {
+  if (!character_ || line == 0) return false;
+  const std::string_view text = LineOfFile(character_->bytes, line);
+  return Contains(text, "\\") && !Contains(text, "\\\\");
+}
+
+template <typename Condition>
+const GameFile* BotReader::FindOwn(const Condition& condition) const {
+  for (const Member member : kMembers) {
+    const std::optional<GameFile>& file = files_.*member;
+    if (member != &BotFileSet::description && file && condition(*file)) {
+      return &*file;
+    }
+  }
+  return nullptr;
+}
+
+const GameFile* BotReader::OwnFile(std::string_view path) const {
+  const std::string wanted = PathLookedFor(path, files_.home);
+  return FindOwn([&](const GameFile& file) {
+    return PathLookedFor(file.game_path, files_.home) == wanted;
+  });
+}
+
+const GameFile* BotReader::OwnInAnyCase(std::string_view path) const {
+  const std::string wanted = PathLookedFor(path, files_.home);
+  return FindOwn([&](const GameFile& file) {
+    return EqualIgnoringCase(PathLookedFor(file.game_path, files_.home),
+                             wanted);
+  });
+}
+
+/// A file by the path that a file of the bot gives in a line (0 where that is
+/// not known); nothing when the game cannot open it.
+std::optional<GameFile> BotReader::Find(std::string_view path,
+                                        std::string_view what,
+                                        const std::string& place, int line) {
+  std::string asked(path);
+  std::replace(asked.begin(), asked.end(), '\\', '/');
+  const std::string shown = "botfiles/" + ShownText(asked);
+  if (NormalGamePath(asked).empty()) return GameFile{shown, "", ""};
+  if (asked.size() > limits::kMaxPath) {
+    Add("path-too-long", kError, place, line,
+        "The path " + Quoted(asked) + " of the " + std::string(what) +
+            " file is too long: the game can open " +
+            std::to_string(limits::kMaxPath + (sizeof("botfiles/") - 1)) +
+            " characters, botfiles/ "
+            "included. Give the bot a shorter name.");
+    return std::nullopt;
+  }
+  if (const GameFile* const own = OwnFile(asked)) {
+    opened_.push_back("botfiles/" + own->game_path);
+    return *own;
+  }
+  std::optional<std::string> bytes = game_(asked);
+  if (!bytes) {
+    TellMissing(asked, what, place, line);
+    return std::nullopt;
+  }
+  opened_.push_back("botfiles/" + asked);
+  return GameFile{shown, asked, std::move(*bytes)};
+}
+
+/// How a path that is nearly that of a file of the bot is to be written; empty
+/// for any other.
+std::string BotReader::AdviceForPath(std::string_view path) const {
+  constexpr std::string_view kBotfiles = "botfiles/";
+  if (ToLower(path).starts_with(kBotfiles)) {
+    return "It begins in botfiles by itself: leave botfiles/ out.";
+  }
+  if (Contains(path, "..")) {
+    return "It refuses a path with \"..\": write the whole way from botfiles.";
+  }
+  const std::string whole = std::string(path) + ".c";
+  return OwnFile(whole) != nullptr ? "Write " + Quoted(whole) + "." : "";
+}
+
+void BotReader::TellMissing(const std::string& path, std::string_view what,
+                            const std::string& place, int line) {
+  const std::string shown =
+      "The " + std::string(what) + " file " + Quoted("botfiles/" + path);
+  const GameFile* const other_case = OwnInAnyCase(path);
+  const std::string on_disk = PathLookedFor(path, FileHome::kLoose);
+  if (HasLoneBackslash(line)) {
+    Add("path-backslash", kError, place, line,
+        "The path of the " + std::string(what) +
+            " file has a \\ in this line, and the game takes that and the "
+            "letter behind it for one sign. Write / in its place.");
+  } else if (other_case != nullptr) {
+    Add("path-case", kError, place, line,
+        "The bot names its " + std::string(what) + " file " + Quoted(path) +
+            ", but it is called " + Quoted(other_case->game_path) +
+            ". Capitals count for files in a folder on Linux. Spell both "
+            "alike.");
+  } else if (files_.home == FileHome::kPacked && OwnFile(on_disk) != nullptr) {
+    Add("path-in-package", kError, place, line,
+        "The path " + Quoted(path) + " of the " + std::string(what) +
+            " file works for files in a folder only. For a package write " +
+            Quoted(on_disk) + ".");
+  } else if (const std::string advice = AdviceForPath(path); !advice.empty()) {
+    Add("file-missing", kError, place, line,
+        "The game does not find the " + std::string(what) + " file " +
+            Quoted(path) + ". " + advice);
+  } else if (!files_.is_game_known) {
+    Add("not-looked-at", Severity::kHint, place, line,
+        shown +
+            " is not the bot's own. Whether the game has it was not looked "
+            "at, as no game folder is set.");
+  } else {
+    Add("file-missing", kError, place, line,
+        shown + " does not exist. Correct the path or add the file.");
+  }
+}
+
+bool BotReader::ReadOne(const GameFile& file, bool is_told,
+                        const std::function<bool(Complaints&)>& read) {
+  Complaints& complaints = is_told ? complaints_ : untold_;
+  const std::size_t first = complaints.list().size();
+  const bool is_good = read(complaints);
+  complaints.KeepFirstError(first);
+  std::optional<Complaint> fault = FaultOfBytes(file);
+  if (fault) {
+    if (!is_good) fault->severity = kError;
+    complaints.ReplaceError(first, *std::move(fault));
+  }
+  return is_good;
+}
+
+bool BotReader::Weights(const std::string& path, bool are_weapons,
+                        const CharacterValue& value) {
+  auto [place, is_new] =
+      loaded_.try_emplace({are_weapons ? "weapons" : "items", path});
+  if (!is_new) return place->second;
+  const std::optional<GameFile> file =
+      Find(path, KindOfWeights(are_weapons), CharacterName(), value.line);
+  if (!file) {
+    place->second = !files_.is_game_known && OwnInAnyCase(path) == nullptr;
+    return place->second;
+  }
+  WeightsRead read;
+  const std::size_t first = complaints_.list().size();
+  ReadOne(*file, value.is_own, [&](Complaints& complaints) {
+    read = ReadGameWeights(*file, game_, complaints);
+    return read.is_loaded && read.count > 0;
+  });
+  place->second = read.is_loaded;
+  if (!value.is_own) return read.is_loaded;
+  const std::optional<Complaint> of_kind =
+      FaultOfKind(*file, read, are_weapons);
+  if (!read.is_loaded) {
+    if (of_kind) complaints_.ReplaceError(first, *of_kind);
+    return false;
+  }
+  if (of_kind) {
+    (are_weapons ? weaponless_ : itemless_) = of_kind;
+  } else if (read.count > 0) {
+    if (are_weapons) {
+      CheckWeaponNames(*file, read, game_, complaints_);
+      // What is lost to an error is told with that.
+      if (!complaints_.HasError(first)) {
+        weaponless_ = NoWeaponAtStart(*file, read, files_.is_game_known);
+      }
+    }
+  } else if (complaints_.HasError(first)) {
+    // What the game stumbled over has kept it from all weights.
+    if (are_weapons) {
+      weaponless_ = WithoutWeights(*complaints_.FirstError(first));
+    }
+  } else if (const std::optional<Complaint> loop =
+                 FindComplaint(complaints_, first, "includes-itself")) {
+    if (are_weapons) weaponless_ = WithoutWeights(*loop);
+  } else if (are_weapons) {
+    weaponless_ = {
+        .id = "no-weights",
+        .severity = kError,
+        .place = {.file = file->name, .line = 0},
+        .text =
+            "The file gives no weapon a weight: the bot does not know what "
+            "to fight with. Write #include \"fw_weap.c\" at its end."};
+  } else {
+    Add("no-weights", Severity::kWarning, file->name, 0,
+        "The file gives no item a weight: the bot picks nothing up on "
+        "purpose. Write #include \"fw_items.c\" at its end.");
+  }
+  return true;
+}
+
+bool BotReader::Chat(const CharacterValue& path, const CharacterValue& name) {
+  auto [place, is_new] = loaded_.try_emplace({name.text, path.text});
+  if (!is_new) return place->second;
+  const std::optional<GameFile> file =
+      Find(path.text, "chat", CharacterName(), path.line);
+  if (!file) {
+    place->second = !files_.is_game_known && OwnInAnyCase(path.text) == nullptr;
+    return place->second;
+  }
+  GameChat chat;
+  place->second = ReadOne(*file, path.is_own, [&](Complaints& complaints) {
+    Complaints all(files_.is_game_known);
+    const bool is_good = ReadGameChat(*file, name.text, game_, all, &chat);
+    for (const Complaint& one : all.list()) {
+      const Complaint told =
+          one.id == "chat-name" ? WithoutChat(path, name, chat, one) : one;
+      complaints.Add(told.id, told.severity, told.place.file, told.place.line,
+                     told.text);
+    }
+    return is_good;
+  });
+  if (place->second && path.is_own) CheckChatFile(*file, chat, complaints_);
+  return place->second;
+}
+
+}  // namespace fragsmith

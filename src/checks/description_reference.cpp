@@ -1,0 +1,232 @@
+// What BotReader makes of the description.
+
+#include <algorithm>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "checks/bot_reader.h"
+#include "checks/installation_checks.h"
+#include "game/game_path.h"
+#include "game/limits.h"
+#include "support/text.h"
+
+namespace fragsmith {
+namespace {
+
+constexpr Severity kError = Severity::kError;
+
+}  // namespace
+
+const DescriptionSet* ChooseDescription(const std::vector<DescriptionSet>& sets,
+                                        std::string_view listed_name,
+                                        std::string_view path) {
+  const auto has_name = [](const DescriptionSet& set) {
+    return !set.Text("name").empty() && set.Text("name") != kNoDescriptionValue;
+  };
+  auto chosen =
+      std::find_if(sets.begin(), sets.end(), [&](const DescriptionSet& set) {
+        if (!listed_name.empty()) {
+          return EqualIgnoringCase(set.Text("name"), listed_name);
+        }
+        return has_name(set) &&
+               EqualIgnoringCase(
+                   PathLookedFor(set.Text("aifile"), FileHome::kLoose),
+                   PathLookedFor(path, FileHome::kLoose));
+      });
+  const std::string own_name = BotOfPath(path);
+  if (chosen == sets.end()) {
+    chosen = std::ranges::find_if(sets, [&](const DescriptionSet& set) {
+      return !own_name.empty() && EqualIgnoringCase(set.Text("name"), own_name);
+    });
+  }
+  if (chosen == sets.end()) chosen = std::ranges::find_if(sets, has_name);
+  if (chosen == sets.end()) return nullptr;
+  const std::string_view name = chosen->Text("name");
+  return &*std::find_if(sets.begin(), sets.end(),
+                        [&](const DescriptionSet& set) {
+                          return EqualIgnoringCase(set.Text("name"), name);
+                        });
+}
+
+void BotReader::ReadDescription() {
+  const std::string own_path =
+      files_.character ? files_.character->game_path : std::string();
+  if (!files_.description) {
+    if (files_.has_no_description) {
+      // The caller does not want it looked at.
+      is_defined_ = true;
+    } else {
+      Add("no-description", kError, CharacterName(), 0,
+          "There is no .bot file, so the game does not know this bot. It must "
+          "lie in the folder scripts itself.");
+    }
+    if (!own_path.empty()) {
+      character_ = Find(own_path, "character", CharacterName(), 0);
+    }
+    return;
+  }
+  const GameFile& file = *files_.description;
+  opened_.push_back(file.game_path.starts_with("scripts/")
+                        ? file.game_path
+                        : "scripts/" + file.game_path);
+  std::vector<DescriptionSet> sets;
+  ReadOne(file, true, [&](Complaints& complaints) {
+    Complaints all(files_.is_game_known);
+    sets = ReadGameDescription(file, all);
+    const DescriptionSet* const set =
+        ChooseDescription(sets, files_.listed_name, own_path);
+    for (const Complaint& one : all.list()) {
+      // That it has no name says it all.
+      if (set == nullptr && one.id == "description-no-value") continue;
+      // What is lost of another bot is not this one's fault.
+      const bool is_others =
+          set != nullptr && one.id == "description-sign" &&
+          (one.place.line < set->line || one.place.line > set->last_line);
+      complaints.Add(one.id, is_others ? Severity::kHint : one.severity,
+                     one.place.file, one.place.line, one.text);
+    }
+    if (set != nullptr) {
+      TellSameName(sets, *set);
+      TakeDescription(*set);
+      return is_defined_;
+    }
+    std::string text =
+        "The game finds no bot with a name in this file. It needs a line with "
+        "name and the bot's name between { and }.";
+    int line = 0;
+    for (const DescriptionSet& one : sets) {
+      if (one.Text("name") == kNoDescriptionValue) {
+        line = one.Line("name");
+        text =
+            "There is no value behind \"name\" on its line, so this bot has no "
+            "name. Write the name behind it, on the same line.";
+      }
+      if (one.Text("name:").empty()) continue;
+      line = one.Line("name:");
+      text =
+          "The game does not know the key \"name:\", so this bot has no name. "
+          "Remove the colon.";
+    }
+    Add("no-name", kError, file.name, line, std::move(text));
+    return false;
+  });
+  if (is_defined_) {
+    const std::string_view path = description_->Text("aifile");
+    if (path.empty()) return;
+    character_ =
+        Find(path, "character", file.name, description_->Line("aifile"));
+  } else if (!own_path.empty()) {
+    character_ = Find(own_path, "character", file.name, 0);
+  }
+}
+
+/// Of two of one name in a file the game takes the first.
+void BotReader::TellSameName(const std::vector<DescriptionSet>& sets,
+                             const DescriptionSet& first) {
+  // The game's own list is not the bot's fault.
+  if (files_.description->game_path == kBotListPath) return;
+  for (const DescriptionSet& set : sets) {
+    if (set.line <= first.line ||
+        !EqualIgnoringCase(set.Text("name"), first.Text("name"))) {
+      continue;
+    }
+    const std::string name = Quoted(set.Text("name"));
+    const bool is_bad = first.Text("aifile").empty();
+    std::string text = "The bot " + name + " stands twice in this file, ";
+    text += is_bad
+                ? "here and in line " + std::to_string(set.line) +
+                      ". The game takes this one, which names no character "
+                      "file with aifile. Remove it, or put all lines of the "
+                      "bot into one."
+                : "first in line " + std::to_string(first.line) +
+                      ": the game takes that one and passes over this. Remove "
+                      "one of them, or give it another name.";
+    Add("bot-twice", is_bad ? kError : Severity::kWarning,
+        files_.description->name, is_bad ? first.line : set.line,
+        std::move(text));
+    return;
+  }
+}
+
+void BotReader::TakeDescription(const DescriptionSet& set) {
+  const GameFile& file = *files_.description;
+  description_ = set;
+  const std::string_view path = set.Text("aifile");
+  if (path.empty()) {
+    std::string text =
+        "The bot has no line that begins with aifile, or the game has thrown "
+        "it away. Without one it does not add the bot. Write aifile and the "
+        "path of the character file, such as bots/name_c.c.";
+    int line = set.line;
+    for (const auto& [key, value] : set.values) {
+      if (key == "aifile:") {
+        line = value.line;
+        text =
+            "The game does not know the key \"aifile:\", so it does not find "
+            "the bot's character. Remove the colon.";
+      } else if (EqualIgnoringCase(value.text, "aifile")) {
+        line = value.line;
+        text = "The game takes the word aifile for the value of " +
+               Quoted(key) +
+               ". Put a text of several words in quotation marks, and each key "
+               "on a line of its own.";
+      }
+    }
+    Add("no-aifile", kError, file.name, line, std::move(text));
+    return;
+  }
+  const std::string name = ToLower(set.Text("name"));
+  const auto taken = files_.names_taken.find(name);
+  if (taken != files_.names_taken.end()) {
+    const WinningDescription& winner = taken->second;
+    const bool has_same_files =
+        EqualIgnoringCase(PathLookedFor(winner.character, FileHome::kLoose),
+                          PathLookedFor(path, FileHome::kLoose));
+    if (!has_same_files && winner.is_by_chance) {
+      Add("name-shared", Severity::kWarning, file.name, set.Line("name"),
+          "Two bots are called " + Quoted(set.Text("name")) +
+              ", this one and the one in " + winner.shown_path +
+              ". The game adds one of them, and which is chance. Give one of "
+              "them another name.");
+    } else if (!has_same_files) {
+      Add("name-taken", kError, file.name, set.Line("name"),
+          NameTakenText(set.Text("name"), winner.shown_path));
+      return;
+    } else {
+      Add("description-not-read", Severity::kHint, file.name, set.Line("name"),
+          "The game has a bot " + Quoted(set.Text("name")) + " already, in " +
+              winner.shown_path +
+              ", and takes the fun name and the model from there. That bot "
+              "plays with your files.");
+    }
+  }
+  // Told of by its reader.
+  if (set.is_open) return;
+  if (set.Text("funname").size() > limits::kMaxFunName) {
+    Add("fun-name-hides-character", kError, file.name, set.Line("funname"),
+        "The fun name is so long that the game forgets the path of the "
+        "character file. Shorten it.");
+    is_defined_ = true;
+    description_->values.erase("aifile");
+    return;
+  }
+  // Where there is none, the game takes its default character for this bot.
+  const bool is_others =
+      files_.character && !BotOfPath(path).empty() &&
+      BotOfPath(path) != BotOfPath(files_.character->game_path) &&
+      (!files_.is_game_known || game_(path));
+  if (is_others) {
+    Add("other-character", kError, file.name, set.Line("aifile"),
+        "This line names the character file of another bot, " + Quoted(path) +
+            ", so the game never reads " + Quoted(files_.character->game_path) +
+            (file.game_path == kBotListPath
+                 ? ". Give your bot another name, and a .bot file of its own."
+                 : ". Write the path of this bot's own file."));
+    return;
+  }
+  is_defined_ = true;
+}
+
+}  // namespace fragsmith

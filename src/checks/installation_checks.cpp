@@ -1,0 +1,118 @@
+#include "checks/installation_checks.h"
+
+#include <cstddef>
+#include <numeric>
+#include <string>
+
+#include "chat/vocabulary.h"
+#include "game/limits.h"
+#include "install/program/bot_list.h"
+#include "model/characteristic_catalogue.h"
+#include "session/bot_file.h"
+#include "support/code_page.h"
+#include "support/text.h"
+
+namespace fragsmith {
+namespace {
+
+bool IsStandardBot(const std::string& name) {
+  static const BotList kStandard = BotList::Standard();
+  return kStandard.Find(name).has_value();
+}
+
+}  // namespace
+
+void CheckGameIsKnown(const CheckContext& context, FindingList& findings) {
+  if (context.game != nullptr) return;
+  findings.Add(WholeBot{},
+               "No game folder is set, so nobody has looked whether the "
+               "bot's name and model fit the installed game and which word "
+               "lists it has. Set the folder of the game in the options.");
+}
+
+void CheckNameIsTaken(const CheckContext& context, FindingList& findings) {
+  const std::string name = context.bot.Name();
+  const KnownBot* const winner =
+      context.game == nullptr
+          ? nullptr
+          : BotThatWins(*context.game, name,
+                        {.path = "scripts/" + name + ".bot",
+                         .package = GamePackage{BotPackageName(name)}});
+  if (winner != nullptr && !winner->is_of_list()) {
+    // A description of this very bot that is called otherwise than we do.
+    if (EqualIgnoringCase(winner->character, "bots/" + name + "_c.c")) return;
+    findings.Add(kNameField, NameTakenText(name, ShownPlace(*winner)));
+  } else if (winner != nullptr || IsStandardBot(name)) {
+    findings.Add(kNameField,
+                 "The game has a bot " + Quoted(name) +
+                     " of its own and keeps that one: this bot will not "
+                     "appear. Choose a new name.");
+  }
+}
+
+std::string NameTakenText(std::string_view name, const std::string& place) {
+  return "The game has a bot " + Quoted(name) + " already, in " + place +
+         ", and adds that one in place of this bot. Choose another name.";
+}
+
+std::string ShadowedText(const std::string& winner, const std::string& own) {
+  return "The package " + Quoted(winner) +
+         " of your game has bot files of the same names, and the game takes "
+         "those before the ones of " +
+         Quoted(own) +
+         ", since of several packages the last one by name counts. Choose a "
+         "new name.";
+}
+
+void CheckFilesAreShadowed(const CheckContext& context, FindingList& findings) {
+  if (context.game == nullptr) return;
+  const std::string name = context.bot.Name();
+  const auto found = context.game->bot_packages.find(ToLower(name));
+  if (found == context.game->bot_packages.end()) return;
+  const std::string own = BotPackageName(name);
+  if (!found->second.WinsOver(GamePackage{own})) return;
+  findings.Add(kNameField, ShadowedText(found->second.name, own));
+}
+
+void CheckDescriptionCount(const CheckContext& context, FindingList& findings) {
+  if (context.game == nullptr) return;
+  const std::string own = ToLower(context.bot.Text(kDescriptionFileField));
+  const auto& files = context.game->description_files;
+  const std::size_t bytes = std::accumulate(
+      files.begin(), files.end(), files.contains(own) ? 0 : own.size() + 1,
+      [](std::size_t sum, const std::string& name) {
+        return sum + name.size() + 1;
+      });
+  if (bytes <= limits::kMaxDescriptionNames) return;
+  findings.Add(kNameField,
+               "Your game has so many bots that the names of their .bot files "
+               "do not fit into the " +
+                   std::to_string(limits::kMaxDescriptionNames) +
+                   " characters that it has for them (" +
+                   std::to_string(bytes) +
+                   " with this bot): some of them will be missing, maybe this "
+                   "one. Take packages of other bots away.");
+}
+
+void CheckModelIsInstalled(const CheckContext& context, FindingList& findings) {
+  if (context.game == nullptr || context.game->models.empty()) return;
+  const std::string model = ToLower(context.bot.Text(kModelField));
+  const std::string skin = ToLower(context.bot.Text(kSkinField));
+  if (model.empty()) return;
+  if (!context.game->models.contains(model)) {
+    findings.Add(kModelField,
+                 "The packages of your game have no model " + Quoted(model) +
+                     ": the game shows the bot as another model. It plays all "
+                     "the same. Choose a model that your game has, or put its "
+                     "package there.");
+  } else if (!skin.empty() &&
+             !context.game->skins.contains(model + "/" + skin)) {
+    findings.Add(kSkinField,
+                 "The packages of your game have no skin " + Quoted(skin) +
+                     " for the model " + Quoted(model) +
+                     ": the game shows the bot as another model. It plays all "
+                     "the same. Choose a skin that your game has.");
+  }
+}
+
+}  // namespace fragsmith

@@ -1,0 +1,309 @@
+#include "checks/layout_checks.h"
+
+#include <algorithm>
+#include <array>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "chat/vocabulary.h"
+#include "checks/bot_on_disk.h"
+#include "game/description_reader.h"
+#include "support/code_page.h"
+#include "support/text.h"
+
+namespace fragsmith {
+namespace {
+
+/// What every game has, where none can be asked.
+constexpr std::array<std::string_view, 16> kGameFiles = {
+    "botfiles/chars.h",
+    "botfiles/inv.h",
+    "botfiles/match.h",
+    "botfiles/match.c",
+    "botfiles/syn.h",
+    "botfiles/syn.c",
+    "botfiles/rnd.c",
+    "botfiles/rchat.c",
+    "botfiles/teamplay.h",
+    "botfiles/items.c",
+    "botfiles/weapons.c",
+    "botfiles/fw_weap.c",
+    "botfiles/fw_items.c",
+    "botfiles/bots/default_c.c",
+    "botfiles/bots/default_w.c",
+    "scripts/bots.txt"};
+
+std::string FolderOf(const BotFileMember& row) {
+  const bool is_description = row.file == BotFile::kDescription;
+  return std::string(is_description ? kScriptsFolder : kBotFilesFolder) + "/";
+}
+
+/// The given files that could be the game's: those of its folder botfiles, the
+/// default character's and the list of bots.
+std::vector<std::string> PathsOfGame(const GivenFiles& given) {
+  std::vector<std::string> paths = given.PathsLike("botfiles/", "");
+  std::erase_if(paths, [](std::string_view path) {
+    return path.starts_with("botfiles/bots/") &&
+           !path.starts_with("botfiles/bots/default_");
+  });
+  for (std::string& path : given.PathsLike("scripts/bots.txt", "")) {
+    paths.push_back(std::move(path));
+  }
+  return paths;
+}
+
+/// Such as "pak6-misc.pk3".
+bool IsOfGame(std::string_view package) {
+  return ToLower(package).starts_with("pak") && package.size() > 3 &&
+         package[3] >= '0' && package[3] <= '9';
+}
+
+/// Of all bots, or this one's.
+bool IsUsed(const GameFile& file, const BotFileSet& files) {
+  const bool is_shared = !file.game_path.starts_with("bots/") &&
+                         !file.game_path.starts_with("scripts/");
+  return is_shared ||
+         std::ranges::any_of(kBotFileMembers, [&](const BotFileMember& row) {
+           const std::optional<GameFile>& own = files.*row.member;
+           return own && own->name == file.name;
+         });
+}
+
+std::string TextOf(const EntryFault& fault, const std::string& names,
+                   bool is_one) {
+  using Kind = EntryFault::Kind;
+  switch (fault.kind) {
+    case Kind::kUnopened:
+      return "The game cannot open this package: what it takes for the end of "
+             "the archive leads to no table of contents. A comment in the "
+             "archive may be the reason, or that it was made in the form for "
+             "very large ones. Make the package anew. The game does not add "
+             "the bot.";
+    case Kind::kUnreadable: {
+      const bool has_password = Contains(fault.method, "password");
+      std::string text = names + (is_one ? " is packed " : " are packed ");
+      text += fault.method;
+      text += ", and the game can unpack no such file. Make the package anew, ";
+      text += has_password
+                  ? "without a password."
+                  : "by the method Deflate, which is the usual one of a .zip.";
+      return text;
+    }
+    case Kind::kTwice:
+      return "The package has " + names +
+             " twice, and the game takes the last. Remove the other.";
+    case Kind::kDamaged:
+      return "The package is damaged: " + names +
+             (is_one ? " is not what its checksum says."
+                     : " are not what their checksums say.") +
+             " The game does not look at that and reads what there is. Make "
+             "the package anew.";
+  }
+  return {};
+}
+
+constexpr std::string_view IdOf(EntryFault::Kind kind) {
+  using Kind = EntryFault::Kind;
+  if (kind == Kind::kUnreadable) return "packed-unreadably";
+  return kind == Kind::kTwice ? "packed-twice" : "package-damaged";
+}
+
+}  // namespace
+
+void AddPackageFaults(const GivenFiles& given, const BotFileSet& files,
+                      std::vector<Finding>& findings) {
+  using Kind = EntryFault::Kind;
+  const std::vector<EntryFault> faults = given.Faults();
+  if (!faults.empty() && faults.front().kind == Kind::kUnopened) {
+    findings = {{.id = "package-unopened",
+                 .severity = Severity::kError,
+                 .place = FilePlace{.file = given.package_name()},
+                 .text = TextOf(faults.front(), {}, true),
+                 .mends = {},
+                 .keeps_out = true}};
+    return;
+  }
+  for (const Kind kind : {Kind::kDamaged, Kind::kTwice, Kind::kUnreadable}) {
+    std::vector<std::string> names;
+    std::vector<std::string> places;
+    const EntryFault* first = nullptr;
+    for (const EntryFault& fault : faults) {
+      const std::optional<GameFile> file = given.OpenInAnyCase(fault.name);
+      if (fault.kind != kind || !file || !IsUsed(*file, files)) continue;
+      first = &fault;
+      names.push_back(ShownText(fault.name));
+      places.push_back(file->name);
+    }
+    if (first == nullptr) continue;
+    std::ranges::reverse(names);
+    const bool is_unreadable = kind == Kind::kUnreadable;
+    bool keeps_out = false;
+    std::erase_if(findings, [&](const Finding& finding) {
+      const auto* const place = std::get_if<FilePlace>(&finding.place);
+      const bool follows = is_unreadable && place != nullptr &&
+                           std::ranges::count(places, place->file) > 0;
+      keeps_out = keeps_out || (follows && finding.keeps_out);
+      return follows;
+    });
+    findings.insert(
+        findings.begin(),
+        Finding{
+            .id = IdOf(kind),
+            .severity = is_unreadable ? Severity::kError : Severity::kWarning,
+            .place = FilePlace{.file = places.back()},
+            .text = TextOf(*first, Enumeration(names), names.size() == 1),
+            .mends = {},
+            .keeps_out = keeps_out});
+  }
+}
+
+std::optional<Finding> FilesTooDeep(const GivenFiles& given,
+                                    const std::string& name) {
+  if (!given.is_packed()) return std::nullopt;
+  for (const BotFileMember& row : kBotFileMembers) {
+    const std::string path =
+        ToLower(FolderOf(row) + name + std::string(FileSuffix(row.file)));
+    const std::vector<std::string> found = given.PathsLike("", "/" + path);
+    if (found.empty() || given.OpenInAnyCase(path)) continue;
+    std::string_view above = found.front();
+    above.remove_suffix(path.size() + 1);
+    const std::string folder = Quoted(above);
+    std::string text = "The folders botfiles and scripts lie inside a folder ";
+    text += folder;
+    text += ", and the game looks for them at the top alone. Put what is in ";
+    text += folder;
+    text +=
+        " at the top, without that folder around it. The game does not add the "
+        "bot.";
+    const std::optional<GameFile> file = given.OpenInAnyCase(found.front());
+    return Finding{
+        .id = "folder-too-deep",
+        .severity = Severity::kError,
+        .place = FilePlace{.file = file ? file->name : std::string()},
+        .text = std::move(text),
+        .mends = {},
+        .keeps_out = true};
+  }
+  return std::nullopt;
+}
+
+std::optional<Finding> OthersInDescription(const GivenFiles& given,
+                                           const BotFileSet& files) {
+  if (!files.description || files.description->game_path == kBotListPath) {
+    return std::nullopt;
+  }
+  const std::string own = ToLower(NameToAdd(files));
+  std::vector<std::string> names = {own};
+  std::vector<std::string> shown;
+  int line = 0;
+  Complaints untold;
+  for (const DescriptionSet& set :
+       ReadGameDescription(*files.description, untold)) {
+    const std::string_view name = set.Text("name");
+    const std::string path =
+        "botfiles/" + PathLookedFor(set.Text("aifile"), FileHome::kLoose);
+    const bool is_own =
+        files.character &&
+        EqualIgnoringCase(path, "botfiles/" + files.character->game_path);
+    if (name.empty() || name == kNoDescriptionValue ||
+        std::ranges::count(names, ToLower(name)) > 0 ||
+        (!is_own && given.Open(path))) {
+      continue;
+    }
+    names.push_back(ToLower(name));
+    shown.push_back(Quoted(name));
+    if (line == 0) line = set.Line("name");
+  }
+  if (own.empty() || shown.empty()) return std::nullopt;
+  return Finding{
+      .id = "other-bot",
+      .severity = Severity::kHint,
+      .place = FilePlace{.file = files.description->name, .line = line},
+      .text = "The file describes " + Enumeration(shown) +
+              " as well. What is said here is about " +
+              Quoted(NameToAdd(files)) +
+              " alone: give the name of another bot to check that.",
+      .mends = {}};
+}
+
+bool GameFileWins(const GameFiles& game,
+                  const std::optional<GamePackage>& package,
+                  const std::string& path) {
+  if (!package) return false;
+  const auto found = game.entries().find(ToLower(path));
+  return found != game.entries().end() && found->second.WinsOver(*package);
+}
+
+std::optional<Finding> InPlaceOfGameFiles(
+    const GivenFiles& given, const std::string& name,
+    const std::optional<GamePackage>& package, const GameFiles* game) {
+  std::vector<std::string> hidden;
+  std::vector<std::string> passed_over;
+  std::string place;
+  for (const std::string& path : PathsOfGame(given)) {
+    const std::optional<GameFile> own = given.OpenInAnyCase(path);
+    if (!own) continue;
+    std::optional<std::string> of_game;
+    if (game != nullptr) {
+      of_game = game->Read(path);
+      if (!of_game || *of_game == own->bytes) continue;
+    } else if (std::ranges::find(kGameFiles, path) == kGameFiles.end()) {
+      continue;
+    }
+    const bool wins = game == nullptr || !GameFileWins(*game, package, path);
+    // The game's own packages replace each other's files.
+    if (!wins && IsOfGame(package->name)) continue;
+    // A list that nobody reads matters to those that stand in no other.
+    if (!wins && path == kBotListPath &&
+        (!SpeaksOf(*own, name) ||
+         SpeaksOf({.name = {}, .game_path = {}, .bytes = of_game.value_or("")},
+                  name))) {
+      continue;
+    }
+    (wins ? hidden : passed_over).push_back(ShownText(path));
+    if (place.empty()) place = own->name;
+  }
+  std::string text;
+  if (!hidden.empty()) {
+    text = Enumeration(hidden) +
+           (hidden.size() == 1 ? " takes the place of the game's own file"
+                               : " take the place of the game's own files") +
+           ", for all bots of the game. What this bot alone needs belongs into "
+           "a file of another name.";
+  }
+  if (!passed_over.empty()) {
+    text += (text.empty() ? "" : " ") + Enumeration(passed_over) +
+            (passed_over.size() == 1 ? " is never read" : " are never read") +
+            ": the game takes its own, out of a package whose name comes "
+            "later. What the bot needs belongs into a file of another name.";
+  }
+  if (text.empty()) return std::nullopt;
+  return Finding{
+      .id = "in-place-of-game-file",
+      .severity = hidden.empty() ? Severity::kHint : Severity::kWarning,
+      .place = FilePlace{.file = std::move(place)},
+      .text = std::move(text),
+      .mends = {}};
+}
+
+void TakeForCause(const BotFileSet& files, const IncludeLookup& with_games_own,
+                  Finding& hiding, std::vector<Finding>& findings) {
+  const auto is_error = [](const Finding& finding) {
+    return finding.severity == Severity::kError;
+  };
+  const auto error = std::ranges::find_if(findings, is_error);
+  if (error == findings.end()) return;
+  if (std::ranges::any_of(CheckFiles(files, with_games_own), is_error)) return;
+  const auto* const place = std::get_if<FilePlace>(&error->place);
+  hiding.severity = Severity::kError;
+  hiding.keeps_out = std::ranges::any_of(findings, &Finding::keeps_out);
+  hiding.text += " Without it this bot is good; with it the game stumbles";
+  if (place != nullptr) hiding.text += " in " + FilePlaceText(*place);
+  hiding.text += ". Remove it.";
+  if (hiding.keeps_out) hiding.text += " The game does not add the bot.";
+  std::erase_if(findings, is_error);
+}
+
+}  // namespace fragsmith

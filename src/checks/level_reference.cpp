@@ -1,0 +1,126 @@
+// What BotReader makes of the blocks of a character.
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "chat/vocabulary.h"
+#include "checks/bot_reader.h"
+#include "game/file_faults.h"
+#include "model/level.h"
+#include "support/text.h"
+
+namespace fragsmith {
+
+const CharacterLevel* BotReader::Level(int level) const {
+  const auto found = levels_.find(level);
+  return found == levels_.end() || !found->second ? nullptr : &*found->second;
+}
+
+/// Where a block of the same level follows; 0 where none does.
+int BotReader::LineOfSameBlock(const CharacterBlock& block) const {
+  if (!character_) return 0;
+  const std::vector<BlockAt> blocks = CharacterBlocks(*character_, game_);
+  const auto found = std::ranges::find_if(blocks, [&](const BlockAt& other) {
+    return other.level == block.level && other.line > block.line;
+  });
+  return found == blocks.end() ? 0 : found->line;
+}
+
+/// The keys of files, and of the chat's name, that a block lacks.
+std::string BotReader::MissingPaths(const CharacterLevel& level) const {
+  constexpr std::array kTexts = {kGameItemWeights, kGameWeaponWeights,
+                                 kGameChatFile, kGameChatName};
+  std::vector<std::string> missing;
+  for (const int number : kTexts) {
+    const auto found = level.block.values.find(number);
+    if (found != level.block.values.end() && found->second.is_own) continue;
+    missing.push_back(GameKeyName(number));
+  }
+  return Enumeration(missing);
+}
+
+/// A text of the character; null where there is none.
+const CharacterValue* BotReader::PathAt(const CharacterLevel& level, int number,
+                                        std::string_view key) {
+  const auto found = level.block.values.find(number);
+  const bool is_own_block = level.origin == CharacterOrigin::kOwn ||
+                            level.origin == CharacterOrigin::kOwnOther;
+  const std::string block = "Skill block " + std::to_string(level.block.level);
+  if (found == level.block.values.end() || !found->second.is_own) {
+    if (is_own_block) {
+      const int again = LineOfSameBlock(level.block);
+      Add("no-file-key", Severity::kError, CharacterName(), level.block.line,
+          again > 0 ? block + " stands twice, here and in line " +
+                          std::to_string(again) +
+                          ". The game takes this one, which has no " +
+                          MissingPaths(level) + ". Remove one of them."
+                    : block + " has no " + MissingPaths(level) +
+                          ", so the game takes what its default character "
+                          "has. Add what is missing.");
+    }
+    return found == level.block.values.end() ? nullptr : &found->second;
+  }
+  if (found->second.kind == CharacterValue::Kind::kText) {
+    return &found->second;
+  }
+  Add("number-for-text", Severity::kError, CharacterName(), found->second.line,
+      std::string(key) +
+          " must be a text in quotation marks, and the game finds a number. "
+          "Put it in quotation marks.");
+  return nullptr;
+}
+
+const std::optional<CharacterLevel>& BotReader::LoadLevel(int level) {
+  const auto [entry, is_new] = levels_.try_emplace(level);
+  std::optional<CharacterLevel>& loaded = entry->second;
+  if (!is_new) return loaded;
+  const GameFile* const file = character_ ? &*character_ : nullptr;
+  const std::size_t first = complaints_.list().size();
+  const auto read = [&](Complaints& complaints) {
+    loaded = LoadCharacterLevel(file, level, game_, complaints);
+    return loaded && loaded->origin == CharacterOrigin::kOwn;
+  };
+  if (file == nullptr) {
+    read(complaints_);
+    return loaded;
+  }
+  ReadOne(*file, true, read);
+  const bool has_it = loaded && loaded->origin == CharacterOrigin::kOwn;
+  if (!has_it && !complaints_.HasError(first)) TellMissingBlocks(*file);
+  return loaded;
+}
+
+/// One word for all of them.
+void BotReader::TellMissingBlocks(const GameFile& file) {
+  const std::vector<BlockAt> blocks = CharacterBlocks(file, game_);
+  std::vector<std::string> missing;
+  std::string twice;
+  int line = 0;
+  for (const int level : kLevelNumbers) {
+    const bool has_it = std::any_of(
+        blocks.begin(), blocks.end(),
+        [level](const BlockAt& block) { return block.level == level; });
+    if (!has_it) missing.push_back(std::to_string(level));
+  }
+  std::set<int> levels;
+  for (const BlockAt& block : blocks) {
+    if (levels.insert(block.level).second || line > 0) continue;
+    line = block.line;
+    twice = " Skill block " + std::to_string(block.level) +
+            " stands twice, here for the second time: correct its number.";
+  }
+  complaints_.Add(
+      "no-level", Severity::kError, file.name, line,
+      "This file has no block for skill " + Enumeration(missing) +
+          ", and the game takes the default character's, or another block." +
+          (line > 0 ? twice
+                    : " Each bot needs the blocks skill 1, skill 4 and skill "
+                      "5."));
+}
+
+}  // namespace fragsmith

@@ -1,0 +1,454 @@
+#include "checks/location_checks.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <iterator>
+#include <set>
+#include <string_view>
+#include <utility>
+
+#include "chat/chat_line.h"
+#include "chat/vocabulary.h"
+#include "checks/bot_checks.h"
+#include "checks/file_checks.h"
+#include "checks/installation_checks.h"
+#include "checks/layout_checks.h"
+#include "checks/unknown_values.h"
+#include "game/chat_message.h"
+#include "game/description_reader.h"
+#include "game/game_macros.h"
+#include "game/stand_ins.h"
+#include "game/weight_reader.h"
+#include "inplace/game_values.h"
+#include "inplace/game_weights.h"
+#include "install/packages/package.h"
+#include "model/characteristic_catalogue.h"
+#include "session/load_bot.h"
+#include "session/save_bot.h"
+#include "support/code_page.h"
+#include "support/files.h"
+#include "support/no_prompts.h"
+#include "support/text.h"
+
+namespace fragsmith {
+namespace {
+
+/// True where the file gives the game all that it asks for and a bot has.
+bool GivesMacros(const std::optional<GameFile>& file,
+                 const std::optional<GameMacros>& wanted) {
+  if (!wanted) return true;
+  if (!file) return false;
+  Complaints untold;
+  const std::vector<OwnMacro> given =
+      ReadGameWeights(*file, StandInGameFile, untold).macros;
+  return std::ranges::all_of(wanted->macros, [&](const auto& macro) {
+    return !macro.parameter ||
+           std::ranges::count(given, macro.name, &OwnMacro::name) > 0;
+  });
+}
+
+bool IsToldByFiles(std::string_view id) {
+  return std::any_of(BotChecks().begin(), BotChecks().end(),
+                     [id](const Check& check) {
+                       return check.id == id && check.is_told_by_files;
+                     });
+}
+
+/// Of which package the game takes the character file in place of this bot's;
+/// null when it takes the bot's own. Loose files come before packages.
+const GamePackage* ShadowingPackage(const GameData& game, std::string_view name,
+                                    const std::optional<GamePackage>& package) {
+  const auto found = game.bot_packages.find(ToLower(name));
+  const bool has_other = package && found != game.bot_packages.end() &&
+                         found->second.WinsOver(*package);
+  return has_other ? &found->second : nullptr;
+}
+
+bool IsError(const Finding& finding) {
+  return finding.severity == Severity::kError;
+}
+
+/// The bots of the game's list win, and so may those of its packages.
+void TakeNamesOfGame(const GameData& game,
+                     const std::optional<GamePackage>& package, bool hides_list,
+                     BotFileSet& files) {
+  if (!files.description) return;
+  const DescriptionPlace own = {.path = files.description->game_path,
+                                .package = package};
+  for (const auto& [name, known] : game.known_bots) {
+    const KnownBot* const winner = BotThatWins(game, name, own);
+    if (winner == nullptr || (hides_list && winner->is_of_list())) continue;
+    const bool is_of_bot = ShadowingPackage(game, BotOfPath(winner->character),
+                                            package) == nullptr;
+    files.names_taken.emplace(
+        name,
+        WinningDescription{.shown_path = ShownPlace(*winner),
+                           .character = is_of_bot ? winner->character : ""});
+  }
+}
+
+}  // namespace
+
+std::optional<InstalledGame> ReadInstalledGame(
+    const std::filesystem::path& game_folder) {
+  if (game_folder.empty()) return std::nullopt;
+  GameFiles files = GameFiles::Open(game_folder);
+  if (!files.is_game()) return std::nullopt;
+  GameData data = ReadGameData(files);
+  return InstalledGame{std::move(files), std::move(data)};
+}
+
+namespace {
+
+std::shared_ptr<const InstalledGame> WithPlayersFolder(
+    const BotLocation& location, const InstalledGame* game) {
+  if (game == nullptr) return nullptr;
+  std::optional<std::filesystem::path> folder =
+      PlayersFolderOf(location, game->files.folder());
+  if (!folder) return nullptr;
+  GameFiles files = game->files;
+  files.AddPlayersFolder(*std::move(folder), location.package.filename());
+  GameData data = ReadGameData(files);
+  return std::make_shared<InstalledGame>(
+      InstalledGame{std::move(files), std::move(data)});
+}
+
+}  // namespace
+
+LocationCheck::LocationCheck(const BotLocation& location,
+                             bool has_no_description, const InstalledGame* game)
+    : location_(location),
+      with_players_folder_(WithPlayersFolder(location, game)),
+      game_(with_players_folder_ ? with_players_folder_.get() : game),
+      given_(FilesOf(location_)),
+      hides_list_(
+          given_.Open(kBotListPath) &&
+          (game_ == nullptr ||
+           !GameFileWins(game_->files, Package(), std::string(kBotListPath)))),
+      on_disk_(
+          ReadBot(given_, location_.name, hides_list_, location_.listed_name)) {
+  BotFileSet& files = on_disk_.files;
+  if (game_ != nullptr && !hides_list_ && !files.description) TakeListOfGame();
+  files.has_no_description = has_no_description;
+  files.is_game_known = game_ != nullptr;
+  if (has_no_description) files.description.reset();
+  if (game_ == nullptr || on_disk_.is_in_bot_list) return;
+  TakeNamesOfGame(game_->data, Package(), hides_list_, files);
+}
+
+/// A bot without a description of its own may stand in the game's list.
+void LocationCheck::TakeListOfGame() {
+  const std::string path(kBotListPath);
+  std::optional<std::string> bytes = game_->files.Read(path);
+  if (!bytes) return;
+  GameFile list = {.name = PackageOf(path) + "/" + path,
+                   .game_path = path,
+                   .bytes = *std::move(bytes)};
+  if (!SpeaksOf(list, location_.name)) return;
+  on_disk_.files.description = std::move(list);
+  on_disk_.is_in_bot_list = true;
+}
+
+Bot LocationCheck::Read() const {
+  NoPrompts silent;
+  const ModelCatalogue no_models;
+  const BotList bots = BotList::Standard();
+  const bool has_description = !on_disk_.files.has_no_description;
+  LoadedBot loaded;
+  if (!given_.is_packed()) {
+    loaded = LoadBotFromFolder(
+        location_.name, location_.folder,
+        {.uses_layout = location_.uses_layout,
+         .loads_description = has_description},
+        {.models = no_models, .bots = bots, .prompts = silent});
+  } else {
+    const BotFileSet& files = on_disk_.files;
+    const auto read = [&](const BotFileMember& row) {
+      const std::optional<GameFile>& file = files.*row.member;
+      const bool is_description = row.file == BotFile::kDescription;
+      if (!file || (is_description && on_disk_.is_in_bot_list)) return;
+      ReadBotFile(row.file, WholeBot{}, file->bytes, location_.name, file->name,
+                  loaded);
+      loaded.files.insert_or_assign(
+          row.file, OriginFile{.path = location_.package,
+                               .entry = (is_description ? "" : "botfiles/") +
+                                        file->game_path,
+                               .fingerprint = FingerprintOf(file->bytes)});
+    };
+    // The description stands first there, and is read last.
+    std::for_each(std::next(kBotFileMembers.begin()), kBotFileMembers.end(),
+                  read);
+    read(kBotFileMembers.front());
+  }
+  TakeGameValues(loaded, has_description, no_models,
+                 [this](std::string_view path) { return LookUp(path); });
+  TakeValuesAsGame(loaded.bot, ReportOf(loaded, loaded.bot), no_models);
+  if (on_disk_.files.chat) {
+    TakeGameChats(
+        on_disk_.files.chat->bytes,
+        [this](std::string_view path) { return LookUp(path); }, loaded.bot);
+  }
+  return std::move(loaded.bot);
+}
+
+bool LocationCheck::HasFiles() const {
+  return std::ranges::any_of(kBotFileMembers, [this](const auto& row) {
+    return (on_disk_.files.*row.member).has_value();
+  });
+}
+
+std::vector<Finding> LocationCheck::InFiles() const {
+  const std::optional<Finding> too_deep = FilesTooDeep(given_, location_.name);
+  // Nothing that is said of missing files is news then.
+  if (too_deep && !on_disk_.files.character) return {*too_deep};
+  std::vector<Finding> findings = Check(on_disk_.files);
+  AddPackageFaults(given_, on_disk_.files, findings);
+  if (auto others = OthersInDescription(given_, on_disk_.files)) {
+    findings.push_back(*std::move(others));
+  }
+  if (too_deep) {
+    std::erase_if(findings, &Finding::keeps_out);
+    findings.insert(findings.begin(), *too_deep);
+  }
+  if (std::optional<Finding> hiding =
+          InPlaceOfGameFiles(given_, location_.name, Package(),
+                             game_ == nullptr ? nullptr : &game_->files)) {
+    TakeForCause(on_disk_.files, WithGamesOwn(), *hiding, findings);
+    findings.push_back(*std::move(hiding));
+  }
+  AddHowToPlay(findings);
+  return findings;
+}
+
+IncludeLookup LocationCheck::WithGamesOwn() const {
+  return [this](std::string_view path) {
+    std::optional<std::string> bytes;
+    if (!path.starts_with("bots/")) {
+      bytes = game_ == nullptr
+                  ? StandInGameFile(path)
+                  : game_->files.Read("botfiles/" + std::string(path));
+    }
+    return bytes ? bytes : LookUp(path);
+  };
+}
+
+BotFileSet LocationCheck::AsSaved(const Bot& bot) const {
+  BotFileSet as_saved = on_disk_.files;
+  for (const BotFileMember& row : kBotFileMembers) {
+    const std::string name =
+        GameTextFromPath(FileNameOf(row.file, bot)).value_or("");
+    const bool is_description = row.file == BotFile::kDescription;
+    as_saved.*row.member =
+        GameFile{.name = name,
+                 .game_path = (is_description ? "scripts/" : "bots/") + name,
+                 .bytes = BytesOf(row.file, bot, {})};
+  }
+  return as_saved;
+}
+
+std::vector<Finding> LocationCheck::InFilesAlone(const Bot& bot) const {
+  std::multiset<std::string_view> of_bot;
+  for (const Finding& finding : Check(AsSaved(bot))) of_bot.insert(finding.id);
+  std::vector<Finding> findings = InFiles();
+  std::erase_if(findings, [&of_bot](const Finding& finding) {
+    const auto same = of_bot.find(finding.id);
+    if (same == of_bot.end()) return false;
+    of_bot.erase(same);
+    return true;
+  });
+  return findings;
+}
+
+BrokenFiles LocationCheck::BrokenOnes(const Bot& bot) const {
+  const std::vector<Finding> findings = Check(on_disk_.files);
+  const std::ptrdiff_t faults = std::ranges::count_if(findings, IsError);
+  const BotFileSet as_saved = AsSaved(bot);
+  BrokenFiles broken;
+  for (const BotFileMember& row : kBotFileMembers) {
+    const std::optional<GameFile>& file = on_disk_.files.*row.member;
+    if (!file) continue;
+    const auto found = std::ranges::find_if(findings, [&](const Finding& one) {
+      const auto* const place = std::get_if<FilePlace>(&one.place);
+      return IsError(one) && place != nullptr && place->file == file->name;
+    });
+    if (found == findings.end()) continue;
+    BotFileSet with_one_anew = on_disk_.files;
+    (with_one_anew.*row.member)->bytes = (as_saved.*row.member)->bytes;
+    if (std::ranges::count_if(Check(with_one_anew), IsError) >= faults) {
+      continue;
+    }
+    const int line = std::get<FilePlace>(found->place).line;
+    broken.emplace(
+        row.file,
+        (line > 0 ? "Line " + std::to_string(line) + ": " : "") + found->text);
+  }
+  return broken;
+}
+
+std::vector<Finding> LocationCheck::Check(const BotFileSet& files) const {
+  return CheckFiles(files,
+                    [this](std::string_view path) { return LookUp(path); });
+}
+
+std::vector<Finding> LocationCheck::OfAll(const Bot& bot) const {
+  std::vector<Finding> findings = InFiles();
+  // Of files that the game does not find, or in which it sees nothing, no more
+  // is to be told.
+  const bool is_unreadable =
+      std::ranges::count(findings, "packed-unreadably", &Finding::id) > 0;
+  if (!HasFiles() || is_unreadable) return findings;
+  // How the bot is added stands at the end of all.
+  std::vector<Finding> last;
+  const auto of_bot = std::find_if(
+      findings.begin(), findings.end(), [](const Finding& finding) {
+        return finding.id == "loose-files" || finding.id == "how-to-add";
+      });
+  last.assign(std::make_move_iterator(of_bot),
+              std::make_move_iterator(findings.end()));
+  findings.erase(of_bot, findings.end());
+  std::vector<Finding> in_memory = InMemory(bot, true);
+  // The files as they are tell more than the bot that was read from them, and
+  // have no 0 that would need an explanation.
+  std::erase_if(in_memory, [](const Finding& finding) {
+    return IsToldByFiles(finding.id) || finding.id == "weight-set-elsewhere";
+  });
+  DropUnknownValues(
+      on_disk_.files, [this](std::string_view path) { return LookUp(path); },
+      findings, in_memory);
+  for (std::vector<Finding>* const more : {&in_memory, &last}) {
+    findings.insert(findings.end(), std::make_move_iterator(more->begin()),
+                    std::make_move_iterator(more->end()));
+  }
+  return findings;
+}
+
+PlacesInFiles LocationCheck::Places() const {
+  return {on_disk_.files,
+          [this](std::string_view path) { return LookUp(path); }};
+}
+
+std::vector<Finding> LocationCheck::InMemory(const Bot& bot,
+                                             bool is_as_in_files) const {
+  std::vector<Finding> findings =
+      CheckBot(bot, game_ == nullptr ? nullptr : &game_->data);
+  const bool gives_macros = GivesGameMacros();
+  std::erase_if(findings, [&](const Finding& finding) {
+    return (gives_macros && finding.id == "weights-of-other-macros") ||
+           IsNamedWithZero(finding, bot) || IsMacro(finding, bot);
+  });
+  DropUnreadWeights(bot, findings);
+  AddUnnumbered(bot, findings);
+  if (!is_as_in_files) return findings;
+  // A new package of the bot would have another name than where it lies.
+  std::erase_if(findings, [this](const Finding& finding) {
+    return finding.id == "files-shadowed" ||
+           (on_disk_.is_in_bot_list && finding.id == "name-taken");
+  });
+  const GamePackage* const shadowing =
+      game_ == nullptr
+          ? nullptr
+          : ShadowingPackage(game_->data, location_.name, Package());
+  if (shadowing != nullptr) {
+    findings.push_back({.id = "files-shadowed",
+                        .severity = Severity::kWarning,
+                        .place = kNameField,
+                        .text = ShadowedText(shadowing->name, Package()->name),
+                        .mends = {}});
+  }
+  return findings;
+}
+
+void LocationCheck::AddUnnumbered(const Bot& bot,
+                                  std::vector<Finding>& findings) const {
+  if (!unnumbered_) {
+    unnumbered_.emplace();
+    for (const BotFileMember& row : kBotFileMembers) {
+      const std::optional<GameFile>& file = on_disk_.files.*row.member;
+      if (!file || (row.file != BotFile::kWeaponWeights &&
+                    row.file != BotFile::kItemWeights)) {
+        continue;
+      }
+      const std::vector<ParameterId> found = WeightsWithoutNumber(
+          row.file, file->bytes,
+          [this](std::string_view path) { return LookUp(path); });
+      unnumbered_->insert(unnumbered_->end(), found.begin(), found.end());
+    }
+  }
+  for (const ParameterId id : *unnumbered_) {
+    if (IsAboveZero(bot.Parameter(id))) continue;
+    findings.push_back(
+        {.id = "weight-set-elsewhere",
+         .severity = Severity::kHint,
+         .place = id,
+         .text = "The 0 of " + QuotedName(id) +
+                 " is none of the bot's values: from its file the weight code "
+                 "of the game takes no number for it, or no single one.",
+         .mends = {}});
+  }
+}
+
+bool LocationCheck::GivesGameMacros() const {
+  return game_ != nullptr &&
+         GivesMacros(on_disk_.files.weapon_weights,
+                     game_->data.weapon_macros) &&
+         GivesMacros(on_disk_.files.item_weights, game_->data.item_macros);
+}
+
+std::optional<std::string> LocationCheck::LookUp(std::string_view path) const {
+  const std::string in_game = "botfiles/" + std::string(path);
+  std::optional<GameFile> own = given_.Open(in_game);
+  const bool is_own = own && (game_ == nullptr ||
+                              !GameFileWins(game_->files, Package(), in_game));
+  if (is_own) return std::move(own->bytes);
+  return game_ != nullptr ? game_->files.Read(in_game) : StandInGameFile(path);
+}
+
+std::string LocationCheck::PackageOf(const std::string& path) const {
+  if (game_ == nullptr) return "not among these files";
+  const auto& entries = game_->files.entries();
+  const auto found = entries.find(ToLower(path));
+  return found == entries.end() ? "the game's"
+                                : Utf8FromGameText(found->second.name);
+}
+
+/// Nothing for files in a folder.
+std::optional<GamePackage> LocationCheck::Package() const {
+  if (!given_.is_packed()) return std::nullopt;
+  std::optional<std::string> name =
+      GameTextFromPath(location_.package.filename());
+  if (!name) return std::nullopt;
+  return GamePackage{*std::move(name), with_players_folder_ != nullptr};
+}
+
+/// A word that the chat file defines itself is no word list.
+bool LocationCheck::IsMacro(const Finding& finding, const Bot& bot) const {
+  const std::optional<GameFile>& chat = on_disk_.files.chat;
+  if (finding.id != "chat-list-missing" || !chat) return false;
+  const auto& place = std::get<ChatPlace>(finding.place);
+  const ChatMessage message = ReadChatMessage(
+      ChatLineToFile(place.type, bot.ChatLine(place.type, place.line.value())));
+  return std::any_of(message.items.begin(), message.items.end(),
+                     [&chat](const ChatItem& item) {
+                       return item.kind == ChatItem::Kind::kWord &&
+                              Contains(chat->bytes,
+                                       "#define " + item.text + " ");
+                     });
+}
+
+/// A file may name the first line of a group with a 0 that it loses when the
+/// bot is saved: TAUNT0. The game has that line, if not the bare one.
+bool LocationCheck::IsNamedWithZero(const Finding& finding,
+                                    const Bot& bot) const {
+  const std::optional<GameFile>& chat = on_disk_.files.chat;
+  if (finding.id != "chat-list-missing" || game_ == nullptr || !chat) {
+    return false;
+  }
+  const auto& place = std::get<ChatPlace>(finding.place);
+  const ChatMessage message = ReadChatMessage(
+      ChatLineToFile(place.type, bot.ChatLine(place.type, place.line.value())));
+  const std::string name = message.items.front().text + "0";
+  return message.items.size() == 1 && game_->data.words.Find(name) != nullptr &&
+         Contains(chat->bytes, name);
+}
+
+}  // namespace fragsmith

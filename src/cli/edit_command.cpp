@@ -1,0 +1,199 @@
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "cli/bot_source.h"
+#include "cli/command.h"
+#include "cli/terminal.h"
+#include "inplace/bot_edits.h"
+#include "session/document_edits.h"
+#include "session/save_bot.h"
+#include "support/code_page.h"
+#include "support/files.h"
+#include "support/text.h"
+
+namespace fragsmith {
+namespace {
+
+struct EditOptions {
+  BotSource source;
+  std::vector<std::string> sets;
+  std::string document;
+  bool is_dry_run = false;
+};
+
+/// "PATH=VALUE"; nothing where there is no "=".
+std::optional<ValueAtPath> ValueIn(const std::string& text) {
+  const std::size_t sign = text.find('=');
+  if (sign == std::string::npos || sign == 0) return std::nullopt;
+  return ValueAtPath{text.substr(0, sign), text.substr(sign + 1)};
+}
+
+/// The bot as it is to be; nothing, told, where that cannot be.
+std::optional<Bot> EditedBotOf(const EditOptions& options,
+                               const std::vector<ValueAtPath>& values,
+                               const Bot& bot, CommandContext& context) {
+  std::string json;
+  if (!options.document.empty()) {
+    Result<std::string> bytes = ReadDocumentBytes(options.document, context);
+    if (!bytes) {
+      Fail(context, bytes.error());
+      return std::nullopt;
+    }
+    json = *std::move(bytes);
+  }
+  Notes notes;
+  Result<EditedBot> edited =
+      EditByDocument(bot, json, options.document, values, notes);
+  PrintNotes(context, notes);
+  if (!edited) {
+    Fail(context, edited.error());
+    return std::nullopt;
+  }
+  if (CheckAllIn(edited->texts, edited->bot, context.prompts)) {
+    return std::nullopt;
+  }
+  return std::move(edited->bot);
+}
+
+/// A package that is not the bot's own is left as its author made it.
+std::optional<Error> FaultOfPackage(const SourceBot& source, const Bot& after) {
+  if (!source.location || source.location->package.empty()) {
+    return std::nullopt;
+  }
+  const std::filesystem::path& package = source.location->package;
+  const std::string name = Utf8FromPath(package.filename());
+  const std::string own = Utf8FromPath(PackageNameOf(source.loaded.bot));
+  const std::string later = Utf8FromPath(PackageNameOf(after));
+  if (EqualIgnoringCase(name, own) && !EqualIgnoringCase(name, later)) {
+    return Error{.what = "Under its new name the bot's own package would be " +
+                         later + ".",
+                 .file = Utf8FromPath(package),
+                 .line = 0,
+                 .advice = "Load the bot, and make it anew under that name."};
+  }
+  if (EqualIgnoringCase(name, own)) return std::nullopt;
+  return Error{.what = "The package is not this bot's own, " + own + ".",
+               .file = Utf8FromPath(package),
+               .line = 0,
+               .advice = "Take the bot's files out of it, and edit these."};
+}
+
+void TellRefusals(const BotEdits& edits, CommandContext& context) {
+  for (const auto& [kind, edit] : edits.files) {
+    if (edit.outcome != FileEdit::Outcome::kNotEditable) continue;
+    Fail(context, edit.reason);
+    if (edit.losses.empty()) continue;
+    context.err << "A file written anew would lose or change:\n";
+    for (const std::string& loss : edit.losses) {
+      context.err << "  " << Printable(loss) << '\n';
+    }
+  }
+  for (const std::string& name : edits.homeless) {
+    Fail(context, {.what = name + " stands in none of the bot's files.",
+                   .file = {},
+                   .line = 0,
+                   .advice = {}});
+  }
+}
+
+ExitStatus RunEdit(const EditOptions& options, CommandContext& context) {
+  std::vector<ValueAtPath> values;
+  for (const std::string& text : options.sets) {
+    std::optional<ValueAtPath> value = ValueIn(text);
+    if (!value) {
+      context.err << "fragsmith-cli: --set " << Printable(text)
+                  << ": PATH=VALUE is wanted.\n";
+      return kWrongUsage;
+    }
+    values.push_back(std::move(*value));
+  }
+  if (values.empty() && options.document.empty()) {
+    context.err << "fragsmith-cli: Give --set or --from: what is to change.\n";
+    return kWrongUsage;
+  }
+  const std::string& game = options.source.game_folder;
+  if (!game.empty() && !IsFolder(PathFromBytes(game))) {
+    return Fail(context, {.what = "There is no such game folder.",
+                          .file = game,
+                          .line = 0,
+                          .advice = "Check the name."});
+  }
+  const BaseLists lists = LoadListsFor(context);
+  const BotSourceOutcome outcome =
+      ReadBotSource(options.source, lists.models, lists.bots, context);
+  if (!outcome.bot) return outcome.refusal;
+  const LoadedBot& loaded = outcome.bot->loaded;
+  std::optional<Bot> after = EditedBotOf(options, values, loaded.bot, context);
+  if (!after) return kFailed;
+  for (const auto& [kind, fault] : loaded.unread) {
+    if (ChangesIn(kind, loaded.bot, *after).empty()) continue;
+    return Fail(context, fault);
+  }
+  const IncludeLookup look_up =
+      GameLookUpFor(options.source, outcome.bot->location, context);
+  const Notes kept =
+      KeepLinesElsewhere(loaded.files, loaded.bot, *after, look_up);
+  BotEdits edits = EditBotFiles(loaded.files, loaded.bot, *after, look_up);
+  if (!edits.IsEditable()) {
+    TellRefusals(edits, context);
+    return kFailed;
+  }
+  PrintNotes(context, kept);
+  if (!edits.HasEdits()) return kDone;
+  if (const auto fault = FaultOfPackage(*outcome.bot, *after)) {
+    return Fail(context, *fault);
+  }
+  for (const auto& [kind, edit] : edits.files) {
+    if (edit.outcome == FileEdit::Outcome::kEdited) {
+      PrintNotes(context, edit.notes);
+    }
+  }
+  if (options.is_dry_run) {
+    context.out << DiffOf(edits);
+    return kDone;
+  }
+  const Result<void> written = WriteEdits(edits);
+  if (!written) return Fail(context, written.error());
+  for (const auto& [kind, edit] : edits.files) {
+    if (edit.outcome != FileEdit::Outcome::kEdited) continue;
+    context.out << BytesFromPath(edit.origin.path);
+    if (!edit.origin.is_on_disk()) {
+      context.out << '/' << Printable(Utf8FromGameText(edit.origin.entry));
+    }
+    context.out << '\n';
+  }
+  return kDone;
+}
+
+}  // namespace
+
+void AddEditCommand(CLI::App& app, CommandContext& context) {
+  CLI::App& command = AddCommand(
+      app, "edit",
+      "Change values in the files of a bot and leave all else in them as it "
+      "is; exit status 0 done, 1 refused, 2 wrong usage",
+      context);
+  auto options = std::make_shared<EditOptions>();
+  AddBotSource(command, options->source);
+  AddGameFolder(command, options->source);
+  command
+      .add_option("--set", options->sets,
+                  "A value by its path in the document, such as "
+                  "weaponWeights.W_RAILGUN=150; may be given again")
+      ->type_name("PATH=VALUE")
+      ->allow_extra_args(false);
+  command
+      .add_option("--from", options->document,
+                  "A document, or - for standard input: what differs from it "
+                  "is changed; keys that it lacks stay")
+      ->type_name("DOCUMENT");
+  command.add_flag("--dry-run", options->is_dry_run,
+                   "Print what would change as a unified diff, write nothing");
+  command.callback([options, &context] {
+    context.run = [options, &context] { return RunEdit(*options, context); };
+  });
+}
+
+}  // namespace fragsmith

@@ -1,0 +1,66 @@
+#include "cli/engine_options.h"
+
+#include <cstdlib>
+
+#include "support/files.h"
+#include "trial/game_trial.h"
+
+namespace fragsmith {
+namespace fs = std::filesystem;
+namespace {
+
+fs::path FindServer() {
+  const char* const path = std::getenv("PATH");  // NOLINT(*-mt-unsafe)
+  for (const fs::path& engine :
+       FindEngines(EngineFolders(path == nullptr ? "" : path))) {
+    if (IsDedicatedServer(engine)) return engine;
+  }
+  return {};
+}
+
+}  // namespace
+
+void AddEngineOptions(CLI::App& command, EngineOptions& options) {
+  command
+      .add_option("--engine", options.engine,
+                  "The dedicated server; else the first that is found")
+      ->check(CLI::ExistingFile)
+      ->type_name("PROGRAM");
+  command
+      .add_option("--data", options.data,
+                  "The folder that holds the game folder; else the engine's "
+                  "own")
+      ->check(CLI::ExistingDirectory)
+      ->type_name("DIR");
+  command
+      .add_option("--game", options.game,
+                  "The game folder: baseq3, or baseoa where only that is there")
+      ->type_name("NAME");
+  command
+      .add_option("--map", options.map,
+                  "The map: q3dm1, or oa_dm1 for baseoa; for matches also "
+                  "several, which take turns: q3dm1,q3dm17")
+      ->type_name("NAME");
+}
+
+std::optional<ChosenEngine> ChooseEngine(const EngineOptions& options,
+                                         CommandContext& context) {
+  ChosenEngine chosen;
+  chosen.engine = options.engine.empty()
+                      ? FindServer()
+                      : fs::absolute(PathFromBytes(options.engine));
+  if (chosen.engine.empty()) {
+    context.err << "No dedicated server of the game was found; give one with "
+                   "--engine.\n";
+    return std::nullopt;
+  }
+  if (!options.data.empty()) {
+    chosen.data = fs::absolute(PathFromBytes(options.data));
+  }
+  chosen.game = options.game.empty() ? DefaultGame(chosen.engine, chosen.data)
+                                     : options.game;
+  chosen.map = options.map.empty() ? DefaultMap(chosen.game) : options.map;
+  return chosen;
+}
+
+}  // namespace fragsmith

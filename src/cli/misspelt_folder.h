@@ -1,0 +1,16 @@
+#ifndef FRAGSMITH_CLI_MISSPELT_FOLDER_H_
+#define FRAGSMITH_CLI_MISSPELT_FOLDER_H_
+
+#include <filesystem>
+#include <string>
+
+namespace fragsmith {
+
+/// What botfiles/bots is called in this folder, or in the one that this file or
+/// folder of a bot belongs to, where it has other capitals than the game looks
+/// for. Empty where it is right, and where capitals do not count.
+std::string MisspeltBotsFolder(const std::filesystem::path& source);
+
+}  // namespace fragsmith
+
+#endif  // FRAGSMITH_CLI_MISSPELT_FOLDER_H_

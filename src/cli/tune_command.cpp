@@ -1,0 +1,214 @@
+#include <memory>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "chat/vocabulary.h"
+#include "cli/bot_source.h"
+#include "cli/command.h"
+#include "cli/engine_options.h"
+#include "cli/match_player.h"
+#include "cli/match_source.h"
+#include "cli/table.h"
+#include "cli/terminal.h"
+#include "model/level.h"
+#include "session/bot_difference.h"
+#include "session/bot_document.h"
+#include "support/files.h"
+#include "support/system/interruption.h"
+#include "trial/match_words.h"
+#include "trial/tune.h"
+
+namespace fragsmith {
+namespace {
+
+constexpr double kPercent = 100;
+
+struct TuneOptions {
+  std::string bot;
+  std::string opponent;
+  EngineOptions engine;
+  double share = 50;
+  double margin = 5;
+  double skill = 4;
+  int minutes = 5;
+  int games = 1000;
+  int jobs = DefaultJobs();
+  std::string output;
+};
+
+void PrintEnds(std::ostream& out) {
+  std::vector<std::vector<std::string>> rows = {
+      {"what is moved, at all levels", "weak", "strong"}};
+  for (const StrengthEnds& ends : AllStrengthEnds()) {
+    constexpr int kDigits = 2;
+    const std::string title = ParameterTitle({Level::k4, ends.index});
+    rows.push_back({title.substr(0, title.find(',')), Fixed(ends.weak, kDigits),
+                    Fixed(ends.strong, kDigits)});
+  }
+  PrintRows(rows, out);
+  out << '\n';
+}
+
+void PrintStep(const TuneStep& step, std::ostream& out) {
+  constexpr int kDigits = 3;
+  out << "strength " << Fixed(step.strength, kDigits) << ": "
+      << Shown(step.Share(), kPercent, 0, " %") << " in " << step.matches.size()
+      << " matches\n"
+      << std::flush;
+}
+
+/// Plays the matches of one strength.
+MatchRunEnd PlayStep(const TuneOptions& options, const MatchServer& server,
+                     const MatchPlan& plan, int games, Tuner& tuner,
+                     CommandContext& context) {
+  MatchPlayer player(games, context);
+  player.match_at = [&plan](int number) { return MatchOf(plan, number); };
+  player.take = [&tuner](int /*number*/, const PlayedMatch& played) {
+    return tuner.Take(TallyOf(played));
+  };
+  return RunMatches({.server = server, .jobs = options.jobs}, player);
+}
+
+std::string EndText(const Tuner& tuner, double wished) {
+  const std::string share = Fixed(wished, 0) + " %";
+  switch (tuner.state()) {
+    case TuneState::kPlaying:
+      return "The matches did not suffice to settle it.";
+    case TuneState::kFound:
+      return "The bot takes " + share + ", within the margin.";
+    case TuneState::kOutOfReach:
+      return "Between the two ends, the bot does not come to " + share + ".";
+    case TuneState::kTooFine:
+      return "The bot does not come nearer to " + share +
+             ": what it takes leaps where its values hardly differ.";
+  }
+  return {};
+}
+
+ExitStatus TellTuned(const TuneOptions& options, const Tuner& tuner,
+                     const Bot& bot, CommandContext& context) {
+  const TuneStep& last = tuner.steps().back();
+  std::size_t matches = 0;
+  for (const TuneStep& step : tuner.steps()) matches += step.matches.size();
+  context.out << '\n'
+              << EndText(tuner, options.share) << " It took "
+              << Shown(last.Share(), kPercent, 0, " %")
+              << " at the last strength; " << matches
+              << " matches were played.\n\n";
+  const Bot tuned = WithStrength(bot, last.strength);
+  for (const BotDifference& difference : CompareBots(bot, tuned)) {
+    context.out << difference.title << ": " << Printable(difference.left)
+                << " -> " << Printable(difference.right) << '\n';
+  }
+  if (!options.output.empty()) {
+    const Result<void> saved =
+        SaveFile(PathFromBytes(options.output), WriteBotDocument(tuned));
+    if (!saved) return Fail(context, saved.error());
+  }
+  return tuner.state() == TuneState::kFound ? kDone : kWarned;
+}
+
+ExitStatus RunTune(const TuneOptions& options, CommandContext& context) {
+  const std::optional<ChosenEngine> chosen =
+      ChooseEngine(options.engine, context);
+  if (!chosen) return kWrongUsage;
+  const std::optional<BotSource> source = MatchSourceOf(options.bot);
+  if (!source) {
+    context.err << "The bot must have files or a document of its own.\n";
+    return kWrongUsage;
+  }
+  const Interruption interruption;
+  const BotSourceOutcome read = ReadBotOrDocument(*source, context);
+  if (!read.bot) return read.refusal;
+  const Bot& bot = read.bot->loaded.bot;
+  MatchBotOutcome opponent = ReadMatchBot(options.opponent, context);
+  if (!opponent.bot) return opponent.refusal;
+  opponent.bot->skill = options.skill;
+  const MatchServer server = {
+      .engine = chosen->engine, .data = chosen->data, .game = chosen->game};
+
+  PrintEnds(context.out);
+  Tuner tuner(options.share / kPercent, options.margin / kPercent);
+  int left = options.games;
+  while (tuner.state() == TuneState::kPlaying && left > 0) {
+    MatchBotOutcome moved =
+        MatchBotOfModel(WithStrength(bot, tuner.strength()), context);
+    if (!moved.bot) return moved.refusal;
+    moved.bot->skill = options.skill;
+    const std::size_t step = tuner.steps().size() - 1;
+    const MatchPlan plan = {.bots = {std::move(*moved.bot), *opponent.bot},
+                            .maps = MapsIn(chosen->map),
+                            .minutes = options.minutes};
+    const MatchRunEnd end =
+        PlayStep(options, server, plan, left, tuner, context);
+    const TuneStep& played = tuner.steps()[step];
+    if (played.matches.empty()) return kFailed;
+    PrintStep(played, context.out);
+    left -= static_cast<int>(played.matches.size());
+    if (end == MatchRunEnd::kFailed || end == MatchRunEnd::kBrokenOff) break;
+  }
+  return TellTuned(options, tuner, bot, context);
+}
+
+}  // namespace
+
+void AddTuneCommand(CLI::App& app, CommandContext& context) {
+  CLI::App& command = AddCommand(
+      app, "tune",
+      "Move the levels of a bot between a weak and a strong end until it takes "
+      "the wished share of the points against an opponent, by matches on a "
+      "dedicated server; exit status 0 when it does, 3 when no strength was "
+      "found that does, 1 when no match was played",
+      context);
+  auto options = std::make_shared<TuneOptions>();
+  command
+      .add_option("BOT", options->bot,
+                  "Files of a bot or a document, as for match")
+      ->required();
+  command
+      .add_option("OPPONENT", options->opponent,
+                  "The same, or a bot of the installed game")
+      ->required();
+  constexpr double kMinShare = 10;
+  constexpr double kMaxShare = 90;
+  command
+      .add_option("--share", options->share,
+                  "The wished share in a hundred, 10 to 90; 50 without it")
+      ->check(CLI::Range(kMinShare, kMaxShare));
+  constexpr double kMinMargin = 2;
+  constexpr double kMaxMargin = 9;
+  command
+      .add_option("--margin", options->margin,
+                  "How near it is to be, in points in a hundred; 5 without it")
+      ->check(CLI::Range(kMinMargin, kMaxMargin));
+  command.add_option("--skill", options->skill, "Of both; 4 without it")
+      ->check(CLI::Range(1.0, 5.0));
+  constexpr int kMaxMinutes = 600;
+  command
+      .add_option("--minutes", options->minutes,
+                  "Of game time for each match; 5 without it")
+      ->check(CLI::Range(1, kMaxMinutes));
+  constexpr int kMaxGames = 100'000;
+  command
+      .add_option("--games", options->games,
+                  "How many matches at most; 1000 without it")
+      ->check(CLI::Range(1, kMaxGames));
+  constexpr int kMaxJobs = 256;
+  command
+      .add_option("--jobs", options->jobs,
+                  "How many matches at once; as many as there are cores "
+                  "without it")
+      ->check(CLI::Range(1, kMaxJobs));
+  AddEngineOptions(command, options->engine);
+  command
+      .add_option("--output", options->output,
+                  "Write the bot as it came out as a document")
+      ->type_name("DOCUMENT");
+  command.callback([options, &context] {
+    context.run = [options, &context] { return RunTune(*options, context); };
+  });
+}
+
+}  // namespace fragsmith

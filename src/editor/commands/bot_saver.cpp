@@ -1,0 +1,415 @@
+#include "editor/commands/bot_saver.h"
+
+#include <map>
+#include <memory>
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "checks/bot_location.h"
+#include "checks/location_checks.h"
+#include "game/game_lookup.h"
+#include "inplace/described_bots.h"
+#include "inplace/game_macro_files.h"
+#include "inplace/keep_files.h"
+#include "inplace/save_in_place.h"
+#include "support/files.h"
+#include "support/no_prompts.h"
+
+namespace fragsmith {
+namespace fs = std::filesystem;
+namespace {
+
+using Files = std::map<BotFile, fs::path>;
+
+std::vector<fs::path> PathsOf(const Files& files) {
+  std::vector<fs::path> paths;
+  paths.reserve(files.size());
+  for (const auto& [file, path] : files) paths.push_back(path);
+  return paths;
+}
+
+std::string Names(const Files& files) {
+  std::string text;
+  for (const auto& [file, path] : files) {
+    if (!text.empty()) text += ", ";
+    text += Utf8FromPath(path.filename());
+  }
+  return text;
+}
+
+/// "'A' was", or "'A'\n'B'\nwere" for more than one; or with another verb.
+std::string Subject(const std::vector<fs::path>& paths,
+                    const std::string& for_one = "was",
+                    const std::string& for_more = "were") {
+  std::string text;
+  for (const fs::path& path : paths) {
+    if (!text.empty()) text += "\n";
+    text += "'" + Utf8FromPath(path) + "'";
+  }
+  return text + (paths.size() == 1 ? " " + for_one : "\n" + for_more);
+}
+
+std::string Object(std::size_t count) { return count == 1 ? "it" : "them"; }
+
+std::string OtherBotsGo(const std::string& names) {
+  return "Other bots in it, which would go: " + names + ". ";
+}
+
+/// Those of the plan that are not there yet.
+Files NewOnes(const SavePlan& plan) {
+  Files files = plan.files;
+  std::erase_if(files, [](const auto& one) { return IsFile(one.second); });
+  return files;
+}
+
+}  // namespace
+
+BotSaver::Extras BotSaver::Offer() const {
+  return {.keeps_files = HasFilesToKeep(current_.bot(), home()),
+          .game_macros = !OtherMacrosFor(home().files, Game()).empty()};
+}
+
+BotSaver::Outcome BotSaver::SaveTo(const SaveTarget& target, Extras extras) {
+  SavePlan plan = PlanOf(current_.bot(), target);
+  Notes notes;
+  if (extras.keeps_files && HasFilesToKeep(current_.bot(), home())) {
+    notes = KeepAuthorsFiles(current_.bot(), home(), Game(),
+                             AskForNumber(state_.prompts), plan);
+  }
+  if (extras.game_macros) {
+    WriteGameMacros(OtherMacrosFor(home().files, Game()), current_.bot(),
+                    AuthorOf(state_.settings), home().files, plan);
+  }
+  if (!MayWriteOver(plan) || !MayDropFiles(plan) || !MayDropBots(plan) ||
+      !MayReplaceOthers(plan) || !MayDescribeTwice(plan)) {
+    return {};
+  }
+  Outcome outcome = Write(plan, false, true);
+  if (!outcome.text.isEmpty() && !notes.empty()) TellNotKept(notes);
+  if (outcome.saved) {
+    home().target = target;
+    home().left_package.reset();
+    if (!target.options.makes_package) home().package.reset();
+  }
+  return outcome;
+}
+
+std::optional<BotSaver::Outcome> BotSaver::SaveAgain() {
+  TakeUpEarlier(current_.bot(), home());
+  std::optional<SavePlan> plan = PlanOfSaveAgain(current_.bot(), home());
+  if (!plan) return SaveIntoPackage();
+  if (!MayMakeAnew(*plan)) return Outcome{};
+  const Author author = AuthorOf(state_.settings);
+  const IncludeLookup game = Game();
+  const SaveInPlace save = {current_.bot(), home(),         author,
+                            game,           state_.prompts, Broken()};
+  const InPlacePlan in_place = PlanInPlace(save, *plan);
+  if (in_place.is_cancelled) return Outcome{};
+  Notes not_kept;
+  if (HasNewName(*plan, home())) not_kept = KeepFilesUnderNewName(save, *plan);
+  const Unread unread = AskAboutUnread(*plan);
+  if (unread == Unread::kCancelled) return Outcome{};
+  const bool leaves_changes =
+      in_place.leaves_changes || unread == Unread::kLeft;
+  if (unread == Unread::kNoneLeft) AskAboutPackage(*plan);
+  if (HasNewName(*plan, home()) && !MayDescribeTwice(*plan)) return Outcome{};
+  if (plan->files.empty() && !plan->package) {
+    if (leaves_changes || !in_place.left_broken.empty()) {
+      if (!leaves_changes) current_.SetChanged(false);
+      return Outcome{.text = QStringLiteral("Nothing was written."),
+                     .saved = {}};
+    }
+    current_.SetChanged(false);
+    return Outcome{.text = QStringLiteral("The files say all this already; "
+                                          "nothing was written."),
+                   .saved = {}};
+  }
+  if (!MayWriteOver(*plan)) return Outcome{};
+  if (const Result<void> kept = WriteBackups(in_place); !kept) {
+    Tell(kept.error());
+    return Outcome{};
+  }
+  const Files made = NewOnes(*plan);
+  Outcome outcome = Write(*plan, leaves_changes, false);
+  const auto chat = home().files.find(BotFile::kChat);
+  if (chat != home().files.end()) chat->second.spellings = in_place.spellings;
+  if (outcome.text.isEmpty()) return outcome;
+  if (!not_kept.empty()) TellNotKept(not_kept);
+  if (!made.empty()) {
+    outcome.text +=
+        QStringLiteral(" New: %1.").arg(QString::fromStdString(Names(made)));
+  }
+  // That what was not edited stays as it is goes without saying.
+  for (const BotFile file : in_place.unchanged) plan->left_alone.erase(file);
+  if (!plan->left_alone.empty()) {
+    outcome.text += QStringLiteral(" Left as it is: %1.")
+                        .arg(QString::fromStdString(Names(plan->left_alone)));
+  }
+  return outcome;
+}
+
+BotSaver::Unread BotSaver::AskAboutUnread(SavePlan& plan) {
+  Files unread =
+      TakeOutUnread(plan, current_.bot(), home(), AuthorOf(state_.settings));
+  if (unread.empty()) return Unread::kNoneLeft;
+  const std::string them = Object(unread.size());
+  const std::string others = unread.contains(BotFile::kDescription)
+                                 ? BotsThatGo(plan, current_.bot())
+                                 : std::string();
+  enum : std::size_t { kCancel, kLeave, kReplace };
+  const std::size_t choice = state_.prompts.Choose(
+      std::string(kProgramTitle),
+      Subject(PathsOf(unread)) + " not read with this bot. " +
+          (others.empty() ? others : OtherBotsGo(others)) +
+          "Do you want to replace " + them + "?",
+      {"Cancel", "Save the rest", "Replace " + them});
+  if (choice == kCancel) return Unread::kCancelled;
+  if (choice == kReplace) return Unread::kNoneLeft;
+  for (const auto& [file, path] : unread) plan.files.erase(file);
+  plan.left_alone.merge(unread);
+  // One that is made would be half of this bot and half of another.
+  plan.package.reset();
+  return Unread::kLeft;
+}
+
+void BotSaver::AskAboutPackage(SavePlan& plan) {
+  const auto is_own = [this](const fs::path& path) {
+    return home().package && home().package->path == path;
+  };
+  if (plan.package) {
+    if (is_own(*plan.package) || !IsFile(*plan.package)) return;
+    plan.package.reset();  // That of another bot, until the user says so.
+  }
+  const std::optional<PackageBeside> beside =
+      FindPackageBeside(plan, current_.bot());
+  if (!beside || home().left_package == beside->path) return;
+  if (is_own(beside->path) || MayRenew(*beside)) {
+    plan.package = beside->path;
+  } else {
+    home().left_package = beside->path;
+  }
+}
+
+bool BotSaver::MayDropFiles(const SavePlan& plan) {
+  const std::size_t others =
+      plan.package ? OtherFilesIn(*plan.package, current_.bot()) : 0;
+  return others == 0 ||
+         state_.prompts.Confirm(std::string(kProgramTitle),
+                                "'" + Utf8FromPath(*plan.package) +
+                                    "' is there already. " + WhatGoes(others) +
+                                    " Do you want to replace it?");
+}
+
+bool BotSaver::MayDropBots(const SavePlan& plan) {
+  const std::string others = BotsThatGo(plan, current_.bot());
+  return others.empty() ||
+         state_.prompts.Confirm(
+             std::string(kProgramTitle),
+             "'" + Utf8FromPath(plan.files.at(BotFile::kDescription)) +
+                 "' is there already. " + OtherBotsGo(others) +
+                 "Do you want to replace it?");
+}
+
+bool BotSaver::MayReplaceOthers(const SavePlan& plan) {
+  const std::vector<fs::path> others = MadeByOthers(plan, home());
+  return others.empty() ||
+         state_.prompts.Confirm(
+             std::string(kProgramTitle),
+             Subject(others) +
+                 " not made by Fragsmith, and not read with this bot. Do you "
+                 "want to replace " +
+                 Object(others.size()) + "?");
+}
+
+bool BotSaver::MayDescribeTwice(const SavePlan& plan) {
+  const std::string twice = NameDescribedTwice(plan, current_.bot());
+  return twice.empty() ||
+         state_.prompts.Confirm(std::string(kProgramTitle),
+                                twice + " Do you want to save it so?");
+}
+
+bool BotSaver::MayRenew(const PackageBeside& beside) {
+  std::string text =
+      "'" + Utf8FromPath(beside.path) +
+      "' lies there too, and the game takes the bot out of it and not from the "
+      "files. Do you want to make it anew?";
+  if (beside.other_files > 0) text += " " + WhatGoes(beside.other_files);
+  return state_.prompts.Confirm(std::string(kProgramTitle), text);
+}
+
+bool BotSaver::MayWriteOver(const SavePlan& plan) {
+  const std::vector<fs::path> changed = ChangedByOthers(plan, home());
+  return changed.empty() ||
+         state_.prompts.Confirm(std::string(kProgramTitle),
+                                Subject(changed) +
+                                    " changed since the bot was read or saved "
+                                    "here. Do you want to "
+                                    "overwrite " +
+                                    Object(changed.size()) + "?");
+}
+
+bool BotSaver::MayMakeAnew(SavePlan& plan) {
+  const std::vector<fs::path> gone = GoneSince(plan, home());
+  const std::optional<fs::path> list = ListWithoutBot(plan, home());
+  std::string text;
+  if (!gone.empty()) {
+    text = Subject(gone, "is", "are") +
+           " not there any more. Do you want to make " + Object(gone.size()) +
+           " anew?";
+    const bool is_package = gone.size() == 1 && gone.front() == plan.package;
+    if (!is_package) {
+      text += " Comments and lines of " +
+              std::string(gone.size() == 1 ? "its" : "their") +
+              " author's own are lost.";
+    }
+  }
+  if (list) {
+    if (!text.empty()) text += "\n\n";
+    text += "'" + Utf8FromPath(*list) +
+            "' does not describe the bot any more. Do you want to make '" +
+            Utf8FromPath(plan.files.at(BotFile::kDescription)) + "'?";
+  }
+  if (text.empty()) return true;
+  if (!state_.prompts.Confirm(std::string(kProgramTitle), text)) return false;
+  AddMissingFolders(plan);
+  return true;
+}
+
+BotSaver::Outcome BotSaver::Write(const SavePlan& plan, bool leaves_changes,
+                                  bool has_box) {
+  NoPrompts silent;
+  Prompts& boxes = has_box ? state_.prompts : silent;
+  const SavedBot saved =
+      SaveFiles(current_.bot(), plan, AuthorOf(state_.settings), boxes);
+  if (!has_box && saved.counts_package && saved.error) Tell(*saved.error);
+  if (saved.counts_package) ++state_.settings.Bots;
+  Remember(saved, plan, home());
+  RememberValues(saved, plan, leaves_changes);
+  if (saved.files.size() < plan.files.size()) {
+    TellHalfWritten(plan, saved);
+    return {};
+  }
+  const fs::path& first = plan.files.contains(BotFile::kCharacteristics)
+                              ? plan.files.at(BotFile::kCharacteristics)
+                              : plan.left_alone.at(BotFile::kCharacteristics);
+  std::string place = Utf8FromPath(FolderOf(plan));
+  if (saved.package && !has_box) {
+    place += ", with " + Utf8FromPath(saved.package->path.filename());
+  }
+  Outcome outcome = {.text = QStringLiteral("The bot was written to %1.")
+                                 .arg(QString::fromStdString(place)),
+                     .saved = {}};
+  if (!leaves_changes) {
+    outcome.saved = first;
+    current_.SetChanged(false);
+  }
+  return outcome;
+}
+
+void BotSaver::RememberValues(const SavedBot& saved, const SavePlan& plan,
+                              bool leaves_changes) {
+  const bool is_whole = saved.files.size() == plan.files.size();
+  std::vector<BotFile> left;
+  for (const auto& [file, path] : plan.files) {
+    const auto written = saved.files.find(file);
+    const auto known = home().files.find(file);
+    const bool is_done = written != saved.files.end() &&
+                         known != home().files.end() &&
+                         known->second == written->second;
+    if (!is_done) left.push_back(file);
+  }
+  for (const auto& [file, path] : plan.left_alone) {
+    if (leaves_changes || !is_whole) left.push_back(file);
+  }
+  const Bot* const before =
+      home().saved ? home().saved.get() : home().loaded.get();
+  home().saved = std::make_shared<const Bot>(AsWritten(
+      before != nullptr ? *before : current_.bot(), current_.bot(), left));
+}
+
+std::optional<BotSaver::Outcome> BotSaver::SaveIntoPackage() {
+  if (!IsInOwnPackage(current_.bot(), home())) return std::nullopt;
+  const std::filesystem::path package = home().files.begin()->second.path;
+  if (!IsFile(package)) {
+    Tell({.what = "The package is not there any more.",
+          .file = Utf8FromPath(package),
+          .line = 0,
+          .advice = "Choose a folder for the bot's files."});
+    return std::nullopt;
+  }
+  const Author author = AuthorOf(state_.settings);
+  const Result<std::optional<InPlacePlan>> saved = SaveIntoOwnPackage(
+      {current_.bot(), home(), author, Game(), state_.prompts, Broken()},
+      home());
+  if (!saved) {
+    Tell(saved.error());
+    return Outcome{};
+  }
+  if (!*saved) return Outcome{};
+  if (!(*saved)->leaves_changes) current_.SetChanged(false);
+  return Outcome{
+      .text = QStringLiteral("The bot was written into %1.")
+                  .arg(QString::fromStdString(Utf8FromPath(package))),
+      .saved = {}};
+}
+
+std::string BotSaver::Changes() {
+  const Author author = AuthorOf(state_.settings);
+  return ChangesToShow(
+      {current_.bot(), home(), author, Game(), state_.prompts});
+}
+
+BrokenFiles BotSaver::Broken() const {
+  // An edit changes what was edited. Who saves without one wants the files
+  // good.
+  if (current_.is_changed()) return {};
+  const std::optional<BotLocation> location = LocationOf(home());
+  if (!location) return {};
+  const std::optional<InstalledGame> game =
+      ReadInstalledGame(PathFromBytes(state_.settings.Q3Baseq3));
+  const LocationCheck check(*location, !home().load_options.loads_description,
+                            game ? &*game : nullptr);
+  return check.BrokenOnes(current_.bot());
+}
+
+IncludeLookup BotSaver::Game() const {
+  return GameLookUp(PathFromBytes(state_.settings.Q3Baseq3));
+}
+
+void BotSaver::TellNotKept(const Notes& notes) {
+  std::string text =
+      "The files are as their author wrote them, with your changes, but:";
+  for (const Note& note : notes.list()) {
+    text += "\n- " + (note.file.empty() ? "" : note.file + ": ") + note.text;
+  }
+  state_.prompts.Show({.title = std::string(kProgramTitle),
+                       .text = std::move(text),
+                       .icon = MessageIcon::kInformation});
+}
+
+void BotSaver::Tell(const Error& error) {
+  state_.prompts.Show({.title = std::string(kProgramTitle),
+                       .text = Describe(error),
+                       .icon = MessageIcon::kExclamation});
+}
+
+void BotSaver::TellHalfWritten(const SavePlan& plan, const SavedBot& saved) {
+  std::string text = Describe(*saved.error);
+  if (!saved.files.empty()) {
+    Files made;
+    Files old = plan.files;
+    for (const auto& [file, known] : saved.files) {
+      made.emplace(file, known.path);
+      old.erase(file);
+    }
+    text += "\n\nThe bot is saved in part only. New: " + Names(made) +
+            ". Not written: " + Names(old) + ".";
+  }
+  state_.prompts.Show({.title = std::string(kProgramTitle),
+                       .text = std::move(text),
+                       .icon = MessageIcon::kExclamation});
+}
+
+}  // namespace fragsmith

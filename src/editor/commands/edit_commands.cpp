@@ -1,0 +1,137 @@
+#include "editor/commands/edit_commands.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QMenu>
+#include <optional>
+
+#include "chat/vocabulary.h"
+#include "editor/controls/value_control.h"
+#include "editor/dialogs/find_dialog.h"
+#include "editor/toolkit/game_text_conversion.h"
+#include "editor/toolkit/table_text.h"
+#include "model/characteristic_catalogue.h"
+
+namespace fragsmith {
+namespace {
+
+QString LevelName(Level level) {
+  return QStringLiteral("level %1").arg(NumberOf(level));
+}
+
+}  // namespace
+
+EditCommands::EditCommands(CurrentBot& current, TypedText& typed_text,
+                           PageNavigator& navigator, QWidget& window)
+    : QObject(&window),
+      current_(current),
+      typed_text_(typed_text),
+      navigator_(navigator),
+      window_(window) {}
+
+void EditCommands::Attach(QMenuBar& bar) {
+  auto* const undo = bar.findChild<QAction*>(QStringLiteral("mnuUndo"));
+  auto* const redo = bar.findChild<QAction*>(QStringLiteral("mnuRedo"));
+  const auto show = [this, undo, redo] {
+    const QUndoStack& steps = current_.steps();
+    // Text that is being typed can be taken back too.
+    undo->setEnabled(steps.canUndo() || current_.is_changed());
+    undo->setText(QStringLiteral("&Undo %1")
+                      .arg(steps.undoText().replace(u'&', QLatin1String("&&")))
+                      .trimmed());
+    redo->setEnabled(steps.canRedo());
+    redo->setText(QStringLiteral("&Redo %1")
+                      .arg(steps.redoText().replace(u'&', QLatin1String("&&")))
+                      .trimmed());
+  };
+  connect(&current_.steps(), &QUndoStack::indexChanged, this, show);
+  connect(&current_, &CurrentBot::ChangedFlagSet, this, show);
+  show();
+
+  auto* const reset = bar.findChild<QAction*>(QStringLiteral("mnuReset"));
+  connect(
+      bar.findChild<QMenu*>(QStringLiteral("mnuEdit")), &QMenu::aboutToShow,
+      this, [reset] {
+        reset->setEnabled(ParameterOf(QApplication::focusWidget()).has_value());
+      });
+  connect(bar.findChild<QMenu*>(QStringLiteral("mnuEdit")), &QMenu::aboutToHide,
+          this, [reset] { reset->setEnabled(true); });
+}
+
+void EditCommands::Undo() {
+  if (typed_text_.IsAny()) {
+    typed_text_.Undo();
+  } else {
+    current_.steps().undo();
+  }
+}
+
+void EditCommands::Find() {
+  frmFind dialog(current_.bot(), &window_);
+  if (dialog.exec() == QDialog::Accepted) navigator_.GoTo(dialog.Chosen());
+}
+
+void EditCommands::CopyLevel(Level from, Level to) {
+  current_.Edit(
+      {.text =
+           QStringLiteral("Copy %1 to %2").arg(LevelName(from), LevelName(to)),
+       .place = {},
+       .merges = false},
+      [from, to](Bot& bot) {
+        for (const int index : kPerLevelRange) {
+          bot.Put({to, index}, bot.Parameter({from, index}));
+        }
+      });
+}
+
+void EditCommands::CopyParameter(ParameterId from, ParameterId to) {
+  if (!typed_text_.Store()) return;
+  current_.Edit(
+      {.text = TableText(ParameterTitle(to)), .place = to, .merges = false},
+      [from, to](Bot& bot) { bot.Put(to, bot.Parameter(from)); });
+}
+
+void EditCommands::Reset(ParameterId parameter) {
+  if (!typed_text_.Store()) return;
+  const Value loaded = current_.loaded().Parameter(parameter);
+  current_.Edit(
+      {.text =
+           QStringLiteral("Reset %1").arg(TableText(ParameterTitle(parameter))),
+       .place = parameter,
+       .merges = false},
+      [parameter, &loaded](Bot& bot) { bot.Put(parameter, loaded); });
+}
+
+void EditCommands::ResetFocused() {
+  if (const auto parameter = ParameterOf(QApplication::focusWidget())) {
+    Reset(*parameter);
+  }
+}
+
+void EditCommands::ShowParameterMenu(ParameterId parameter,
+                                     QPoint global_place) {
+  QMenu menu(&window_);
+  const Value loaded = current_.loaded().Parameter(parameter);
+  QAction* const reset =
+      menu.addAction(QStringLiteral("Re&set %1 to %2")
+                         .arg(TableText(ParameterTitle(parameter)),
+                              loaded == Value() ? QStringLiteral("0")
+                                                : ToQString(ToText(loaded))));
+  reset->setEnabled(loaded != current_.bot().Parameter(parameter));
+  connect(reset, &QAction::triggered, this,
+          [this, parameter] { Reset(parameter); });
+  if (const std::optional<Level> own_level = parameter.level()) {
+    menu.addSeparator();
+    for (const Level level : kLevels) {
+      if (level == *own_level) continue;
+      const ParameterId to = parameter.At(level);
+      connect(menu.addAction(QStringLiteral("Copy %1 to %2")
+                                 .arg(LevelName(*own_level), LevelName(level))),
+              &QAction::triggered, this,
+              [this, parameter, to] { CopyParameter(parameter, to); });
+    }
+  }
+  menu.exec(global_place);
+}
+
+}  // namespace fragsmith

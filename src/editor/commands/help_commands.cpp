@@ -1,0 +1,28 @@
+#include "editor/commands/help_commands.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QSysInfo>
+
+#include "editor/toolkit/table_text.h"
+#include "support/program_version.h"
+
+namespace fragsmith {
+
+void HelpCommands::ShowManual(const QString& chapter) {
+  if (manual_ == nullptr) manual_ = new ManualWindow(&window_);
+  manual_->ShowChapter(chapter);
+}
+
+void HelpCommands::ReportFault() {
+  QGuiApplication::clipboard()->setText(
+      QStringLiteral("Fragsmith %1, Qt %2, %3, %4")
+          .arg(TableText(kProgramVersion), QLatin1String(qVersion()),
+               QSysInfo::prettyProductName(), QGuiApplication::platformName()));
+  ShowManual(QStringLiteral("Report a fault"));
+  emit StatusText(
+      QStringLiteral("The versions of the program and the system are in the "
+                     "clipboard."));
+}
+
+}  // namespace fragsmith

@@ -1,0 +1,103 @@
+#ifndef FRAGSMITH_EDITOR_DIALOGS_MATCH_WINDOW_H_
+#define FRAGSMITH_EDITOR_DIALOGS_MATCH_WINDOW_H_
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialog>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QStackedWidget>
+#include <QTreeWidget>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "editor/dialogs/dialog_parts.h"
+#include "editor/dialogs/engine_fields.h"
+#include "editor/dialogs/match_results.h"
+#include "editor/dialogs/skill_box.h"
+#include "editor/state/bot_checker.h"
+#include "editor/state/current_bot.h"
+#include "editor/state/match_runner.h"
+#include "editor/state/program_state.h"
+#include "model/bot_place.h"
+
+namespace fragsmith {
+
+/// Lets the current bot play matches in fast time, against how it was or
+/// against one of the game's, beside the main window, which stays usable. The
+/// runs of the session are kept and stand beside each other; no server outlives
+/// the window's closing.
+class frmMatch : public QDialog {
+  Q_OBJECT
+
+ public:
+  /// All but the parent outlive it. `store` puts what is being typed into the
+  /// bot; it says false where that cannot be.
+  frmMatch(CurrentBot& current, const BotChecker& checker, ProgramState& state,
+           std::function<bool()> store, QWidget* parent);
+
+  /// Shows it, or brings it to the front.
+  void Present();
+
+  /// Ends the run and keeps the choices, however the window is closed.
+  void done(int result) override;
+
+ signals:
+  void GoTo(const fragsmith::BotPlace& place);
+
+ private:
+  /// The bot to play against.
+  struct Opponent {
+    std::string name;          ///< For people.
+    const Bot* bot = nullptr;  ///< Null for one of the installed game.
+  };
+
+  QWidget* MakeChoices();
+  QWidget* MakeRuns();
+  QWidget* MakeButtonRow();
+  void FillOpponents();
+  void LoadChoices();
+  void SaveChoices() const;
+
+  Opponent ChosenOpponent() const;
+  void StartOrStop();
+  void Start();
+  /// What is to be played; the reason when nothing can be.
+  Result<std::unique_ptr<MatchSession>> MakeSession();
+  void SetRunning(bool is_running);
+  void ShowProgress();
+  void ShowNews();
+  static void ShowRun(QTreeWidgetItem& row, const MatchSession& session);
+  void ShowSelected();
+  MatchSession* Selected() const;
+  void GoToLine(const ChatPlace& place, const std::string& text);
+  void Export(const QString& title, const QString& ending,
+              const std::function<std::string()>& bytes);
+
+  CurrentBot& current_;
+  const BotChecker& checker_;
+  ProgramState& state_;
+  std::function<bool()> store_;
+  std::vector<std::unique_ptr<MatchSession>> sessions_;
+  MatchRunner runner_;  ///< Goes before the sessions do.
+
+  QComboBox* opponent_;
+  EngineFields* engine_;
+  SkillBox* skill_;
+  QSpinBox* minutes_;
+  QSpinBox* games_;
+  QCheckBox* until_sure_;
+  QSpinBox* jobs_;
+  QTreeWidget* runs_;
+  MatchResults* results_;
+  QStackedWidget* shown_ = nullptr;  ///< The results, or what to do first.
+  QPushButton* start_;
+  QPushButton* export_;
+  HintLine* progress_;
+};
+
+}  // namespace fragsmith
+
+#endif  // FRAGSMITH_EDITOR_DIALOGS_MATCH_WINDOW_H_

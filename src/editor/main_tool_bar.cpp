@@ -1,0 +1,96 @@
+#include "editor/main_tool_bar.h"
+
+#include <QAction>
+#include <algorithm>
+#include <array>
+
+#include "editor/toolkit/line_icon.h"
+
+namespace fragsmith {
+namespace {
+
+enum class Look { kWithText, kIconAlone };
+
+/// A button; one without a name is a line between two groups.
+struct Tool {
+  const char* name = "";
+  LineIcon icon = LineIcon::kNew;
+  /// By the names that desktops give their icons; empty where they have none.
+  const char* theme_icon = "";
+  const char* text = "";
+  Look look = Look::kWithText;
+};
+
+constexpr std::array kTools = {
+    Tool{"mnuNew", LineIcon::kNew, "document-new", "New"},
+    Tool{"mnuLoad", LineIcon::kLoad, "document-open", "Load"},
+    Tool{"mnuSaveAgain", LineIcon::kSaveAgain, "document-save", "Save again"},
+    Tool{"mnuMake", LineIcon::kMake, "document-export", "Make"},
+    Tool{},
+    Tool{"mnuUndo", LineIcon::kUndo, "edit-undo", "Undo", Look::kIconAlone},
+    Tool{"mnuRedo", LineIcon::kRedo, "edit-redo", "Redo", Look::kIconAlone},
+    Tool{},
+    Tool{"mnuFind", LineIcon::kFind, "edit-find", "Find"},
+    Tool{"mnuInstall", LineIcon::kInstall, "system-software-install",
+         "Install"},
+    Tool{"mnuTry", LineIcon::kTry, "media-playback-start", "Try in game"},
+    Tool{"mnuPlayOut", LineIcon::kPlayOut, "media-seek-forward", "Play it out",
+         Look::kIconAlone},
+    Tool{"mnuManual", LineIcon::kHelp, "help-contents", "Help"},
+};
+
+/// Icons of two hands in one bar would look torn.
+bool HasWholeTheme() {
+  return std::ranges::all_of(kTools, [](const Tool& tool) {
+    return *tool.name == '\0' ||
+           QIcon::hasThemeIcon(QLatin1String(tool.theme_icon));
+  });
+}
+
+/// The item of the menu, or what stands for a menu in it.
+QAction* ActionOf(QMenuBar& menu, const QString& name) {
+  if (auto* const action = menu.findChild<QAction*>(name)) return action;
+  return menu.findChild<QMenu*>(name)->menuAction();
+}
+
+constexpr int kMinWidthForTexts = 800;
+
+}  // namespace
+
+MainToolBar::MainToolBar(QMenuBar& menu, QWidget* parent)
+    : QToolBar(QStringLiteral("Tools"), parent) {
+  setObjectName(QStringLiteral("tbrMain"));
+  setMovable(false);
+  setContextMenuPolicy(Qt::PreventContextMenu);
+  const int side = fontMetrics().height() * 5 / 4;
+  setIconSize({side, side});
+  const bool has_theme = HasWholeTheme();
+  for (const Tool& tool : kTools) {
+    if (*tool.name == '\0') {
+      addSeparator();
+      continue;
+    }
+    QAction* const action = ActionOf(menu, QLatin1String(tool.name));
+    action->setIcon(has_theme ? QIcon::fromTheme(QLatin1String(tool.theme_icon))
+                              : MakeLineIcon(tool.icon));
+    action->setIconVisibleInMenu(false);
+    action->setIconText(QLatin1String(tool.text));
+    addAction(action);
+    auto* const button = qobject_cast<QToolButton*>(widgetForAction(action));
+    if (action->menu() != nullptr) {
+      button->setPopupMode(QToolButton::InstantPopup);
+    }
+    if (tool.look == Look::kWithText) with_text_.push_back(button);
+  }
+}
+
+void MainToolBar::resizeEvent(QResizeEvent* event) {
+  QToolBar::resizeEvent(event);
+  for (QToolButton* const button : with_text_) {
+    button->setToolButtonStyle(width() >= kMinWidthForTexts
+                                   ? Qt::ToolButtonTextBesideIcon
+                                   : Qt::ToolButtonIconOnly);
+  }
+}
+
+}  // namespace fragsmith

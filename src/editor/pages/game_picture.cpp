@@ -1,0 +1,91 @@
+#include "editor/pages/game_picture.h"
+
+#include <QHBoxLayout>
+#include <QPainter>
+#include <QVBoxLayout>
+
+#include "chat/vocabulary.h"
+#include "editor/pages/parameter_help.h"
+#include "editor/toolkit/table_text.h"
+#include "model/characteristic_catalogue.h"
+
+namespace fragsmith {
+namespace {
+
+constexpr int kCorner = 8;
+constexpr int kLines = 12;
+
+const ControlRow* RowOf(const PageRow& page, int index) {
+  for (const FrameRow& frame : page.frames) {
+    for (const ControlRow& control : frame.controls) {
+      if (!control.IsEmptyPlace() && control.index == index) return &control;
+    }
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+GamePicture::GamePicture(const PageRow& page, CurrentBot& current,
+                         QWidget* parent)
+    : QWidget(parent),
+      page_(page),
+      current_(current),
+      index_(page.frames.front().controls.front().index),
+      name_(new QLabel(this)),
+      help_(new QLabel(this)) {
+  setObjectName(QStringLiteral("picGame"));
+  auto* const row = new QHBoxLayout(this);
+  row->setContentsMargins(16, 12, 16, 12);
+  row->setSpacing(16);
+  if (page.frames.front().controls.front().HasLevels()) {
+    plot_ = new SkillPlot(this);
+    row->addWidget(plot_, 3);
+  } else if (kWeaponWeightRange.Contains(ParameterId(index_))) {
+    bars_ = new WeaponBars(this);
+    row->addWidget(bars_, 3);
+  }
+  QFont bold = font();
+  bold.setBold(true);
+  name_->setFont(bold);
+  name_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  help_->setWordWrap(true);
+  help_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+  help_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
+  auto* const column = new QVBoxLayout;
+  column->setSpacing(4);
+  column->addWidget(name_);
+  column->addWidget(help_, 1);
+  row->addLayout(column, 2);
+  Show(index_);
+}
+
+QSize GamePicture::sizeHint() const {
+  return {0, fontMetrics().lineSpacing() * kLines + 24};
+}
+
+void GamePicture::Show(int index) {
+  const ControlRow* const row = RowOf(page_, index);
+  if (row == nullptr) return;
+  index_ = index;
+  name_->setText(TableText(CharacteristicName(index)));
+  help_->setText(PlainHelp(*row));
+  help_->setToolTip(help_->text());
+  ShowBot();
+}
+
+void GamePicture::ShowBot() {
+  if (plot_ != nullptr) plot_->ShowCharacteristic(current_.bot(), index_);
+  if (bars_ != nullptr) bars_->ShowBot(current_.bot());
+}
+
+void GamePicture::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(palette().color(QPalette::Mid));
+  painter.setBrush(palette().color(QPalette::Base));
+  painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5),
+                          kCorner, kCorner);
+}
+
+}  // namespace fragsmith

@@ -1,0 +1,48 @@
+#ifndef FRAGSMITH_EDITOR_PAGES_GAME_PICTURE_H_
+#define FRAGSMITH_EDITOR_PAGES_GAME_PICTURE_H_
+
+#include <QLabel>
+#include <QStackedLayout>
+#include <QWidget>
+
+#include "editor/controls/skill_plot.h"
+#include "editor/controls/weapon_bars.h"
+#include "editor/state/current_bot.h"
+#include "editor/toolkit/page_table.h"
+
+namespace fragsmith {
+
+/// Shows at the foot of a page what becomes of the parameter that is worked
+/// on: a characteristic by skill or the order of the weapons, and beside it
+/// what the parameter does in the game.
+class GamePicture : public QWidget {
+  Q_OBJECT
+
+ public:
+  GamePicture(const PageRow& page, CurrentBot& current,
+              QWidget* parent = nullptr);
+
+  /// Turns to a parameter of the page, by its index in the catalogue.
+  void Show(int index);
+
+  /// Draws anew, after an edit.
+  void ShowBot();
+
+  QSize sizeHint() const override;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  const PageRow& page_;
+  CurrentBot& current_;
+  int index_;
+  SkillPlot* plot_ = nullptr;   ///< On pages of characteristics by level.
+  WeaponBars* bars_ = nullptr;  ///< On the page of the weapons' use.
+  QLabel* name_;
+  QLabel* help_;
+};
+
+}  // namespace fragsmith
+
+#endif  // FRAGSMITH_EDITOR_PAGES_GAME_PICTURE_H_

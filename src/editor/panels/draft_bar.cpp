@@ -1,0 +1,49 @@
+#include "editor/panels/draft_bar.h"
+
+#include <QLocale>
+#include <filesystem>
+
+#include "editor/toolkit/game_text_conversion.h"
+#include "support/files.h"
+
+namespace fragsmith {
+namespace {
+
+/// The file, package or folder of the bot; empty where it has none.
+std::filesystem::path PlaceOf(const BotHome& home) {
+  if (home.target) return home.target->folder;
+  const auto first = home.files.find(BotFile::kCharacteristics);
+  if (first != home.files.end()) return first->second.path;
+  return home.files.empty() ? std::filesystem::path()
+                            : home.files.begin()->second.path;
+}
+
+}  // namespace
+
+DraftBar::DraftBar(QWidget* parent) : ListBar(QStringLiteral("Draft"), parent) {
+  connect(AddButton(tr("Restore it"), QStringLiteral("cmdTakeDraft")),
+          &QPushButton::clicked, this, [this] {
+            hide();
+            emit TakeDraft();
+          });
+  connect(AddButton(tr("Discard it"), QStringLiteral("cmdDiscardDraft")),
+          &QPushButton::clicked, this, [this] {
+            hide();
+            emit DiscardDraft();
+          });
+}
+
+void DraftBar::Offer(const DraftKeeper::Found& found) {
+  const std::filesystem::path place = PlaceOf(*found.draft.origin.home);
+  const QString from =
+      place.empty() ? tr("it has no files yet")
+                    : tr("it is from %1")
+                          .arg(QString::fromStdString(Utf8FromPath(place)));
+  Say(tr("The bot %1 was not saved when Fragsmith last ended. It was kept on "
+         "%2; %3.")
+          .arg(ToQString(found.draft.bot.Name()),
+               QLocale().toString(found.kept, QLocale::ShortFormat), from),
+      found.notes);
+}
+
+}  // namespace fragsmith

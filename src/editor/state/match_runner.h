@@ -1,0 +1,86 @@
+#ifndef FRAGSMITH_EDITOR_STATE_MATCH_RUNNER_H_
+#define FRAGSMITH_EDITOR_STATE_MATCH_RUNNER_H_
+
+#include <QObject>
+#include <QTimer>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "model/bot.h"
+#include "trial/match_report.h"
+#include "trial/match_run.h"
+#include "trial/match_words.h"
+#include "trial/said_lines.h"
+
+namespace fragsmith {
+
+/// A run of matches between a bot of the window and another one, as far as it
+/// has come.
+struct MatchSession {
+  MatchSession(Bot played, const WordLists& words)
+      : bot(std::move(played)), said(bot, words) {}
+
+  Bot bot;  ///< As it was when the run began; the first one of the report.
+  SaidLines said;
+  /// What people call the two bots.
+  std::vector<std::string> names;
+  MatchReport report;
+  int games = 0;  ///< How many there are to be, or may be at most.
+  /// The bot's share of the points of the two after each match.
+  std::vector<Estimate> shares;
+  std::string remark;              ///< Such as the last thing that went wrong.
+  std::optional<MatchRunEnd> end;  ///< Nothing while it goes on.
+
+  bool is_until_sure() const { return !report.tests.empty(); }
+};
+
+/// What the matches of a run say so far, in a sentence. There is no verdict
+/// before all of them were played or the test has settled it.
+std::string VerdictOf(const MatchSession& session);
+
+/// Plays runs, one at a time, beside all else that the window does. The engines
+/// end with it at the latest, also when the program or the user's session ends.
+class MatchRunner : public QObject, private MatchRunListener {
+  Q_OBJECT
+
+ public:
+  explicit MatchRunner(QObject* parent);
+  ~MatchRunner() override;
+
+  /// The session outlives the run.
+  void Start(MatchSession& session, MatchServer server, int jobs);
+  /// Breaks the run off; no engine runs when this returns.
+  void Stop();
+
+  bool IsRunning() const { return run_.has_value(); }
+  std::size_t in_play() const { return in_play_; }
+  /// Of game time, of the match that is furthest; from 1.
+  int minute() const { return minute_; }
+
+ signals:
+  /// Another match was played.
+  void Played();
+  /// Engines begin, end or go on to the next minute.
+  void Moved();
+  void Ended();
+
+ private:
+  std::optional<Match> MatchAt(int number) override;
+  bool Take(int number, PlayedMatch played) override;
+  void TakeFailure(int number, const Error& error,
+                   bool is_played_again) override;
+  bool Watch(const MatchesInPlay& in_play) override;
+  void Step();
+  void End(MatchRunEnd end);
+
+  QTimer timer_;
+  std::optional<MatchRun> run_;
+  MatchSession* session_ = nullptr;
+  std::size_t in_play_ = 0;
+  int minute_ = 1;
+};
+
+}  // namespace fragsmith
+
+#endif  // FRAGSMITH_EDITOR_STATE_MATCH_RUNNER_H_

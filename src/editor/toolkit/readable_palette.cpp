@@ -1,0 +1,61 @@
+#include "editor/toolkit/readable_palette.h"
+
+#include <QApplication>
+#include <QPalette>
+#include <QStyle>
+
+namespace fragsmith {
+namespace {
+
+constexpr QPalette::ColorGroup kGroups[] = {
+    QPalette::Active, QPalette::Inactive, QPalette::Disabled};
+
+/// Some dark themes leave the colour of hints at black.
+void MakeHintsReadable() {
+  QPalette palette = QApplication::palette();
+  for (const QPalette::ColorGroup group : kGroups) {
+    QColor hint = palette.color(group, QPalette::Text);
+    hint.setAlphaF(0.6F);
+    palette.setColor(group, QPalette::PlaceholderText, hint);
+  }
+  QApplication::setPalette(palette);
+}
+
+/// Fusion draws the outlines of these darker than the window. On a dark one
+/// nothing is then to be seen of an empty check box, and little of where a
+/// text box or a list ends. None of them shows the window's colour otherwise;
+/// menus do, and the lists of combo boxes, which stay as they are.
+void MakeOutlinesVisible() {
+  const QPalette base = QApplication::palette();
+  const QColor ground = base.color(QPalette::Window);
+  if (QApplication::style()->name() != QLatin1String("fusion") ||
+      ground.lightness() >= base.color(QPalette::WindowText).lightness()) {
+    return;
+  }
+  for (const char* const widget :
+       {"QCheckBox", "QRadioButton", "QLineEdit", "QComboBox", "QListView",
+        "QTreeView", "QProgressBar"}) {
+    QPalette palette = QApplication::palette(widget);
+    for (const QPalette::ColorGroup group : kGroups) {
+      const QColor window = palette.color(group, QPalette::Window);
+      const QColor text = palette.color(group, QPalette::WindowText);
+      const auto mix = [](int one, int other) { return (one + other) / 2; };
+      palette.setColor(group, QPalette::Window,
+                       QColor(mix(window.red(), text.red()),
+                              mix(window.green(), text.green()),
+                              mix(window.blue(), text.blue())));
+    }
+    QApplication::setPalette(palette, widget);
+  }
+  QApplication::setPalette(QApplication::palette("QAbstractItemView"),
+                           "QComboBoxListView");
+}
+
+}  // namespace
+
+void MakePaletteReadable() {
+  MakeHintsReadable();
+  MakeOutlinesVisible();
+}
+
+}  // namespace fragsmith

@@ -1,0 +1,216 @@
+#include "game/advice.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cstddef>
+#include <system_error>
+#include <vector>
+
+#include "game/complaints.h"
+#include "game/stand_ins.h"
+#include "support/numbers.h"
+#include "support/text.h"
+
+namespace fragsmith {
+namespace {
+
+constexpr std::string_view kKeyPrefix = "CHARACTERISTIC_";
+constexpr std::string_view kBlockIsLost =
+    " and throws this whole skill block away.";
+
+/// How many letters must be put in, taken out or changed to make one word of
+/// the other, capitals aside.
+std::size_t Differences(std::string_view left, std::string_view right) {
+  std::vector<std::size_t> row(right.size() + 1);
+  for (std::size_t at = 0; at < row.size(); ++at) row[at] = at;
+  for (const char letter : left) {
+    std::size_t diagonal = row[0]++;
+    for (std::size_t at = 1; at < row.size(); ++at) {
+      const std::size_t changed =
+          diagonal + (ToLower(letter) == ToLower(right[at - 1]) ? 0 : 1);
+      diagonal = row[at];
+      row[at] = std::min({changed, row[at] + 1, row[at - 1] + 1});
+    }
+  }
+  return row.back();
+}
+
+std::string_view WithoutPrefix(std::string_view key) {
+  const bool has_prefix =
+      ToLower(key.substr(0, kKeyPrefix.size())) == ToLower(kKeyPrefix);
+  return has_prefix ? key.substr(kKeyPrefix.size()) : key;
+}
+
+std::string UnknownNameText(std::string_view name) {
+  std::string text = "The game knows no characteristic " + Quoted(name);
+  text += kBlockIsLost;
+  const std::string_view nearest =
+      NearestWord(WithoutPrefix(name), kGameCharacteristics);
+  const std::string meant = std::string(kKeyPrefix) + std::string(nearest);
+  if (name == meant) {
+    return text + " Write #include \"chars.h\" at the top of the file.";
+  }
+  return text + (nearest.empty() ? " Check the spelling; capital letters count."
+                                 : " Perhaps " + meant + " is meant.");
+}
+
+/// Of a sign behind a value.
+std::string SignText(const GameToken& sign, const GameToken& last) {
+  std::string text = "The game takes no " + Quoted(sign.text);
+  text += " behind a value";
+  text += kBlockIsLost;
+  const bool is_number = last.kind == GameToken::Kind::kNumber;
+  if (is_number && sign.Is("%")) {
+    return text + " Write " + PlainDecimal(last.number / 100, kFloatDigits) +
+           " for " + last.text + " percent.";
+  }
+  if (is_number && (sign.Is("/") || sign.Is("*"))) {
+    return text + " Write the result, such as 0.5.";
+  }
+  return text + " Remove it.";
+}
+
+/// The number as its author wrote it, of which the game has read no more than
+/// these two words.
+std::string WholeNumber(const GameToken& value, const GameToken& behind,
+                        std::string_view line) {
+  std::string read = value.text + behind.text;
+  const std::size_t begin = line.find(read);
+  if (begin == std::string_view::npos) return read;
+  line.remove_prefix(begin);
+  const std::size_t end = line.find_first_of(" \t/;}", read.size());
+  return std::string(line.substr(0, end));
+}
+
+/// In plain digits: "0.9" for "0,9", "0.9f" and "9e-1".
+std::string PlainNumber(std::string number) {
+  std::ranges::replace(number, ',', '.');
+  double value = 0;
+  const auto read =
+      std::from_chars(number.data(), number.data() + number.size(), value);
+  return read.ec == std::errc() ? PlainDecimal(value, kFloatDigits) : "0.6";
+}
+
+std::string BehindValueText(const GameToken& token, const GameToken& value,
+                            std::string_view line) {
+  using Kind = GameToken::Kind;
+  const bool is_in_number = value.kind == Kind::kNumber && !token.blank_before;
+  if (is_in_number && (token.Is(",") || token.kind == Kind::kName)) {
+    const std::string number = WholeNumber(value, token, line);
+    return "The game does not understand the number " + Quoted(number) +
+           std::string(kBlockIsLost) + " Write " + PlainNumber(number) + ".";
+  }
+  if (token.kind == Kind::kSign) return SignText(token, value);
+  if (value.kind == Kind::kString && !token.blank_before) {
+    return "The text " + Quoted(value.text) +
+           " ends at its second quotation mark, and the game throws this "
+           "whole skill block away. Write ' for a quotation mark inside a "
+           "text.";
+  }
+  return "The game finds " + Quoted(token.text) + " behind the value " +
+         Quoted(value.text) + std::string(kBlockIsLost) +
+         " Each key has one value; a text of several words stands in "
+         "quotation marks.";
+}
+
+}  // namespace
+
+std::string_view NearestWord(std::string_view wrong,
+                             std::span<const std::string_view> words) {
+  // Of a short word two letters are half of it.
+  const std::size_t most = wrong.size() < 5 ? 1 : 2;
+  constexpr std::size_t kLongest = 100;
+  if (wrong.size() > kLongest) return {};
+  std::string_view nearest;
+  std::size_t fewest = most + 1;
+  for (const std::string_view word : words) {
+    const std::size_t differences = Differences(wrong, word);
+    if (differences >= fewest) continue;
+    fewest = differences;
+    nearest = word;
+  }
+  return nearest;
+}
+
+std::string AdviceForStray(const GameToken& token, std::string_view expected) {
+  if (token.file != 0) {
+    return " It comes out of the file that this #include brings in, which "
+           "does not belong here. Move the #include to where it belongs, "
+           "or remove it.";
+  }
+  if (token.Is("}")) return " There is a } too many here or above. Remove it.";
+  if (token.kind == GameToken::Kind::kSign) {
+    return " Remove it; a comment begins with //.";
+  }
+  if (token.Is("define") || token.Is("include")) {
+    return " Write #" + token.text + ".";
+  }
+  if (token.kind == GameToken::Kind::kName &&
+      !NearestWord(token.text, {&expected, 1}).empty()) {
+    return " Write " + std::string(expected) + ".";
+  }
+  return " Perhaps there is a } too many above.";
+}
+
+std::string AdviceForMacroValue(std::string_view value) {
+  constexpr std::string_view kDigits = "0123456789.";
+  if (value.empty()) return "Write a number behind it.";
+  const std::size_t digit = value.find_first_of(kDigits);
+  if (digit != std::string_view::npos) {
+    const std::size_t end =
+        std::min(value.find_first_not_of(kDigits, digit), value.size());
+    const std::string number(value.substr(digit, end - digit));
+    const std::string_view rest = value.substr(end);
+    if (rest.find_first_of(kDigits) == std::string_view::npos) {
+      return "Write " + number + " and nothing else.";
+    }
+  }
+  return "Write one number, such as 50.";
+}
+
+Fault UnknownKey(const GameToken& key, const GameToken& last,
+                 std::string_view line, const CharacterBlock& block) {
+  using Kind = GameToken::Kind;
+  if (key.Is("skill")) {
+    return {"block-not-closed",
+            "Skill block " + std::to_string(block.level) +
+                ", which begins in line " + std::to_string(block.line) +
+                ", has no } at its end, and the game throws it away. Write "
+                "the } above this line."};
+  }
+  if (key.line == last.line && last.line > 0) {
+    return {"not-one-value", BehindValueText(key, last, line)};
+  }
+  if (key.kind == Kind::kName) {
+    return {"unknown-characteristic", UnknownNameText(key.text)};
+  }
+  const std::string found = "The game finds " + Quoted(key.text);
+  return {"not-a-key",
+          key.kind == Kind::kSign
+              ? found + " in front of a key" + std::string(kBlockIsLost) +
+                    " Remove it; a comment begins with //."
+              : found + ", which belongs to no key," +
+                    std::string(kBlockIsLost) +
+                    " Write its key in front of it, or remove it."};
+}
+
+std::string BadValueText(const GameToken& value) {
+  const std::string lost(kBlockIsLost);
+  if (value.kind == GameToken::Kind::kLiteral) {
+    return "The game takes no text in single quotes (')" + lost +
+           " Put it in double ones (\").";
+  }
+  if (value.Is("-") || value.Is("+")) {
+    return "The game takes no sign in front of a number" + lost +
+           " Write 0 or more, without a sign.";
+  }
+  if (value.kind == GameToken::Kind::kSign) {
+    return "The game takes no " + Quoted(value.text) +
+           " between a key and its value" + lost + " Remove it.";
+  }
+  return "The game finds " + Quoted(value.text) +
+         " behind this key, which is neither a number nor a text" + "," + lost +
+         " Put a text in quotation marks.";
+}
+
+}  // namespace fragsmith

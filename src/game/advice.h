@@ -1,0 +1,41 @@
+#ifndef FRAGSMITH_GAME_ADVICE_H_
+#define FRAGSMITH_GAME_ADVICE_H_
+
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "game/character_reader.h"
+#include "game/lexer.h"
+
+namespace fragsmith {
+
+/// The word that was most likely meant: one that differs in two letters at
+/// most, capitals aside. Empty where there is none.
+std::string_view NearestWord(std::string_view wrong,
+                             std::span<const std::string_view> words);
+
+/// What to do about a word that stands outside all blocks, where the game looks
+/// for this one: a sentence behind a blank.
+std::string AdviceForStray(const GameToken& token, std::string_view expected);
+
+/// What to do about the value of a macro that should be a number and is this
+/// text: a sentence.
+std::string AdviceForMacroValue(std::string_view value);
+
+struct Fault {
+  std::string_view id;  ///< As of a Complaint.
+  std::string text;
+};
+
+/// What to say of a word that stands where a key should, behind this value, in
+/// this line.
+Fault UnknownKey(const GameToken& key, const GameToken& last,
+                 std::string_view line, const CharacterBlock& block);
+
+/// What to say of a word that stands where the value of a key should.
+std::string BadValueText(const GameToken& value);
+
+}  // namespace fragsmith
+
+#endif  // FRAGSMITH_GAME_ADVICE_H_

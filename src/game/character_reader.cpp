@@ -1,0 +1,223 @@
+#include "game/character_reader.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "game/advice.h"
+#include "game/limits.h"
+#include "game/stand_ins.h"
+
+namespace fragsmith {
+namespace {
+
+constexpr std::string_view kDefaultPath = "bots/default_c.c";
+
+/// Tells what ends a block. Where a key further up has no value, the game took
+/// the next key for it, and all that follows is a consequence.
+class BlockFaults {
+ public:
+  explicit BlockFaults(GameSource& source) : source_(source) {}
+
+  void Take(const GameToken& key, const GameToken& value) {
+    if (without_value_ || !IsKey(key) || !IsKey(value)) return;
+    without_value_ = key;
+  }
+
+  void Tell(std::string_view id, const GameToken& token, std::string text) {
+    if (without_value_) return TellNoValue(*without_value_);
+    source_.Complain(id, token, std::move(text));
+  }
+
+  void TellBadValue(const GameToken& key, const GameToken& value) {
+    if (value.Is("}") || value.Is("skill")) {
+      return TellNoValue(without_value_.value_or(key));
+    }
+    Tell("bad-value", value, BadValueText(value));
+  }
+
+ private:
+  static bool IsKey(const GameToken& token) {
+    return token.macro.starts_with("CHARACTERISTIC_");
+  }
+
+  void TellNoValue(const GameToken& key) {
+    source_.Complain(
+        "value-missing", key,
+        "There is no value behind " +
+            Quoted(key.macro.empty() ? key.text : key.macro) +
+            ", and the game throws this whole skill block away. Write a "
+            "number behind it, or a text in quotation marks, or remove the "
+            "line.");
+  }
+
+  GameSource& source_;
+  std::optional<GameToken> without_value_;
+};
+
+/// Reads up to the "}" of the block. When the file ends before, or an error
+/// ends it, the game keeps what it has.
+bool ReadValues(GameSource& source, CharacterBlock& block) {
+  GameToken key;
+  GameToken token;
+  BlockFaults faults(source);
+  while (source.ReadAny(key) && !key.Is("}")) {
+    if (key.kind != GameToken::Kind::kNumber || !key.is_whole) {
+      Fault fault = UnknownKey(key, token, source.LineOf(key), block);
+      faults.Tell(fault.id, key, std::move(fault.text));
+      return false;
+    }
+    if (key.number > limits::kMaxCharacteristic) {
+      faults.Tell("characteristic-out-of-range", key,
+                  "There is no characteristic " + Quoted(key.text) +
+                      "; the last one is number " +
+                      std::to_string(limits::kMaxCharacteristic) +
+                      ". The game throws this whole skill block away. Remove "
+                      "the line.");
+      return false;
+    }
+    const int number = static_cast<int>(key.number);
+    const auto known = block.values.find(number);
+    if (known != block.values.end()) {
+      const std::string name =
+          static_cast<std::size_t>(number) < kGameCharacteristics.size()
+              ? GameKeyName(number)
+              : "Characteristic " + std::to_string(number);
+      const std::string where =
+          known->second.line > 0
+              ? " (first in line " + std::to_string(known->second.line) + ")"
+              : "";
+      std::string text =
+          name + " stands twice in skill block " + std::to_string(block.level);
+      text += where;
+      text +=
+          ", and the game throws the whole block away. Remove one of the "
+          "lines.";
+      faults.Tell("characteristic-twice", key, std::move(text));
+      return false;
+    }
+    if (!source.ReadAny(token)) return false;
+    faults.Take(key, token);
+    CharacterValue value;
+    value.line = token.file == 0 ? token.line : 0;
+    if (token.file == 0) value.span = token.span;
+    if (token.kind == GameToken::Kind::kString) {
+      value.kind = CharacterValue::Kind::kText;
+      value.text = token.text;
+    } else if (token.kind == GameToken::Kind::kNumber) {
+      value.kind = token.is_whole ? CharacterValue::Kind::kWhole
+                                  : CharacterValue::Kind::kFraction;
+      value.number = token.number;
+    } else {
+      faults.TellBadValue(key, token);
+      return false;
+    }
+    block.values.emplace(number, std::move(value));
+  }
+  return !source.is_endless();
+}
+
+/// The default character, of the level or any; it is not the bot's, so what
+/// is wrong with it is not told.
+std::optional<CharacterBlock> ReadDefault(std::optional<int> level,
+                                          const IncludeLookup& game) {
+  std::optional<std::string> bytes = game(kDefaultPath);
+  if (!bytes) return std::nullopt;
+  const GameFile file = {"botfiles/" + std::string(kDefaultPath),
+                         std::string(kDefaultPath), std::move(*bytes)};
+  Complaints untold;
+  std::optional<CharacterBlock> block =
+      ReadCharacterBlock(file, level, game, untold);
+  if (block) {
+    for (auto& [number, value] : block->values) value.is_own = false;
+  }
+  return block;
+}
+
+}  // namespace
+
+std::optional<CharacterBlock> ReadCharacterBlock(const GameFile& file,
+                                                 std::optional<int> level,
+                                                 const IncludeLookup& game,
+                                                 Complaints& findings) {
+  GameSource source(file, game, findings);
+  GameToken token;
+  while (source.Read(token)) {
+    if (!token.Is("skill")) {
+      if (source.ComplainOfLeak(token)) return std::nullopt;
+      source.Complain("outside-block", token,
+                      "The game finds " + Quoted(token.text) +
+                          " outside a skill block and reads no further. Here "
+                          "it expects skill, a number and {." +
+                          AdviceForStray(token, "skill"));
+      return std::nullopt;
+    }
+    const int line = token.file == 0 ? token.line : 0;
+    // A fraction counts as its whole part.
+    if (!source.ExpectNumber(GameSource::Numbers::kAny, token)) {
+      return std::nullopt;
+    }
+    CharacterBlock block;
+    block.level = static_cast<int>(std::min(token.number, 1e6));
+    block.line = line;
+    GameToken brace;
+    if (!source.ExpectBrace(token, &brace)) return std::nullopt;
+    if (brace.file == 0) block.open = brace.span;
+    if (!level || block.level == *level) {
+      if (!ReadValues(source, block)) return std::nullopt;
+      return block;
+    }
+    if (!source.SkipBlock()) return std::nullopt;
+  }
+  return std::nullopt;
+}
+
+std::vector<BlockAt> CharacterBlocks(const GameFile& file,
+                                     const IncludeLookup& game) {
+  Complaints untold;
+  GameSource source(file, game, untold);
+  std::vector<BlockAt> blocks;
+  GameToken skill;
+  GameToken level;
+  while (source.Read(skill) && skill.Is("skill") &&
+         source.ExpectNumber(GameSource::Numbers::kAny, level) &&
+         source.ExpectBrace(level)) {
+    blocks.push_back({.level = static_cast<int>(std::min(level.number, 1e6)),
+                      .line = skill.file == 0 ? skill.line : 0});
+    if (!source.SkipBlock()) break;
+  }
+  return blocks;
+}
+
+std::optional<CharacterLevel> LoadCharacterLevel(const GameFile* file,
+                                                 int level,
+                                                 const IncludeLookup& game,
+                                                 Complaints& findings) {
+  const auto read_own = [&](std::optional<int> wanted) {
+    return file == nullptr ? std::nullopt
+                           : ReadCharacterBlock(*file, wanted, game, findings);
+  };
+  std::optional<CharacterBlock> fallback = ReadDefault(level, game);
+  std::optional<CharacterBlock> own = read_own(level);
+  CharacterOrigin origin = CharacterOrigin::kOwn;
+  if (!own && fallback) return {{CharacterOrigin::kDefault, *fallback}};
+  if (!own) {
+    own = read_own(std::nullopt);
+    origin = CharacterOrigin::kOwnOther;
+  }
+  if (!fallback) fallback = ReadDefault(std::nullopt, game);
+  if (!own && fallback) return {{CharacterOrigin::kDefaultOther, *fallback}};
+  if (!own) return std::nullopt;
+  // What the block lacks comes from the default character.
+  if (fallback) own->values.merge(fallback->values);
+  return {{origin, std::move(*own)}};
+}
+
+std::vector<int> LevelsForSkill(double skill) {
+  if (skill <= 1) return {1};
+  if (skill < 4) return {1, 4};
+  if (skill == 4) return {4};
+  if (skill < 5) return {4, 5};
+  return {5};
+}
+
+}  // namespace fragsmith

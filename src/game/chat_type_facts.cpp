@@ -1,0 +1,203 @@
+#include "game/chat_type_facts.h"
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+
+#include "game/number.h"
+#include "model/characteristic_catalogue.h"
+
+namespace fragsmith {
+namespace {
+
+using enum ChatFill;
+using Fills = std::array<ChatFill, kFilledVariables>;
+
+constexpr ParameterId kInsultShare{32};
+constexpr ParameterId kMiscShare{33};
+constexpr ParameterId kStartEnd{34};
+constexpr ParameterId kEnterExit{35};
+constexpr ParameterId kKill{36};
+constexpr ParameterId kDeath{37};
+constexpr ParameterId kHitTalking{39};
+constexpr ParameterId kHitNoDeath{40};
+constexpr ParameterId kHitNoKill{41};
+constexpr ParameterId kRandom{42};
+
+constexpr Fills kEntry = {kOwnName, kOpponent, kInvalid, kInvalid, kMap};
+constexpr Fills kOwnNameOnly = {kOwnName};
+constexpr Fills kEnd = {kOwnName, kOpponent, kFirst, kLast, kMap};
+constexpr Fills kVictory = {kOwnName, kOpponent, kInvalid, kLast, kMap};
+constexpr Fills kDefeat = {kOwnName, kOpponent, kFirst, kInvalid, kMap};
+constexpr Fills kHit = {kAttacker, kWeapon};
+constexpr Fills kHits = {kEnemy, kWeapon};
+constexpr Fills kAccident = {kOpponent};
+constexpr Fills kTelefragged = {kKiller};
+constexpr Fills kKilled = {kKiller, kWeapon};
+constexpr Fills kKills = {kVictim};
+constexpr Fills kNone = {};
+constexpr Fills kRoaming = {kOpponent, kLastVictim, kInvalid,
+                            kInvalid,  kMap,        kRandomWeapon};
+
+// The rate of random lines is some 0.025 a second.
+constexpr double kRandomFactor = 0.025;
+
+constexpr std::array<ChatTypeFacts, kChatTypeCount> kFacts = {{
+    {"", "Once, when the bot has just joined the game.", kEnterExit, 1, true,
+     kEntry},
+    {"Never", "when the bot leaves, the game no longer counts it in.",
+     kEnterExit, 1, false, kEntry},
+    {"Practically never",
+     "only a level that begins again without being "
+     "loaded asks for it.",
+     kStartEnd, 1, false, kOwnNameOnly},
+    {"", "When a level ends and the bot is neither first nor last.", kStartEnd,
+     1, true, kEnd},
+    {"", "When a level ends and the bot is first.", kStartEnd, 1, true,
+     kVictory},
+    {"", "When a level ends and the bot is last.", kStartEnd, 1, true, kDefeat},
+    {"Seldom",
+     "when the bot is hit while it types an answer, but not by the "
+     "host of a local game.",
+     kHitTalking, 0.5, true, kHit},
+    {"Seldom",
+     "when the bot is hit in a fight and lives, and its enemy is out "
+     "of sight and not the host of a local game.",
+     kHitNoDeath, 0.5, true, kHit},
+    {"Seldom", "when the bot has hit its enemy, who lives and is out of sight.",
+     kHitNoKill, 0.5, true, kHits},
+    {"", "When somebody has telefragged the bot.", kDeath, 1, true,
+     kTelefragged},
+    {"", "When the bot has fallen to its death.", kDeath, 1, true, kAccident},
+    {"", "When the bot has died in lava.", kDeath, 1, true, kAccident},
+    {"", "When the bot has died in slime.", kDeath, 1, true, kAccident},
+    {"", "When the bot has drowned.", kDeath, 1, true, kAccident},
+    {"", "When the bot has killed itself or was crushed.", kDeath, 1, true,
+     kAccident},
+    {"", "Every second time when the bot was killed with the gauntlet.", kDeath,
+     1, true, kKilled},
+    {"", "Every second time when the bot was killed with the railgun.", kDeath,
+     1, true, kKilled},
+    {"", "Every second time when the bot was killed with the BFG10K.", kDeath,
+     1, true, kKilled},
+    {"",
+     "After any other death; \"Insult\" is the share of this type against "
+     "\"Bot dies (positive)\".",
+     kDeath, 1, true, kKilled},
+    {"",
+     "After any other death; \"Insult\" is the share of \"Bot dies "
+     "(negative)\" against this type.",
+     kDeath, 1, true, kKilled},
+    {"Seldom",
+     "a second after a kill with the railgun, when no enemy is in "
+     "sight.",
+     kKill, 1, true, kKills},
+    {"Seldom",
+     "a second after a kill with the gauntlet, when no enemy is in "
+     "sight.",
+     kKill, 1, true, kKills},
+    {"Seldom",
+     "a second after the bot has telefragged somebody, when no enemy "
+     "is in sight.",
+     kKill, 1, true, kKills},
+    {"Never", "the game does not ask for lines of this type.", std::nullopt, 0,
+     false, kNone},
+    {"",
+     "A second after any other kill, when no enemy is in sight; \"Insult\" is "
+     "the share of this type against \"Bot kills (positive)\".",
+     kKill, 1, true, kKills},
+    {"",
+     "A second after any other kill, when no enemy is in sight; \"Insult\" is "
+     "the share of \"Bot kills (negative)\" against this type.",
+     kKill, 1, true, kKills},
+    {"",
+     "Now and then while the bot roams and no enemy is in sight; \"Misc\" is "
+     "the share of \"Random misc\" against this type.",
+     kRandom, kRandomFactor, true, kRoaming},
+    {"",
+     "Now and then while the bot roams and no enemy is in sight; \"Misc\" is "
+     "the share of this type against \"Random insult\".",
+     kRandom, kRandomFactor, true, kRoaming},
+}};
+
+}  // namespace
+
+const ChatTypeFacts& FactsOfChatType(ChatTypeId type) {
+  return kFacts.at(IndexOf(type));
+}
+
+std::string WhenText(const ChatTypeFacts& facts) {
+  std::string text(facts.rarity);
+  if (!text.empty()) text += ": ";
+  return text.append(facts.when);
+}
+
+ChatFill FillOf(ChatTypeId type, int variable) {
+  const Fills& fills = FactsOfChatType(type).variables;
+  const auto index = static_cast<std::size_t>(variable);
+  return index < fills.size() ? fills.at(index) : kNothing;
+}
+
+std::string_view FillText(ChatFill fill) {
+  switch (fill) {
+    case kNothing:
+      return "nothing";
+    case kInvalid:
+      return "the words \"[invalid var]\"";
+    case kOwnName:
+      return "the bot's own name";
+    case kOpponent:
+      return "the name of some opponent";
+    case kFirst:
+      return "the name of the first in score";
+    case kLast:
+      return "the name of the last in score";
+    case kMap:
+      return "the file name of the map, not its title";
+    case kAttacker:
+      return "the name of the attacker";
+    case kEnemy:
+      return "the name of the enemy";
+    case kKiller:
+      return "the name of the killer";
+    case kVictim:
+      return "the name of the victim";
+    case kLastVictim:
+      return "the name of the bot's last victim, or of anybody before its "
+             "first kill";
+    case kWeapon:
+      return "the weapon that was used";
+    case kRandomWeapon:
+      return "the name of some weapon";
+  }
+  return {};
+}
+
+bool IsDrawn(const Bot& bot, ChatTypeId type) {
+  constexpr std::array kInsults = {ChatTypeId{18}, ChatTypeId{24}};
+  constexpr std::array kPraises = {ChatTypeId{19}, ChatTypeId{25}};
+  constexpr ChatTypeId kRandomInsult{26};
+  constexpr ChatTypeId kRandomMisc{27};
+  const double insults = NumberInGame(bot, kInsultShare);
+  const double misc = NumberInGame(bot, kMiscShare);
+  for (const ChatTypeId insult : kInsults) {
+    if (type == insult) return insults > 0;
+  }
+  for (const ChatTypeId praise : kPraises) {
+    if (type == praise) return insults < 1;
+  }
+  if (type == kRandomInsult) return misc < 1;
+  if (type == kRandomMisc) return misc > 0;
+  return FactsOfChatType(type).is_heard;
+}
+
+std::vector<ChatTypeId> TypesOfChance(ParameterId chance) {
+  std::vector<ChatTypeId> types;
+  std::copy_if(kAllChatTypes.begin(), kAllChatTypes.end(),
+               std::back_inserter(types), [chance](ChatTypeId type) {
+                 return FactsOfChatType(type).chance == chance;
+               });
+  return types;
+}
+
+}  // namespace fragsmith

@@ -1,0 +1,185 @@
+#include "game/skill_mix.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+
+#include "game/number.h"
+#include "model/characteristic_catalogue.h"
+
+namespace fragsmith {
+namespace {
+
+constexpr double kHighestMixed = 4;  ///< Below it levels 1 and 4 are mixed.
+constexpr double kHighestSkill = 5;
+constexpr double kSlowestTurn = 240;  ///< Degrees per second.
+
+constexpr std::string_view kSnaps =
+    "with bot_challenge on, the view snaps to the enemy";
+constexpr std::string_view kNoRandomError = "no random error in direction";
+constexpr std::string_view kLeads = "leads its target in a straight line";
+constexpr std::string_view kCorners = "shoots where the enemy will come out";
+constexpr std::string_view kSplash = "shoots at the floor for splash";
+constexpr std::string_view kPredicts = "predicts the target's real path";
+constexpr std::string_view kSteady =
+    "keeps its accuracy when the enemy turns back";
+
+// In the order of the catalogue, so that a parameter's rows stand together.
+constexpr std::array kThresholds = {
+    Threshold{2, 0.2, "moves towards the enemy and away"},
+    Threshold{2, 0.3, "keeps aiming while it retreats or fetches items"},
+    Threshold{2, 0.4, "circles around the enemy"},
+    Threshold{2, 0.7, "changes its rhythm at random"},
+    Threshold{3, 0.9, kSteady},
+    Threshold{3, 0.95, "waits half its reaction time before it aims"},
+    Threshold{6, kSlowestTurn, "turns faster than the slowest bots"},
+    Threshold{7, 1, "slower makes no difference from here on"},
+    Threshold{10, 0.5, "jumps by rocket"},
+    Threshold{15, 0.1, "camps"},
+    Threshold{15, 0.99, "camps for good"},
+    Threshold{16, 0.5, "shoots at players who are typing"},
+    Threshold{18, 0.8, kNoRandomError},
+    Threshold{18, 0.9, kSnaps},
+    Threshold{19, 0.8, kNoRandomError},
+    Threshold{19, 0.9, kSnaps},
+    Threshold{20, 0.8, kNoRandomError},
+    Threshold{20, 0.9, kSnaps},
+    Threshold{21, 0.8, kNoRandomError},
+    Threshold{21, 0.9, kSnaps},
+    Threshold{22, 0.8, kNoRandomError},
+    Threshold{22, 0.9, kSnaps},
+    Threshold{23, 0.8, kNoRandomError},
+    Threshold{23, 0.9, kSnaps},
+    Threshold{24, 0.8, kNoRandomError},
+    Threshold{24, 0.9, kSnaps},
+    Threshold{25, 0.8, kNoRandomError},
+    Threshold{25, 0.9, kSnaps},
+    Threshold{26, 0.4, kLeads},
+    Threshold{26, 0.5, kCorners},
+    Threshold{26, 0.6, kSplash},
+    Threshold{26, 0.8, kPredicts},
+    Threshold{26, 0.9, kSteady},
+    Threshold{27, 0.4, kLeads},
+    Threshold{27, 0.5, kCorners},
+    Threshold{27, 0.6, kSplash},
+    Threshold{27, 0.8, kPredicts},
+    Threshold{27, 0.9, kSteady},
+    Threshold{28, 0.4, kLeads},
+    Threshold{28, 0.6, kSplash},
+    Threshold{28, 0.8, kPredicts},
+    Threshold{28, 0.9, kSteady},
+    Threshold{29, 0.4, kLeads},
+    Threshold{29, 0.5, kCorners},
+    Threshold{29, 0.6, kSplash},
+    Threshold{29, 0.8, kPredicts},
+    Threshold{29, 0.9, kSteady},
+    Threshold{30, 0.1, "pauses between shots, longer with the value"},
+    Threshold{30, 1, "never pauses"},
+};
+
+LevelPair PairAround(double skill) {
+  return kMixedLevels.at(skill < kHighestMixed ? 0 : 1);
+}
+
+std::optional<Level> LevelAt(double skill) {
+  const int number = static_cast<int>(skill);
+  return number == skill ? LevelOfNumber(number) : std::nullopt;
+}
+
+/// Without the game's limits.
+ValueAtSkill Mix(const Bot& bot, int index, double skill) {
+  ValueAtSkill result = {.skill = skill};
+  if (const std::optional<Level> level = LevelAt(skill)) {
+    const ParameterId id(*level, index);
+    if (IsLeftOut(bot, id)) {
+      result.origin = ValueOrigin::kDefault;
+    } else if (const auto number = NumberInFile(bot.Parameter(id))) {
+      result.value = number->value;
+    } else {
+      result.origin = ValueOrigin::kText;
+    }
+    return result;
+  }
+  const LevelPair levels = PairAround(skill);
+  const ParameterId low(levels.lower, index);
+  const ParameterId high(levels.upper, index);
+  if (IsLeftOut(bot, low)) {
+    result.origin = ValueOrigin::kDefault;
+    return result;
+  }
+  const std::optional<WrittenNumber> lower = NumberInFile(bot.Parameter(low));
+  if (!lower) {
+    result.origin = ValueOrigin::kText;
+    return result;
+  }
+  if (lower->is_whole) {
+    result.origin = ValueOrigin::kLower;
+    result.value = lower->value;
+    return result;
+  }
+  if (IsLeftOut(bot, high)) {
+    result.origin = ValueOrigin::kDefault;
+    return result;
+  }
+  const std::optional<WrittenNumber> upper = NumberInFile(bot.Parameter(high));
+  if (!upper || LeavesMixGap(lower->is_whole, upper->is_whole)) {
+    result.origin = ValueOrigin::kNone;
+    return result;
+  }
+  result.origin = ValueOrigin::kMixed;
+  const int lowest = NumberOf(levels.lower);
+  const double share = (skill - lowest) / (NumberOf(levels.upper) - lowest);
+  result.value = lower->value + share * (upper->value - lower->value);
+  return result;
+}
+
+}  // namespace
+
+double UsedRange::Clamp(double value) const {
+  return std::clamp(value, lowest, highest);
+}
+
+UsedRange UsedRangeOf(int index) {
+  constexpr int kViewFactor = 5;
+  if (index == kViewFactor) return {0.01, 1};
+  // The game has 1 to 1800, and then turns no bot slower than this.
+  if (index == kViewMaxChangeIndex) return {kSlowestTurn, 1800};
+  return {};
+}
+
+ValueAtSkill MixSkill(const Bot& bot, int index, double skill) {
+  ValueAtSkill result = Mix(bot, index, std::clamp(skill, 1.0, kHighestSkill));
+  result.used = UsedRangeOf(index).Clamp(result.value);
+  return result;
+}
+
+std::vector<ValueAtSkill> MixShownSkills(const Bot& bot, int index) {
+  std::vector<ValueAtSkill> values;
+  values.reserve(kShownSkills.size());
+  for (const double skill : kShownSkills) {
+    values.push_back(MixSkill(bot, index, skill));
+  }
+  return values;
+}
+
+bool HasMixGap(const Bot& bot, int index, LevelPair levels) {
+  const double between =
+      (NumberOf(levels.lower) + NumberOf(levels.upper)) / 2.0;
+  return Mix(bot, index, between).origin == ValueOrigin::kNone;
+}
+
+std::span<const Threshold> ThresholdsOf(int index) {
+  const auto [first, last] = std::equal_range(
+      kThresholds.begin(), kThresholds.end(), Threshold{index, 0, {}},
+      [](const Threshold& left, const Threshold& right) {
+        return left.index < right.index;
+      });
+  return {first, last};
+}
+
+bool IsReadByGame(int index) {
+  constexpr std::array kUnread = {11, 12, 13, 14, kChatCpm.index()};
+  return !std::count(kUnread.begin(), kUnread.end(), index);
+}
+
+}  // namespace fragsmith

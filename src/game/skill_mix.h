@@ -1,0 +1,90 @@
+#ifndef FRAGSMITH_GAME_SKILL_MIX_H_
+#define FRAGSMITH_GAME_SKILL_MIX_H_
+
+#include <array>
+#include <optional>
+#include <span>
+#include <string_view>
+#include <vector>
+
+#include "model/bot.h"
+
+namespace fragsmith {
+
+/// The skills that a picture of a characteristic shows.
+inline constexpr std::array<double, 9> kShownSkills = {1,   1.5, 2,   2.5, 3,
+                                                       3.5, 4,   4.5, 5};
+
+/// Two levels between which the game mixes.
+struct LevelPair {
+  Level lower;
+  Level upper;
+};
+inline constexpr std::array<LevelPair, 2> kMixedLevels = {
+    {{Level::k1, Level::k4}, {Level::k4, Level::k5}}};
+
+/// How the game comes by the value of a characteristic at some skill.
+enum class ValueOrigin {
+  kLevel,    ///< That of the bot's level itself.
+  kMixed,    ///< In proportion between two levels.
+  kLower,    ///< Whole numbers are not mixed: that of the lower level.
+  kNone,     ///< A fraction below and a whole number above: the game has 0.
+  kText,     ///< A text where a number belongs: the game has 0.
+  kDefault,  ///< Left out of the file: the game's default character decides.
+};
+
+/// A characteristic at some skill.
+struct ValueAtSkill {
+  double skill = 0;
+  ValueOrigin origin = ValueOrigin::kLevel;
+  double value = 0;  ///< Before the game's limits; 0 where there is none.
+  double used = 0;   ///< After them.
+};
+
+/// The range into which the game forces a value at each use.
+struct UsedRange {
+  double lowest = 0;
+  double highest = 1;
+
+  double Clamp(double value) const;
+};
+
+/// A value at which the bot begins to act otherwise.
+struct Threshold {
+  int index;  ///< In the characteristic catalogue.
+  double value;
+  std::string_view text;  ///< UTF-8, what holds from there on.
+};
+
+/// The range of a per-level characteristic (2 to 30) or a chat
+/// characteristic (32 to 43).
+UsedRange UsedRangeOf(int index);
+
+/// The value at any skill from 1 to 5, by the game's rules. Skills outside
+/// are taken as the nearest of these.
+ValueAtSkill MixSkill(const Bot& bot, int index, double skill);
+
+/// The values at kShownSkills.
+std::vector<ValueAtSkill> MixShownSkills(const Bot& bot, int index);
+
+/// Between two levels the game mixes numbers with a "." only. Where both lack
+/// it the lower one counts, but a fraction below and a whole number above
+/// leave no value at all.
+constexpr bool LeavesMixGap(bool is_lower_whole, bool is_upper_whole) {
+  return !is_lower_whole && is_upper_whole;
+}
+
+/// True when the skills between the levels have no value at all.
+bool HasMixGap(const Bot& bot, int index, LevelPair levels);
+
+/// The thresholds of a characteristic, from low to high; empty where its
+/// effect is smooth.
+std::span<const Threshold> ThresholdsOf(int index);
+
+/// False for what no known game reads. Such a value is kept for those who play
+/// with other game code.
+bool IsReadByGame(int index);
+
+}  // namespace fragsmith
+
+#endif  // FRAGSMITH_GAME_SKILL_MIX_H_

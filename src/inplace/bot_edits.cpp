@@ -1,0 +1,482 @@
+#include "inplace/bot_edits.h"
+
+#include <algorithm>
+#include <array>
+#include <filesystem>
+#include <optional>
+#include <system_error>
+#include <utility>
+#include <variant>
+
+#include "botfiles/characteristic_file.h"
+#include "botfiles/description_file.h"
+#include "chat/vocabulary.h"
+#include "game/description_reader.h"
+#include "game/game_path.h"
+#include "inplace/described_bots.h"
+#include "inplace/game_values.h"
+#include "inplace/game_weights.h"
+#include "inplace/lines_there.h"
+#include "inplace/named_files.h"
+#include "install/packages/package.h"
+#include "install/packages/package_writer.h"
+#include "model/characteristic_catalogue.h"
+#include "session/bot_difference.h"
+#include "support/code_page.h"
+#include "support/files.h"
+#include "support/text.h"
+#include "support/unified_diff.h"
+
+namespace fragsmith {
+namespace fs = std::filesystem;
+namespace {
+
+constexpr std::array kKinds = {BotFile::kCharacteristics,
+                               BotFile::kWeaponWeights, BotFile::kItemWeights,
+                               BotFile::kChat, BotFile::kDescription};
+
+/// Given the file's bytes as they are now.
+void Edit(const BothReaders& readers, Result<std::string> old,
+          const Bot& before, const Bot& after, const NumberChooser& chooser,
+          FileEdit& edit) {
+  const auto refuse = [&edit](Error reason) {
+    edit.outcome = FileEdit::Outcome::kNotEditable;
+    edit.reason = std::move(reason);
+  };
+  if (!old) {
+    refuse(old.error());
+    return;
+  }
+  edit.old_bytes = *std::move(old);
+  const bool is_changed =
+      !ChangesIn(readers.file().kind, before, after).empty();
+  if (is_changed) {
+    Result<std::string> edited = EditInPlace(readers, edit.old_bytes, before,
+                                             after, chooser, &edit.notes);
+    if (!edited) {
+      refuse(edited.error());
+    } else if (*edited != edit.old_bytes) {
+      edit.outcome = FileEdit::Outcome::kEdited;
+      edit.bytes = *std::move(edited);
+    }
+  }
+  const FileReading reading = readers.Read(edit.old_bytes);
+  if (is_changed) {
+    edit.origin.spellings.merge(SpellingsIn(edit.old_bytes, reading));
+  }
+  for (const Note& note : reading.report.notes.list()) {
+    edit.losses.push_back(
+        (note.line > 0 ? "Line " + std::to_string(note.line) + ": " : "") +
+        note.text);
+  }
+}
+
+/// The bot with what a file says by now that another program has changed: edits
+/// are to what is there.
+Bot AsInFile(const BothReaders& readers, std::string_view bytes,
+             const Bot& before) {
+  Bot now = before;
+  const FileReading reading = readers.Read(bytes);
+  const auto take = [&](ParameterId id) {
+    if (reading.report.given.contains(id)) {
+      now.Put(id, reading.bot.Parameter(id));
+    }
+  };
+  for (const FileChange& change :
+       ChangesIn(readers.file().kind, before, reading.bot)) {
+    if (const auto* const type = std::get_if<ChatTypeId>(&change)) {
+      CopyChatType(*type, reading.bot, now);
+      continue;
+    }
+    take(std::get<ParameterId>(change));
+    if (change == FileChange(kModelField)) take(kSkinField);
+  }
+  for (const FoundWeight& found : reading.found) {
+    if (!reading.report.given.contains(found.parameter)) {
+      now.Put(found.parameter, found.own.number);
+    }
+  }
+  return now;
+}
+
+/// The folder that all of the bot's files lie below.
+fs::path RootOf(const BotEdits& edits) {
+  std::optional<fs::path> root;
+  for (const auto& [kind, edit] : edits.files) {
+    if (!edit.origin.is_on_disk()) continue;
+    const fs::path folder = edit.origin.path.parent_path();
+    if (!root) root = folder;
+    const auto [mine, theirs] =
+        std::mismatch(root->begin(), root->end(), folder.begin(), folder.end());
+    fs::path common;
+    for (auto part = root->begin(); part != mine; ++part) common /= *part;
+    root = common;
+  }
+  return root.value_or(fs::path());
+}
+
+/// What a patch calls the file: a member by its name, another from the root.
+std::string NameInDiff(const OriginFile& file, const fs::path& root) {
+  if (!file.is_on_disk()) return Utf8FromGameText(file.entry);
+  const fs::path name = file.path.lexically_relative(root);
+  return BytesFromPath(name.generic_u8string());
+}
+
+/// Where a symbolic link leads to: an edit leaves the link itself as it is. A
+/// file made anew takes the place of a link, but this one is the user's own.
+fs::path BehindLinks(const fs::path& path) {
+  std::error_code reason;
+  if (!fs::is_symlink(fs::symlink_status(path, reason))) return path;
+  fs::path target = fs::canonical(path, reason);
+  return reason ? path : target;
+}
+
+/// Gives files that were written their old bytes again. The error says what
+/// became of them.
+Error PutBack(const std::vector<const FileEdit*>& written, Error error) {
+  std::string kept;
+  for (const FileEdit* const edit : written) {
+    if (SaveFile(BehindLinks(edit->origin.path), edit->old_bytes)) continue;
+    kept += (kept.empty() ? "" : ", ") + edit->shown;
+  }
+  if (!kept.empty()) {
+    error.advice += " Written already, and not put back: " + kept + ".";
+  } else if (!written.empty()) {
+    error.advice += " The other files are as they were.";
+  }
+  return error;
+}
+
+/// The list of bots that lies where the character's description would.
+std::optional<OriginFile> ListBeside(const OriginFile& character) {
+  OriginFile list;
+  if (!character.is_on_disk()) {
+    list = {.path = character.path, .entry = std::string(kBotListPath)};
+    return list;
+  }
+  const fs::path folder = character.path.parent_path();
+  const std::optional<fs::path> root = LayoutRootOf(folder);
+  const std::optional<fs::path> path =
+      FindFile(root ? *root / kScriptsFolder : folder, kBotList);
+  if (!path) return std::nullopt;
+  list.path = *path;
+  return list;
+}
+
+void TakeListedIdentity(LoadedBot& loaded, const ModelCatalogue& models) {
+  const auto character = loaded.files.find(BotFile::kCharacteristics);
+  if (character == loaded.files.end()) return;
+  std::optional<OriginFile> list = ListBeside(character->second);
+  if (!list) return;
+  const Result<std::string> bytes = BytesAt(*list);
+  if (!bytes) return;
+  const std::string called = CalledBy(loaded.files);
+  if (!IsDescribed(*bytes, called)) return;
+  list->fingerprint = FingerprintOf(*bytes);
+  const DescriptionReport report =
+      ReadDescriptionFile(*bytes, ShownAt(*list), loaded.bot, called);
+  for (const auto& [id, value] : report.plain_values) {
+    loaded.plain_values.insert_or_assign(id, value);
+  }
+  loaded.has_arena_lord = report.has_arena_lord;
+  UseCatalogueSpelling(loaded.bot, models);
+  loaded.notes.Add({ShownAt(*list), 0,
+                    "The bot has no description of its own; its model, fun "
+                    "name and the rest are those of this list."});
+  loaded.files.emplace(BotFile::kDescription, std::move(*list));
+}
+
+/// By what name a description speaks of the bot: several of a list may share
+/// the files.
+std::string CalledIn(const std::string& description, const Bot& bot,
+                     const std::string& called) {
+  Complaints untold;
+  const std::vector<DescriptionSet> sets =
+      ReadGameDescription({{}, {}, description}, untold);
+  const bool has_name =
+      std::ranges::any_of(sets, [&](const DescriptionSet& set) {
+        return EqualIgnoringCase(set.Text("name"), bot.Name()) &&
+               EqualIgnoringCase(set.Text("aifile"), "bots/" + called + "_c.c");
+      });
+  return has_name ? bot.Name() : called;
+}
+
+/// The chats that the bot's character asks for, its own name last.
+std::vector<std::string> ChatNamesOf(const OriginFiles& files,
+                                     const std::string& called) {
+  std::vector<std::string> names;
+  for (NamedFile& name : NamesInCharacter(files, kChatNameField)) {
+    names.push_back(std::move(name.text));
+  }
+  names.push_back(called);
+  return names;
+}
+
+/// The file on disk that the game finds by a path below botfiles once this one
+/// lies in botfiles/bots: with the game's folders around it, or without.
+std::optional<fs::path> FileBeside(const fs::path& file,
+                                   std::string_view path) {
+  std::string rest = PathLookedFor(path, FileHome::kLoose);
+  fs::path folder = file.parent_path();
+  constexpr std::string_view kBots = "bots/";
+  if (ToLower(rest).starts_with(kBots)) {
+    rest.erase(0, kBots.size());
+  } else if (const std::optional<fs::path> root = LayoutRootOf(folder)) {
+    folder = *root / "botfiles";
+  } else {
+    return std::nullopt;
+  }
+  for (std::size_t end = rest.find('/'); end != std::string::npos;
+       end = rest.find('/')) {
+    const std::string part = rest.substr(0, end);
+    if (!IsFileName(part)) return std::nullopt;
+    folder /= PathFromGameText(part);
+    rest.erase(0, end + 1);
+  }
+  return FindFile(folder, rest);
+}
+
+/// What reads one of the bot's files, given its bytes.
+BothReaders ReadersOf(const OriginFiles& files, BotFile kind,
+                      const std::string& bytes, const Bot& bot,
+                      const IncludeLookup& game) {
+  const OriginFile& origin = files.at(kind);
+  FileOfBot file = {kind, ShownAt(origin), CalledBy(files), origin.spellings};
+  if (kind == BotFile::kDescription) {
+    file.called = CalledIn(bytes, bot, file.called);
+  }
+  if (kind == BotFile::kChat) {
+    file.chat_names = ChatNamesOf(files, file.called);
+  }
+  return {std::move(file), LookUpBeside(origin, game)};
+}
+
+bool HasUnreadWeight(const Bot& bot, BotFile kind) {
+  if (kind == BotFile::kCharacteristics) return false;
+  const IndexRange range =
+      kind == BotFile::kWeaponWeights ? kWeaponWeightRange : kItemWeightRange;
+  return std::any_of(range.begin(), range.end(), [&bot](int index) {
+    return std::holds_alternative<std::monostate>(
+        bot.Parameter(ParameterId(index)));
+  });
+}
+
+}  // namespace
+
+Result<std::string> BytesAt(const OriginFile& file) {
+  return file.is_on_disk()
+             ? ReadFile(file.path, kMaxBotFileBytes)
+             : ReadPackageEntry(file.path, file.entry, kMaxBotFileBytes);
+}
+
+std::string ShownAt(const OriginFile& file) {
+  // As the notes of a load have it.
+  return file.is_on_disk() ? Utf8FromPath(file.path)
+                           : Utf8FromPath(file.path.filename()) + "/" +
+                                 Utf8FromGameText(file.entry);
+}
+
+std::string CalledBy(const OriginFiles& files) {
+  // By its own files first: a description may be in a list with others.
+  for (const BotFile kind : kKinds) {
+    const auto file = files.find(kind);
+    if (file == files.end()) continue;
+    const std::string name = NameAt(file->second);
+    const std::string_view suffix = FileSuffix(kind);
+    if (EndsWithIgnoringCase(name, suffix)) {
+      return name.substr(0, name.size() - suffix.size());
+    }
+  }
+  return {};
+}
+
+bool BotEdits::IsEditable() const {
+  return homeless.empty() &&
+         std::none_of(files.begin(), files.end(), [](const auto& file) {
+           return file.second.outcome == FileEdit::Outcome::kNotEditable;
+         });
+}
+
+bool BotEdits::HasEdits() const {
+  return std::any_of(files.begin(), files.end(), [](const auto& file) {
+    return file.second.outcome == FileEdit::Outcome::kEdited;
+  });
+}
+
+BotEdits EditBotFiles(const OriginFiles& files, const Bot& before,
+                      const Bot& after, const IncludeLookup& game,
+                      const NumberChooser& chooser, const BrokenFiles& broken) {
+  BotEdits edits;
+  const auto add_homeless = [&edits](const std::string& name) {
+    const auto& known = edits.homeless;
+    if (std::find(known.begin(), known.end(), name) == known.end()) {
+      edits.homeless.push_back(name);
+    }
+  };
+  for (const BotFile kind : kKinds) {
+    const auto origin = files.find(kind);
+    if (origin == files.end()) {
+      for (const FileChange& change : ChangesIn(kind, before, after)) {
+        // The name also stands in files that the bot has.
+        if (change == FileChange(kNameField)) continue;
+        add_homeless(NameOf(change));
+      }
+      continue;
+    }
+    FileEdit& edit = edits.files[kind];
+    edit.origin = origin->second;
+    edit.shown = ShownAt(origin->second);
+    // Version and comment are in the head of our own files.
+    const auto fault = broken.find(kind);
+    const bool is_broken = fault != broken.end();
+    Result<std::string> bytes = BytesAt(origin->second);
+    const bool is_changed =
+        bytes && FingerprintOf(*bytes) != origin->second.fingerprint;
+    if (!is_changed && !is_broken && ChangesIn(kind, before, after).empty() &&
+        ChangesInNoFile(before, after).empty()) {
+      continue;
+    }
+    const BothReaders readers =
+        ReadersOf(files, kind, bytes.value_or(std::string()), before, game);
+    const Bot now = is_changed ? AsInFile(readers, *bytes, before) : before;
+    const std::vector<FileChange> changes = ChangesIn(kind, now, after);
+    Edit(readers, std::move(bytes), now, after, chooser, edit);
+    const std::string other =
+        changes.empty() ? std::string() : NamedInstead(files, kind);
+    if (edit.outcome == FileEdit::Outcome::kEdited) {
+      NoteOthers(files, kind, before.Name(), edit.shown, edit.notes);
+    }
+    const bool is_refused = edit.outcome == FileEdit::Outcome::kNotEditable;
+    std::string reason;
+    if (!other.empty()) {
+      reason =
+          "The game does not read this file for the bot, whose characteristic "
+          "file names " +
+          Utf8FromGameText(other) + ".";
+    } else if (is_broken && !is_refused) {
+      reason = "The game does not take this file as it is. " + fault->second;
+    }
+    if (reason.empty()) continue;
+    edit.outcome = FileEdit::Outcome::kNotEditable;
+    edit.reason = {.what = std::move(reason),
+                   .file = edit.shown,
+                   .line = 0,
+                   .advice = other.empty() ? std::string()
+                                           : "Name this file there, or edit "
+                                             "the one that it names."};
+  }
+  for (const ParameterId id : ChangesInNoFile(before, after)) {
+    add_homeless(QuotedName(id));
+  }
+  return edits;
+}
+
+Notes KeepLinesElsewhere(const OriginFiles& files, const Bot& before,
+                         Bot& after, const IncludeLookup& game) {
+  Notes notes;
+  const auto origin = files.find(BotFile::kChat);
+  const std::vector<FileChange> changes =
+      ChangesIn(BotFile::kChat, before, after);
+  if (origin == files.end() || changes.empty()) return notes;
+  const Result<std::string> bytes = BytesAt(origin->second);
+  if (!bytes) return notes;
+  const FileReading reading =
+      ReadersOf(files, BotFile::kChat, *bytes, before, game).Read(*bytes);
+  for (const FileChange& change : changes) {
+    const auto type = std::get<ChatTypeId>(change);
+    const std::vector<LineThere> kept = AddLinesElsewhere(reading, type, after);
+    if (kept.empty()) continue;
+    notes.Add({ShownAt(origin->second), 0,
+               QuotedChatType(type) + " keeps " +
+                   (kept.size() == 1
+                        ? "a line that stands"
+                        : std::to_string(kept.size()) + " lines that stand") +
+                   " in the block \"" + ShownText(kept.front().elsewhere) +
+                   "\" and that the new list has not: no edit of a list "
+                   "takes anything from the block of another type. Remove "
+                   "them by hand where you want them gone."});
+  }
+  return notes;
+}
+
+std::string DiffOf(const BotEdits& edits) {
+  std::string diff;
+  const fs::path root = RootOf(edits);
+  for (const BotFile kind : kKinds) {
+    const auto edit = edits.files.find(kind);
+    if (edit == edits.files.end() ||
+        edit->second.outcome != FileEdit::Outcome::kEdited) {
+      continue;
+    }
+    const std::string name = NameInDiff(edit->second.origin, root);
+    const bool is_new =
+        edit->second.origin.is_on_disk() && !IsFile(edit->second.origin.path);
+    diff += UnifiedDiff(edit->second.old_bytes, edit->second.bytes,
+                        is_new ? "/dev/null" : "a/" + name, "b/" + name);
+  }
+  return diff;
+}
+
+Result<void> WriteEdits(BotEdits& edits) {
+  std::map<fs::path, std::map<std::string, std::string>> packages;
+  std::vector<const FileEdit*> written;
+  for (const auto& [kind, edit] : edits.files) {
+    if (edit.outcome != FileEdit::Outcome::kEdited) continue;
+    if (!edit.origin.is_on_disk()) {
+      packages[edit.origin.path][edit.origin.entry] = edit.bytes;
+      continue;
+    }
+    const Result<void> done =
+        SaveFile(BehindLinks(edit.origin.path), edit.bytes);
+    if (!done) return Failure(PutBack(written, done.error()));
+    written.push_back(&edit);
+  }
+  // All of a bot's members lie in the same package.
+  for (const auto& [package, bytes] : packages) {
+    const Result<void> done =
+        ReplacePackageEntries(BehindLinks(package), bytes);
+    if (!done) return Failure(PutBack(written, done.error()));
+  }
+  for (auto& [kind, edit] : edits.files) {
+    if (edit.outcome != FileEdit::Outcome::kEdited) continue;
+    edit.origin.fingerprint = FingerprintOf(edit.bytes);
+  }
+  return {};
+}
+
+IncludeLookup LookUpBeside(const OriginFile& file, IncludeLookup game) {
+  return [file, game = std::move(game)](
+             std::string_view path) -> std::optional<std::string> {
+    if (!file.is_on_disk()) {
+      Result<std::string> bytes = ReadPackageEntry(
+          file.path, "botfiles/" + std::string(path), kMaxBotFileBytes);
+      if (bytes) return *std::move(bytes);
+    } else if (const auto beside = FileBeside(file.path, path)) {
+      Result<std::string> bytes = ReadFile(*beside, kMaxBotFileBytes);
+      if (bytes) return *std::move(bytes);
+    }
+    return game(path);
+  };
+}
+
+void TakeGameValues(LoadedBot& loaded, bool wants_description,
+                    const ModelCatalogue& models, const IncludeLookup& game) {
+  if (wants_description && !loaded.files.contains(BotFile::kDescription)) {
+    TakeListedIdentity(loaded, models);
+  }
+  for (const BotFile kind : {BotFile::kCharacteristics, BotFile::kWeaponWeights,
+                             BotFile::kItemWeights}) {
+    const auto file = loaded.files.find(kind);
+    if (file == loaded.files.end()) continue;
+    const Result<std::string> bytes = BytesAt(file->second);
+    if (!bytes) continue;
+    const std::string shown = ShownAt(file->second);
+    const IncludeLookup look_up = LookUpBeside(file->second, game);
+    TakeGameNumbers(kind, shown, *bytes, look_up, loaded);
+    if (HasUnreadWeight(loaded.bot, kind)) {
+      TakeGameWeights(kind, shown, *bytes, look_up, loaded);
+    }
+  }
+}
+
+}  // namespace fragsmith

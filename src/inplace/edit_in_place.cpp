@@ -1,0 +1,332 @@
+#include "inplace/edit_in_place.h"
+
+#include <algorithm>
+#include <bit>
+#include <optional>
+#include <utility>
+
+#include "botfiles/value_format.h"
+#include "chat/vocabulary.h"
+#include "inplace/attempt.h"
+#include "model/characteristic_catalogue.h"
+#include "session/identity_rules.h"
+#include "support/text.h"
+
+namespace fragsmith {
+namespace {
+
+constexpr std::string_view kNotLoaded =
+    "It would not be read from there when the bot is loaded.";
+
+/// Why a value of this kind cannot stand in a file at all; empty where it can.
+std::string OddValueRefusal(const Value& value) {
+  const std::optional<double> number = ToNumber(value);
+  if (!number) {
+    return Contains(ToText(value), "\"")
+               ? "The game's files have no double quote within a text. Take it "
+                 "out."
+               : std::string();
+  }
+  return *number < 0 ? "The game's files have no negative numbers. Use "
+                       "0 or more."
+                     : std::string();
+}
+
+/// A better reason than that the number would not be loaded.
+std::string RefusedDigits(const Value& value) {
+  constexpr std::size_t kMaxDigits = 3;
+  const std::string text = FormatValue(value);
+  const std::size_t point = text.find('.');
+  const bool is_long = ToNumber(value) && point != std::string::npos &&
+                       text.size() - point - 1 > kMaxDigits;
+  return is_long ? "A load reads three digits behind the point, no more, and " +
+                       text + " has more. Round it."
+                 : std::string();
+}
+
+bool IsSame(ParameterId id, const Bot& before, const Bot& after) {
+  const Value& left = before.Parameter(id);
+  const Value& right = after.Parameter(id);
+  if (id == kFunNameField) {
+    return FunNameForBox(ToText(left)) == FunNameForBox(ToText(right));
+  }
+  if (id == kModelField || id == kSkinField) {
+    return EqualIgnoringCase(ToText(left), ToText(right));
+  }
+  return FactOf(left) == FactOf(right);
+}
+
+bool HasSameLines(ChatTypeId type, const Bot& before, const Bot& after) {
+  const auto written = [type](const Bot& bot) {
+    std::vector<std::string> lines = bot.ChatLines(type);
+    std::erase(lines, std::string());
+    return lines;
+  };
+  return written(before) == written(after);
+}
+
+/// What the game would have no more for the skills between two levels; nothing
+/// where it has all.
+std::optional<std::string> NewlyUnmixed(const FileReading& before,
+                                        const FileReading& after) {
+  for (const auto& [name, fact] : after.facts) {
+    if (name.starts_with(kUnmixed) && !before.facts.contains(name)) return fact;
+  }
+  return std::nullopt;
+}
+
+/// True where the game would have all that could tell of the change as it is.
+bool IsUnread(const Attempt& attempt, const FileReading& before,
+              const FileReading& after) {
+  return !attempt.moving.empty() &&
+         std::none_of(attempt.moving.begin(), attempt.moving.end(),
+                      [&](const std::string& name) {
+                        return before.facts.at(name) != after.facts.at(name);
+                      });
+}
+
+/// Why the attempt cannot stand; nothing where it can.
+std::optional<std::string> FaultOf(const Attempt& attempt,
+                                   const std::string& own_name,
+                                   const FileReading& before,
+                                   const FileReading& after) {
+  Facts wanted = before.facts;
+  for (const auto& [name, fact] : attempt.expected) {
+    if (fact) {
+      wanted[name] = *fact;
+    } else {
+      wanted.erase(name);
+    }
+  }
+  const auto is_free = [&attempt](const std::string& name) {
+    return name.starts_with(kUnmixed) ||
+           std::any_of(attempt.free.begin(), attempt.free.end(),
+                       [&name](const std::string& start) {
+                         return name.starts_with(start);
+                       });
+  };
+  const auto strip = [&is_free](Facts facts) {
+    std::erase_if(facts, [&](const auto& fact) { return is_free(fact.first); });
+    return facts;
+  };
+  const Facts left = strip(std::move(wanted));
+  const Facts right = strip(after.facts);
+  const auto fault_at = [&](const std::string& name) -> std::string {
+    if (!attempt.expected.contains(name)) {
+      const std::string other = NameOfFact(name, before);
+      if (!other.empty() && other == own_name) {
+        return "The line does not give it in a plain way. Write it as key and "
+               "number there first, without comments between them.";
+      }
+      return "Another value would change with it" +
+             (other.empty() ? "." : ": " + other + ".");
+    }
+    const bool is_ours =
+        name.starts_with("rule ") || name.starts_with("plain ");
+    return is_ours ? std::string(kNotLoaded)
+                   : "The game would not read it from there.";
+  };
+  for (const auto& [name, fact] : left) {
+    const auto found = right.find(name);
+    if (found == right.end() || found->second != fact) return fault_at(name);
+  }
+  for (const auto& [name, fact] : right) {
+    if (!left.contains(name)) return fault_at(name);
+  }
+  if (IsUnread(attempt, before, after)) {
+    return "The game takes the weight from another file or number, and would "
+           "not read this one.";
+  }
+  if (std::optional<std::string> fault = NewlyUnmixed(before, after)) {
+    return fault;
+  }
+  for (const auto& [kind, count] : after.errors) {
+    const auto known = before.errors.find(kind);
+    if (known == before.errors.end() || known->second < count) {
+      return "The game would find a fault in the file that it has not now.";
+    }
+  }
+  return std::nullopt;
+}
+
+/// Given in the order of the file, as CommentsIn has them.
+bool TouchesComment(const Attempt& attempt,
+                    const std::vector<TextSpan>& comments) {
+  return std::any_of(
+      attempt.splices.begin(), attempt.splices.end(),
+      [&comments](const Splice& splice) {
+        const auto next = std::partition_point(
+            comments.begin(), comments.end(), [&splice](TextSpan comment) {
+              return comment.end <= splice.span.begin;
+            });
+        return next != comments.end() && Overlap(splice.span, *next);
+      });
+}
+
+/// True for bytes that can be read as UTF-8 and have letters beyond ASCII.
+bool LooksLikeUtf8(std::string_view bytes) {
+  bool has_letters = false;
+  for (std::size_t at = 0; at < bytes.size();) {
+    const auto lead = static_cast<unsigned char>(bytes[at++]);
+    if (lead < 0x80) continue;
+    const int more = std::countl_one(lead) - 1;
+    if (more < 1 || more > 3) return false;
+    for (int count = 0; count < more; ++count, ++at) {
+      const bool continues =
+          at < bytes.size() &&
+          std::countl_one(static_cast<unsigned char>(bytes[at])) == 1;
+      if (!continues) return false;
+    }
+    has_letters = true;
+  }
+  return has_letters;
+}
+
+Plan PlanFor(const PlanContext& context, const FileChange& change) {
+  if (const auto* const type = std::get_if<ChatTypeId>(&change)) {
+    return PlanChat(context, *type);
+  }
+  const ParameterId id = std::get<ParameterId>(change);
+  std::string refusal = OddValueRefusal(context.after.Parameter(id));
+  const bool is_description =
+      context.readers.file().kind == BotFile::kDescription;
+  if (!is_description && !refusal.empty()) {
+    return {.attempts = {}, .refusal = std::move(refusal)};
+  }
+  switch (context.readers.file().kind) {
+    case BotFile::kDescription:
+      return PlanDescription(context, id);
+    case BotFile::kCharacteristics:
+      return PlanCharacteristic(context, id);
+    default:
+      return PlanWeight(context, id);
+  }
+}
+
+}  // namespace
+
+std::string NameOf(const FileChange& change) {
+  const auto* const type = std::get_if<ChatTypeId>(&change);
+  return type != nullptr ? QuotedChatType(*type)
+                         : QuotedName(std::get<ParameterId>(change));
+}
+
+std::vector<FileChange> ChangesIn(BotFile kind, const Bot& before,
+                                  const Bot& after) {
+  std::vector<FileChange> changes;
+  const auto add = [&](ParameterId id) {
+    if (!IsSame(id, before, after)) changes.emplace_back(id);
+  };
+  const auto add_range = [&add](IndexRange range) {
+    for (const int index : range) add(ParameterId(index));
+  };
+  switch (kind) {
+    case BotFile::kDescription:
+      add(kNameField);
+      if (!IsSame(kModelField, before, after) ||
+          !IsSame(kSkinField, before, after)) {
+        changes.emplace_back(kModelField);
+      }
+      for (const ParameterId id :
+           {kFunNameField, kRailColorField, kArenaLordField}) {
+        add(id);
+      }
+      break;
+    case BotFile::kCharacteristics:
+      add(kNameField);
+      add(kGenderField);
+      for (const Level level : kLevels) {
+        for (const int index : kPerLevelRange) add({level, index});
+      }
+      add_range(kChatRange);
+      break;
+    case BotFile::kItemWeights:
+      add_range(kItemWeightRange);
+      break;
+    case BotFile::kWeaponWeights:
+      add_range(kWeaponWeightRange);
+      break;
+    case BotFile::kChat:
+      for (const ChatTypeId type : kAllChatTypes) {
+        if (!HasSameLines(type, before, after)) changes.emplace_back(type);
+      }
+      break;
+  }
+  return changes;
+}
+
+std::vector<ParameterId> ChangesInNoFile(const Bot& before, const Bot& after) {
+  std::vector<ParameterId> changes;
+  for (const ParameterId id :
+       {kVersionMajorField, kVersionMinorField, kCommentField}) {
+    if (!IsSame(id, before, after)) changes.push_back(id);
+  }
+  return changes;
+}
+
+Result<std::string> EditInPlace(const BothReaders& readers,
+                                std::string_view bytes, const Bot& before,
+                                const Bot& after, const NumberChooser& chooser,
+                                Notes* notes) {
+  std::string edited(bytes);
+  const std::vector<FileChange> changes =
+      ChangesIn(readers.file().kind, before, after);
+  if (changes.empty()) return edited;
+  FileReading reading = readers.Read(edited);
+  // Before a line goes out of one chat type and into another.
+  ChatSpellings spellings = SpellingsIn(edited, reading);
+  spellings.insert(readers.file().spellings.begin(),
+                   readers.file().spellings.end());
+  for (const FileChange& change : changes) {
+    const Plan plan =
+        PlanFor({readers, reading, edited, after, chooser, spellings}, change);
+    std::string refusal = plan.refusal;
+    bool is_done = plan.is_needless;
+    const std::vector<TextSpan> comments = CommentsIn(edited);
+    for (const Attempt& attempt : plan.attempts) {
+      if (TouchesComment(attempt, comments)) {
+        if (refusal.empty()) refusal = "A comment stands in its place.";
+        continue;
+      }
+      std::string tried = Spliced(edited, attempt.splices);
+      FileReading read = readers.Read(tried);
+      std::optional<std::string> fault =
+          FaultOf(attempt, NameOf(change), reading, read);
+      if (!fault) {
+        is_done = true;
+        edited = std::move(tried);
+        reading = std::move(read);
+        break;
+      }
+      if (refusal.empty()) refusal = std::move(*fault);
+    }
+    for (const std::string& note : plan.notes) {
+      if (is_done && notes != nullptr) {
+        notes->Add({readers.file().shown, 0, note});
+      }
+    }
+    if (is_done) continue;
+    if (refusal.empty()) refusal = kNoNeighbours;
+    if (const auto* const id = std::get_if<ParameterId>(&change);
+        id != nullptr && refusal == kNotLoaded) {
+      std::string better = RefusedDigits(after.Parameter(*id));
+      if (!better.empty()) refusal = std::move(better);
+    }
+    return Failure(
+        {.what = NameOf(change) + " cannot be changed in place. " + refusal,
+         .file = readers.file().shown,
+         .line = 0,
+         .advice = {}});
+  }
+  if (notes != nullptr && LooksLikeUtf8(bytes) && !LooksLikeUtf8(edited)) {
+    notes->Add(
+        {readers.file().shown, 0,
+         "Letters were written in Windows-1252, in a file that was in UTF-8 so "
+         "far. The game knows no UTF-8 and has each of its bytes as a letter. "
+         "For letters as the file has them, give them as they are shown here, "
+         "such as \u00C3\u00A9 for \u00E9."});
+  }
+  return edited;
+}
+
+}  // namespace fragsmith

@@ -1,0 +1,158 @@
+#include "inplace/game_values.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <map>
+#include <optional>
+#include <utility>
+
+#include "botfiles/left_out.h"
+#include "chat/chat_catalogue.h"
+#include "chat/chat_line.h"
+#include "chat/vocabulary.h"
+#include "game/lexer.h"
+#include "inplace/file_reading.h"
+#include "model/characteristic_catalogue.h"
+#include "support/numbers.h"
+#include "support/text.h"
+
+namespace fragsmith {
+namespace {
+
+bool IsOddNumber(const GameToken& token) {
+  return token.oddity != GameToken::Oddity::kNone ||
+         token.span.end - token.span.begin != token.text.size() ||
+         token.text.find_first_not_of("0123456789.") != std::string::npos;
+}
+
+/// Files hold no more than a float does.
+bool IsSameNumber(const Value& value, double number) {
+  const std::optional<double> known = ToNumber(value);
+  return known && static_cast<float>(*known) == static_cast<float>(number);
+}
+
+/// Puts the game's numbers among the odd values of a load.
+class OddNumbers {
+ public:
+  explicit OddNumbers(LoadedBot& loaded) : loaded_(loaded) {}
+
+  void Take(ParameterId id, double exact) {
+    // No more digits than the game has.
+    const double number =
+        NumberFromText(PlainDecimal(exact, kFloatDigits)).value_or(exact);
+    auto& odd = loaded_.plain_values;
+    const Value& read = loaded_.bot.Parameter(id);
+    const auto plain = odd.find(id);
+    if (IsSameNumber(plain == odd.end() ? read : plain->second, number)) return;
+    if (IsSameNumber(read, number)) {
+      odd.erase(plain);
+    } else {
+      odd.insert_or_assign(id, number);
+    }
+    names_.Add(QuotedName(id) + " (" + ShownNumber(number) + ")");
+  }
+
+  void Tell(const std::string& shown) {
+    if (names_.empty()) return;
+    loaded_.notes.Add({shown, 0,
+                       "The game takes other numbers than stand in the file, "
+                       "or those of another line: " +
+                           names_.Text() + "."});
+  }
+
+ private:
+  LoadedBot& loaded_;
+  NameList names_;
+};
+
+void TakeLevels(const BothReaders& readers, const FileReading& reading,
+                OddNumbers& numbers) {
+  std::map<ParameterId, double> found;
+  for (const auto& [level, block] : reading.levels) {
+    for (const IndexRange range : {kPerLevelRange, kChatRange}) {
+      for (const int index : range) {
+        const bool is_of_level = kPerLevelRange.Contains(index);
+        const std::optional<int> number = readers.GameNumber(index);
+        const ParameterId id =
+            is_of_level ? ParameterId(level, index) : ParameterId(index);
+        if (!number || !reading.report.given.contains(id)) continue;
+        const auto value = block.values.find(*number);
+        // A key that is not there for the game, or a text, gives 0.
+        if (value != block.values.end()) {
+          found[id] = value->second.number;
+        } else if (is_of_level) {
+          found[id] = 0;
+        }
+      }
+    }
+  }
+  for (const auto& [id, number] : found) numbers.Take(id, number);
+}
+
+}  // namespace
+
+bool NeedsGameReader(std::string_view bytes) {
+  GameLexer lexer(bytes);
+  GameToken token;
+  bool is_command = false;
+  while (lexer.Next(token) == GameLexer::Outcome::kToken) {
+    const bool is_odd =
+        (token.kind == GameToken::Kind::kNumber && IsOddNumber(token)) ||
+        (token.kind == GameToken::Kind::kString && IsNumericText(token.text)) ||
+        token.Is("-") || token.Is("+") ||
+        (is_command && !token.Is("include") && !token.Is("define"));
+    if (is_odd) return true;
+    is_command = token.Is("#");
+  }
+  return false;
+}
+
+void TakeGameNumbers(BotFile kind, const std::string& shown,
+                     std::string_view bytes, const IncludeLookup& game,
+                     LoadedBot& loaded) {
+  if (!NeedsGameReader(bytes)) return;
+  const BothReaders readers({kind, shown, {}}, game);
+  const FileReading reading = readers.Read(bytes);
+  OddNumbers numbers(loaded);
+  TakeLevels(readers, reading, numbers);
+  for (const FoundWeight& found : reading.found) {
+    if (reading.report.given.contains(found.parameter)) {
+      numbers.Take(found.parameter, found.own.number);
+    }
+  }
+  numbers.Tell(shown);
+}
+
+void TakeGameChats(std::string_view bytes, const IncludeLookup& game,
+                   Bot& bot) {
+  if (!NeedsGameReader(bytes)) return;
+  const FileReading reading =
+      BothReaders({BotFile::kChat, {}, {}}, game).Read(bytes);
+  // A file that the game cannot read has no lines for it.
+  if (reading.chat.types.empty() || !reading.errors.empty()) return;
+  std::map<std::string, const GameChatType*> last;
+  for (const GameChatType& type : reading.chat.types) {
+    last[ToLower(type.name)] = &type;
+  }
+  bot.ClearChats();
+  for (const ChatTypeId id : kAllChatTypes) {
+    const auto type = last.find(std::string(ChatTypeAt(id).Key));
+    if (type == last.end()) continue;
+    int number = 0;
+    for (const GameChatLine& line : type->second->lines) {
+      std::string text(
+          bytes.substr(line.span.begin, line.span.end - line.span.begin));
+      std::replace_if(
+          text.begin(), text.end(),
+          [](char letter) {
+            return letter == '\t' || letter == '\r' || letter == '\n';
+          },
+          ' ');
+      if (text.empty()) continue;
+      bot.SetChatLine(id, number++,
+                      ChatLineFromFile(id, TrimBlanksAndTabs(text)).text);
+    }
+  }
+}
+
+}  // namespace fragsmith

@@ -1,0 +1,28 @@
+#ifndef FRAGSMITH_INPLACE_GAME_VALUES_H_
+#define FRAGSMITH_INPLACE_GAME_VALUES_H_
+
+#include <string>
+#include <string_view>
+
+#include "game/preprocessor.h"
+#include "model/bot.h"
+#include "session/load_bot.h"
+
+namespace fragsmith {
+
+/// Whether a file has something that only the game's own reader understands:
+/// an #if, a number written in a way of its own, a number as text, a sign.
+bool NeedsGameReader(std::string_view bytes);
+
+/// Makes of such a file's numbers, just read from it into the bot, those that
+/// the game takes: the odd values of the load. A note lists them.
+void TakeGameNumbers(BotFile kind, const std::string& shown,
+                     std::string_view bytes, const IncludeLookup& game,
+                     LoadedBot& loaded);
+
+/// Gives the bot the chat lines of such a file that the game takes.
+void TakeGameChats(std::string_view bytes, const IncludeLookup& game, Bot& bot);
+
+}  // namespace fragsmith
+
+#endif  // FRAGSMITH_INPLACE_GAME_VALUES_H_

@@ -1,0 +1,132 @@
+#include "inplace/game_weights.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <optional>
+#include <vector>
+
+#include "botfiles/left_out.h"
+#include "botfiles/weight_file.h"
+#include "chat/vocabulary.h"
+#include "inplace/file_reading.h"
+#include "inplace/splice.h"
+#include "support/code_page.h"
+#include "support/text.h"
+
+namespace fragsmith {
+namespace {
+
+/// Macros of the file that are no weights of the bot.
+void NoteOthers(const std::string& shown, std::string_view bytes,
+                const FileReading& reading, Notes& notes) {
+  NameList names;
+  std::size_t count = 0;
+  std::size_t first_line = 0;
+  std::vector<OwnNumber> numbers;
+  for (const FoundWeight& weight : reading.found) {
+    numbers.push_back(weight.own);
+    numbers.insert(numbers.end(), weight.others.begin(), weight.others.end());
+  }
+  for (const OwnMacro& macro : reading.weights.macros) {
+    const bool is_weight = std::any_of(numbers.begin(), numbers.end(),
+                                       [&macro](const OwnNumber& number) {
+                                         return macro.value.Holds(number.span);
+                                       });
+    if (is_weight) continue;
+    names.Add(ShownText(macro.name));
+    const std::size_t line = LineNumberAt(bytes, macro.value.begin);
+    first_line = count++ == 0 ? line : std::min(first_line, line);
+  }
+  if (count == 0) return;
+  notes.Add({shown, first_line, AlsoInFile(count, names.Text())});
+}
+
+bool IsFound(const FileReading& reading, ParameterId id) {
+  return std::ranges::count(reading.found, id, &FoundWeight::parameter) > 0;
+}
+
+std::vector<ParameterId> WithoutNumber(BotFile kind,
+                                       const FileReading& reading) {
+  std::vector<ParameterId> missing;
+  bool has_own_way = false;
+  for (const int index : kind == BotFile::kWeaponWeights ? kWeaponWeightRange
+                                                         : kItemWeightRange) {
+    const ParameterId id(index);
+    if (reading.report.given.contains(id)) continue;
+    if (IsFound(reading, id)) {
+      has_own_way = true;
+    } else {
+      missing.push_back(id);
+    }
+  }
+  return has_own_way ? missing : std::vector<ParameterId>();
+}
+
+}  // namespace
+
+std::vector<ParameterId> WeightsWithoutNumber(BotFile kind,
+                                              std::string_view bytes,
+                                              const IncludeLookup& game) {
+  return WithoutNumber(kind, BothReaders({kind, {}, {}}, game).Read(bytes));
+}
+
+std::string SourceOf(const OwnNumber& own, const WeightsRead& weights,
+                     std::string_view bytes) {
+  const std::string line = std::to_string(LineNumberAt(bytes, own.span.begin));
+  for (const OwnMacro& macro : weights.macros) {
+    if (macro.value.Holds(own.span)) {
+      return ShownText(macro.name) + " (line " + line + ")";
+    }
+  }
+  return "the number in line " + line;
+}
+
+void TakeGameWeights(BotFile kind, const std::string& shown,
+                     std::string_view bytes, const IncludeLookup& game,
+                     LoadedBot& loaded) {
+  const BothReaders readers({kind, shown, {}}, game);
+  const FileReading reading = readers.Read(bytes);
+  NameList pairs;
+  NameList unsure;
+  for (const FoundWeight& found : reading.found) {
+    if (reading.report.given.contains(found.parameter)) continue;
+    loaded.bot.Put(found.parameter, found.own.number);
+    const std::string name = QuotedName(found.parameter);
+    pairs.Add(name + " from " + SourceOf(found.own, reading.weights, bytes));
+    if (!found.others.empty()) unsure.Add(name);
+  }
+  if (!pairs.empty()) {
+    loaded.notes.Remove(shown, kSetsNoWeights);
+    loaded.notes.Remove(shown, kAlsoInFile);
+    loaded.notes.Add({shown, 0,
+                      "Weights that the file sets in its own way, as the "
+                      "game's weight code takes them: " +
+                          pairs.Text() + "."});
+  }
+  if (!pairs.empty()) NoteOthers(shown, bytes, reading, loaded.notes);
+  NameList missing;
+  for (const ParameterId id : WithoutNumber(kind, reading)) {
+    missing.Add(QuotedName(id));
+  }
+  if (!missing.empty()) {
+    loaded.notes.Add({shown, 0,
+                      "The weight code takes no number of the file, or no "
+                      "single one, for " +
+                          missing.Text() +
+                          ". The 0 shown there is none of the bot's values."});
+  }
+  if (!unsure.empty()) {
+    loaded.notes.Add({shown, 0,
+                      "Of these the weight code has several numbers, and the "
+                      "largest is shown: " +
+                          unsure.Text() + "."});
+  }
+  if (reading.report.given.empty() && pairs.empty()) {
+    loaded.notes.Add({shown, 0,
+                      "What the file says is only understood together with the "
+                      "weight code of the game that it was made for. Give the "
+                      "folder of that game in the options."});
+  }
+}
+
+}  // namespace fragsmith

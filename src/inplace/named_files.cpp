@@ -1,0 +1,174 @@
+#include "inplace/named_files.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <optional>
+#include <set>
+#include <string_view>
+#include <utility>
+
+#include "botfiles/characteristic_file.h"
+#include "botfiles/left_out.h"
+#include "game/character_reader.h"
+#include "game/description_reader.h"
+#include "game/stand_ins.h"
+#include "inplace/bot_edits.h"
+#include "support/code_page.h"
+#include "support/files.h"
+#include "support/text.h"
+
+namespace fragsmith {
+namespace fs = std::filesystem;
+namespace {
+
+/// More files of a folder are not looked at.
+constexpr std::size_t kMaxNeighbours = 300;
+
+std::optional<ParameterId> FieldNaming(BotFile kind) {
+  if (kind == BotFile::kWeaponWeights) return kWeaponFileField;
+  if (kind == BotFile::kItemWeights) return kItemFileField;
+  if (kind == BotFile::kChat) return kChatFileField;
+  return std::nullopt;
+}
+
+/// The level in whose block the line stands.
+int LevelAt(const std::vector<BlockAt>& blocks, std::size_t line) {
+  int level = 0;
+  for (const BlockAt& block : blocks) {
+    if (block.line > 0 && static_cast<std::size_t>(block.line) <= line) {
+      level = block.level;
+    }
+  }
+  return level;
+}
+
+std::vector<NamedFile> NamesIn(const std::string& bytes, ParameterId field) {
+  std::vector<NamedFile> names;
+  Bot bot;
+  const ReadReport report =
+      ReadCharacteristicFile(bytes, {}, ReadIdentity::kNo, bot);
+  const std::vector<BlockAt> blocks =
+      CharacterBlocks({{}, "bots/bot_c.c", bytes}, StandInGameFile);
+  for (const ReadReport::Name& name : report.names) {
+    if (name.field == field) {
+      names.push_back({LevelAt(blocks, name.line), name.text});
+    }
+  }
+  return names;
+}
+
+void NoteOtherLevels(const std::vector<NamedFile>& names,
+                     const std::string& own, const std::string& shown,
+                     Notes& notes) {
+  constexpr int kTopLevel = 5;
+  std::set<int> told;
+  for (const NamedFile& name : names) {
+    const bool is_read =
+        name.level == 1 || name.level == 4 || name.level == kTopLevel;
+    if (!is_read || EqualIgnoringCase(name.text, own) ||
+        !told.insert(name.level).second) {
+      continue;
+    }
+    notes.Add({shown, 0,
+               "At level " + std::to_string(name.level) + " the game reads " +
+                   Utf8FromGameText(name.text) + ", which stays as it is."});
+  }
+}
+
+/// Bots on disk beside it whose character names the file.
+void NoteOtherBots(const fs::path& character, ParameterId field,
+                   const std::string& own, const std::string& shown,
+                   Notes& notes) {
+  NameList bots;
+  const fs::path folder = character.parent_path();
+  std::vector<fs::path> others =
+      ListFiles(folder, FileSuffix(BotFile::kCharacteristics));
+  if (others.size() > kMaxNeighbours) others.resize(kMaxNeighbours);
+  for (const fs::path& other : others) {
+    if (other == character.filename()) continue;
+    const Result<std::string> bytes =
+        ReadFile(folder / other, kMaxBotFileBytes);
+    if (!bytes || !Contains(ToLower(*bytes), ToLower(own))) continue;
+    const std::vector<NamedFile> named = NamesIn(*bytes, field);
+    if (std::any_of(named.begin(), named.end(), [&own](const NamedFile& one) {
+          return EqualIgnoringCase(one.text, own);
+        })) {
+      bots.Add(Utf8FromPath(other));
+    }
+  }
+  if (bots.empty()) return;
+  notes.Add({shown, 0,
+             "The edit changes other bots too, whose characteristic files name "
+             "this file: " +
+                 bots.Text() + "."});
+}
+
+/// Bots that the same description gives the same characteristic file.
+void NoteListedBots(const OriginFiles& files, const std::string& bot,
+                    const std::string& shown, Notes& notes) {
+  const auto list = files.find(BotFile::kDescription);
+  const auto character = files.find(BotFile::kCharacteristics);
+  if (list == files.end() || character == files.end()) return;
+  const Result<std::string> bytes = BytesAt(list->second);
+  if (!bytes) return;
+  Complaints untold;
+  NameList bots;
+  for (const DescriptionSet& set :
+       ReadGameDescription({{}, {}, *bytes}, untold)) {
+    const std::string_view name = set.Text("name");
+    if (EqualIgnoringCase(set.Text("aifile"),
+                          "bots/" + NameAt(character->second)) &&
+        !EqualIgnoringCase(name, bot)) {
+      bots.Add(ShownText(name));
+    }
+  }
+  if (bots.empty()) return;
+  notes.Add({shown, 0,
+             "The edit changes other bots too, which have the same files by " +
+                 Utf8FromGameText(NameAt(list->second)) + ": " + bots.Text() +
+                 "."});
+}
+
+}  // namespace
+
+std::string NameAt(const OriginFile& file) {
+  if (!file.is_on_disk()) {
+    return file.entry.substr(file.entry.find_last_of("/\\") + 1);
+  }
+  return GameTextFromPath(file.path.filename()).value_or(std::string());
+}
+
+std::vector<NamedFile> NamesInCharacter(const OriginFiles& files,
+                                        ParameterId field) {
+  const auto character = files.find(BotFile::kCharacteristics);
+  if (character == files.end()) return {};
+  const Result<std::string> bytes = BytesAt(character->second);
+  if (!bytes) return {};
+  return NamesIn(*bytes, field);
+}
+
+std::string NamedInstead(const OriginFiles& files, BotFile kind) {
+  const std::optional<ParameterId> field = FieldNaming(kind);
+  if (!field) return {};
+  const std::string own = "bots/" + NameAt(files.at(kind));
+  std::string other;
+  for (const NamedFile& name : NamesInCharacter(files, *field)) {
+    if (EqualIgnoringCase(name.text, own)) return {};
+    other = name.text;
+  }
+  return other;
+}
+
+void NoteOthers(const OriginFiles& files, BotFile kind, const std::string& bot,
+                const std::string& shown, Notes& notes) {
+  if (kind != BotFile::kDescription) NoteListedBots(files, bot, shown, notes);
+  const std::optional<ParameterId> field = FieldNaming(kind);
+  const auto character = files.find(BotFile::kCharacteristics);
+  if (!field || character == files.end()) return;
+  const std::string own = "bots/" + NameAt(files.at(kind));
+  NoteOtherLevels(NamesInCharacter(files, *field), own, shown, notes);
+  if (!character->second.is_on_disk()) return;
+  NoteOtherBots(character->second.path, *field, own, shown, notes);
+}
+
+}  // namespace fragsmith

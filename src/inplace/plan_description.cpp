@@ -1,0 +1,285 @@
+// Plans for the fields of a description.
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <utility>
+
+#include "botfiles/description_file.h"
+#include "chat/vocabulary.h"
+#include "game/limits.h"
+#include "inplace/attempt.h"
+#include "session/identity_rules.h"
+#include "support/text.h"
+
+namespace fragsmith {
+namespace {
+
+/// The order in which our writer puts them, with its padding.
+constexpr std::array<std::string_view, 7> kPaddedKeys = {
+    "name\t\t",   "model\t\t", "funname\t",  "color\t\t",
+    "color1\t\t", "aifile\t",  "arenaLord\t"};
+
+constexpr std::string_view kDefaultSkin = "default";
+
+std::string KeyOf(std::string_view padded) {
+  return ToLower(padded.substr(0, padded.find('\t')));
+}
+
+std::string_view PaddedKeyOf(std::string_view key) {
+  const auto* const found = std::find_if(
+      kPaddedKeys.begin(), kPaddedKeys.end(),
+      [key](std::string_view padded) { return KeyOf(padded) == key; });
+  return *found;
+}
+
+/// The set of the game that describes this bot; nothing where it is not known,
+/// as several stand in the same lines.
+std::optional<std::size_t> OwnSet(const FileReading& reading) {
+  std::optional<std::size_t> own;
+  for (std::size_t at = 0; at < reading.descriptions.size(); ++at) {
+    if (!Overlap(reading.descriptions[at].span, reading.block)) continue;
+    if (own) return std::nullopt;
+    own = at;
+  }
+  return own;
+}
+
+class DescriptionPlan {
+ public:
+  DescriptionPlan(const PlanContext& context, ParameterId field,
+                  std::size_t set)
+      : context_(context),
+        field_(field),
+        set_at_(set),
+        set_(context.reading.descriptions[set]) {}
+
+  Plan Make() {
+    const std::string key = Key();
+    const auto old = set_.values.find(key);
+    const bool is_there = old != set_.values.end() && !old->second.span.empty();
+    const std::optional<std::string> text =
+        NewText(is_there ? old->second.text : std::string());
+    Attempt attempt;
+    attempt.expected[DescriptionFact(set_at_, key)] = text;
+    ExpectFields(attempt);
+    if (is_there) {
+      attempt.splices.push_back(text ? Replacement(old->second.span, *text)
+                                     : LineRemoval(old->second.span, key));
+      Plan plan = {.attempts = {attempt}, .refusal = {}};
+      if (text && HasCommentBeside(old->second.span)) {
+        plan.refusal =
+            "A load takes the comment in its line for a part of it. Put that "
+            "into a line of its own first.";
+        plan.notes.emplace_back(
+            "The comment behind " + QuotedName(field_) +
+            " stays. A load here takes it for a part of the text, as before; "
+            "the game does not.");
+      }
+      if (text) {
+        attempt.splices = {WithoutBlanks(old->second.span, *text)};
+        plan.attempts.push_back(std::move(attempt));
+      }
+      return plan;
+    }
+    if (!text) return {.attempts = {}, .refusal = {}, .is_needless = true};
+    Plan plan;
+    for (Splice& splice : NewLines(key, *text)) {
+      attempt.splices = {std::move(splice)};
+      plan.attempts.push_back(attempt);
+    }
+    return plan;
+  }
+
+ private:
+  std::string Key() const {
+    switch (field_.index()) {
+      case kNameField.index():
+        return "name";
+      case kFunNameField.index():
+        return "funname";
+      case kRailColorField.index():
+        // The game looks for the one, our writer writes the other.
+        return set_.values.contains("color1") ? "color1" : "color";
+      case kArenaLordField.index():
+        return "arenalord";
+      default:
+        return "model";
+    }
+  }
+
+  /// What is to stand behind the key; nothing where the line has to go.
+  std::optional<std::string> NewText(const std::string& old) const {
+    const Bot& bot = context_.after;
+    std::string text;
+    switch (field_.index()) {
+      case kFunNameField.index():
+        text = FunNameForBox(bot.FunName());
+        break;
+      case kRailColorField.index():
+        text = bot.Text(kRailColorField);
+        if (text == kNoRailColor) text.clear();
+        break;
+      case kArenaLordField.index():
+        text = bot.Text(kArenaLordField);
+        if (old.empty() && ToNumber(bot.Parameter(field_)) == 0.0) text.clear();
+        break;
+      case kNameField.index():
+        text = bot.Name();
+        break;
+      default: {
+        text = ModelFileName(TextOfHalf(kModelField));
+        const std::string skin = TextOfHalf(kSkinField);
+        if (ToLower(skin) != kDefaultSkin || Contains(old, "/")) {
+          text += "/" + ModelFileName(skin);
+        }
+      }
+    }
+    if (text.empty()) return std::nullopt;
+    return text;
+  }
+
+  bool IsEdited(ParameterId half) const {
+    return !EqualIgnoringCase(context_.after.Text(half),
+                              context_.reading.bot.Text(half));
+  }
+
+  /// Model or skin as it is to be. The one that was not edited is what the game
+  /// has, whatever our reader makes of the line.
+  std::string TextOfHalf(ParameterId half) const {
+    const auto plain = context_.reading.report.plain_values.find(half);
+    return IsEdited(half) || plain == context_.reading.report.plain_values.end()
+               ? context_.after.Text(half)
+               : ToText(plain->second);
+  }
+
+  static bool NeedsQuotes(std::string_view text) {
+    // Outside of quotes the game ends a word at a letter beyond ASCII, too.
+    const bool has_end = std::ranges::any_of(text, [](char letter) {
+      return letter == ' ' || letter == '\t' || (letter & 0x80) != 0;
+    });
+    return has_end || Contains(text, "//") || Contains(text, "/*");
+  }
+
+  Splice Replacement(TextSpan span, const std::string& text) const {
+    const bool is_quoted = context_.bytes[span.begin] == '"';
+    return {span, is_quoted || NeedsQuotes(text) ? '"' + text + '"' : text};
+  }
+
+  bool HasCommentBeside(TextSpan span) const {
+    const TextSpan line = LineAround(context_.bytes, span.begin).text;
+    return std::ranges::any_of(
+        CommentsIn(context_.bytes),
+        [line](TextSpan comment) { return Overlap(comment, line); });
+  }
+
+  /// The same without the blanks around it, which the game passes over and a
+  /// load may not.
+  Splice WithoutBlanks(TextSpan span, const std::string& text) const {
+    Splice splice = Replacement(span, text);
+    const LineOfFile line = LineAround(context_.bytes, span.begin);
+    const auto is_blank = [this](std::size_t at) {
+      return context_.bytes[at] == ' ' || context_.bytes[at] == '\t';
+    };
+    while (splice.span.begin > line.text.begin &&
+           is_blank(splice.span.begin - 1)) {
+      --splice.span.begin;
+    }
+    while (splice.span.end < line.text.end && is_blank(splice.span.end)) {
+      ++splice.span.end;
+    }
+    splice.text.insert(0, "\t");
+    return splice;
+  }
+
+  Splice LineRemoval(TextSpan span, std::string_view key) const {
+    const LineOfFile line = LineAround(context_.bytes, span.begin);
+    const std::string before = ToLower(
+        context_.bytes.substr(line.text.begin, span.begin - line.text.begin));
+    const std::size_t at = before.rfind(key);
+    if (at != std::string::npos) span.begin = line.text.begin + at;
+    return Removal(context_.bytes, span);
+  }
+
+  std::vector<Splice> NewLines(std::string_view key,
+                               const std::string& text) const {
+    const std::string_view padded = PaddedKeyOf(key);
+    Neighbours neighbours;
+    bool is_before = true;
+    for (const std::string_view other : kPaddedKeys) {
+      is_before = is_before && other != padded;
+      const auto value = set_.values.find(KeyOf(other));
+      if (value == set_.values.end()) continue;
+      const TextSpan span = value->second.span;
+      if (span.empty()) continue;
+      if (is_before) {
+        neighbours.before.insert(neighbours.before.begin(), span);
+      } else {
+        neighbours.behind.push_back(span);
+      }
+    }
+    return Insertions(context_.bytes, neighbours, padded,
+                      NeedsQuotes(text) ? '"' + text + '"' : text);
+  }
+
+  void ExpectFields(Attempt& attempt) const {
+    const Bot& bot = context_.after;
+    const auto expect = [&](ParameterId field, std::string fact) {
+      ExpectOurs(field, std::move(fact), attempt);
+    };
+    switch (field_.index()) {
+      case kNameField.index():
+        return;
+      case kFunNameField.index():
+        return expect(field_, FactOf(Value(FunNameForBox(bot.FunName()))));
+      case kModelField.index():
+        for (const ParameterId half : {kModelField, kSkinField}) {
+          expect(half, ToLower(TextOfHalf(half)));
+        }
+        return;
+      default:
+        return expect(field_, FactOf(bot.Parameter(field_)));
+    }
+  }
+
+  const PlanContext& context_;
+  ParameterId field_;
+  std::size_t set_at_;
+  const DescriptionSet& set_;
+};
+
+}  // namespace
+
+Plan PlanDescription(const PlanContext& context, ParameterId field) {
+  const std::string limit = std::to_string(limits::kRefusedDescription);
+  if (context.bytes.size() >= limits::kRefusedDescription) {
+    return {.attempts = {},
+            .refusal =
+                "The file is too large: the game reads no description "
+                "of " +
+                limit + " bytes or more. Shorten it."};
+  }
+  const std::optional<std::size_t> set = OwnSet(context.reading);
+  if (!set) {
+    return {.attempts = {},
+            .refusal =
+                "The game reads no description of this bot there that "
+                "stands in lines of its own."};
+  }
+  Plan plan = DescriptionPlan(context, field, *set).Make();
+  const auto is_too_large = [&context](const Attempt& attempt) {
+    return Spliced(context.bytes, attempt.splices).size() >=
+           limits::kRefusedDescription;
+  };
+  if (!plan.attempts.empty() &&
+      std::ranges::all_of(plan.attempts, is_too_large)) {
+    return {.attempts = {},
+            .refusal =
+                "With that the file would be too large: the game reads "
+                "no description of " +
+                limit + " bytes or more. Shorten it."};
+  }
+  return plan;
+}
+
+}  // namespace fragsmith

@@ -1,0 +1,290 @@
+// Plans for weights.
+
+#include <algorithm>
+#include <cstddef>
+#include <utility>
+
+#include "botfiles/value_format.h"
+#include "chat/vocabulary.h"
+#include "inplace/attempt.h"
+#include "inplace/game_weights.h"
+#include "inplace/number_style.h"
+#include "model/characteristic_catalogue.h"
+#include "support/code_page.h"
+#include "support/numbers.h"
+#include "support/text.h"
+
+namespace fragsmith {
+namespace {
+
+constexpr std::string_view kDefine = "#define ";
+
+const OwnMacro* FindMacro(const FileReading& reading, std::string_view name) {
+  for (const OwnMacro& macro : reading.weights.macros) {
+    if (macro.name == name) return &macro;
+  }
+  return nullptr;
+}
+
+/// True for the value of our macro for the weight, where no other macro of the
+/// file stands for it: all that the game's code then makes of it goes along.
+bool IsOurMacroAlone(const FileReading& reading, ParameterId id,
+                     TextSpan span) {
+  const std::string_view name = BareKey(id.index()).substr(kDefine.size());
+  const OwnMacro* const ours = FindMacro(reading, name);
+  return ours != nullptr && ours->value.Holds(span) &&
+         std::none_of(reading.weights.macros.begin(),
+                      reading.weights.macros.end(),
+                      [name](const OwnMacro& macro) {
+                        return Contains(' ' + macro.text + ' ',
+                                        ' ' + std::string(name) + ' ');
+                      });
+}
+
+/// The facts of the game's weight code that follow from the weight's number in
+/// a place.
+void ExpectWeights(const FileReading& reading, ParameterId id, TextSpan span,
+                   const std::string& token, const Value& value,
+                   Attempt& attempt) {
+  attempt.numbers[span.begin] = ToNumber(value).value_or(0);
+  for (const FoundWeight& found : reading.found) {
+    if (found.parameter != id) continue;
+    attempt.expected[WeighedFact(id)] = FactOf(found, attempt.numbers);
+  }
+  const bool is_ours = IsOurMacroAlone(reading, id, span);
+  for (const OwnMacro& macro : reading.weights.macros) {
+    if (macro.value == span) {
+      attempt.expected[MacroFact(macro.name)] = token;
+    } else if (macro.value.Holds(span)) {
+      attempt.free.push_back(MacroFact(macro.name));
+    }
+  }
+  std::size_t at = 0;
+  for (const GameWeight& weight : reading.weights.weights) {
+    const WeightOwner owner = OwnerOf(weight, id);
+    const bool goes_along = owner == WeightOwner::kParameter ||
+                            (owner == WeightOwner::kNobody && is_ours);
+    for (const WeightReturn& way : weight.returns) {
+      const bool is_it = way.own && way.own->span == span;
+      if (goes_along && is_it) {
+        attempt.expected[OwnWeightFact(at)] = FactOf(value);
+      }
+      // One that is calculated from several numbers has none as its own.
+      if (goes_along && (is_it || !way.own)) {
+        attempt.free.push_back(GivenWeightFact(at));
+      }
+      ++at;
+    }
+  }
+}
+
+/// The weight's number, with all that must be read there.
+void AddReplacement(const PlanContext& context, ParameterId id, TextSpan span,
+                    Attempt& attempt) {
+  const Value& value = context.after.Parameter(id);
+  std::string token = InStyleOf(context.bytes, span, value);
+  ExpectWeights(context.reading, id, span, token, value, attempt);
+  attempt.splices.push_back({span, std::move(token)});
+}
+
+/// What the game reads once there is a macro that was missing.
+std::vector<std::string> FreeWithNewMacro(const FileReading& reading,
+                                          ParameterId id) {
+  // Weight code that stopped at the lack reads on now.
+  if (!reading.errors.empty())
+    return {"weight ", "return ", "weighs ", "gives ", "when "};
+  std::vector<std::string> free;
+  std::size_t at = 0;
+  for (const GameWeight& weight : reading.weights.weights) {
+    const bool is_own = OwnerOf(weight, id) == WeightOwner::kParameter;
+    for (std::size_t way = 0; way < weight.returns.size(); ++way, ++at) {
+      if (!is_own) continue;
+      free.push_back(OwnWeightFact(at));
+      free.push_back(GivenWeightFact(at));
+    }
+  }
+  return free;
+}
+
+/// Where the game has the numbers of the weight from, as far as it is in this
+/// file.
+std::vector<TextSpan> GameSpans(const FileReading& reading, ParameterId id) {
+  std::vector<TextSpan> spans;
+  for (const GameWeight& weight : reading.weights.weights) {
+    if (OwnerOf(weight, id) != WeightOwner::kParameter) continue;
+    for (const WeightReturn& way : weight.returns) {
+      if (way.own) spans.push_back(way.own->span);
+    }
+  }
+  return spans;
+}
+
+/// What tells that the game has another value for the weight.
+std::vector<std::string> GivenFactsOf(const FileReading& reading,
+                                      ParameterId id) {
+  std::vector<std::string> facts;
+  std::size_t at = 0;
+  for (const GameWeight& weight : reading.weights.weights) {
+    const bool is_own = OwnerOf(weight, id) == WeightOwner::kParameter;
+    for (std::size_t way = 0; way < weight.returns.size(); ++way, ++at) {
+      if (is_own) facts.push_back(GivenWeightFact(at));
+    }
+  }
+  return facts;
+}
+
+/// A new #define where our writer would have it.
+Plan PlanNewMacro(const PlanContext& context, ParameterId id,
+                  std::string_view name) {
+  const FileReading& reading = context.reading;
+  if (!reading.found.empty()) {
+    return {.attempts = {},
+            .refusal =
+                GivenFactsOf(reading, id).empty()
+                    ? "The weight code that the file includes does not ask for "
+                      "it."
+                    : "The weight code takes its number from another file, or "
+                      "makes it out of several."};
+  }
+  const auto span_of = [&](int index) {
+    const OwnMacro* const macro =
+        FindMacro(reading, BareKey(index).substr(kDefine.size()));
+    if (macro != nullptr && !macro->value.empty()) return macro->value;
+    return LastSpan(context, ParameterId(index));
+  };
+  const IndexRange range =
+      kWeaponWeightRange.Contains(id) ? kWeaponWeightRange : kItemWeightRange;
+  Neighbours neighbours;
+  for (int index = id.index() - 1; index >= range.first; --index) {
+    if (const TextSpan span = span_of(index); !span.empty()) {
+      neighbours.before.push_back(span);
+    }
+  }
+  for (int index = id.index() + 1; index <= range.last; ++index) {
+    if (const TextSpan span = span_of(index); !span.empty()) {
+      neighbours.behind.push_back(span);
+    }
+  }
+  if (neighbours.before.empty() && neighbours.behind.empty()) {
+    return {.attempts = {}, .refusal = std::string(kNoNeighbours)};
+  }
+  const Value& value = context.after.Parameter(id);
+  Plan plan;
+  for (Splice& splice : Insertions(context.bytes, neighbours,
+                                   PaddedKey(id.index()), FormatValue(value))) {
+    Attempt attempt;
+    attempt.splices.push_back(std::move(splice));
+    ExpectOurs(id, FactOf(value), attempt);
+    attempt.expected[MacroFact(name)] = FormatValue(value);
+    attempt.free = FreeWithNewMacro(reading, id);
+    plan.attempts.push_back(std::move(attempt));
+  }
+  return plan;
+}
+
+/// Of a weight that our macros do not give, the number or numbers of the file
+/// from which the game has it.
+Plan PlanOneOfMany(const PlanContext& context, const FoundWeight& found) {
+  std::vector<OwnNumber> numbers = {found.own};
+  numbers.insert(numbers.end(), found.others.begin(), found.others.end());
+  if (numbers.size() > 1) {
+    std::vector<std::string> shown;
+    std::string all;
+    for (const OwnNumber& number : numbers) {
+      shown.push_back(SourceOf(number, context.reading.weights, context.bytes) +
+                      ": " + ShownNumber(number.number));
+      all += (all.empty() ? "" : ", ") + shown.back();
+    }
+    const std::optional<std::size_t> chosen =
+        context.chooser ? context.chooser(found.parameter, shown)
+                        : std::nullopt;
+    if (!chosen) {
+      return {.attempts = {},
+              .refusal =
+                  "The weight code of the file has several numbers for it (" +
+                  all + "), and nobody said which one is meant."};
+    }
+    if (*chosen < numbers.size()) numbers = {numbers[*chosen]};
+  }
+  Attempt attempt;
+  for (const OwnNumber& number : numbers) {
+    AddReplacement(context, found.parameter, number.span, attempt);
+  }
+  return {.attempts = {std::move(attempt)}, .refusal = {}};
+}
+
+/// Why a macro may not take a new number; empty where it has a plain one.
+std::string OddValueRefusal(const PlanContext& context, const OwnMacro* macro) {
+  if (macro == nullptr || macro->value.empty() || IsNumericText(macro->text)) {
+    return {};
+  }
+  const std::string_view text = TextAt(context.bytes, macro->value);
+  return "The file gives " + macro->name + " the value \"" + ShownText(text) +
+         "\", and only a plain number can be changed. Write one there first, "
+         "such as 50.";
+}
+
+}  // namespace
+
+Plan PlanWeight(const PlanContext& context, ParameterId id) {
+  const FileReading& reading = context.reading;
+  const Value& value = context.after.Parameter(id);
+  const std::string_view name = BareKey(id.index()).substr(kDefine.size());
+  const OwnMacro* const macro = FindMacro(reading, name);
+  const auto attempt_at = [&](TextSpan span) {
+    Attempt attempt;
+    AddReplacement(context, id, span, attempt);
+    return attempt;
+  };
+  if (!reading.report.spans.contains(id)) {
+    const auto found = std::find_if(
+        reading.found.begin(), reading.found.end(),
+        [id](const FoundWeight& weight) { return weight.parameter == id; });
+    if (found == reading.found.end()) return PlanNewMacro(context, id, name);
+    Plan plan = PlanOneOfMany(context, *found);
+    if (plan.refusal.empty()) plan.refusal = OddValueRefusal(context, macro);
+    return plan;
+  }
+  const std::vector<TextSpan> game_spans = GameSpans(reading, id);
+  if (macro == nullptr && game_spans.empty()) {
+    return {.attempts = {},
+            .refusal = reading.first_error.empty()
+                           ? "The game does not take it from this file, or "
+                             "takes it from one that is included."
+                           : BrokenRefusal(reading)};
+  }
+  Plan plan = {.attempts = {}, .refusal = OddValueRefusal(context, macro)};
+  const auto theirs = std::find_if(
+      reading.found.begin(), reading.found.end(), [&](const FoundWeight& one) {
+        return one.parameter == id && one.others.empty() &&
+               ToNumber(reading.bot.Parameter(id)) == one.own.number;
+      });
+  std::vector<TextSpan> spans;
+  if (macro != nullptr) spans.push_back(macro->value);
+  spans.push_back(LastSpan(context, id));
+  for (const TextSpan span : spans) {
+    if (!IsOneLine(context.bytes, span)) continue;
+    Attempt attempt = attempt_at(span);
+    ExpectOurs(id, FactOf(value), attempt);
+    if (macro != nullptr) {
+      attempt.expected[MacroFact(name)] = attempt.splices.front().text;
+    }
+    if (game_spans.empty()) attempt.moving = GivenFactsOf(reading, id);
+    const bool is_of_game =
+        game_spans.empty() || std::find(game_spans.begin(), game_spans.end(),
+                                        span) != game_spans.end();
+    if (is_of_game) {
+      plan.attempts.push_back(std::move(attempt));
+    } else if (theirs != reading.found.end()) {
+      // The game has the same weight from a macro of its own beside ours.
+      AddReplacement(context, id, theirs->own.span, attempt);
+      plan.attempts.push_back(std::move(attempt));
+    } else if (plan.refusal.empty()) {
+      plan.refusal = TwoPlacesRefusal(context.bytes, game_spans.front(), span);
+    }
+  }
+  AddPadded(context, id, plan);
+  return plan;
+}
+
+}  // namespace fragsmith

@@ -1,0 +1,110 @@
+#include "session/json_format.h"
+
+#include "session/bot_document.h"
+
+namespace fragsmith {
+namespace {
+
+using Json = nlohmann::json;
+
+/// The name of a field; of a very long one the characters at its beginning.
+std::string ShownField(const std::string& field) {
+  constexpr std::size_t kMax = 80;
+  if (field.size() <= kMax) return field;
+  std::size_t end = kMax;
+  while ((static_cast<unsigned char>(field[end]) & 0xC0U) == 0x80U) --end;
+  return field.substr(0, end) + "...";
+}
+
+std::string AboutField(const std::string& field, const std::string& reason) {
+  return "Field " + ShownField(field) + ": " + reason;
+}
+
+[[noreturn]] void Refuse(std::string what, std::string advice = {}) {
+  throw JsonFault{{.what = std::move(what),
+                   .file = {},
+                   .line = 0,
+                   .advice = std::move(advice)}};
+}
+
+/// Parses. What is nested deeper than any document of ours is a fault or left
+/// out, before it fills the memory.
+Json ParseBounded(std::string_view text, bool* was_cut) {
+  constexpr int kMaxDepth = 8;
+  const auto limit = [was_cut](int depth, Json::parse_event_t event,
+                               Json& /*part*/) {
+    const bool opens = event == Json::parse_event_t::object_start ||
+                       event == Json::parse_event_t::array_start;
+    const bool is_too_deep = opens && depth > kMaxDepth;
+    if (!is_too_deep) return true;
+    if (was_cut == nullptr) Refuse("The document is nested too deeply.");
+    *was_cut = true;
+    return false;
+  };
+  return Json::parse(text, limit);
+}
+
+}  // namespace
+
+void RefuseField(const std::string& field, const std::string& reason,
+                 const std::string& advice) {
+  Refuse(AboutField(field, reason), advice);
+}
+
+void UnknownKeys::Meet(const std::string& field,
+                       const std::string& reason) const {
+  if (are_slips) RefuseField(field, reason);
+  notes.Add({.file = file,
+             .line = 0,
+             .text = AboutField(field, reason) + " It is left out."});
+}
+
+void BringUpToDate(Json& value, std::span<const Migration> steps,
+                   UnknownKeys& unknown) {
+  std::uint64_t version = 0;
+  if (const auto found = value.find(kFormatKey); found != value.end()) {
+    if (!found->is_number_unsigned()) {
+      RefuseField(kFormatKey, "a whole number is wanted here.");
+    }
+    version = found->get<std::uint64_t>();
+    value.erase(found);
+  }
+  const std::uint64_t known = FormatBehind(steps);
+  if (version > known) {
+    unknown.are_slips = false;
+    unknown.notes.Add({.file = unknown.file,
+                       .line = 0,
+                       .text = "A newer Fragsmith wrote this: it has format " +
+                               std::to_string(version) +
+                               ", and this one knows " + std::to_string(known) +
+                               ". What is known is read."});
+  }
+  for (; version < known; ++version) steps[version].Apply(value);
+}
+
+Json ParseObject(std::string_view text, bool* was_cut) {
+  if (text.size() > kMaxDocumentBytes) {
+    Refuse("The document is larger than " +
+               std::to_string(kMaxDocumentBytes >> 20U) + " MiB.",
+           "Check that it is the right one.");
+  }
+  Json value = ParseBounded(text, was_cut);
+  if (!value.is_object()) Refuse("The document is no JSON object.");
+  return value;
+}
+
+/// Without the library's own error number and without the text that it read
+/// last, which may be megabytes of anything.
+Error ErrorOf(const Json::exception& exception) {
+  std::string_view text = exception.what();
+  const std::size_t end = text.find("] ");
+  if (end != std::string_view::npos) text.remove_prefix(end + 2);
+  text = text.substr(0, text.find("; last read: "));
+  constexpr std::size_t kMax = 200;
+  return {.what = "This is no valid JSON: " + std::string(text.substr(0, kMax)),
+          .file = {},
+          .line = 0,
+          .advice = {}};
+}
+
+}  // namespace fragsmith

@@ -1,0 +1,125 @@
+#include "session/load_losses.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <optional>
+#include <set>
+#include <string_view>
+
+#include "botfiles/left_out.h"
+#include "support/code_page.h"
+#include "support/text.h"
+
+namespace fragsmith {
+namespace {
+
+/// Keys that a save writes into the block of every level.
+constexpr IndexRange kBlockRanges[] = {
+    {kNameField.index(), kOptionalRange.first - 1},
+    kChatRange,
+    {kChatFileField.index(), kItemFileField.index()},
+    {kChatNameField.index(), kChatNameField.index()}};
+
+void AddMissing(const std::set<ParameterId>& given, IndexRange range,
+                std::optional<Level> level, NameList& names) {
+  for (const int key : range) {
+    if (given.contains(level ? ParameterId(*level, key) : ParameterId(key))) {
+      continue;
+    }
+    std::string_view name = BareKey(key);
+    constexpr std::string_view kDefine = "#define ";
+    if (name.starts_with(kDefine)) name.remove_prefix(kDefine.size());
+    names.Add(std::string(name));
+  }
+}
+
+/// What a save writes in the place of a name.
+std::string SavedName(const ReadReport::Name& name, const Bot& bot) {
+  const std::string saved = bot.Text(name.field);
+  const bool is_path = name.field != kNameField && name.field != kChatNameField;
+  return is_path ? "bots/" + saved : saved;
+}
+
+}  // namespace
+
+void NoteMissingLevels(const ReadReport& report, const std::string& file,
+                       Notes& notes) {
+  for (const Level level : kLevels) {
+    const std::string name = "level " + std::to_string(NumberOf(level));
+    const bool has_level =
+        std::any_of(report.given.begin(), report.given.end(),
+                    [level](ParameterId id) { return id.level() == level; });
+    if (!has_level) {
+      notes.Add({file, 0,
+                 "The file has no " + name +
+                     ", so that its values are 0, and a save writes it so. The "
+                     "game plays its default bot there."});
+      continue;
+    }
+    NameList missing;
+    for (const IndexRange& range : kBlockRanges) {
+      AddMissing(report.given, range, level, missing);
+    }
+    if (missing.empty()) continue;
+    notes.Add({file, 0,
+               "In the file, " + name +
+                   " lacks these, which a save writes as the bot has them: " +
+                   missing.Text() + "."});
+  }
+}
+
+void NoteMissingWeights(const ReadReport& report, IndexRange range,
+                        const std::string& file, Notes& notes) {
+  // Of a file that has none at all the reader has told.
+  if (report.given.empty()) return;
+  NameList missing;
+  AddMissing(report.given, range, std::nullopt, missing);
+  if (missing.empty()) return;
+  notes.Add({file, 0,
+             "The file does not set these weights, and a save writes 0: " +
+                 missing.Text() + "."});
+}
+
+void NoteMissingTypes(const ReadReport& report, const std::string& file,
+                      Notes& notes) {
+  NameList missing;
+  for (const std::string& type : report.missing_types) missing.Add(type);
+  if (missing.empty()) return;
+  notes.Add({file, 0,
+             "The file has no block for these types, and a save writes one "
+             "without lines: " +
+                 missing.Text() + "."});
+}
+
+void NoteMissingIncludes(const ReadReport& report, const std::string& file,
+                         Notes& notes) {
+  NameList missing;
+  for (const std::string& name : report.missing_includes) {
+    missing.Add('"' + name + '"');
+  }
+  if (missing.empty()) return;
+  notes.Add({file, 0,
+             "The file does not include " + missing.Text() +
+                 ", without which the game cannot use it or uses it in "
+                 "another way. A save does."});
+}
+
+void NoteOtherNames(const ReadReport& report, const Bot& bot,
+                    const std::string& file, Notes& notes) {
+  NameList others;
+  std::size_t first_line = 0;
+  for (const ReadReport::Name& name : report.names) {
+    const std::string saved = SavedName(name, bot);
+    if (EqualIgnoringCase(name.text, saved)) continue;
+    if (first_line == 0) first_line = name.line;
+    others.Add(name.key + " \"" + ShownText(name.text) + "\" becomes \"" +
+               ShownText(saved) + "\"");
+  }
+  if (others.empty()) return;
+  notes.Add(
+      {file, first_line,
+       "The bot's files are called by its name, and a save writes that: " +
+           others.Text() + "."});
+}
+
+}  // namespace fragsmith

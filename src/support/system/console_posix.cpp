@@ -1,0 +1,15 @@
+#ifndef _WIN32
+
+#include <unistd.h>
+
+#include "support/system/console.h"
+
+namespace fragsmith {
+
+void PrepareConsole() {}
+
+bool IsErrorTerminal() { return ::isatty(STDERR_FILENO) != 0; }
+
+}  // namespace fragsmith
+
+#endif  // _WIN32

@@ -1,0 +1,73 @@
+#ifdef _WIN32
+
+#include <windows.h>
+
+#include "support/files.h"
+#include "support/system/installed_programs.h"
+
+namespace fragsmith {
+namespace {
+
+constexpr const wchar_t* kList =
+    L"Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall";
+
+/// A text of a key; empty when it is not there.
+std::wstring Text(HKEY key, const wchar_t* name) {
+  constexpr DWORD kMaxBytes = 65536;
+  DWORD bytes = kMaxBytes;
+  std::wstring text(bytes / sizeof(wchar_t), L'\0');
+  if (::RegGetValueW(key, nullptr, name, RRF_RT_REG_SZ, nullptr, text.data(),
+                     &bytes) != ERROR_SUCCESS) {
+    return {};
+  }
+  text.resize(text.find(L'\0'));
+  return text;
+}
+
+/// Some write the folder in quotation marks.
+std::wstring WithoutQuotes(std::wstring text) {
+  std::erase(text, L'"');
+  return text;
+}
+
+void AddPrograms(HKEY top, REGSAM view, std::vector<InstalledProgram>& found) {
+  HKEY list = nullptr;
+  if (::RegOpenKeyExW(top, kList, 0, KEY_READ | view, &list) != ERROR_SUCCESS) {
+    return;
+  }
+  constexpr DWORD kMaxLettersOfKey = 256;
+  for (DWORD index = 0;; ++index) {
+    wchar_t name[kMaxLettersOfKey];
+    DWORD length = kMaxLettersOfKey;
+    if (::RegEnumKeyExW(list, index, name, &length, nullptr, nullptr, nullptr,
+                        nullptr) != ERROR_SUCCESS) {
+      break;
+    }
+    HKEY key = nullptr;
+    if (::RegOpenKeyExW(list, name, 0, KEY_READ | view, &key) !=
+        ERROR_SUCCESS) {
+      continue;
+    }
+    const std::filesystem::path shown = Text(key, L"DisplayName");
+    const std::filesystem::path folder =
+        WithoutQuotes(Text(key, L"InstallLocation"));
+    if (folder.is_absolute()) found.push_back({Utf8FromPath(shown), folder});
+    ::RegCloseKey(key);
+  }
+  ::RegCloseKey(list);
+}
+
+}  // namespace
+
+std::vector<InstalledProgram> InstalledPrograms() {
+  std::vector<InstalledProgram> found;
+  for (const REGSAM view : {KEY_WOW64_64KEY, KEY_WOW64_32KEY}) {
+    AddPrograms(HKEY_LOCAL_MACHINE, view, found);
+    AddPrograms(HKEY_CURRENT_USER, view, found);
+  }
+  return found;
+}
+
+}  // namespace fragsmith
+
+#endif  // _WIN32

@@ -1,0 +1,164 @@
+#include "trial/match_bots.h"
+
+#include <algorithm>
+#include <optional>
+#include <string_view>
+#include <system_error>
+#include <utility>
+
+#include "checks/bot_on_disk.h"
+#include "checks/bot_reader.h"
+#include "support/files.h"
+#include "support/temporary_folder.h"
+#include "support/text.h"
+#include "trial/game_trial.h"
+
+namespace fragsmith {
+namespace fs = std::filesystem;
+namespace {
+
+constexpr std::string_view kBotFiles = "botfiles/";
+constexpr std::string_view kBots = "bots/";
+
+/// Where a file of a bot lies in the match, by its path below botfiles. No path
+/// that may be long gets longer: those into botfiles/bots have a limit.
+std::string PathInMatch(std::string_view path, std::size_t place) {
+  std::string folder = MatchFolder(place) + "/";
+  if (path.starts_with(kBots)) return folder += path.substr(kBots.size());
+  return folder += "up/" + std::string(path);
+}
+
+/// The text with each quoted path of a file of the bot's own led to where that
+/// file lies in the match.
+std::string WithPathsLed(const std::string& text, const MatchBot& bot,
+                         std::size_t place) {
+  std::string led;
+  std::size_t at = 0;
+  for (std::size_t quote = text.find('"'); quote != std::string::npos;
+       quote = text.find('"', quote + 1)) {
+    const std::size_t end = text.find('"', quote + 1);
+    if (end == std::string::npos) break;
+    std::string path = ToLower(text.substr(quote + 1, end - quote - 1));
+    std::replace(path.begin(), path.end(), '\\', '/');
+    if (!bot.files.contains(path)) continue;
+    led.append(text, at, quote + 1 - at);
+    led += PathInMatch(path, place);
+    at = end;
+    quote = end;
+  }
+  return led.append(text, at);
+}
+
+std::string PlainName(std::string_view name) {
+  constexpr std::size_t kMaxLength = 24;
+  constexpr std::string_view kPlain =
+      "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-_.";
+  std::string plain;
+  for (std::size_t at = 0; at < name.size(); ++at) {
+    if (name[at] == '^') {
+      ++at;  // A colour.
+    } else if (plain.size() < kMaxLength &&
+               Contains(kPlain, name.substr(at, 1))) {
+      plain += name[at];
+    }
+  }
+  return plain.empty() ? "bot" : plain;
+}
+
+}  // namespace
+
+Result<MatchBot> MatchBotOf(const GivenFiles& given,
+                            const std::string& file_name) {
+  MatchBot bot;
+  for (const std::string_view end : {".c", ".h"}) {
+    for (const std::string& path : given.PathsLike(kBotFiles, end)) {
+      std::optional<GameFile> file = given.OpenInAnyCase(path);
+      if (!file) continue;
+      bot.files.emplace(path.substr(kBotFiles.size()), std::move(file->bytes));
+    }
+  }
+  const BotOnDisk found = ReadBot(given, file_name);
+  const IncludeLookup nothing = [](std::string_view) { return std::nullopt; };
+  const BotReader reader(found.files, nothing);
+  bot.name = file_name;
+  bot.ai_file = std::string(kBots) + ToLower(file_name) + "_c.c";
+  if (reader.description()) {
+    const std::string_view name = reader.description()->Text("name");
+    if (!name.empty()) bot.name = name;
+    bot.ai_file = reader.description()->Text("aifile");
+  }
+  if (bot.files.contains(ToLower(bot.ai_file))) return bot;
+  return Failure({.what = "The bot " + PlainName(file_name) +
+                          " has no character file of its own.",
+                  .file = {},
+                  .line = 0,
+                  .advice = "fragsmith-cli check tells what it lacks."});
+}
+
+Result<MatchBot> MatchBotOf(const Bot& bot, const Author& author) {
+  TemporaryFolder temporary;
+  const Result<fs::path> folder = temporary.GetTempFolder();
+  if (!folder) return Failure(folder.error());
+  const Result<void> done = WriteTrialPackage(bot, *folder, author);
+  if (!done) return Failure(done.error());
+  const std::vector<fs::path> packages =
+      ListFiles(*folder / kTrialFolder, ".pk3");
+  const Result<GivenFiles> given =
+      GivenFiles::OfPackage(*folder / kTrialFolder / packages.at(0));
+  if (!given) return Failure(given.error());
+  return MatchBotOf(*given, bot.Name());
+}
+
+std::vector<std::string> ShownNames(const std::vector<MatchBot>& bots) {
+  std::vector<std::string> names;
+  for (const MatchBot& bot : bots) {
+    const std::string plain = PlainName(bot.name);
+    std::string name = plain;
+    const auto is_taken = [&] {
+      return std::any_of(names.begin(), names.end(),
+                         [&name](const std::string& other) {
+                           return EqualIgnoringCase(name, other);
+                         });
+    };
+    for (int number = 2; is_taken(); ++number) {
+      name = plain + "-" + std::to_string(number);
+    }
+    names.push_back(std::move(name));
+  }
+  return names;
+}
+
+std::string MatchFolder(std::size_t place) {
+  return "m" + std::to_string(place + 1);
+}
+
+std::string NameToAdd(const MatchBot& bot, std::size_t place) {
+  return bot.files.empty() ? bot.name : "fragsmith" + std::to_string(place + 1);
+}
+
+Result<void> PutMatchBots(const std::vector<MatchBot>& bots,
+                          const fs::path& game_folder) {
+  const auto put = [&game_folder](const std::string& path,
+                                  const std::string& bytes) {
+    const fs::path file = game_folder / PathFromGameText(path);
+    std::error_code reason;
+    fs::create_directories(file.parent_path(), reason);
+    return SaveFile(file, bytes);
+  };
+  std::string descriptions;
+  for (std::size_t place = 0; place < bots.size(); ++place) {
+    const MatchBot& bot = bots[place];
+    if (bot.files.empty()) continue;
+    for (const auto& [path, bytes] : bot.files) {
+      Result<void> done = put(std::string(kBotFiles) + PathInMatch(path, place),
+                              WithPathsLed(bytes, bot, place));
+      if (!done) return done;
+    }
+    descriptions += "{\nname " + NameToAdd(bot, place) + "\naifile \"" +
+                    PathInMatch(ToLower(bot.ai_file), place) + "\"\n}\n";
+  }
+  if (descriptions.empty()) return {};
+  return put("scripts/fragsmith.bot", descriptions);
+}
+
+}  // namespace fragsmith

@@ -1,0 +1,110 @@
+#include "checks/mend_all.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "checks/bot_checks.h"
+#include "game/ready_lines.h"
+#include "session/presets.h"
+#include "tests/support/ids.h"
+#include "tests/support/set_parameter.h"
+
+namespace fragsmith {
+namespace {
+
+using ::testing::Each;
+using ::testing::ElementsAre;
+using ::testing::Field;
+using ::testing::IsEmpty;
+using ::testing::Ne;
+
+/// A game with few of the ready-made lines, one of them too long to be shown.
+GameData SmallGame() {
+  GameData game;
+  game.models = {"sarge"};
+  game.skins = {"sarge/default"};
+  game.words = WordLists::Parse(
+      "TAUNT3 = { \"Ha!\"; } MISC2 = { \"Nice \", food, \".\"; }\n"
+      "MISC5 = { \"" +
+      std::string(140, 'x') + "\"; } food = { \"soup\"; }");
+  game.has_weapon_script = true;
+  game.has_item_script = true;
+  return game;
+}
+
+std::vector<std::string> ErrorsAndWarnings(const Bot& bot,
+                                           const GameData* game) {
+  std::vector<std::string> texts;
+  for (const Finding& finding : CheckBot(bot, game)) {
+    if (finding.severity != Severity::kHint) texts.push_back(finding.text);
+  }
+  return texts;
+}
+
+TEST(MendAll, MakesEachNewBotReadyForAnyGame) {
+  const GameData small = SmallGame();
+  for (const GameData* const game :
+       {static_cast<const GameData*>(nullptr), &small}) {
+    Bot zeros = CreateZeroBot();
+    EXPECT_THAT(CheckBot(zeros, game),
+                Each(Field(&Finding::severity, Ne(Severity::kError))));
+    EXPECT_GT(MendAll(zeros, game, FirstMend), 0);
+    EXPECT_THAT(ErrorsAndWarnings(zeros, game), IsEmpty());
+    for (std::uint32_t seed = 0; seed < 30; ++seed) {
+      Bot bot = CreateAverageBot(SeededRandom(seed));
+      EXPECT_GT(MendAll(bot, game, FirstMend), 0);
+      EXPECT_THAT(ErrorsAndWarnings(bot, game), IsEmpty()) << seed;
+      EXPECT_EQ(MendAll(bot, game, FirstMend), 0);
+      // Nobody's lines need to be saved from the types that nobody hears, and
+      // all others have one.
+      for (const ChatTypeId type : kAllChatTypes) {
+        EXPECT_EQ(bot.ChatLine(type, 0).empty(), IndexOf(type) == 1 ||
+                                                     IndexOf(type) == 2 ||
+                                                     IndexOf(type) == 23);
+      }
+    }
+  }
+}
+
+TEST(MendAll, LeavesWhatTheAuthorMeant) {
+  Bot bot = CreateAverageBot([] { return 0.0; });
+  Set(bot, Id(0), std::string("NameOfSeventeen17"));
+  bot.SetChatLine(TypeAt(23), 0, "Typed by hand");
+  bot.SetChatLine(TypeAt(26), 0, "I {HAVE} braces");
+  MendAll(bot, nullptr, SafeMend);
+  EXPECT_EQ(bot.Name(), "NameOfSeventeen17");
+  EXPECT_THAT(bot.ChatLines(TypeAt(23)), ElementsAre("Typed by hand"));
+  EXPECT_THAT(bot.ChatLines(TypeAt(26)), ElementsAre("I {HAVE} braces"));
+  EXPECT_EQ(bot.Parameter(Id(107)), Value(1.0));
+  for (const Finding& finding : CheckBot(bot, nullptr)) {
+    EXPECT_EQ(SafeMend(finding), nullptr) << finding.text;
+  }
+}
+
+TEST(MendAll, CountsEachMendOnceAndOnlyTheChosen) {
+  Bot bot = CreateAverageBot([] { return 0.0; });
+  // Three findings of one kind: the first one mends all levels.
+  const auto reaction = [](const Finding& finding) -> const Mend* {
+    return finding.id == "reaction-time-clamped" ? FirstMend(finding) : nullptr;
+  };
+  EXPECT_EQ(MendAll(bot, nullptr, reaction), 1);
+  EXPECT_EQ(bot.Parameter(Id(507)), Value(1.0));
+  EXPECT_EQ(bot.Parameter(Id(44)), Value(50.0));
+}
+
+TEST(ReadyLines, AreThoseThatTheGameHasAndShowsWhole) {
+  const GameData game = SmallGame();
+  EXPECT_THAT(ReadyMadeLines(TypeAt(27), game.words), ElementsAre("{{MISC2}}"));
+  Bot bot;
+  EXPECT_EQ(OtherChatLine(bot, TypeAt(27), game.words), "{{MISC2}}");
+  bot.SetChatLine(TypeAt(27), 0, "{{MISC2}}");
+  EXPECT_EQ(OtherChatLine(bot, TypeAt(27), game.words),
+            PlainChatLine(TypeAt(27)));
+}
+
+}  // namespace
+}  // namespace fragsmith

@@ -1,0 +1,272 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <sstream>
+#include <string>
+#include <system_error>
+#include <vector>
+
+#include "cli/command_line.h"
+#include "tests/support/test_folder.h"
+
+namespace fragsmith {
+namespace {
+
+using ::testing::HasSubstr;
+using ::testing::Not;
+
+// The game takes the first weight of the railgun, a load the last.
+constexpr const char* kWeights =
+    "// by hand\n#include \"inv.h\"\n#define W_GAUNTLET 20\n#ifndef HARD\n"
+    "#define W_RAILGUN 5\n#else\n#define W_RAILGUN 7\n#endif\n"
+    "#include \"fw_weap.c\"";
+
+class EditCommand : public ::testing::Test {
+ protected:
+  struct Outcome {
+    int status;
+    std::string out;
+    std::string err;
+  };
+
+  EditCommand() {
+    folder_.Write("rook_w.c", kWeights);
+    folder_.Write("rook_t.c",
+                  "chat \"rook\"\n{\n\ttype \"kill_rail\"\n\t{\n\t\t\"one\";\n"
+                  "\t}\n}\n");
+    folder_.Write("program/fgs.ini", "");
+  }
+
+  Outcome Run(std::vector<std::string> arguments,
+              const std::string& input = {}) {
+    arguments.insert(arguments.begin(),
+                     {"edit", folder_.path().string(), "rook"});
+    arguments.insert(arguments.end(),
+                     {"--program-folder", (folder_ / "program").string()});
+    std::istringstream in(input);
+    std::ostringstream out;
+    std::ostringstream err;
+    const int status = RunCommandLine(std::move(arguments), in, out, err);
+    return {status, out.str(), err.str()};
+  }
+
+  TestFolder folder_;
+};
+
+TEST_F(EditCommand, ShowsTheDifferenceAndThenWritesIt) {
+  const std::vector<std::string> sets = {"--set", "weaponWeights.W_GAUNTLET=45",
+                                         "--set",
+                                         R"(chats.kill_rail=["one", "two"])"};
+  std::vector<std::string> dry = sets;
+  dry.push_back("--dry-run");
+  EXPECT_EQ(Run(dry).out,
+            "--- a/rook_w.c\n+++ b/rook_w.c\n@@ -1,6 +1,6 @@\n // by hand\n"
+            " #include \"inv.h\"\n-#define W_GAUNTLET 20\n"
+            "+#define W_GAUNTLET 45\n #ifndef HARD\n #define W_RAILGUN 5\n"
+            " #else\n"
+            "--- a/rook_t.c\n+++ b/rook_t.c\n@@ -3,5 +3,6 @@\n"
+            " \ttype \"kill_rail\"\n \t{\n \t\t\"one\";\n+\t\t\"two\";\n \t}\n"
+            " }\n");
+  EXPECT_EQ(folder_.Read("rook_w.c"), kWeights);
+  const Outcome done = Run(sets);
+  EXPECT_EQ(done.status, 0);
+  EXPECT_EQ(done.out, (folder_ / "rook_t.c").string() + "\n" +
+                          (folder_ / "rook_w.c").string() + "\n");
+  EXPECT_THAT(folder_.Read("rook_w.c"), HasSubstr("W_GAUNTLET 45\n"));
+  EXPECT_THAT(folder_.Read("rook_t.c"), HasSubstr("\t\t\"two\";\n"));
+}
+
+TEST_F(EditCommand, TakesADocumentThatLeavesKeysOut) {
+  const Outcome done =
+      Run({"--from", "-"}, R"({"chats": {"kill_rail": ["other"]}})");
+  EXPECT_EQ(done.status, 0) << done.err;
+  EXPECT_THAT(folder_.Read("rook_t.c"), HasSubstr("\t\t\"other\";\n"));
+  EXPECT_EQ(folder_.Read("rook_w.c"), kWeights);
+}
+
+TEST_F(EditCommand, LeavesTheBlocksOfOtherTypesWhenItTakesNewLists) {
+  const std::string other =
+      "\ttype \"enemy_suicide\"\n\t{\n\t\t\"he did it\";\n"
+      "\t\t\"ha\";\n\t}\n";
+  const auto chat = [&other](const std::string& lines) {
+    return "chat \"rook\"\n{\n\ttype \"hit_nokill\"\n\t{\n" + lines + "\t}\n" +
+           other + "}\n";
+  };
+  folder_.Write("rook_t.c", chat("\t\t\"ha\";\n"));
+  const Outcome done =
+      Run({"--from", "-"}, R"({"chats": {"hit_nokill": ["ha", "oh", "ah"]}})");
+  EXPECT_EQ(done.status, 0);
+  EXPECT_THAT(done.err, HasSubstr("keeps a line that stands in the block "
+                                  "\"enemy_suicide\" and that the new list"));
+  EXPECT_EQ(folder_.Read("rook_t.c"), chat("\t\t\"oh\";\n\t\t\"ah\";\n"));
+}
+
+TEST_F(EditCommand, RefusesWithTheReasonAndWritesNothing) {
+  Outcome refused = Run({"--set", "weaponWeights.W_GAUNTLET=45", "--set",
+                         "weaponWeights.W_RAILGUN=150"});
+  EXPECT_EQ(refused.status, 1);
+  EXPECT_THAT(refused.err, HasSubstr("\"Railgun usage\" cannot be changed in "
+                                     "place."));
+  EXPECT_THAT(refused.err, HasSubstr("would lose or change:\n  Line "));
+  EXPECT_EQ(folder_.Read("rook_w.c"), kWeights);
+
+  refused = Run({"--set", "comment=mine"});
+  EXPECT_EQ(refused.status, 1);
+  EXPECT_THAT(refused.err, HasSubstr("stands in none of the bot's files"));
+
+  EXPECT_EQ(Run({}).status, 2);
+  EXPECT_EQ(Run({"--set", "no sign"}).status, 2);
+  EXPECT_THAT(Run({"--set", "weaponWeights.W_X=1"}).err,
+              HasSubstr("Field weaponWeights.W_X: there is no such key."));
+  EXPECT_THAT(Run({"--set", "chats.kill_rail=one"}).err,
+              HasSubstr("a list of texts is wanted here."));
+}
+
+TEST_F(EditCommand, WantsNumbersAndChatLinesThatSaySomething) {
+  for (const char* const value :
+       {"abc", "", "nan", "1e400", "0x10", "true", "[1]", "1;", "\"\""}) {
+    const Outcome refused =
+        Run({"--set", "weaponWeights.W_GAUNTLET=" + std::string(value)});
+    EXPECT_EQ(refused.status, 1) << value;
+    EXPECT_THAT(refused.err,
+                HasSubstr("Field weaponWeights.W_GAUNTLET: a number is "
+                          "wanted here."));
+  }
+  EXPECT_EQ(
+      Run({"--from", "-"}, R"({"levels": {"4": {"CHARACTERISTIC_AIM_SKILL":
+                                "high"}}})")
+          .status,
+      1);
+  EXPECT_THAT(Run({"--set", R"(chats.kill_rail=["a", "", "b"])"}).err,
+              HasSubstr("Field chats.kill_rail: a chat line is empty."));
+  EXPECT_EQ(folder_.Read("rook_w.c"), kWeights);
+}
+
+TEST_F(EditCommand, RefusesWhatWouldBecomeZero) {
+  folder_.Write("rook.bot",
+                "{\nname rook\nmodel sarge\narenaLord 1\n"
+                "aifile bots/rook_c.c\n}\n");
+  const std::string description = folder_.Read("rook.bot");
+  for (const char* const value : {"0.4", "yes", "true", "\"0.5\""}) {
+    EXPECT_THAT(Run({"--set", "arenaLord=" + std::string(value)}).err,
+                HasSubstr("Field arenaLord: a whole number is wanted here. "
+                          "Write 1 for yes or 0 for no."))
+        << value;
+  }
+  const auto take = [&](const char* json) {
+    return Run({"--from", "-"}, json).err;
+  };
+  EXPECT_THAT(take(R"({"arenaLord": null})"),
+              HasSubstr("Field arenaLord: null is no value."));
+  EXPECT_THAT(take(R"({"weaponWeights": {"W_GAUNTLET": null}})"),
+              HasSubstr("Field weaponWeights.W_GAUNTLET: null is no value."));
+  EXPECT_THAT(take(R"({"chats": null})"), HasSubstr("null is no value."));
+  EXPECT_EQ(folder_.Read("rook.bot"), description);
+  EXPECT_EQ(folder_.Read("rook_w.c"), kWeights);
+  EXPECT_EQ(Run({"--set", "arenaLord=0"}).status, 0);
+  EXPECT_THAT(folder_.Read("rook.bot"), HasSubstr("arenaLord 0\n"));
+}
+
+TEST_F(EditCommand, NamesFilesInTheDifferenceFromTheirRoot) {
+  folder_.Write("set/botfiles/bots/rook_c.c",
+                "#include \"chars.h\"\nskill 4\n{\n"
+                "\tCHARACTERISTIC_WEAPONWEIGHTS\t\"bots/strong_w.c\"\n"
+                "\tCHARACTERISTIC_CHAT_KILL\t\t\t\t\t0.5\n}\n");
+  folder_.Write("set/botfiles/bots/rook_w.c", kWeights);
+  folder_.Write("set/scripts/rook.bot",
+                "{\nname Rook\nmodel sarge\naifile bots/rook_c.c\n}\n");
+  const auto run = [&](const std::string& set) {
+    std::istringstream in;
+    std::ostringstream out;
+    std::ostringstream err;
+    const int status = RunCommandLine(
+        {"edit", (folder_ / "set").string(), "rook", "--dry-run", "--set", set,
+         "--program-folder", (folder_ / "program").string()},
+        in, out, err);
+    return Outcome{status, out.str(), err.str()};
+  };
+  EXPECT_THAT(run("skin=Red").out,
+              HasSubstr("--- a/scripts/rook.bot\n+++ b/scripts/rook.bot\n"));
+  EXPECT_THAT(run("chatCharacteristics.CHARACTERISTIC_CHAT_KILL=1").out,
+              HasSubstr("--- a/botfiles/bots/rook_c.c\n"));
+  // The character has another file of weights.
+  const Outcome refused = run("weaponWeights.W_GAUNTLET=45");
+  EXPECT_EQ(refused.status, 1);
+  EXPECT_THAT(refused.err, HasSubstr("names bots/strong_w.c."));
+}
+
+TEST_F(EditCommand, WritesThroughALink) {
+  std::filesystem::create_directory(folder_ / "elsewhere");
+  std::filesystem::rename(folder_ / "rook_w.c", folder_ / "elsewhere/real.c");
+  std::error_code reason;
+  std::filesystem::create_symlink("elsewhere/real.c", folder_ / "rook_w.c",
+                                  reason);
+  if (reason) GTEST_SKIP() << "no symbolic links here";
+  EXPECT_EQ(Run({"--set", "weaponWeights.W_GAUNTLET=45"}).status, 0);
+  EXPECT_TRUE(std::filesystem::is_symlink(folder_ / "rook_w.c"));
+  EXPECT_THAT(folder_.Read("elsewhere/real.c"), HasSubstr("W_GAUNTLET 45\n"));
+}
+
+TEST_F(EditCommand, NamesAFileThatIsTooLarge) {
+  folder_.Write("rook_w.c", kWeights + std::string(5'000'000, '\n'));
+  const Outcome refused = Run({"--set", "weaponWeights.W_GAUNTLET=45"});
+  EXPECT_EQ(refused.status, 1);
+  EXPECT_THAT(
+      refused.err,
+      HasSubstr("rook_w.c: The file is larger than 4 MiB, the most that "
+                "is read of one like it: it has 50001"));
+  EXPECT_THAT(refused.err, Not(HasSubstr("stands in none")));
+  // What does not stand in it can be edited.
+  EXPECT_EQ(Run({"--set", R"(chats.kill_rail=["two"])"}).status, 0);
+}
+
+TEST_F(EditCommand, NamesAGameFolderThatIsNotThere) {
+  const Outcome refused = Run({"--set", "weaponWeights.W_GAUNTLET=45", "--game",
+                               (folder_ / "none").string()});
+  EXPECT_EQ(refused.status, 1);
+  EXPECT_THAT(refused.err, HasSubstr("There is no such game folder."));
+}
+
+TEST_F(EditCommand, FindsABotByTheListThatItStandsIn) {
+  const std::string list =
+      "{\nname Rook\nmodel sarge\naifile bots/rook_c.c\n}\n"
+      "{\nname Tower\nmodel major\naifile bots/rook_c.c\n}\n";
+  folder_.Write("bots.txt", list);
+  folder_.Write("rook_c.c", "#include \"chars.h\"\n");
+  std::istringstream in;
+  std::ostringstream out;
+  std::ostringstream err;
+  RunCommandLine(
+      {"edit", folder_.path().string(), "TOWER", "--set", "model=biker",
+       "--program-folder", (folder_ / "program").string()},
+      in, out, err);
+  EXPECT_EQ(folder_.Read("bots.txt"),
+            "{\nname Rook\nmodel sarge\naifile bots/rook_c.c\n}\n"
+            "{\nname Tower\nmodel biker\naifile bots/rook_c.c\n}\n")
+      << err.str();
+}
+
+TEST_F(EditCommand, EditsAFunNameAmongBlanksAndTellsTheLimits) {
+  const std::string begin = "{\nname rook\n";
+  const std::string end = "aifile bots/rook_c.c\n}\n";
+  const std::vector<std::string> to_max = {"--set", "funName=Max"};
+  for (const std::string line :
+       {"funname  \"Hugo\"\n", "funname\t\t\"Hugo\" \t\n"}) {
+    folder_.Write("rook.bot", begin + line + end);
+    EXPECT_EQ(Run(to_max).status, 0) << line;
+    EXPECT_THAT(folder_.Read("rook.bot"), HasSubstr("\"Max\""));
+  }
+  folder_.Write("rook.bot",
+                begin + end + "//" +
+                    std::string(8190 - begin.size() - end.size() - 3, 'x'));
+  EXPECT_THAT(Run(to_max).err, HasSubstr("With that the file would be too "
+                                         "large: the game reads no "
+                                         "description of 8192 bytes or more."));
+  EXPECT_THAT(
+      Run({"--set", "weaponWeights.W_GAUNTLET=" + std::string(400, '9')}).err,
+      HasSubstr("this number has more digits than can be held."));
+}
+
+}  // namespace
+}  // namespace fragsmith

@@ -1,0 +1,308 @@
+#include "editor/dialogs/match_window.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QImage>
+#include <QLabel>
+#include <QScreen>
+#include <QTest>
+#include <algorithm>
+#include <filesystem>
+#include <sstream>
+#include <string>
+
+#include "chat/chat_catalogue.h"
+#include "editor/toolkit/page_table.h"
+#include "support/files.h"
+#include "tests/editor/window_fixture.h"
+
+namespace fragsmith {
+namespace {
+
+namespace fs = std::filesystem;
+using ::testing::AllOf;
+using ::testing::HasSubstr;
+
+constexpr int kPatience = 20'000;
+
+class MatchWindow : public WindowFixture {
+ protected:
+  void SetUp() override {
+    if (!kIsUnix) GTEST_SKIP() << "The server is a shell script.";
+    window_->current().EditChats({}, [](Bot& bot) {
+      bot.Put(kNameField, std::string("Rookie"));
+      for (const ChatTypeId type : kAllChatTypes) {
+        if (ChatTypeAt(type).Key != "kill_insult") continue;
+        bot.SetChatLine(type, 0, "Too slow, {TARGET}.");
+        bot.SetChatLine(type, 1, "Never said");
+      }
+    });
+    OpenMatches();
+  }
+
+  void OpenMatches() {
+    QApplication::setActiveWindow(window_.get());
+    QTest::keyClick(window_.get(), Qt::Key_F6);
+    matches_ = Find<frmMatch>("frmMatch");
+    ASSERT_NE(matches_, nullptr);
+    EXPECT_TRUE(matches_->isVisible());
+    EXPECT_FALSE(matches_->isModal());
+  }
+
+  template <typename Widget>
+  Widget& In(const char* name) {
+    auto* const found = matches_->findChild<Widget*>(QLatin1String(name));
+    if (found == nullptr) throw std::out_of_range(name);
+    return *found;
+  }
+
+  /// The script finds its own folder in $home, and writes $log.
+  void UseServer(const std::string& script) {
+    const fs::path server = folder_.WriteProgram(
+        "fake-ded",
+        "#!/bin/sh\nfor word; do [ \"$last\" = fs_homepath ] && home=$word/"
+        "fragsmith; last=$word; done; log=$home/games.log\n"
+        "echo \"$home\" >>" +
+            BytesFromPath(folder_ / "homes") + "\necho $$ >>" +
+            BytesFromPath(folder_ / "pids") + "\n" + script);
+    In<QComboBox>("cmbEngine")
+        .setCurrentText(QString::fromStdString(BytesFromPath(server)));
+    In<QLineEdit>("txtMap").setText(QStringLiteral("q3dm1, q3dm6"));
+  }
+
+  static std::string Log(const std::string& other) {
+    return "printf '%s\\n' ' 0:00 InitGame: x'"
+           " ' 0:00 ClientUserinfoChanged: 0 n\\Rookie\\t'"
+           " ' 0:00 ClientUserinfoChanged: 1 n\\" +
+           other +
+           "\\t' ' 0:09 Kill: 0 1 7: A killed B by MOD_ROCKET'"
+           " ' 0:10 say: Rookie: Too slow, somebody.'"
+           " ' 0:10 say: Rookie: Of the game.'"
+           " ' 0:20 Item: 0 weapon_rocketlauncher' >$log\n";
+  }
+  static std::string End() {
+    return "printf '%s\\n' ' 3:00 Exit: Timelimit hit.'"
+           " ' 3:00 score: 20  ping: 0  client: 0 Rookie'"
+           " ' 3:00 score: 2  ping: 0  client: 1 other' >>$log\n";
+  }
+
+  std::vector<std::string> LinesOf(const char* file) {
+    std::istringstream text(folder_.Read(file));
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(text, line);) lines.push_back(line);
+    return lines;
+  }
+
+  void ExpectNothingLeft() {
+    for (const std::string& home : LinesOf("homes")) {
+      EXPECT_FALSE(fs::exists(home)) << "left behind";
+    }
+    for (const std::string& pid : LinesOf("pids")) {
+      EXPECT_FALSE(fs::exists("/proc/" + pid)) << "still runs";
+    }
+  }
+
+  void Press(const char* button) {
+    QTest::mouseClick(&In<QPushButton>(button), Qt::LeftButton);
+  }
+  std::string Button() {
+    return In<QPushButton>("cmdStart").text().remove(u'&').toStdString();
+  }
+  bool WaitForEnd() {
+    return QTest::qWaitFor([this] { return Button() == "Start"; }, kPatience);
+  }
+  bool WaitForServers(std::size_t count) {
+    return QTest::qWaitFor(
+        [&] {
+          return fs::exists(folder_ / "pids") &&
+                 LinesOf("pids").size() >= count;
+        },
+        kPatience);
+  }
+  std::string Verdict() {
+    return In<QLabel>("lblVerdict").text().toStdString();
+  }
+  std::string Hint() { return In<QLabel>("lblHint").text().toStdString(); }
+  QTreeWidgetItem* Said(const char* line) {
+    auto& said = In<QTreeWidget>("lstSaid");
+    const auto found = said.findItems(QLatin1String(line), Qt::MatchExactly, 1);
+    return found.size() == 1 ? found.front() : nullptr;
+  }
+  static std::string Cells(const QTreeWidgetItem* item) {
+    if (item == nullptr) return "none";
+    QStringList cells;
+    for (int cell = 0; cell < item->columnCount(); ++cell) {
+      cells << item->text(cell);
+    }
+    return cells.join(u'|').toStdString();
+  }
+
+  std::string Exported(const char* item, const char* file) {
+    const fs::path path = folder_ / file;
+    OnDialog<QFileDialog>([&path](QFileDialog& dialog) {
+      dialog.selectFile(QString::fromStdString(BytesFromPath(path)));
+      static_cast<QDialog&>(dialog).accept();
+    });
+    In<QAction>(item).trigger();
+    return folder_.Read(file);
+  }
+
+  frmMatch* matches_ = nullptr;
+};
+
+TEST_F(MatchWindow, PlaysAgainstHowTheBotWasAndShowsWhatCameOfIt) {
+  UseServer(Log("Bot") + End());
+  In<QSpinBox>("spnGames").setValue(3);
+  In<QSpinBox>("spnMinutes").setValue(3);
+  EXPECT_FALSE(In<QPushButton>("cmdExport").isEnabled());
+  Press("cmdStart");
+  EXPECT_EQ(Button(), "Stop");
+  EXPECT_FALSE(In<QLineEdit>("txtMap").isEnabled());
+  ASSERT_TRUE(WaitForEnd());
+  ExpectNothingLeft();
+  EXPECT_THAT(
+      Verdict(),
+      HasSubstr("between Rookie and Bot as it was loaded: Rookie took 91 %"));
+  EXPECT_THAT(In<SharePlot>("picShare").accessibleDescription().toStdString(),
+              HasSubstr("After 3 matches: 91 % ("));
+  EXPECT_THAT(In<KillBars>("picKills").accessibleDescription().toStdString(),
+              HasSubstr("Rocket launcher: 3 of Rookie, 0 of Bot as it was"));
+  const auto& bots = In<QTableWidget>("tblBots");
+  EXPECT_EQ(bots.item(0, 0)->text(), QStringLiteral("60"));
+  EXPECT_EQ(bots.item(1, 3)->text(), QStringLiteral("3"));
+  EXPECT_THAT(Cells(In<QTreeWidget>("lstRuns").topLevelItem(0)),
+              AllOf(HasSubstr("Rookie|Bot as it was loaded|91 % ("),
+                    HasSubstr("|3|4, q3dm1,q3dm6")));
+  EXPECT_EQ(Cells(In<QTreeWidget>("lstTook").topLevelItem(0)),
+            "3|weapon_rocketlauncher|180");
+
+  EXPECT_EQ(Cells(Said("Too slow, {TARGET}.")),
+            "3|Too slow, {TARGET}.|Bot kills (negative)");
+  EXPECT_EQ(Cells(Said("Never said")),
+            "0|Never said|never heard: Bot kills (negative)");
+  EXPECT_EQ(Cells(Said("Of the game.")), "3|Of the game.|none of its lines");
+  auto& said = In<QTreeWidget>("lstSaid");
+  said.setCurrentItem(Said("Never said"));
+  QTest::keyClick(&said, Qt::Key_Return);
+  EXPECT_EQ(Button(), "Start");
+  EXPECT_EQ(Find<QTabWidget>("tbsBotPara")->currentIndex(), kChatPage);
+  EXPECT_EQ(Find<QLineEdit>("txtChatLine")->text(),
+            QStringLiteral("Never said"));
+
+  EXPECT_THAT(Exported("mnuCsv", "run.csv"),
+              HasSubstr("\n3,q3dm1,180,Rookie,Rookie,4,20,1,0,0,0\n"));
+  const Result<std::vector<MatchReport>> read =
+      ReadMatchJson(Exported("mnuJson", "run.json"), "run.json");
+  ASSERT_TRUE(read);
+  EXPECT_EQ(read->at(0).played.size(), 3U);
+  Exported("mnuPng", "run.png");
+  const QImage picture(
+      QString::fromStdString(BytesFromPath(folder_ / "run.png")));
+  EXPECT_GT(picture.width(), 200);
+}
+
+TEST_F(MatchWindow, PlaysUntilItIsSureAndKeepsTheRuns) {
+  UseServer(Log("sarge") + End());
+  In<QComboBox>("cmbOpponent").setCurrentText(QStringLiteral("sarge"));
+  In<QCheckBox>("chkUntilSure").setChecked(true);
+  EXPECT_FALSE(In<QSpinBox>("spnGames").isEnabled());
+  Press("cmdStart");
+  ASSERT_TRUE(WaitForEnd());
+  EXPECT_THAT(Verdict(), HasSubstr("Rookie is better than sarge, which was "
+                                   "clear after 8 matches: 91 %"));
+  // The next one stands beside it, and is shown.
+  UseServer(Log("Bot") + End());
+  In<QComboBox>("cmbOpponent").setCurrentIndex(0);
+  In<QCheckBox>("chkUntilSure").setChecked(false);
+  In<QSpinBox>("spnGames").setValue(1);
+  Press("cmdStart");
+  ASSERT_TRUE(WaitForEnd());
+  auto& runs = In<QTreeWidget>("lstRuns");
+  ASSERT_EQ(runs.topLevelItemCount(), 2);
+  EXPECT_EQ(runs.indexOfTopLevelItem(runs.currentItem()), 1);
+  EXPECT_THAT(Verdict(), HasSubstr("No difference is shown"));
+  EXPECT_LE(matches_->minimumSizeHint().width(), 1016);
+  EXPECT_LE(matches_->minimumSizeHint().height(), 670);
+  EXPECT_LE(matches_->width(), std::max(matches_->screen()->size().width(),
+                                        matches_->minimumSizeHint().width()));
+  runs.setCurrentItem(runs.topLevelItem(0));
+  EXPECT_THAT(Verdict(), HasSubstr("Rookie is better than sarge"));
+  EXPECT_EQ(Cells(Said("Too slow, {TARGET}.")).substr(0, 2), "8|");
+
+  // What was chosen is there the next time.
+  QTest::keyClick(matches_, Qt::Key_Escape);
+  EXPECT_FALSE(matches_->isVisible());
+  OpenMatches();
+  EXPECT_EQ(runs.topLevelItemCount(), 2);
+  Open();
+  OpenMatches();
+  EXPECT_EQ(In<QSpinBox>("spnGames").value(), 1);
+  EXPECT_EQ(In<QLineEdit>("txtMap").text(), QStringLiteral("q3dm1, q3dm6"));
+}
+
+TEST_F(MatchWindow, EndsAllServersHoweverItEnds) {
+  UseServer(Log("Bot") + "exec sleep 60\n");
+  In<QSpinBox>("spnJobs").setValue(2);
+  Press("cmdStart");
+  ASSERT_TRUE(WaitForServers(2));
+  EXPECT_TRUE(QTest::qWaitFor(
+      [this] { return Hint().find("2 running") != std::string::npos; },
+      kPatience));
+  EXPECT_THAT(Verdict(), HasSubstr("The first matches are being played."));
+  // The window stays usable meanwhile; what is edited takes no part.
+  Choose("mnuNewAverage");
+  Press("cmdStart");
+  EXPECT_EQ(Button(), "Start");
+  EXPECT_THAT(Verdict(), HasSubstr("No match was played to its end."));
+  ExpectNothingLeft();
+
+  UseServer("mkdir $0.first 2>/dev/null || exec sleep 60\n" + Log("Bot") +
+            End());
+  Press("cmdStart");
+  ASSERT_TRUE(WaitForServers(4));
+  QTest::keyClick(matches_, Qt::Key_Escape);
+  EXPECT_FALSE(matches_->isVisible());
+  ExpectNothingLeft();
+
+  OpenMatches();
+  UseServer("exec sleep 60\n");
+  Press("cmdStart");
+  ASSERT_TRUE(WaitForServers(6));
+  window_.reset();
+  ExpectNothingLeft();
+}
+
+TEST_F(MatchWindow, SaysWhyNothingIsPlayed) {
+  UseServer("echo no pak0.pk3; exit 1\n");
+  In<QLineEdit>("txtMap").clear();
+  Press("cmdStart");
+  EXPECT_THAT(Hint(), HasSubstr("There is no map to play on."));
+  In<QLineEdit>("txtMap").setText(QStringLiteral("q3dm1"));
+  In<QComboBox>("cmbOpponent").setCurrentText(QString());
+  Press("cmdStart");
+  EXPECT_THAT(Hint(), HasSubstr("There is nobody to play against."));
+  In<QComboBox>("cmbOpponent").setCurrentIndex(0);
+  const QString server = In<QComboBox>("cmbEngine").currentText();
+  In<QComboBox>("cmbEngine").setCurrentText(QString());
+  Press("cmdStart");
+  EXPECT_THAT(Hint(), HasSubstr("There is no dedicated server to play on."));
+  EXPECT_EQ(In<QTreeWidget>("lstRuns").topLevelItemCount(), 0);
+  In<QComboBox>("cmbEngine").setCurrentText(server);
+  Press("cmdStart");
+  ASSERT_TRUE(WaitForEnd());
+  EXPECT_THAT(Verdict(), AllOf(HasSubstr("No match was played to its end."),
+                               HasSubstr("no pak0.pk3")));
+  UseServer("echo \"Can't find map maps/q3dm1.bsp\"; exec sleep 60\n");
+  Press("cmdStart");
+  ASSERT_TRUE(WaitForEnd());
+  EXPECT_THAT(Verdict(), AllOf(HasSubstr("Can't find map maps/q3dm1.bsp."),
+                               HasSubstr("Choose another one.")));
+  EXPECT_FALSE(In<QPushButton>("cmdExport").isEnabled());
+  ExpectNothingLeft();
+}
+
+}  // namespace
+}  // namespace fragsmith
