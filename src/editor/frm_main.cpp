@@ -153,6 +153,7 @@ void frmMain::Connect() {
   connect(&current_, &CurrentBot::OriginChanged, this, &frmMain::ShowNotes);
   connect(&current_.steps(), &QUndoStack::indexChanged, this,
           &frmMain::OfferValuesAsGame);
+  connect(commands_, &BotCommands::Saved, this, &frmMain::AddNotes);
   connect(commands_, &BotCommands::PackageMissing, this,
           &frmMain::DropGoneAddOns);
   connect(commands_, &BotCommands::Loaded, this, &frmMain::KeepState);
@@ -191,6 +192,13 @@ void frmMain::Say(const QString& text) {
 void frmMain::ShowNotes() {
   notes_->ShowNotes(current_.origin().report->notes);
   OfferValuesAsGame();
+}
+
+void frmMain::AddNotes(const Notes& more) {
+  if (more.empty()) return;
+  Notes notes = current_.origin().report->notes;
+  notes.Append(more);
+  notes_->ShowNotes(notes);
 }
 
 void frmMain::OfferValuesAsGame() {
@@ -474,10 +482,7 @@ void frmMain::CheckBaseq3() {
   const std::optional<ModelListCommands::Scan> scan =
       model_list_->CheckBaseq3();
   if (!scan) return;
-  // What was noticed of the bot stays in sight.
-  Notes notes = current_.origin().report->notes;
-  for (const Note& note : scan->notes.list()) notes.Add(note);
-  notes_->ShowNotes(notes);
+  AddNotes(scan->notes);
   Say(QString::fromStdString(Describe(scan->summary)));
   ReadGame();
 }

@@ -77,6 +77,8 @@ class frmMain : public QMainWindow {
   void FitScreen();
   void OfferValuesAsGame();
   void ShowNotes();
+  /// More of them, beside those of the load, which stay in sight.
+  void AddNotes(const Notes& more);
   void Say(const QString& text);
   void ShowTitle();
   /// After an edit that was made or taken back elsewhere than at its control.

@@ -98,9 +98,20 @@ BotEdits EditsOf(const SaveInPlace& save, const OriginFiles& files,
     }
     edit.outcome = FileEdit::Outcome::kEdited;
     edit.bytes = BytesOf(kind, save.bot, save.author);
+    edit.notes = {};
     if (changes_header) edits.homeless.clear();
   }
   return edits;
+}
+
+/// What is to be known of the files that are edited in place.
+Notes NotesOf(const BotEdits& edits) {
+  Notes notes;
+  for (const auto& [kind, edit] : edits.files) {
+    if (edit.outcome != FileEdit::Outcome::kEdited) continue;
+    notes.Append(edit.notes);
+  }
+  return notes;
 }
 
 /// Settles what is not editable; false when the user cancels.
@@ -127,6 +138,7 @@ bool Settle(const SaveInPlace& save, BotEdits& edits, InPlacePlan& result,
       case Answer::kWriteAnew:
         edit.outcome = FileEdit::Outcome::kEdited;
         edit.bytes = BytesOf(kind, save.bot, save.author);
+        edit.notes = {};
         if (edit.origin.is_on_disk()) {
           result.backups.emplace(edit.origin.path, edit.old_bytes);
         }
@@ -176,6 +188,7 @@ InPlacePlan PlanInPlace(const SaveInPlace& save, SavePlan& plan) {
   BotEdits edits = EditsOf(save, files, AskForNumber(save.prompts));
   std::vector<BotFile> left;
   if (!Settle(save, edits, result, left)) return result;
+  result.notes = NotesOf(edits);
   for (auto& [kind, edit] : edits.files) {
     if (kind == BotFile::kChat) result.spellings = edit.origin.spellings;
     // Of a list the bot has no file of its own that a package could take.
@@ -271,6 +284,7 @@ Result<std::optional<InPlacePlan>> SaveIntoOwnPackage(const SaveInPlace& save,
     return std::optional<InPlacePlan>();
   }
   result.leaves_changes = result.leaves_changes || !edits.homeless.empty();
+  result.notes = NotesOf(edits);
   const Result<void> written = WriteEdits(edits);
   if (!written) return Failure(written.error());
   for (const auto& [kind, edit] : edits.files) home.files[kind] = edit.origin;
@@ -345,6 +359,7 @@ std::string ChangesToShow(const SaveInPlace& save) {
     notes = AddNewFiles(shown, *std::move(plan), edits);
   }
   std::string text = DiffOf(edits);
+  notes.Append(NotesOf(edits));
   for (const Note& note : notes.list()) {
     text += note.file + ": " + note.text + "\n";
   }

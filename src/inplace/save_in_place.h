@@ -13,6 +13,7 @@
 #include "model/bot.h"
 #include "session/bot_origin.h"
 #include "session/save_bot.h"
+#include "support/notes.h"
 #include "support/prompts.h"
 #include "support/result.h"
 
@@ -43,6 +44,8 @@ struct InPlacePlan {
   ChatSpellings spellings = {};
   /// Old files that are kept beside the new ones, by the new names.
   std::map<std::filesystem::path, std::string> backups;
+  /// What the edits in place do not reach, or reach too.
+  Notes notes;
 };
 
 /// Asks the user which number of a weight is meant.

@@ -3,6 +3,7 @@
 
 #include <QCheckBox>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPlainTextEdit>
 #include <filesystem>
 #include <string>
@@ -164,6 +165,31 @@ TEST_F(SaveInPlaceByWindow, LeavesTheListToTheOthersUnderANewName) {
   Choose("mnuSaveAgain");
   EXPECT_EQ(folder_.Read("g/scripts/bots.txt"), kOther);
   EXPECT_THAT(folder_.Read("g/scripts/rook.bot"), HasSubstr("Castle"));
+}
+
+TEST_F(SaveInPlaceByWindow, TellsWhatAnEditReachedToo) {
+  const std::string gender = "\tCHARACTERISTIC_GENDER\t\t\t\t\t\t";
+  folder_.Write("b/rook_c.c", "#include \"chars.h\"\nskill 1\n{\n" + gender +
+                                  "\"male\"\n}\nskill 4\n{\n" + gender +
+                                  "\"it\"\n}\n");
+  prompts_.confirmations = {true};
+  window_->OpenPath(folder_ / "b/rook_c.c");
+  window_->current().SetParameter(kGenderField, std::string("female"));
+  const std::string note = "\"male\" at level 1, \"it\" at level 4";
+  ChooseAndAnswer<QDialog>("mnuChanges", [&note](QDialog& dialog) {
+    EXPECT_THAT(
+        dialog.findChild<QPlainTextEdit*>()->toPlainText().toStdString(),
+        HasSubstr(note));
+    dialog.reject();
+  });
+  const auto count = [this, &note] {
+    const auto* const list = window_->findChild<QListWidget*>("lstNotes");
+    return list->findItems(QString::fromStdString(note), Qt::MatchContains)
+        .size();
+  };
+  EXPECT_EQ(count(), 0);
+  Choose("mnuSaveAgain");
+  EXPECT_EQ(count(), 1);
 }
 
 TEST_F(SaveInPlaceByWindow, DropsNoOtherBotOfADescriptionWithoutAWord) {

@@ -329,7 +329,7 @@ void BotCommands::ShowChanges() {
 
 void BotCommands::Tell(const BotSaver::Outcome& outcome) {
   if (outcome.saved) recent_.Add({*outcome.saved, {}});
-  emit Saved();
+  emit Saved(outcome.notes);
   emit StatusText(outcome.text.isEmpty() ? tr("The bot was not saved.")
                                          : outcome.text);
 }

@@ -90,8 +90,8 @@ class BotCommands : public QObject {
   void Made();
   /// A load came to its end.
   void Loaded();
-  /// A save came to its end.
-  void Saved();
+  /// A save came to its end, with what is to be known of it.
+  void Saved(const Notes& notes);
   /// A bot of the list was not loaded: its package is not in the game.
   void PackageMissing();
   void StatusText(const QString& text);

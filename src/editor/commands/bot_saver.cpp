@@ -136,6 +136,7 @@ std::optional<BotSaver::Outcome> BotSaver::SaveAgain() {
   const auto chat = home().files.find(BotFile::kChat);
   if (chat != home().files.end()) chat->second.spellings = in_place.spellings;
   if (outcome.text.isEmpty()) return outcome;
+  outcome.notes = in_place.notes;
   if (!not_kept.empty()) TellNotKept(not_kept);
   if (!made.empty()) {
     outcome.text +=
@@ -352,7 +353,8 @@ std::optional<BotSaver::Outcome> BotSaver::SaveIntoPackage() {
   return Outcome{
       .text = QStringLiteral("The bot was written into %1.")
                   .arg(QString::fromStdString(Utf8FromPath(package))),
-      .saved = {}};
+      .saved = {},
+      .notes = (*saved)->notes};
 }
 
 std::string BotSaver::Changes() {

@@ -30,6 +30,7 @@ class BotSaver {
     QString text;  ///< For the status bar; empty when there was a box.
     /// The characteristic file, when nothing of the bot is left unsaved.
     std::optional<std::filesystem::path> saved;
+    Notes notes = {};  ///< What edits in place did not reach, or reached too.
   };
 
   /// What the files of a bot that are made somewhere hold beside what is ours.
