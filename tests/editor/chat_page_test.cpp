@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QClipboard>
+#include <QFontMetrics>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -528,6 +529,10 @@ TEST_F(ChatPageTest, SaysWhenTheGameSpeaks) {
 
 TEST_F(ChatPageTest, TellsTheEndsOfALevelApartWhereItIsNarrow) {
   QListWidget* const types = List("lstChatGroups");
+  const QFontMetrics letters = types->fontMetrics();
+  if (letters.horizontalAdvance('i') == letters.horizontalAdvance('W')) {
+    GTEST_SKIP() << "There is no font: each letter is drawn as the same box.";
+  }
   const auto shown = [types](int row) {
     QListWidgetItem* const item = types->item(row);
     types->setCurrentItem(item);

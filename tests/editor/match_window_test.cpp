@@ -17,6 +17,7 @@
 #include "chat/chat_catalogue.h"
 #include "editor/toolkit/page_table.h"
 #include "support/files.h"
+#include "tests/editor/font_scale.h"
 #include "tests/editor/window_fixture.h"
 
 namespace fragsmith {
@@ -224,7 +225,7 @@ TEST_F(MatchWindow, PlaysUntilItIsSureAndKeepsTheRuns) {
   ASSERT_EQ(runs.topLevelItemCount(), 2);
   EXPECT_EQ(runs.indexOfTopLevelItem(runs.currentItem()), 1);
   EXPECT_THAT(Verdict(), HasSubstr("No difference is shown"));
-  EXPECT_LE(matches_->minimumSizeHint().width(), 1016);
+  EXPECT_LE(matches_->minimumSizeHint().width(), WithThisFont(1016));
   EXPECT_LE(matches_->minimumSizeHint().height(), 670);
   EXPECT_LE(matches_->width(), std::max(matches_->screen()->size().width(),
                                         matches_->minimumSizeHint().width()));
