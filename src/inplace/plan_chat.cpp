@@ -113,11 +113,11 @@ class ChatPlan {
     OldLine* last = nullptr;  // Behind which new lines go.
     for (const LineStep& step : StepsBetween(texts, wanted)) {
       OldLine* const old = step.old_line ? own[*step.old_line] : nullptr;
-      if (old != nullptr) last = old;
-      if (!step.new_line) {
-        old->is_gone = true;
-        continue;
+      if (old != nullptr) {
+        last = old;
+        old->is_gone = !step.new_line;
       }
+      if (!step.new_line) continue;
       const std::string& text = wanted[*step.new_line];
       if (old != nullptr && old->text == text) continue;
       std::optional<NewLine> line = Written(text);
