@@ -7,6 +7,7 @@
 #include "cli/command.h"
 #include "cli/terminal.h"
 #include "inplace/bot_edits.h"
+#include "inplace/described_bots.h"
 #include "session/document_edits.h"
 #include "session/save_bot.h"
 #include "support/code_page.h"
@@ -98,6 +99,22 @@ void TellRefusals(const BotEdits& edits, CommandContext& context) {
   }
 }
 
+/// What is to be known where the description that is edited is then one of two
+/// with the bot's name.
+Notes NotesOnName(const BotEdits& edits, const Bot& before, const Bot& after) {
+  Notes notes;
+  const auto found = edits.files.find(BotFile::kDescription);
+  if (found == edits.files.end() || !found->second.origin.is_on_disk() ||
+      EqualIgnoringCase(before.Name(), after.Name())) {
+    return notes;
+  }
+  SavePlan plan;
+  plan.files.emplace(BotFile::kDescription, found->second.origin.path);
+  std::string twice = NameDescribedTwice(plan, after);
+  if (!twice.empty()) notes.Add({found->second.shown, 0, std::move(twice)});
+  return notes;
+}
+
 ExitStatus RunEdit(const EditOptions& options, CommandContext& context) {
   std::vector<ValueAtPath> values;
   for (const std::string& text : options.sets) {
@@ -150,6 +167,7 @@ ExitStatus RunEdit(const EditOptions& options, CommandContext& context) {
       PrintNotes(context, edit.notes);
     }
   }
+  PrintNotes(context, NotesOnName(edits, loaded.bot, *after));
   if (options.is_dry_run) {
     context.out << DiffOf(edits);
     return kDone;

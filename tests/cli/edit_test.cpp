@@ -268,5 +268,16 @@ TEST_F(EditCommand, EditsAFunNameAmongBlanksAndTellsTheLimits) {
       HasSubstr("this number has more digits than can be held."));
 }
 
+TEST_F(EditCommand, TellsOfAnotherBotWithTheNewName) {
+  const std::string zora = "{\nname Zora\naifile bots/zora_c.c\n}\n";
+  folder_.Write("rook.bot", "{\nname rook\naifile bots/rook_c.c\n}\n");
+  folder_.Write("zora.bot", zora);
+  const Outcome outcome = Run({"--set", "name=Zora"});
+  EXPECT_EQ(outcome.status, 0) << outcome.err;
+  EXPECT_THAT(outcome.err, HasSubstr("zora.bot' describes a bot \"Zora\" too"));
+  EXPECT_EQ(folder_.Read("zora.bot"), zora);
+  EXPECT_THAT(Run({"--set", "name=Zoe"}).err, Not(HasSubstr("too")));
+}
+
 }  // namespace
 }  // namespace fragsmith
