@@ -151,6 +151,13 @@ void frmMain::Connect() {
   connect(commands_, &BotCommands::StatusText, this, &frmMain::Say);
   connect(help_, &HelpCommands::StatusText, this, &frmMain::Say);
   connect(&current_, &CurrentBot::OriginChanged, this, &frmMain::ShowNotes);
+  // What it says is of the bot before.
+  connect(&current_, &CurrentBot::OriginChanged, statusBar(),
+          &QStatusBar::clearMessage);
+  connect(draft_, &DraftKeeper::NotKept, this, [this](const Error& reason) {
+    Say(tr("No draft of this bot can be kept: save it. ") +
+        QString::fromStdString(Describe(reason)));
+  });
   connect(&current_.steps(), &QUndoStack::indexChanged, this,
           &frmMain::OfferValuesAsGame);
   connect(commands_, &BotCommands::Saved, this, &frmMain::AddNotes);
@@ -370,8 +377,13 @@ void frmMain::KeepState() {
     kept_recent_ = recent;
     SaveWindow();
   }
-  // What cannot be written is told at the end.
-  static_cast<void>(state_.SaveChanges());
+  // A box comes at the end; until then one word is enough.
+  const Result<void> saved = state_.SaveChanges();
+  if (!saved && !has_told_state_) {
+    Say(tr("Options and lists cannot be written. ") +
+        QString::fromStdString(Describe(saved.error())));
+  }
+  has_told_state_ = !saved;
 }
 
 void frmMain::SaveWindow() {

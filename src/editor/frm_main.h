@@ -128,6 +128,7 @@ class frmMain : public QMainWindow {
   WelcomePage* welcome_ = nullptr;
   WelcomeCommands* welcoming_ = nullptr;
   bool has_started_ = false;
+  bool has_told_state_ = false;
   DraftKeeper* draft_ = nullptr;
   HelpCommands* help_ = nullptr;
   frmMatch* matches_ = nullptr;  ///< Made when it is first asked for.

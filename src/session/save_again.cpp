@@ -59,6 +59,31 @@ bool IsKnown(const BotHome& home, BotFile file, const fs::path& path) {
   return known != nullptr && known->path == path;
 }
 
+/// The file there as this bot's load or save knows it, or an earlier one.
+const OriginFile* FindKnown(const BotHome& home, BotFile file,
+                            const fs::path& path) {
+  if (IsKnown(home, file, path)) return &home.files.at(file);
+  for (const BotHome::Earlier& earlier : home.earlier) {
+    const auto found = earlier.files.find(file);
+    if (found != earlier.files.end() && found->second.is_on_disk() &&
+        found->second.path == path) {
+      return &found->second;
+    }
+  }
+  return nullptr;
+}
+
+/// The same for a package that was made from the bot, or out of which it came.
+const OriginFile* FindKnownPackage(const BotHome& home, const fs::path& path) {
+  if (home.package && home.package->path == path) return &*home.package;
+  for (const BotHome::Earlier& earlier : home.earlier) {
+    if (earlier.package && earlier.package->path == path) {
+      return &*earlier.package;
+    }
+  }
+  return nullptr;
+}
+
 /// The characteristic file on disk, which tells the bot's sets of files apart.
 fs::path FirstPath(const OriginFiles& files) {
   const auto found = files.find(kFirst);
@@ -149,14 +174,16 @@ std::vector<fs::path> ChangedByOthers(const SavePlan& plan,
                                       const BotHome& home) {
   std::vector<fs::path> changed;
   for (const auto& [file, path] : plan.files) {
-    if (IsKnown(home, file, path) &&
-        HasChanged(home.files.at(file), kMaxBotFileBytes)) {
+    const OriginFile* const known = FindKnown(home, file, path);
+    if (known != nullptr && HasChanged(*known, kMaxBotFileBytes)) {
       changed.push_back(path);
     }
   }
-  if (plan.package && home.package && home.package->path == *plan.package &&
-      HasChanged(*home.package, kMaxFileBytes)) {
-    changed.push_back(*plan.package);
+  if (plan.package) {
+    const OriginFile* const known = FindKnownPackage(home, *plan.package);
+    if (known != nullptr && HasChanged(*known, kMaxFileBytes)) {
+      changed.push_back(*plan.package);
+    }
   }
   return changed;
 }
@@ -204,19 +231,31 @@ std::map<BotFile, fs::path> TakeOutUnread(SavePlan& plan, const Bot& bot,
   return unread;
 }
 
-std::vector<fs::path> MadeByOthers(const SavePlan& plan, const BotHome& home) {
-  std::vector<fs::path> made;
+std::vector<fs::path> NeverRead(const SavePlan& plan, const Bot& bot,
+                                const BotHome& home, const Author& author) {
+  std::vector<fs::path> never_read;
   for (const auto& [file, path] : plan.files) {
-    if (IsKnown(home, file, path) || !IsFile(path) ||
+    if (FindKnown(home, file, path) != nullptr || !IsFile(path) ||
         IsOfHalfSave(home, file, path)) {
       continue;
     }
     const Result<std::string> bytes = ReadFile(path, kMaxBotFileBytes);
-    const bool is_empty = bytes && bytes->empty();
-    if (is_empty || (bytes && HeaderLineCount(*bytes) > 0)) continue;
-    made.push_back(path);
+    const auto content = plan.contents.find(file);
+    const bool is_same =
+        bytes &&
+        (bytes->empty() || *bytes == (content != plan.contents.end()
+                                          ? content->second
+                                          : BytesOf(file, bot, author)));
+    if (!is_same) never_read.push_back(path);
   }
-  return made;
+  if (plan.package && IsFile(*plan.package) &&
+      FindKnownPackage(home, *plan.package) == nullptr &&
+      std::ranges::none_of(home.files, [&plan](const auto& file) {
+        return file.second.path == *plan.package;
+      })) {
+    never_read.push_back(*plan.package);
+  }
+  return never_read;
 }
 
 std::size_t OtherFilesIn(const fs::path& package, const Bot& bot) {

@@ -51,10 +51,13 @@ std::map<BotFile, std::filesystem::path> TakeOutUnread(SavePlan& plan,
                                                        const BotHome& home,
                                                        const Author& author);
 
-/// Files that lie where the plan writes, that no save of ours made and no load
-/// of this bot read.
-std::vector<std::filesystem::path> MadeByOthers(const SavePlan& plan,
-                                                const BotHome& home);
+/// Files and the package that lie where the plan writes, that no load of this
+/// bot read and no save of it made, and that are not what it writes anyway:
+/// another bot of the name, or what somebody made by hand.
+std::vector<std::filesystem::path> NeverRead(const SavePlan& plan,
+                                             const Bot& bot,
+                                             const BotHome& home,
+                                             const Author& author);
 
 /// How many files a package has that are not the bot's, and that it would lose
 /// if it were made anew; 0 where it cannot be read or is not there.

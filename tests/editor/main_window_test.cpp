@@ -194,6 +194,21 @@ TEST_F(MainWindow, OffersTheDraftOfARunThatDidNotEnd) {
       "^2Ton");
 }
 
+TEST_F(MainWindow, SaysOnceThatItCannotKeepADraft) {
+  std::filesystem::create_directories(folder_ / "fgs.draft/in the way");
+  const auto keep = [this](const char* name) {
+    window_->statusBar()->clearMessage();
+    Type("txtBotPara_0", name);
+    window_->findChild<DraftKeeper*>()->SaveNow();
+    return window_->statusBar()->currentMessage().toStdString();
+  };
+  EXPECT_THAT(keep("One"), HasSubstr("No draft of this bot can be kept"));
+  EXPECT_EQ(keep("Two"), "");
+  std::filesystem::remove_all(folder_ / "fgs.draft");
+  EXPECT_EQ(keep("Three"), "");
+  EXPECT_TRUE(IsFile(folder_ / "fgs.draft"));
+}
+
 TEST_F(MainWindow, OffersADraftUntilItIsAnswered) {
   const std::filesystem::path file = folder_.Write("b/rook_c.c", "skill 1 {");
   window_->OpenPath(file);

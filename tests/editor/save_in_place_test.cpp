@@ -227,9 +227,8 @@ TEST_F(SaveInPlaceByWindow, AsksBeforeItTakesThePlaceOfOthers) {
   folder_.Write("h/botfiles/bots/rook_w.c", by_hand);
   Make("h", false);
   EXPECT_THAT(prompts_.log,
-              ElementsAre(HasSubstr("rook_w.c' was not made by Fragsmith, and "
-                                    "not read with this bot. Do you want to "
-                                    "replace it?")));
+              ElementsAre(HasSubstr("rook_w.c' was not read with this bot. Do "
+                                    "you want to replace it?")));
   EXPECT_EQ(folder_.Read("h/botfiles/bots/rook_w.c"), by_hand);
   EXPECT_FALSE(IsFile(folder_ / "h/botfiles/bots/rook_c.c"));
   prompts_.confirmations = {true};
@@ -258,6 +257,38 @@ TEST_F(SaveInPlaceByWindow, AsksBeforeItTakesThePlaceOfOthers) {
   Type("txtBotPara_2", "Castle");
   Choose("mnuSaveAgain");
   EXPECT_THAT(prompts_.log, IsEmpty());
+}
+
+TEST_F(SaveInPlaceByWindow, AsksBeforeItTakesThePlaceOfABotOfOurs) {
+  const fs::path character = folder_ / "h/botfiles/bots/beta_c.c";
+  Type("txtBotPara_0", "Beta");
+  Make("h", false);
+  const std::string first = folder_.Read("h/botfiles/bots/beta_c.c");
+  // It is known there, also after a save elsewhere.
+  Type("txtBotPara_2", "Castle");
+  Make("i", false);
+  Make("h", false);
+  EXPECT_THAT(prompts_.log, IsEmpty());
+  folder_.Write("h/botfiles/bots/beta_c.c", first + "// mine");
+  Make("i", false);
+  Make("h", false);
+  EXPECT_THAT(prompts_.log, ElementsAre(HasSubstr("beta_c.c' was changed")));
+
+  prompts_.confirmations = {true};
+  Choose("mnuNew_rusher");
+  prompts_.confirmations.clear();
+  Type("txtBotPara_0", "Beta");
+  Make("h", false);
+  EXPECT_THAT(prompts_.log, ElementsAre(HasSubstr("not read with this bot")));
+  EXPECT_THAT(folder_.Read("h/botfiles/bots/beta_c.c"), HasSubstr("// mine"));
+}
+
+TEST_F(SaveInPlaceByWindow, KnowsThatABotIsInNoFileAnyMore) {
+  OpenRook("g/scripts/rook.bot");
+  fs::remove_all(folder_ / "g");
+  Choose("mnuSaveAgain");
+  EXPECT_THAT(prompts_.log, ElementsAre(HasSubstr("not there any more")));
+  EXPECT_TRUE(is_changed());
 }
 
 TEST_F(SaveInPlaceByWindow, KnowsWhatItWroteBeforeASaveFailed) {

@@ -24,6 +24,7 @@
 #include "editor/controls/max_select.h"
 #include "editor/dialogs/compare_dialog.h"
 #include "editor/dialogs/open_dialog.h"
+#include "editor/toolkit/page_table.h"
 #include "model/characteristic_catalogue.h"
 #include "session/presets.h"
 #include "session/save_bot.h"
@@ -426,6 +427,17 @@ TEST_F(Typing, IsNotTheOnlyWayToSetAButton) {
   slider->setFocus();
   QTest::keyClick(slider, Qt::Key_End);
   EXPECT_EQ(bot().Parameter(Id(44)), Value(1000.0));
+}
+
+TEST_F(Typing, GoesWithoutAVariableThatIsTakenBack) {
+  Find<QTabWidget>("tbsBotPara")->setCurrentIndex(kChatPage);
+  Find<QPushButton>("cmdNewLine")->click();
+  auto* const box = Find<QLineEdit>("txtChatLine");
+  QTest::keyClicks(box, QStringLiteral("hello "));
+  Find<QPushButton>("cmdPointer_2")->click();
+  EXPECT_EQ(box->text(), "hello {ANYBOTNAME}");
+  Choose("mnuUndo");
+  EXPECT_EQ(box->text(), "hello ");
 }
 
 TEST_F(Typing, IsNotDoneByAWheelThatPasses) {

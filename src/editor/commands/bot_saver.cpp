@@ -100,7 +100,11 @@ std::optional<BotSaver::Outcome> BotSaver::SaveAgain() {
   TakeUpEarlier(current_.bot(), home());
   std::optional<SavePlan> plan = PlanOfSaveAgain(current_.bot(), home());
   if (!plan) return SaveIntoPackage();
-  if (!MayMakeAnew(*plan)) return Outcome{};
+  if (!MayMakeAnew(*plan)) {
+    // It is in no file any more.
+    current_.SetChanged(true);
+    return Outcome{};
+  }
   const Author author = AuthorOf(state_.settings);
   const IncludeLookup game = Game();
   const SaveInPlace save = {current_.bot(), home(),         author,
@@ -214,13 +218,13 @@ bool BotSaver::MayDropBots(const SavePlan& plan) {
 }
 
 bool BotSaver::MayReplaceOthers(const SavePlan& plan) {
-  const std::vector<fs::path> others = MadeByOthers(plan, home());
+  const std::vector<fs::path> others =
+      NeverRead(plan, current_.bot(), home(), AuthorOf(state_.settings));
   return others.empty() ||
          state_.prompts.Confirm(
              std::string(kProgramTitle),
              Subject(others) +
-                 " not made by Fragsmith, and not read with this bot. Do you "
-                 "want to replace " +
+                 " not read with this bot. Do you want to replace " +
                  Object(others.size()) + "?");
 }
 

@@ -62,7 +62,7 @@ class BotSaver {
   bool MayDropFiles(const SavePlan& plan);
   /// The same for other bots in a description.
   bool MayDropBots(const SavePlan& plan);
-  /// The same for files that somebody made by hand.
+  /// The same for another bot of the name, and for what was made by hand.
   bool MayReplaceOthers(const SavePlan& plan);
   /// Asks before the bot's name stands in two descriptions.
   bool MayDescribeTwice(const SavePlan& plan);

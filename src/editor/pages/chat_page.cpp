@@ -326,7 +326,10 @@ void ChatPage::StoreLine() {
     emit StatusText(QLatin1String(kRefusedCharacter));
     return;
   }
-  current_.EditChats(NameOf("Chat line", Line()), [this, &text](Bot& bot) {
+  EditName name = NameOf("Chat line", Line());
+  // What is inserted goes without what was typed.
+  name.merges = !is_inserting_;
+  current_.EditChats(name, [this, &text](Bot& bot) {
     bot.SetChatLine(*Type(), Line(), *text);
   });
   lines_->currentItem()->setText(box_->text());
@@ -436,7 +439,9 @@ void ChatPage::Insert(const QString& variable) {
   // A character of the box is a byte of the text.
   const LineText line = InsertVariable(
       {*text, static_cast<std::size_t>(box_->cursorPosition())}, *inserted);
+  is_inserting_ = true;
   ReplaceText(line.text);
+  is_inserting_ = false;
   box_->setFocus(Qt::OtherFocusReason);
   box_->setCursorPosition(static_cast<int>(line.cursor));
 }

@@ -130,6 +130,7 @@ class ChatPage : public ScrollingPage {
   /// True until the message of the automatic check is closed: that takes the
   /// focus from the line box and would set the check off again.
   bool is_checking_ = false;
+  bool is_inserting_ = false;
 };
 
 }  // namespace fragsmith

@@ -132,12 +132,12 @@ void DraftKeeper::Schedule() { timer_.start(); }
 void DraftKeeper::SaveNow() {
   timer_.stop();
   if (!current_.is_changed()) return Discard();
-  // A draft that cannot be written is no reason to disturb the user, who has
-  // the bot before him.
-  if (!own_.file.empty()) {
-    (void)SaveFile(own_.file,
-                   WriteDraft({.bot = source_(), .origin = current_.origin()}));
-  }
+  if (own_.file.empty()) return;
+  const Result<void> kept = SaveFile(
+      own_.file, WriteDraft({.bot = source_(), .origin = current_.origin()}));
+  // The user has the bot before him: one word is enough.
+  if (!kept && !has_failed_) emit NotKept(kept.error());
+  has_failed_ = !kept;
 }
 
 }  // namespace fragsmith

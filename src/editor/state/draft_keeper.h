@@ -68,6 +68,10 @@ class DraftKeeper : public QObject {
   /// Writes at once what the timer still waits with.
   void SaveNow();
 
+ signals:
+  /// The draft cannot be written; once until it can be again.
+  void NotKept(const Error& reason);
+
  private:
   /// A draft's file, held by its lock.
   struct Slot {
@@ -81,6 +85,7 @@ class DraftKeeper : public QObject {
   std::deque<Slot> left_behind_;
   std::vector<Error> unreadable_;
   Slot own_;  ///< Without a file where none can be locked.
+  bool has_failed_ = false;
   CurrentBot& current_;
   std::function<Bot()> source_;
   QTimer timer_;

@@ -61,7 +61,6 @@ Result<void> ProgramState::SaveChanges() {
 }
 
 Result<void> ProgramState::Save(EmptyList empty) {
-  saved_ = AllBytes();
   Result<void> result;
   for (const Result<void>& done :
        {SaveUserModels(folders.program, lists.models, empty),
@@ -70,6 +69,7 @@ Result<void> ProgramState::Save(EmptyList empty) {
         SaveSettings(folders.program, settings)}) {
     if (result && !done) result = done;
   }
+  if (result) saved_ = AllBytes();
   return result;
 }
 
