@@ -8,14 +8,12 @@
 
 #include "checks/bot_reader.h"
 #include "checks/character_file_checks.h"
+#include "model/file_names.h"
 #include "support/code_page.h"
 #include "support/text.h"
 
 namespace fragsmith {
 namespace {
-
-/// Bytes of "_c.c".
-constexpr std::size_t kSuffixLength = 4;
 
 /// The skills to try, so that each level of the file is read, by itself and
 /// in a mix.
@@ -280,7 +278,8 @@ std::string NameToAdd(const BotFileSet& files) {
   if (!files.character) return {};
   std::string name = files.character->game_path;
   name.erase(0, name.rfind('/') + 1);
-  return name.substr(0, name.size() - std::min(name.size(), kSuffixLength));
+  return name.substr(0,
+                     name.size() - std::min(name.size(), kCharacterEnd.size()));
 }
 
 std::vector<std::string> FilesOpened(const BotFileSet& files,
