@@ -96,6 +96,8 @@ TEST(SkillMix, KnowsThresholdsInTheirOrder) {
       EXPECT_GT(threshold.value, last);
       last = threshold.value;
     }
+    // What begins somewhere is read.
+    EXPECT_TRUE(ThresholdsOf(index).empty() || IsReadByGame(index)) << index;
   }
 }
 
