@@ -37,6 +37,9 @@ constexpr std::array<FileKey, 5> kFileKeys = {{
     {BotFile::kDescription, "description"},
 }};
 
+/// The kind of a note that is shown apart from the others.
+constexpr const char* kAlsoInFile = "alsoInFile";
+
 /// The bytes of a path are of any code; each stands as a character of the
 /// game's code page, so that all come back.
 std::string TextOfPath(const std::filesystem::path& path) {
@@ -147,8 +150,10 @@ OrderedJson ReportToJson(const LoadReport& report) {
   OrderedJson json = OrderedJson::object();
   json["notes"] = OrderedJson::array();
   for (const Note& note : report.notes.list()) {
-    json["notes"].push_back(
-        {{"file", note.file}, {"line", note.line}, {"text", note.text}});
+    OrderedJson one = {
+        {"file", note.file}, {"line", note.line}, {"text", note.text}};
+    if (note.kind == NoteKind::kAlsoInFile) one["kind"] = kAlsoInFile;
+    json["notes"].push_back(std::move(one));
   }
   json["oddValues"] = OrderedJson::array();
   for (const auto& [parameter, value] : report.odd_values) {
@@ -173,9 +178,12 @@ std::optional<ParameterId> ParameterOfNumber(int number) {
 
 void ReadReport(const Json& json, LoadReport& report) {
   for (const Json& note : json.at("notes")) {
-    report.notes.Add({.file = note.at("file").get<std::string>(),
-                      .line = note.at("line").get<std::size_t>(),
-                      .text = note.at("text").get<std::string>()});
+    const bool is_also = note.value("kind", std::string()) == kAlsoInFile;
+    report.notes.Add(
+        {.file = note.at("file").get<std::string>(),
+         .line = note.at("line").get<std::size_t>(),
+         .text = note.at("text").get<std::string>(),
+         .kind = is_also ? NoteKind::kAlsoInFile : NoteKind::kOther});
   }
   for (const Json& odd : json.at("oddValues")) {
     const auto parameter = ParameterOfNumber(odd.at("parameter").get<int>());

@@ -173,8 +173,20 @@ TEST_F(Origin, MaySaveAnewWhatTheGameCannotRead) {
 TEST_F(Origin, GoesWithADraft) {
   const fs::path a = Make("a", "Rookie", 0.25);
   const fs::path b = Make("b", "Other", 0.75);
-  std::ofstream(a, std::ios::app) << "// a comment of the author\n";
+  std::ofstream(a, std::ios::app)
+      << "// a comment of the author\nskill 1 { CHARACTERISTIC_OWN 1 }\n";
   Open(a);
+  const auto notes = [this] {
+    const auto* const list = Find<QListWidget>("lstNotes");
+    std::vector<std::string> texts;
+    for (int row = 0; row < list->count(); ++row) {
+      texts.push_back(list->item(row)->text().toStdString());
+    }
+    return texts;
+  };
+  const std::vector<std::string> noticed = notes();
+  EXPECT_THAT(noticed, ElementsAre(HasSubstr("Comments"), "Also in these files",
+                                   HasSubstr("CHARACTERISTIC_OWN")));
   Press(Qt::Key_End);
   window_->findChild<DraftKeeper*>()->SaveNow();
   WindowFixture::Open();
@@ -183,6 +195,7 @@ TEST_F(Origin, GoesWithADraft) {
   Find<QPushButton>("cmdTakeDraft")->click();
   EXPECT_EQ(bot().Name(), "Rookie");
   EXPECT_TRUE(Find<QWidget>("barNotes")->isVisible());
+  EXPECT_EQ(notes(), noticed);
   Choose("mnuSaveAgain");
   EXPECT_THAT(prompts_.log, IsEmpty());
   EXPECT_FALSE(is_changed());

@@ -97,6 +97,10 @@ Draft DraftWithOrigin() {
   home.left_package = "/g/bot-y.pk3";
   LoadReport& report = *draft.origin.report;
   report.notes.Add({.file = "x_c.c", .line = 3, .text = "Odd \xFF."});
+  report.notes.Add({.file = "x_c.c",
+                    .line = 9,
+                    .text = "Also.",
+                    .kind = NoteKind::kAlsoInFile});
   report.odd_values = {{Id(102), {.read = 0.5, .plain = 0.25}},
                        {Id(49), {.read = 0.0, .plain = std::string("x")}},
                        {kModelField, {.read = std::string("a"), .plain = {}}}};
@@ -118,8 +122,10 @@ TEST(Draft, KnowsWhereTheBotCameFrom) {
   ASSERT_NE(found.loaded, nullptr);
   EXPECT_EQ(WriteBotDocument(*found.loaded), WriteBotDocument(*home.loaded));
   const LoadReport& report = *read.origin.report;
-  ASSERT_EQ(report.notes.list().size(), 1U);
+  ASSERT_EQ(report.notes.list().size(), 2U);
   EXPECT_THAT(Describe(report.notes.list().front()), HasSubstr("x_c.c:3: Odd"));
+  EXPECT_EQ(report.notes.list().front().kind, NoteKind::kOther);
+  EXPECT_EQ(report.notes.list().back().kind, NoteKind::kAlsoInFile);
   ASSERT_EQ(report.odd_values.size(), 3U);
   EXPECT_EQ(report.odd_values.at(Id(49)), (OddValue{0.0, std::string("x")}));
 }
