@@ -130,8 +130,6 @@ const Words& WordsOf(int index) {
 
 }  // namespace
 
-std::string_view CharacteristicName(int index) { return WordsOf(index).name; }
-
 std::string_view ParameterCaption(int index) {
   const Words& words = WordsOf(index);
   return words.caption == Words::kAsName ? words.name : words.caption;
@@ -139,7 +137,7 @@ std::string_view ParameterCaption(int index) {
 
 std::string_view ParameterName(ParameterId id) {
   if (id.level() || id.index() > kArenaLordField.index()) {
-    return CharacteristicName(id.index());
+    return WordsOf(id.index()).name;
   }
   const auto* const field =
       std::find_if(kFieldNames.begin(), kFieldNames.end(),

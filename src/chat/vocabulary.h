@@ -17,9 +17,6 @@ namespace fragsmith {
 /// The level of a per-level one is left away.
 std::string_view ParameterName(ParameterId id);
 
-/// The same of a parameter by its catalogue index alone.
-std::string_view CharacteristicName(int index);
-
 /// What stands above the control of a parameter, by its catalogue index;
 /// empty where the control above has it.
 std::string_view ParameterCaption(int index);

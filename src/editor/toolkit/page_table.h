@@ -29,6 +29,7 @@ struct ControlRow {
 
   constexpr bool IsEmptyPlace() const { return index == 0; }
   constexpr bool HasLevels() const { return kPerLevelRange.Contains(index); }
+  constexpr ParameterId Id() const { return ParameterAt(index); }
   /// True when the scale selector of its page sets its maximum.
   constexpr bool IsRescaled() const { return max == kWeightMaxima[0]; }
 };
