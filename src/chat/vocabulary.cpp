@@ -167,11 +167,14 @@ std::string ShownNumber(double number) {
 
 std::string ShownValue(const Value& value) {
   const std::optional<double> number = ToNumber(value);
-  return number ? ShownNumber(*number) : QuotedText(ToText(value));
+  return number ? ShownNumber(*number)
+                : Quoted(ToText(value), std::string::npos);
 }
 
-std::string QuotedText(std::string_view text) {
-  return "\"" + ShownText(text) + "\"";
+std::string Quoted(std::string_view game_text, std::size_t most) {
+  std::string text = ShownText(game_text.substr(0, most));
+  if (game_text.size() > most) text += "…";
+  return "\"" + text + "\"";
 }
 
 std::string QuotedChatType(ChatTypeId type) {

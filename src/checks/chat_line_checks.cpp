@@ -118,8 +118,7 @@ std::string ShownList(const std::string& name) {
   const auto* const list =
       std::find_if(kWordLists.begin(), kWordLists.end(),
                    [&name](const WordList& row) { return row.Key == name; });
-  return list == kWordLists.end() ? QuotedText(name)
-                                  : std::string(list->Variable);
+  return list == kWordLists.end() ? Quoted(name) : std::string(list->Variable);
 }
 
 /// The first "{...}" of the text; empty when there is none.
@@ -146,7 +145,7 @@ std::vector<Mend> ByOtherLine(const CheckContext& context,
   std::string other = OtherChatLine(context.bot, line.type, WordsOf(context));
   std::string title = IsReadyMade(other)
                           ? "Use " + ShownText(other) + " in its place"
-                          : "Use the line " + QuotedText(other);
+                          : "Use the line " + Quoted(other, std::string::npos);
   return {SetLine(line, std::move(other), std::move(title))};
 }
 

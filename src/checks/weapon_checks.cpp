@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "chat/vocabulary.h"
 #include "checks/weight_checks.h"
 #include "inplace/splice.h"
 #include "model/value.h"

@@ -9,7 +9,6 @@
 #include <string_view>
 
 #include "chat/vocabulary.h"
-#include "editor/toolkit/table_text.h"
 #include "model/characteristic_catalogue.h"
 #include "model/level_linking.h"
 #include "model/value_scale.h"
@@ -189,7 +188,7 @@ static_assert([] {
 inline QString CaptionText(const ControlRow& control, int max) {
   const std::string_view caption = ParameterCaption(control.index);
   if (caption.empty()) return {};
-  return TableText(caption) + QStringLiteral(" (0-%1)").arg(max);
+  return QString::fromUtf8(caption) + QStringLiteral(" (0-%1)").arg(max);
 }
 
 }  // namespace fragsmith
