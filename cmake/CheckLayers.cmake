@@ -1,7 +1,9 @@
 # cmake -DSOURCE_DIR=.../src -P CheckLayers.cmake
 #
 # Fails when a folder of SOURCE_DIR includes a header of a folder that it may
-# not use, reaches out with "../", or uses Qt where there is to be none.
+# not use or links its library, or uses Qt where there is to be none. What would
+# hide that from here fails too: a path with "../", a name that a macro gives, a
+# file of another kind.
 
 cmake_minimum_required(VERSION 3.22)
 
@@ -43,24 +45,71 @@ macro(fault file text)
   math(EXPR faults "${faults} + 1")
 endmacro()
 
-# A folder with sources that is no room would be looked at by nobody.
-file(GLOB_RECURSE sources ${SOURCE_DIR}/*.h ${SOURCE_DIR}/*.cpp)
+# Of a room that is not called as its library.
+set(room_of_packages install/packages)
+set(room_of_program_data install/program)
+set(room_of_system support/system)
+foreach(room IN LISTS rooms)
+  if(NOT room MATCHES "^install/|/system$")
+    string(REPLACE "/" "_" library ${room})
+    set(room_of_${library} ${room})
+  endif()
+endforeach()
+
+# A folder with sources that is no room would be looked at by nobody, nor would
+# a file whose name ends otherwise.
+file(GLOB_RECURSE sources ${SOURCE_DIR}/*)
 foreach(file IN LISTS sources)
   get_filename_component(folder ${file} DIRECTORY)
   file(RELATIVE_PATH room ${SOURCE_DIR} ${folder})
-  if(NOT room IN_LIST rooms)
+  if(file MATCHES "/CMakeLists\\.txt$")
+    file(STRINGS ${file} lines REGEX "^[ \t]*target_link_libraries")
+    if(lines AND NOT room IN_LIST rooms)
+      fault(${file} "links something, and is no room's")
+    endif()
+  elseif(NOT file MATCHES "\\.(h|cpp)$")
+    fault(${file} "is neither a .h nor a .cpp file")
+  elseif(NOT room IN_LIST rooms)
     fault(${file} "src/${room} is no room; name it in CheckLayers.cmake")
   endif()
 endforeach()
 
+function(check_links room file)
+  file(STRINGS ${file} lines REGEX "^[^#]")
+  if(lines MATCHES "Qt" AND NOT room MATCHES "^editor")
+    fault(${file} "links Qt")
+  endif()
+  # A link line may be that of another room's library.
+  string(REGEX MATCHALL "target_link_libraries\\([ \t;]*fragsmith_[a-z_]+" own
+               "${lines}")
+  foreach(target IN LISTS own)
+    string(REGEX REPLACE "^.*fragsmith_" "" library "${target}")
+    if(NOT room_of_${library} STREQUAL room)
+      fault(${file} "links for another: fragsmith_${library}")
+    endif()
+  endforeach()
+  string(REGEX MATCHALL "fragsmith_[a-z_]+" used "${lines}")
+  foreach(target IN LISTS used)
+    string(REGEX REPLACE "^fragsmith_" "" library ${target})
+    if(DEFINED room_of_${library} AND NOT room_of_${library} IN_LIST
+                                      may_use_${room})
+      fault(${file} "${room} may not link ${target}")
+    endif()
+  endforeach()
+  set(faults ${faults} PARENT_SCOPE)
+endfunction()
+
 foreach(room IN LISTS rooms)
   file(GLOB files ${SOURCE_DIR}/${room}/*.h ${SOURCE_DIR}/${room}/*.cpp)
   foreach(file IN LISTS files)
-    file(STRINGS ${file} includes REGEX "^[ \t]*#[ \t]*include")
+    file(STRINGS ${file} includes REGEX "^[ \t]*(#|%:)[ \t]*(include|import)")
     foreach(line IN LISTS includes)
-      if(line MATCHES "[<\"](Q[A-Z]|Qt)" AND NOT room MATCHES "^editor")
+      if(line MATCHES "[<\"](Q[A-Z]|Qt|q[a-z0-9]+\\.h)" AND NOT room MATCHES
+                                                           "^editor")
         fault(${file} "uses Qt: ${line}")
-      elseif(line MATCHES "\"\\.\\.?/")
+      elseif(NOT line MATCHES "(include|import)[ \t]*[<\"]")
+        fault(${file} "includes what a macro names: ${line}")
+      elseif(line MATCHES "[<\"/]\\.\\.?/")
         fault(${file} "includes by a relative path: ${line}")
       elseif(line MATCHES "[<\"]([a-z_/]+)/")
         set(used ${CMAKE_MATCH_1})
@@ -71,11 +120,8 @@ foreach(room IN LISTS rooms)
       endif()
     endforeach()
   endforeach()
-  if(EXISTS ${SOURCE_DIR}/${room}/CMakeLists.txt AND NOT room MATCHES "^editor")
-    file(STRINGS ${SOURCE_DIR}/${room}/CMakeLists.txt lines REGEX "Qt")
-    if(lines)
-      fault(${SOURCE_DIR}/${room}/CMakeLists.txt "links Qt: ${lines}")
-    endif()
+  if(EXISTS ${SOURCE_DIR}/${room}/CMakeLists.txt)
+    check_links(${room} ${SOURCE_DIR}/${room}/CMakeLists.txt)
   endif()
 endforeach()
 

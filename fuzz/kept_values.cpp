@@ -15,21 +15,6 @@
 namespace fragsmith {
 namespace {
 
-/// All parameters of a range of the catalogue.
-std::vector<ParameterId> ParametersOf(IndexRange range) {
-  std::vector<ParameterId> parameters;
-  for (const int index : range) {
-    if (!kPerLevelRange.Contains(index)) {
-      parameters.emplace_back(index);
-      continue;
-    }
-    for (const Level level : kLevels) {
-      parameters.emplace_back(level, index);
-    }
-  }
-  return parameters;
-}
-
 bool IsPointText(const Value& value) {
   const auto* text = std::get_if<std::string>(&value);
   return text != nullptr && Contains(*text, ".") && IsNumericText(*text);

@@ -67,7 +67,7 @@ class OnePageWindow : public QMainWindow {
     for (const PageRow& row : kPages) {
       strip->addTab(
           &row == &kPages.front() ? static_cast<QWidget*>(page) : new QWidget,
-          TableText(row.tab_caption));
+          QString::fromUtf8(row.tab_caption));
     }
     FillMainMenu(*menuBar(), [](const QString& /*name*/) {});
     auto* const content = new QWidget(this);

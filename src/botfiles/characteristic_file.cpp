@@ -234,8 +234,9 @@ class CharacterReader {
     } else if (!is_skip_noted_) {
       reader_.AddNote(
           line.number,
-          level_ ? "A bot holds the levels 1, 4 and 5 only: the values of " +
-                       LevelText(level_) + " are passed over."
+          level_ ? "A bot holds " + std::string(kLevelsInWords) +
+                       " only: the values of " + LevelText(level_) +
+                       " are passed over."
                  : "Values before the first \"skill\" line belong to no level "
                    "and are passed over.");
       is_skip_noted_ = true;

@@ -29,11 +29,15 @@ std::string NameList::Text() const {
   return text;
 }
 
-std::string AlsoInFile(std::size_t count, const std::string& what) {
-  return std::string(kAlsoInFile) + ", what a bot here has no place for (" +
-         std::to_string(count) + "): " + what +
-         ". It stays when values are changed in place, and is left out of a "
-         "file made anew.";
+Note AlsoInFile(const std::string& file, std::size_t line, std::size_t count,
+                const std::string& what) {
+  return {.file = file,
+          .line = line,
+          .text = "Also in this file, what a bot here has no place for (" +
+                  std::to_string(count) + "): " + what +
+                  ". It stays when values are changed in place, and is left "
+                  "out of a file made anew.",
+          .kind = NoteKind::kAlsoInFile};
 }
 
 LeftOut::LeftOut(std::string file, std::vector<std::string> includes)
@@ -98,7 +102,7 @@ void LeftOut::Tell(Notes& notes) const {
     others += first_text_ + TextLines();
   }
   if (others.empty()) return;
-  notes.Add({file_, others_.first_line, AlsoInFile(others_.count, others)});
+  notes.Add(AlsoInFile(file_, others_.first_line, others_.count, others));
 }
 
 }  // namespace fragsmith

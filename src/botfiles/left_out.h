@@ -28,11 +28,10 @@ class NameList {
   std::size_t left_out_ = 0;
 };
 
-/// How the note begins on what a bot has no place for, and on nothing else.
-inline constexpr std::string_view kAlsoInFile = "Also in this file";
-
-/// That note, given how many things it is and which.
-std::string AlsoInFile(std::size_t count, const std::string& what);
+/// The note on what a bot has no place for: the first line of it, how many
+/// things it is and which.
+Note AlsoInFile(const std::string& file, std::size_t line, std::size_t count,
+                const std::string& what);
 
 /// What a reader passes over and a save of the bot does not write again. Each
 /// kind is told once for a file, with its first line.

@@ -103,7 +103,12 @@ class WeightReader {
     reader_.Finish();
     left_out_.Tell(report_.notes);
     if (report_.given.empty()) {
-      report_.notes.Add({left_out_.file(), 0, std::string(kSetsNoWeights)});
+      report_.notes.Add(
+          {.file = left_out_.file(),
+           .line = 0,
+           .text = "The file sets none of the weights that a bot has here. "
+                   "Writing it anew would lose what it says.",
+           .kind = NoteKind::kNoWeights});
     } else {
       report_.missing_includes = left_out_.missing_includes();
     }

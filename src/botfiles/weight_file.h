@@ -12,11 +12,6 @@
 
 namespace fragsmith {
 
-/// The note on a file that has no macro of a bot's weights.
-inline constexpr std::string_view kSetsNoWeights =
-    "The file sets none of the weights that a bot has here. Writing it "
-    "anew would lose what it says.";
-
 /// The two weight files: macros for the game's own weighting scripts, which
 /// they include at their end.
 std::string WriteWeaponWeightFile(const Bot& bot, const Author& author);

@@ -130,8 +130,6 @@ const Words& WordsOf(int index) {
 
 }  // namespace
 
-std::string_view CharacteristicName(int index) { return WordsOf(index).name; }
-
 std::string_view ParameterCaption(int index) {
   const Words& words = WordsOf(index);
   return words.caption == Words::kAsName ? words.name : words.caption;
@@ -139,7 +137,7 @@ std::string_view ParameterCaption(int index) {
 
 std::string_view ParameterName(ParameterId id) {
   if (id.level() || id.index() > kArenaLordField.index()) {
-    return CharacteristicName(id.index());
+    return WordsOf(id.index()).name;
   }
   const auto* const field =
       std::find_if(kFieldNames.begin(), kFieldNames.end(),
@@ -169,11 +167,14 @@ std::string ShownNumber(double number) {
 
 std::string ShownValue(const Value& value) {
   const std::optional<double> number = ToNumber(value);
-  return number ? ShownNumber(*number) : QuotedText(ToText(value));
+  return number ? ShownNumber(*number)
+                : Quoted(ToText(value), std::string::npos);
 }
 
-std::string QuotedText(std::string_view text) {
-  return "\"" + ShownText(text) + "\"";
+std::string Quoted(std::string_view game_text, std::size_t most) {
+  std::string text = ShownText(game_text.substr(0, most));
+  if (game_text.size() > most) text += "…";
+  return "\"" + text + "\"";
 }
 
 std::string QuotedChatType(ChatTypeId type) {

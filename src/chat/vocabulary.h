@@ -1,6 +1,7 @@
 #ifndef FRAGSMITH_CHAT_VOCABULARY_H_
 #define FRAGSMITH_CHAT_VOCABULARY_H_
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -17,9 +18,6 @@ namespace fragsmith {
 /// The level of a per-level one is left away.
 std::string_view ParameterName(ParameterId id);
 
-/// The same of a parameter by its catalogue index alone.
-std::string_view CharacteristicName(int index);
-
 /// What stands above the control of a parameter, by its catalogue index;
 /// empty where the control above has it.
 std::string_view ParameterCaption(int index);
@@ -34,8 +32,11 @@ std::string QuotedName(ParameterId id);
 std::string ShownValue(const Value& value);
 std::string ShownNumber(double number);
 
-/// A game text in double quotes, UTF-8.
-std::string QuotedText(std::string_view text);
+/// Bytes of a game text that are bearable in a sentence.
+inline constexpr std::size_t kMaxQuoted = 40;
+
+/// A game text in double quotes, UTF-8; of a longer one the beginning.
+std::string Quoted(std::string_view game_text, std::size_t most = kMaxQuoted);
 
 /// The situation's caption in double quotes.
 std::string QuotedChatType(ChatTypeId type);

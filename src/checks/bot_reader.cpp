@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "chat/vocabulary.h"
 #include "checks/chat_file_checks.h"
 #include "checks/installation_checks.h"
 #include "checks/weapon_checks.h"

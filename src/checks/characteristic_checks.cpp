@@ -50,14 +50,13 @@ Mend MendTo(ParameterId parameter, double value) {
 /// one all levels are set that are beyond it: one alone would be better or
 /// worse than the others, and the game could not mix a 1.0 with a 2.
 Mend MendToEnd(ParameterId parameter, double end, bool is_highest) {
-  const int index = parameter.index();
   if (!parameter.level()) return MendTo(parameter, end);
-  return {"Set \"" + std::string(CharacteristicName(index)) + "\" to " +
+  return {"Set \"" + std::string(ParameterName(parameter)) + "\" to " +
               ShownNumber(end) + " wherever it is " +
               (is_highest ? "more" : "less"),
-          [index, end, is_highest](Bot& bot) {
+          [parameter, end, is_highest](Bot& bot) {
             for (const Level level : kLevels) {
-              const ParameterId id(level, index);
+              const ParameterId id = parameter.At(level);
               const std::optional<double> value = ToNumber(bot.Parameter(id));
               if (!value || *value < 0) continue;
               if (is_highest ? *value > end : *value < end) {
@@ -69,10 +68,10 @@ Mend MendToEnd(ParameterId parameter, double end, bool is_highest) {
 
 /// The number that takes the gap away without a change of what the bot does:
 /// a value beyond the game's range gives way to the end of that range.
-std::optional<Mend> MixGapMend(const Bot& bot, int index, LevelPair levels) {
-  const UsedRange range = UsedRangeOf(index);
-  const ParameterId lower(levels.lower, index);
-  const ParameterId upper(levels.upper, index);
+std::optional<Mend> MixGapMend(const Bot& bot, ParameterId upper,
+                               LevelPair levels) {
+  const UsedRange range = UsedRangeOf(upper);
+  const ParameterId lower = upper.At(levels.lower);
   const double low = ToNumber(bot.Parameter(lower)).value_or(0);
   const double high = ToNumber(bot.Parameter(upper)).value_or(0);
   if (high > range.highest) {
@@ -105,12 +104,12 @@ std::optional<GameToken> TextInFile(const std::string& text) {
 
 void CheckLevelMix(const CheckContext& context, FindingList& findings) {
   for (const int index : kPerLevelRange) {
-    if (!IsReadByGame(index)) continue;
+    if (!IsReadByGame(ParameterAt(index))) continue;
     for (const LevelPair levels : kMixedLevels) {
-      if (!HasMixGap(context.bot, index, levels)) continue;
       const ParameterId upper(levels.upper, index);
+      if (!HasMixGap(context.bot, upper, levels)) continue;
       std::string text = BetweenText(levels) + " the bot has no \"" +
-                         std::string(CharacteristicName(index)) + "\" at all";
+                         std::string(ParameterName(upper)) + "\" at all";
       text += index == kReactionTimeIndex
                   ? ", which makes it super-fast: "
                   : " (the game takes 0 and complains again and again): ";
@@ -121,7 +120,7 @@ void CheckLevelMix(const CheckContext& context, FindingList& findings) {
               std::to_string(NumberOf(levels.upper)) +
               ". Use fractions, or whole numbers from 2 on, for both.";
       std::vector<Mend> mends;
-      if (auto mend = MixGapMend(context.bot, index, levels)) {
+      if (auto mend = MixGapMend(context.bot, upper, levels)) {
         mends.push_back(Safe(std::move(*mend)));
       }
       findings.Add(upper, std::move(text), std::move(mends),
@@ -192,7 +191,7 @@ void CheckNegativeValue(const CheckContext& context, FindingList& findings) {
 }
 
 void CheckReactionTime(const CheckContext& context, FindingList& findings) {
-  const double highest = UsedRangeOf(kReactionTimeIndex).highest;
+  const double highest = UsedRangeOf(ParameterAt(kReactionTimeIndex)).highest;
   const std::string shown =
       ShownNumber(highest) + (highest == 1 ? " second" : " seconds");
   const std::string clamped =
@@ -208,7 +207,7 @@ void CheckReactionTime(const CheckContext& context, FindingList& findings) {
 }
 
 void CheckViewChange(const CheckContext& context, FindingList& findings) {
-  const double lowest = UsedRangeOf(kViewMaxChangeIndex).lowest;
+  const double lowest = UsedRangeOf(ParameterAt(kViewMaxChangeIndex)).lowest;
   for (const Level level : kLevels) {
     const ParameterId parameter(level, kViewMaxChangeIndex);
     const std::optional<double> value =
@@ -225,9 +224,10 @@ void CheckViewChange(const CheckContext& context, FindingList& findings) {
 
 void CheckValueBeyondRange(const CheckContext& context, FindingList& findings) {
   const auto check = [&](ParameterId parameter) {
-    const int index = parameter.index();
-    if (index == kReactionTimeIndex || !IsReadByGame(index)) return;
-    const double highest = UsedRangeOf(index).highest;
+    if (parameter.index() == kReactionTimeIndex || !IsReadByGame(parameter)) {
+      return;
+    }
+    const double highest = UsedRangeOf(parameter).highest;
     const double value = ToNumber(context.bot.Parameter(parameter)).value_or(0);
     if (value <= highest) return;
     findings.Add(parameter,
@@ -258,7 +258,7 @@ void CheckUnreadValue(const CheckContext& context, FindingList& findings) {
                                    : ""));
   };
   for (const int index : kPerLevelRange) {
-    if (IsReadByGame(index)) continue;
+    if (IsReadByGame(ParameterAt(index))) continue;
     for (const Level level : kLevels) {
       const ParameterId parameter(level, index);
       if (!is_changed(parameter, kPresetSkill)) continue;
@@ -280,7 +280,7 @@ void CheckDefaultCharacter(const CheckContext& context, FindingList& findings) {
       levels.push_back(std::to_string(NumberOf(level)));
     }
     if (!first) continue;
-    std::string text = "\"" + std::string(CharacteristicName(index)) +
+    std::string text = "\"" + std::string(ParameterName(*first)) +
                        R"(" is "No" at level )" + Enumeration(levels) +
                        ": there the game takes the value of its own default "
                        "character";

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "chat/chat_catalogue.h"
+#include "chat/vocabulary.h"
 #include "checks/chat_line_checks.h"
 #include "game/chat_message.h"
 #include "game/chat_type_facts.h"

@@ -137,8 +137,7 @@ std::string ShownList(const std::string& name) {
   const auto* const list =
       std::find_if(kWordLists.begin(), kWordLists.end(),
                    [&name](const WordList& row) { return row.Key == name; });
-  return list == kWordLists.end() ? QuotedText(name)
-                                  : std::string(list->Variable);
+  return list == kWordLists.end() ? Quoted(name) : std::string(list->Variable);
 }
 
 bool IsPointerSomewhere(std::string_view variable) {
@@ -155,7 +154,7 @@ std::vector<Mend> ByOtherLine(const CheckContext& context,
   std::string other = OtherChatLine(context.bot, line.type, WordsOf(context));
   std::string title = IsReadyMade(other)
                           ? "Use " + ShownText(other) + " in its place"
-                          : "Use the line " + QuotedText(other);
+                          : "Use the line " + Quoted(other, std::string::npos);
   return {SetLine(line, std::move(other), std::move(title))};
 }
 

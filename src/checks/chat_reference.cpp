@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "chat/vocabulary.h"
 #include "checks/bot_reader.h"
 #include "game/game_path.h"
 #include "support/text.h"

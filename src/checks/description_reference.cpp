@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "chat/vocabulary.h"
 #include "checks/bot_reader.h"
 #include "checks/installation_checks.h"
 #include "game/game_path.h"

@@ -6,6 +6,7 @@
 #include <set>
 #include <string_view>
 
+#include "chat/vocabulary.h"
 #include "game/character_reader.h"
 #include "game/stand_ins.h"
 #include "model/characteristic_catalogue.h"

@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "chat/vocabulary.h"
 #include "checks/weight_checks.h"
 #include "game/weight_vocabulary.h"
 #include "inplace/splice.h"

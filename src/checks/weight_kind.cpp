@@ -5,6 +5,7 @@
 #include <string_view>
 #include <utility>
 
+#include "chat/vocabulary.h"
 #include "model/file_names.h"
 #include "support/text.h"
 

@@ -24,8 +24,6 @@ namespace fragsmith {
 namespace {
 
 constexpr int kDefaultGames = 10;
-/// Until it is settled whether bots differ.
-constexpr int kDefaultMostGames = 500;
 
 struct MatchOptions {
   std::vector<std::string> bots;
@@ -45,7 +43,7 @@ struct MatchOptions {
 
   int Games() const {
     if (games > 0) return games;
-    return until_sure ? kDefaultMostGames : kDefaultGames;
+    return until_sure ? kMostUntilSure : kDefaultGames;
   }
   double SkillOf(std::size_t place) const {
     return skills[skills.size() == 1 ? 0 : place];
@@ -318,16 +316,16 @@ void AddMatchCommand(CLI::App& app, CommandContext& context) {
       ->check(CLI::Range(1.0, 5.0))
       ->delimiter(',')
       ->allow_extra_args(false);
-  constexpr int kMaxMinutes = 600;
   command
       .add_option("--minutes", options->minutes,
                   "Of game time for each match; 5 without it")
-      ->check(CLI::Range(1, kMaxMinutes));
+      ->check(CLI::Range(1, kMaxMatchMinutes));
   constexpr int kMaxGames = 10'000;
   command
       .add_option("--games", options->games,
-                  "How many matches; 10 without it, or, with --until-sure, 500 "
-                  "at most. The bots come in by turns")
+                  "How many matches; 10 without it, or, with --until-sure, " +
+                      std::to_string(kMostUntilSure) +
+                      " at most. The bots come in by turns")
       ->check(CLI::Range(1, kMaxGames));
   command.add_flag("--until-sure", options->until_sure,
                    "Play until it is clear, by sequential tests, whether one "

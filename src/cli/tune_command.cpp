@@ -185,11 +185,10 @@ void AddTuneCommand(CLI::App& app, CommandContext& context) {
       ->check(CLI::Range(kMinMargin, kMaxMargin));
   command.add_option("--skill", options->skill, "Of both; 4 without it")
       ->check(CLI::Range(1.0, 5.0));
-  constexpr int kMaxMinutes = 600;
   command
       .add_option("--minutes", options->minutes,
                   "Of game time for each match; 5 without it")
-      ->check(CLI::Range(1, kMaxMinutes));
+      ->check(CLI::Range(1, kMaxMatchMinutes));
   constexpr int kMaxGames = 100'000;
   command
       .add_option("--games", options->games,

@@ -140,7 +140,7 @@ void frmMain::BuildPages() {
       pages_.push_back(new ParameterPage(row, current_, tbsBotPara_));
       page = pages_.back();
     }
-    tbsBotPara_->addTab(page, TableText(row.tab_caption));
+    tbsBotPara_->addTab(page, QString::fromUtf8(row.tab_caption));
   }
 }
 
@@ -218,7 +218,8 @@ void frmMain::OpenPath(const std::filesystem::path& path) {
 }
 
 void frmMain::ShowTitle() {
-  QString title = QStringLiteral("Fragsmith ") + TableText(kProgramVersion);
+  QString title =
+      QStringLiteral("Fragsmith ") + QString::fromUtf8(kProgramVersion);
   const QString name = ToQString(current_.bot().Name());
   if (!name.isEmpty()) title += QStringLiteral(" - ") + name;
   // Elsewhere it is what stands in the name of a bot.

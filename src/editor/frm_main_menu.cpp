@@ -72,7 +72,7 @@ void frmMain::BuildMenu() {
        [this] { AskForSynonym(state_.synonyms, state_.prompts); }},
       {QStringLiteral("mnuManual"),
        [this] {
-         help_->ShowManual(TableText(
+         help_->ShowManual(QString::fromUtf8(
              kPages.at(static_cast<std::size_t>(tbsBotPara_->currentIndex()))
                  .chapter));
        }},
@@ -93,7 +93,7 @@ void frmMain::BuildMenu() {
     }
   }
   for (const BotKind kind : kBotKinds) {
-    menu_[QStringLiteral("mnuNew_") + TableText(TextOf(kind).key)] =
+    menu_[QStringLiteral("mnuNew_") + QString::fromUtf8(TextOf(kind).key)] =
         [this, kind] { commands_->CreateBotOfKind(kind, checker_->game()); };
   }
   FillMainMenu(*menuBar(), [this](const QString& name) {

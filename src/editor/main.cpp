@@ -15,7 +15,6 @@
 #include "editor/state/program_state.h"
 #include "editor/toolkit/qt_prompts.h"
 #include "editor/toolkit/readable_palette.h"
-#include "editor/toolkit/table_text.h"
 #include "install/program/program_folder.h"
 #include "support/files.h"
 #include "support/no_prompts.h"
@@ -38,7 +37,7 @@ struct Arguments {
 Arguments ReadArguments() {
   QCoreApplication::setApplicationName(QStringLiteral("fragsmith"));
   QCoreApplication::setApplicationVersion(
-      fragsmith::TableText(fragsmith::kProgramVersion));
+      QString::fromUtf8(fragsmith::kProgramVersion));
   QCommandLineParser parser;
   parser.setApplicationDescription(
       QStringLiteral("Makes and edits bots for Quake III Arena."));

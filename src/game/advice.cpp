@@ -6,6 +6,7 @@
 #include <system_error>
 #include <vector>
 
+#include "chat/vocabulary.h"
 #include "game/complaints.h"
 #include "game/stand_ins.h"
 #include "support/numbers.h"

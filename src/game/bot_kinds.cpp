@@ -139,7 +139,7 @@ void PutChances(double insults, Bot& bot) {
       {41, {0.3}}, {42, {0.3}}, {43, {0.3}},
   };
   for (const SkillRow& row : kChances) PutItem(row.index, row.values[0], bot);
-  bot.Put(ParameterId(32), insults);
+  bot.Put(kInsultShare, insults);
 }
 
 /// As an average bot has it.
@@ -215,7 +215,10 @@ Bot MakeSurprise(const RandomSource& random) {
   for (const ParameterId id : {kHealthWeight, kArmorWeight}) {
     bot.Put(id, Hundredths(stretch(Between(id, one, other, share))));
   }
-  bot.Put(ParameterId(32), Hundredths(0.1 + 0.8 * random()));
+  constexpr double kLeastInsults = 0.1;
+  constexpr double kMostInsults = 0.9;
+  bot.Put(kInsultShare,
+          Hundredths(std::lerp(kLeastInsults, kMostInsults, random())));
   return bot;
 }
 

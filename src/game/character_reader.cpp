@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "chat/vocabulary.h"
 #include "game/advice.h"
 #include "game/limits.h"
 #include "game/stand_ins.h"

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "chat/vocabulary.h"
 #include "game/advice.h"
 #include "game/chat_message.h"
 #include "game/limits.h"

@@ -13,7 +13,6 @@ namespace {
 using enum ChatFill;
 using Fills = std::array<ChatFill, kFilledVariables>;
 
-constexpr ParameterId kInsultShare{32};
 constexpr ParameterId kMiscShare{33};
 constexpr ParameterId kStartEnd{34};
 constexpr ParameterId kEnterExit{35};

@@ -70,11 +70,4 @@ void Complaints::Raise(const Complaint& complaint) {
   Add(complaint);
 }
 
-std::string Quoted(std::string_view game_text) {
-  constexpr std::size_t kMaxShown = 40;
-  std::string text = ShownText(game_text.substr(0, kMaxShown));
-  if (game_text.size() > kMaxShown) text += "…";
-  return "\"" + text + "\"";
-}
-
 }  // namespace fragsmith

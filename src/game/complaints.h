@@ -80,9 +80,6 @@ class Complaints {
   bool is_game_known_;
 };
 
-/// A piece of a file, quoted for a sentence: UTF-8, of bearable length.
-std::string Quoted(std::string_view game_text);
-
 }  // namespace fragsmith
 
 #endif  // FRAGSMITH_GAME_COMPLAINTS_H_

@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <utility>
 
+#include "chat/vocabulary.h"
 #include "game/limits.h"
 #include "support/text.h"
 

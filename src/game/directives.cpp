@@ -5,6 +5,7 @@
 #include <cmath>
 #include <utility>
 
+#include "chat/vocabulary.h"
 #include "game/advice.h"
 #include "game/expression.h"
 #include "game/game_path.h"

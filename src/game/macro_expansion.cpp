@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "chat/vocabulary.h"
 #include "game/limits.h"
 #include "game/preprocessor.h"
 #include "support/code_page.h"

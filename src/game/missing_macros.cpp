@@ -6,6 +6,7 @@
 #include <string_view>
 #include <utility>
 
+#include "chat/vocabulary.h"
 #include "game/advice.h"
 #include "game/file_faults.h"
 #include "game/preprocessor.h"

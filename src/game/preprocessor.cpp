@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "chat/vocabulary.h"
 #include "game/file_faults.h"
 #include "game/game_path.h"
 #include "game/limits.h"

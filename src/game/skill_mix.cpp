@@ -87,10 +87,10 @@ std::optional<Level> LevelAt(double skill) {
 }
 
 /// Without the game's limits.
-ValueAtSkill Mix(const Bot& bot, int index, double skill) {
+ValueAtSkill Mix(const Bot& bot, ParameterId of_any, double skill) {
   ValueAtSkill result = {.skill = skill};
   if (const std::optional<Level> level = LevelAt(skill)) {
-    const ParameterId id(*level, index);
+    const ParameterId id = of_any.At(*level);
     if (IsLeftOut(bot, id)) {
       result.origin = ValueOrigin::kDefault;
     } else if (const auto number = NumberInFile(bot.Parameter(id))) {
@@ -101,8 +101,8 @@ ValueAtSkill Mix(const Bot& bot, int index, double skill) {
     return result;
   }
   const LevelPair levels = PairAround(skill);
-  const ParameterId low(levels.lower, index);
-  const ParameterId high(levels.upper, index);
+  const ParameterId low = of_any.At(levels.lower);
+  const ParameterId high = of_any.At(levels.upper);
   if (IsLeftOut(bot, low)) {
     result.origin = ValueOrigin::kDefault;
     return result;
@@ -139,47 +139,49 @@ double UsedRange::Clamp(double value) const {
   return std::clamp(value, lowest, highest);
 }
 
-UsedRange UsedRangeOf(int index) {
+UsedRange UsedRangeOf(ParameterId id) {
   constexpr int kViewFactor = 5;
-  if (index == kViewFactor) return {0.01, 1};
+  if (!id.level()) return {};
+  if (id.index() == kViewFactor) return {0.01, 1};
   // The game has 1 to 1800, and then turns no bot slower than this.
-  if (index == kViewMaxChangeIndex) return {kSlowestTurn, 1800};
+  if (id.index() == kViewMaxChangeIndex) return {kSlowestTurn, 1800};
   return {};
 }
 
-ValueAtSkill MixSkill(const Bot& bot, int index, double skill) {
-  ValueAtSkill result = Mix(bot, index, std::clamp(skill, 1.0, kHighestSkill));
-  result.used = UsedRangeOf(index).Clamp(result.value);
+ValueAtSkill MixSkill(const Bot& bot, ParameterId id, double skill) {
+  ValueAtSkill result = Mix(bot, id, std::clamp(skill, 1.0, kHighestSkill));
+  result.used = UsedRangeOf(id).Clamp(result.value);
   return result;
 }
 
-std::vector<ValueAtSkill> MixShownSkills(const Bot& bot, int index) {
+std::vector<ValueAtSkill> MixShownSkills(const Bot& bot, ParameterId id) {
   std::vector<ValueAtSkill> values;
   values.reserve(kShownSkills.size());
   for (const double skill : kShownSkills) {
-    values.push_back(MixSkill(bot, index, skill));
+    values.push_back(MixSkill(bot, id, skill));
   }
   return values;
 }
 
-bool HasMixGap(const Bot& bot, int index, LevelPair levels) {
+bool HasMixGap(const Bot& bot, ParameterId id, LevelPair levels) {
   const double between =
       (NumberOf(levels.lower) + NumberOf(levels.upper)) / 2.0;
-  return Mix(bot, index, between).origin == ValueOrigin::kNone;
+  return Mix(bot, id, between).origin == ValueOrigin::kNone;
 }
 
-std::span<const Threshold> ThresholdsOf(int index) {
+std::span<const Threshold> ThresholdsOf(ParameterId id) {
+  if (!id.level()) return {};
   const auto [first, last] = std::equal_range(
-      kThresholds.begin(), kThresholds.end(), Threshold{index, 0, {}},
+      kThresholds.begin(), kThresholds.end(), Threshold{id.index(), 0, {}},
       [](const Threshold& left, const Threshold& right) {
         return left.index < right.index;
       });
   return {first, last};
 }
 
-bool IsReadByGame(int index) {
-  constexpr std::array kUnread = {11, 12, 13, 14, kChatCpm.index()};
-  return !std::count(kUnread.begin(), kUnread.end(), index);
+bool IsReadByGame(ParameterId id) {
+  constexpr IndexRange kUnread = {11, 14};
+  return id.level() ? !kUnread.Contains(id.index()) : id != kChatCpm;
 }
 
 }  // namespace fragsmith

@@ -57,16 +57,18 @@ struct Threshold {
   std::string_view text;  ///< UTF-8, what holds from there on.
 };
 
-/// The range of a per-level characteristic (2 to 30) or a chat
-/// characteristic (32 to 43).
-UsedRange UsedRangeOf(int index);
+// Of a characteristic that each level has, these take the parameter of any
+// level.
 
-/// The value at any skill from 1 to 5, by the game's rules. Skills outside
-/// are taken as the nearest of these.
-ValueAtSkill MixSkill(const Bot& bot, int index, double skill);
+/// The range of a characteristic.
+UsedRange UsedRangeOf(ParameterId id);
+
+/// The value of a per-level characteristic at any skill from 1 to 5, by the
+/// game's rules. Skills outside are taken as the nearest of these.
+ValueAtSkill MixSkill(const Bot& bot, ParameterId id, double skill);
 
 /// The values at kShownSkills.
-std::vector<ValueAtSkill> MixShownSkills(const Bot& bot, int index);
+std::vector<ValueAtSkill> MixShownSkills(const Bot& bot, ParameterId id);
 
 /// Between two levels the game mixes numbers with a "." only. Where both lack
 /// it the lower one counts, but a fraction below and a whole number above
@@ -81,15 +83,15 @@ constexpr Severity SeverityOfMixGap(LevelPair levels) {
 }
 
 /// True when the skills between the levels have no value at all.
-bool HasMixGap(const Bot& bot, int index, LevelPair levels);
+bool HasMixGap(const Bot& bot, ParameterId id, LevelPair levels);
 
 /// The thresholds of a characteristic, from low to high; empty where its
 /// effect is smooth.
-std::span<const Threshold> ThresholdsOf(int index);
+std::span<const Threshold> ThresholdsOf(ParameterId id);
 
 /// False for what no known game reads. Such a value is kept for those who play
 /// with other game code.
-bool IsReadByGame(int index);
+bool IsReadByGame(ParameterId id);
 
 }  // namespace fragsmith
 

@@ -29,21 +29,26 @@ std::vector<WeaponRank> WeaponOrder(const Bot& bot,
 }
 
 std::optional<double> WeaponReach(ParameterId weapon) {
-  constexpr std::array<std::pair<int, double>, 6> kReach = {
-      {{45, 600}, {47, 600}, {51, 768}, {46, 800}, {52, 2000}, {48, 4000}}};
-  const auto* const found = std::find_if(
-      kReach.begin(), kReach.end(),
-      [weapon](const auto& row) { return row.first == weapon.index(); });
+  constexpr std::array<std::pair<ParameterId, double>, 6> kReach = {
+      {{kShotgunUsage, 600},
+       {kGrenadeLauncherUsage, 600},
+       {kLightningUsage, 768},
+       {kMachinegunUsage, 800},
+       {kPlasmaUsage, 2000},
+       {kRocketLauncherUsage, 4000}}};
+  const auto* const found =
+      std::find_if(kReach.begin(), kReach.end(),
+                   [weapon](const auto& row) { return row.first == weapon; });
   if (found == kReach.end()) return std::nullopt;
   return found->second;
 }
 
 std::optional<ParameterId> PickupOf(ParameterId usage) {
   // Both rows of weapons are in the same order but for gauntlet and grapple.
-  constexpr IndexRange kOnMaps = {45, 52};
-  constexpr int kFirstPickup = 56;
+  constexpr IndexRange kOnMaps = {kShotgunUsage.index(), kPlasmaUsage.index()};
+  constexpr ParameterId kShotgunPickup{56};
   if (!kOnMaps.Contains(usage)) return std::nullopt;
-  return ParameterId(usage.index() - kOnMaps.first + kFirstPickup);
+  return ParameterId(usage.index() - kOnMaps.first + kShotgunPickup.index());
 }
 
 }  // namespace fragsmith

@@ -11,14 +11,23 @@
 namespace fragsmith {
 
 inline constexpr ParameterId kGauntletUsage{44};
+inline constexpr ParameterId kShotgunUsage{45};
 inline constexpr ParameterId kMachinegunUsage{46};
+inline constexpr ParameterId kGrenadeLauncherUsage{47};
+inline constexpr ParameterId kRocketLauncherUsage{48};
+inline constexpr ParameterId kRailgunUsage{49};
+inline constexpr ParameterId kBfgUsage{50};
+inline constexpr ParameterId kLightningUsage{51};
+inline constexpr ParameterId kPlasmaUsage{52};
+inline constexpr ParameterId kGrappleUsage{53};
 
 /// The weights of the weapons to fight with, in the game's own order: of equal
 /// weights the first one wins.
 inline constexpr std::array<ParameterId, 10> kWeaponsInGameOrder = {
-    kGauntletUsage,  kMachinegunUsage, ParameterId(45), ParameterId(47),
-    ParameterId(48), ParameterId(51),  ParameterId(49), ParameterId(52),
-    ParameterId(50), ParameterId(53)};
+    kGauntletUsage,        kMachinegunUsage,     kShotgunUsage,
+    kGrenadeLauncherUsage, kRocketLauncherUsage, kLightningUsage,
+    kRailgunUsage,         kPlasmaUsage,         kBfgUsage,
+    kGrappleUsage};
 
 /// A weapon and its place among all that the bot may carry.
 struct WeaponRank {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string>
 
+#include "chat/vocabulary.h"
 #include "game/advice.h"
 #include "game/limits.h"
 #include "support/text.h"

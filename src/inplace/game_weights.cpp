@@ -38,7 +38,7 @@ void NoteOthers(const std::string& shown, std::string_view bytes,
     first_line = count++ == 0 ? line : std::min(first_line, line);
   }
   if (count == 0) return;
-  notes.Add({shown, first_line, AlsoInFile(count, names.Text())});
+  notes.Add(AlsoInFile(shown, first_line, count, names.Text()));
 }
 
 bool IsFound(const FileReading& reading, ParameterId id) {
@@ -96,8 +96,8 @@ void TakeGameWeights(BotFile kind, const std::string& shown,
     if (!found.others.empty()) unsure.Add(name);
   }
   if (!pairs.empty()) {
-    loaded.notes.Remove(shown, kSetsNoWeights);
-    loaded.notes.Remove(shown, kAlsoInFile);
+    loaded.notes.Remove(shown, NoteKind::kNoWeights);
+    loaded.notes.Remove(shown, NoteKind::kAlsoInFile);
     loaded.notes.Add({shown, 0,
                       "Weights that the file sets in its own way, as the "
                       "game's weight code takes them: " +

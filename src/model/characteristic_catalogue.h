@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <iterator>
 #include <string_view>
+#include <vector>
 
 #include "model/parameter_id.h"
 
@@ -24,6 +25,7 @@ inline constexpr int kFireThrottleIndex = 30;
 
 /// Single parameters of their own, likewise.
 inline constexpr ParameterId kChatCpm{31};
+inline constexpr ParameterId kInsultShare{32};
 inline constexpr ParameterId kEnemySuicideChance{38};
 inline constexpr ParameterId kHealthWeight{54};
 inline constexpr ParameterId kArmorWeight{55};
@@ -76,6 +78,28 @@ inline constexpr IndexRange kChatRange = {31, 43};
 inline constexpr IndexRange kChanceRange = {34, 42};
 inline constexpr IndexRange kWeaponWeightRange = {44, 53};
 inline constexpr IndexRange kItemWeightRange = {54, 80};
+
+/// The parameter of an index. One that each level has stands for all of its
+/// levels here: it is that of the first.
+constexpr ParameterId ParameterAt(int index) {
+  return kPerLevelRange.Contains(index) ? ParameterId(kLevels.front(), index)
+                                        : ParameterId(index);
+}
+
+/// All parameters of these indices, with those of each level.
+template <typename Indices>
+std::vector<ParameterId> ParametersOf(const Indices& indices) {
+  std::vector<ParameterId> parameters;
+  for (const int index : indices) {
+    const ParameterId id = ParameterAt(index);
+    if (!id.level()) {
+      parameters.push_back(id);
+      continue;
+    }
+    for (const Level level : kLevels) parameters.push_back(id.At(level));
+  }
+  return parameters;
+}
 
 /// The keys, each with the TABs that bring its value to a fixed column: 44
 /// for characteristics, 32 for macros. The weapon names stand twice: as the

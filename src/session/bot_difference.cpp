@@ -39,8 +39,8 @@ void ComparePair(ParameterId parameter, const Bot& left, const Bot& right,
     const std::string text = ToText(of_left);
     const std::string other = ToText(of_right);
     if (text == other) return;
-    difference.left = QuotedText(text);
-    difference.right = QuotedText(other);
+    difference.left = Quoted(text, std::string::npos);
+    difference.right = Quoted(other, std::string::npos);
   } else {
     if (SaysTheSame(of_left, of_right)) return;
     difference.left = ShownValue(of_left);

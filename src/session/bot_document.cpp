@@ -199,7 +199,8 @@ void ReadLevels(const Json& json, const UnknownKeys& unknown, Bot& bot) {
           return std::to_string(NumberOf(one)) == name;
         });
     if (level == kLevels.end()) {
-      unknown.Meet(field, "a bot has the levels 1, 4 and 5 only.");
+      unknown.Meet(field,
+                   "a bot has " + std::string(kLevelsInWords) + " only.");
       continue;
     }
     ReadParameters(value, kPerLevelRange, *level, field, unknown, bot);

@@ -5,12 +5,12 @@
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
-#include <initializer_list>
 #include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include "model/characteristic_catalogue.h"
 #include "session/bot_difference.h"
@@ -37,6 +37,9 @@ constexpr std::array<FileKey, 5> kFileKeys = {{
     {BotFile::kDescription, "description"},
 }};
 
+/// The kind of a note that is shown apart from the others.
+constexpr const char* kAlsoInFile = "alsoInFile";
+
 /// The bytes of a path are of any code; each stands as a character of the
 /// game's code page, so that all come back.
 std::string TextOfPath(const std::filesystem::path& path) {
@@ -62,11 +65,25 @@ std::string GameText(const std::string& text) {
   return GameTextFromUtf8(text).value_or(std::string());
 }
 
-OriginFile FileFromJson(const Json& json) {
+/// Notes the keys of an object that nobody knows.
+void MeetOthers(const Json& json, const std::vector<std::string_view>& known,
+                const std::string& path, const UnknownKeys& unknown) {
+  for (const auto& [key, part] : json.items()) {
+    if (std::ranges::find(known, key) == known.end()) {
+      unknown.Meet(std::string(path).append(".").append(key),
+                   "there is no such key.");
+    }
+  }
+}
+
+OriginFile FileFromJson(const Json& json, const std::string& path,
+                        const UnknownKeys& unknown) {
   OriginFile file = {
       .path = PathOf(json.at("path")),
       .entry = GameText(json.value("entry", std::string())),
       .fingerprint = json.at("fingerprint").get<std::uint64_t>()};
+  MeetOthers(json, {"path", "entry", "fingerprint", "spellings"}, path,
+             unknown);
   const auto spellings = json.find("spellings");
   if (spellings == json.end()) return file;
   for (const auto& [line, statement] : spellings->items()) {
@@ -97,24 +114,21 @@ OrderedJson HomeToJson(const BotHome& home) {
   return json;
 }
 
-/// Notes the keys of an object that nobody knows.
-void MeetOthers(const Json& json, std::initializer_list<std::string_view> known,
-                const std::string& path, const UnknownKeys& unknown) {
-  for (const auto& [key, part] : json.items()) {
-    if (std::ranges::find(known, key) == known.end()) {
-      unknown.Meet(std::string(path).append(".").append(key),
-                   "there is no such key.");
-    }
+void ReadFiles(const Json& json, const UnknownKeys& unknown,
+               OriginFiles& files) {
+  const std::string all = "origin.home.files";
+  std::vector<std::string_view> known;
+  for (const auto& [file, key] : kFileKeys) {
+    known.emplace_back(key);
+    const auto found = json.find(key);
+    if (found == json.end()) continue;
+    files.emplace(file, FileFromJson(*found, all + "." + key, unknown));
   }
+  MeetOthers(json, known, all, unknown);
 }
 
 void ReadHome(const Json& json, const UnknownKeys& unknown, BotHome& home) {
-  for (const auto& [file, key] : kFileKeys) {
-    const auto found = json.at("files").find(key);
-    if (found != json.at("files").end()) {
-      home.files.emplace(file, FileFromJson(*found));
-    }
-  }
+  ReadFiles(json.at("files"), unknown, home.files);
   home.load_options.uses_layout = json.at("usesLayout").get<bool>();
   home.load_options.loads_description = json.at("loadsDescription").get<bool>();
   if (const auto place = json.find("place"); place != json.end()) {
@@ -122,9 +136,11 @@ void ReadHome(const Json& json, const UnknownKeys& unknown, BotHome& home) {
         .folder = PathOf(place->at("folder")),
         .options = {.uses_layout = place->at("usesLayout").get<bool>(),
                     .makes_package = place->at("makesPackage").get<bool>()}};
+    MeetOthers(*place, {"folder", "usesLayout", "makesPackage"},
+               "origin.home.place", unknown);
   }
   if (const auto package = json.find("package"); package != json.end()) {
-    home.package = FileFromJson(*package);
+    home.package = FileFromJson(*package, "origin.home.package", unknown);
   }
   if (const auto left = json.find("leftPackage"); left != json.end()) {
     home.left_package = PathOf(*left);
@@ -147,8 +163,10 @@ OrderedJson ReportToJson(const LoadReport& report) {
   OrderedJson json = OrderedJson::object();
   json["notes"] = OrderedJson::array();
   for (const Note& note : report.notes.list()) {
-    json["notes"].push_back(
-        {{"file", note.file}, {"line", note.line}, {"text", note.text}});
+    OrderedJson one = {
+        {"file", note.file}, {"line", note.line}, {"text", note.text}};
+    if (note.kind == NoteKind::kAlsoInFile) one["kind"] = kAlsoInFile;
+    json["notes"].push_back(std::move(one));
   }
   json["oddValues"] = OrderedJson::array();
   for (const auto& [parameter, value] : report.odd_values) {
@@ -171,11 +189,31 @@ std::optional<ParameterId> ParameterOfNumber(int number) {
   return is_set ? std::optional(id) : std::nullopt;
 }
 
-void ReadReport(const Json& json, LoadReport& report) {
+/// The same of the entries of a list.
+void MeetOthersInEach(const Json& list,
+                      const std::vector<std::string_view>& known,
+                      const std::string& path, const UnknownKeys& unknown) {
+  std::size_t number = 0;
+  for (const Json& one : list) {
+    MeetOthers(one, known, path + "[" + std::to_string(number++) + "]",
+               unknown);
+  }
+}
+
+void ReadReport(const Json& json, const UnknownKeys& unknown,
+                LoadReport& report) {
+  const std::string path = "origin.report";
   for (const Json& note : json.at("notes")) {
-    report.notes.Add({.file = note.at("file").get<std::string>(),
-                      .line = note.at("line").get<std::size_t>(),
-                      .text = note.at("text").get<std::string>()});
+    const auto kind = note.value("kind", std::string());
+    const bool is_also = kind == kAlsoInFile;
+    if (!is_also && !kind.empty()) {
+      unknown.Meet(path + ".notes.kind", "there is no such kind.");
+    }
+    report.notes.Add(
+        {.file = note.at("file").get<std::string>(),
+         .line = note.at("line").get<std::size_t>(),
+         .text = note.at("text").get<std::string>(),
+         .kind = is_also ? NoteKind::kAlsoInFile : NoteKind::kOther});
   }
   for (const Json& odd : json.at("oddValues")) {
     const auto parameter = ParameterOfNumber(odd.at("parameter").get<int>());
@@ -184,6 +222,11 @@ void ReadReport(const Json& json, LoadReport& report) {
         *parameter, OddValue{.read = ValueFromJson(odd.at("read"), "read"),
                              .plain = ValueFromJson(odd.at("plain"), "plain")});
   }
+  MeetOthersInEach(json.at("notes"), {"file", "line", "text", "kind"},
+                   path + ".notes", unknown);
+  MeetOthersInEach(json.at("oddValues"), {"parameter", "read", "plain"},
+                   path + ".oddValues", unknown);
+  MeetOthers(json, {"notes", "oddValues"}, path, unknown);
 }
 
 }  // namespace
@@ -192,10 +235,8 @@ BotOrigin BotOriginFromJson(const Json& json, const UnknownKeys& unknown) {
   BotOrigin origin;
   try {
     ReadHome(json.at("home"), unknown, *origin.home);
-    ReadReport(json.at("report"), *origin.report);
+    ReadReport(json.at("report"), unknown, *origin.report);
     MeetOthers(json, {"home", "report"}, "origin", unknown);
-    MeetOthers(json.at("report"), {"notes", "oddValues"}, "origin.report",
-               unknown);
   } catch (const JsonFault& fault) {
     unknown.Meet("origin", fault.error.what);
     return {};

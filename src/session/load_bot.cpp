@@ -240,12 +240,12 @@ LoadedBot LoadBotFromFolder(const std::string& name, const fs::path& folder,
 }
 
 void NoteOtherAuthor(const Author& author, LoadedBot& loaded) {
-  const auto& [file, line, text] = loaded.author_line;
-  if (text.empty() || text == AuthorLine(author)) return;
-  loaded.notes.Add({file, line,
-                    "The files name their author (" +
-                        ShownText(TrimBlanksAndTabs(text)) +
-                        "); a save names what stands in the options instead."});
+  Note note = loaded.author_line;
+  if (note.text.empty() || note.text == AuthorLine(author)) return;
+  note.text = "The files name their author (" +
+              ShownText(TrimBlanksAndTabs(note.text)) +
+              "); a save names what stands in the options instead.";
+  loaded.notes.Add(std::move(note));
 }
 
 void UseCatalogueSpelling(Bot& bot, const ModelCatalogue& models) {

@@ -38,9 +38,9 @@ void Notes::Append(const Notes& other) {
   left_out_ += other.left_out_;
 }
 
-void Notes::Remove(const std::string& file, std::string_view beginning) {
+void Notes::Remove(const std::string& file, NoteKind kind) {
   std::erase_if(list_, [&](const Note& note) {
-    return note.file == file && note.text.starts_with(beginning);
+    return note.file == file && note.kind == kind;
   });
 }
 

@@ -2,17 +2,25 @@
 #define FRAGSMITH_SUPPORT_NOTES_H_
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace fragsmith {
+
+/// What a note is about, where more is made of it than a line in a list.
+enum class NoteKind : std::uint8_t {
+  kOther,
+  kNoWeights,   ///< A weight file sets none of the bot's weights.
+  kAlsoInFile,  ///< What a bot has no place for, and nothing else.
+};
 
 /// Something odd that reading came across and went on from. Texts are UTF-8.
 struct Note {
   std::string file;      ///< Name of the file as the user knows it.
   std::size_t line = 0;  ///< Counted from 1; 0 when it is no single line.
   std::string text;      ///< What was found and what it means for the bot.
+  NoteKind kind = NoteKind::kOther;
 };
 
 /// The note as one line: "file:line: text".
@@ -27,8 +35,8 @@ class Notes {
 
   void Add(Note note);
   void Append(const Notes& other);
-  /// Takes back what has proved wrong: the notes on the file that begin so.
-  void Remove(const std::string& file, std::string_view beginning);
+  /// Takes back what has proved wrong: the notes of that kind on the file.
+  void Remove(const std::string& file, NoteKind kind);
 
   const std::vector<Note>& list() const { return list_; }
   std::size_t left_out() const { return left_out_; }

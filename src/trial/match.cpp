@@ -9,6 +9,7 @@
 #include <system_error>
 #include <utility>
 
+#include "chat/vocabulary.h"
 #include "support/code_page.h"
 #include "support/files.h"
 #include "support/numbers.h"

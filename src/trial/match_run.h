@@ -32,6 +32,12 @@ Match MatchOf(const MatchPlan& plan, int number);
 /// names none.
 std::vector<std::string> MapsIn(const std::string& text);
 
+/// How many are played at most until it is sure whether bots differ, unless
+/// somebody says otherwise.
+inline constexpr int kMostUntilSure = 500;
+/// Of game time, the longest match.
+inline constexpr int kMaxMatchMinutes = 600;
+
 struct MatchRunSettings {
   MatchServer server;
   int jobs = 1;  ///< How many matches are played at once.

@@ -52,8 +52,8 @@ constexpr std::array kBareMessages = {
                 Severity::kWarning,
                 false},
     BareMessage{{"file too large",
-                 "A description file of 8192 bytes or more is ignored. Make "
-                 "it shorter."},
+                 "The description file is too large for the game, which "
+                 "ignores it. Make it shorter."},
                 Severity::kWarning,
                 false},
     BareMessage{{"Max infos exceeded",

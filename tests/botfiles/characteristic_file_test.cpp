@@ -167,7 +167,7 @@ TEST(CharacteristicFile, NamesPlaceAndBothValuesInNotes) {
                   "quotes around it.",
                   "f_c.c:6: CHARACTERISTIC_ALERTNESS of level 4: a "
                   "save writes 02 for -2.",
-                  "f_c.c:4: " + AlsoInFile(1, "x")));
+                  Describe(AlsoInFile("f_c.c", 4, 1, "x"))));
   // Of two, each as it was read.
   EXPECT_THAT(Described(Read(">$CAMPER>>>>>>0.25||>$CAMPER>0.99", bot).notes),
               Contains(HasSubstr("f_c.c:2: The file has several values where a "

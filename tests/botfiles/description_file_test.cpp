@@ -105,7 +105,7 @@ TEST(DescriptionFile, ReadsOddLinesByItsOwnRules) {
                           "takes \"ä\".",
                           "f.bot:5: arenaLord: \" ä\" is not a number. The "
                           "bot keeps its value.",
-                          "f.bot:4: " + AlsoInFile(1, "b")));
+                          Describe(AlsoInFile("f.bot", 4, 1, "b"))));
 }
 
 TEST(DescriptionFile, TellsWhatItLacksAndWhatItHasTwice) {

@@ -17,6 +17,7 @@ namespace fragsmith {
 namespace {
 
 using ::testing::HasSubstr;
+using ::testing::Not;
 
 std::vector<Finding> Only(std::vector<Finding> findings,
                           const std::string& id) {
@@ -68,6 +69,21 @@ TEST(BotChecks, FindWhatIsThereAndNothingMore) {
     EXPECT_TRUE(seen.contains(std::string(check.id)))
         << check.id << " is not tried";
   }
+}
+
+TEST(BotChecks, TellWhichMenusANameIsTooLongFor) {
+  const GameData game = SomeGame();
+  const auto told = [&game](std::size_t length) {
+    Bot bot = CleanBot();
+    bot.Put(kNameField, std::string(length, 'x'));
+    const auto found = Only(CheckBot(bot, &game), "name-too-long-for-menus");
+    return found.empty() ? "nothing" : found.front().text;
+  };
+  EXPECT_THAT(told(31), Not(HasSubstr("add bots")));
+  EXPECT_THAT(told(32), HasSubstr("add bots"));
+  EXPECT_THAT(told(45), HasSubstr("add bots"));
+  // Another finding tells of what the game does not add at all.
+  EXPECT_EQ(told(46), "nothing");
 }
 
 TEST(BotChecks, NameThePlaceAndItsFile) {

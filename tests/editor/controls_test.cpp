@@ -48,8 +48,10 @@ using Levels = std::vector<std::tuple<int, double>>;
 Levels LevelValues(QSignalSpy& changes) {
   Levels values;
   for (const QList<QVariant>& change : changes) {
-    values.emplace_back(NumberOf(change[1].value<Level>()),
-                        change[2].toDouble());
+    const auto& parameter =
+        *static_cast<const ParameterId*>(change[0].constData());
+    values.emplace_back(NumberOf(parameter.level().value()),
+                        change[1].toDouble());
   }
   changes.clear();
   return values;

@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -23,6 +24,7 @@
 #include "editor/controls/caption_mark.h"
 #include "editor/controls/skill_plot.h"
 #include "editor/controls/weapon_bars.h"
+#include "editor/dialogs/open_dialog.h"
 #include "editor/dialogs/options_dialog.h"
 #include "editor/panels/findings_dock.h"
 #include "editor/state/bot_checker.h"
@@ -318,6 +320,17 @@ TEST_F(Findings, ReadTheGameAfterTheOptionsAndAScan) {
   Choose("mnuCheck");
   EXPECT_EQ(RowOf(kTaken), -1);
   EXPECT_EQ(spoken(), "pie");
+
+  // A wrong folder leaves no game, until the one before is kept.
+  for (const std::size_t choice : {1, 0}) {
+    prompts_.choices = {choice};
+    ChooseAndAnswer<frmOptions>("mnuOptions", [this](frmOptions& dialog) {
+      dialog.SetOptionValue(0, BytesFromPath(folder_ / "none"));
+      dialog.accept();
+    });
+    EXPECT_EQ(spoken() == "pie", choice == 0);
+    state_->SetGameFolder(BytesFromPath(folder_ / "game"));
+  }
 }
 
 TEST_F(Findings, ShowThePictureOfTheParameterInUse) {
@@ -399,6 +412,34 @@ TEST_F(Findings, TellOfTheFilesUntilTheyAreSavedAgain) {
   prompts_.confirmations = {true};
   Choose("mnuNewZero");
   EXPECT_TRUE(QTest::qWaitFor([&] { return of_files() == 0; }));
+}
+
+TEST_F(Findings, TellOfNoDescriptionThatWasNotLoaded) {
+  Bot made = bot();
+  made.Put(kNameField, "Rookie");
+  EXPECT_FALSE(SaveBot(made, folder_.path(), {}, {}, prompts_).error);
+  folder_.Write("rookie_c.c", "/* mine\n" + folder_.Read("rookie_c.c"));
+  folder_.Write("rookie.bot", "{ name Rookie");
+  for (const bool loads_description : {false, true}) {
+    window_->OpenPath(folder_ / "rookie_c.c");
+    ChooseAndAnswer<frmOpen>("mnuLoad", [=](frmOpen& dialog) {
+      const auto check = [&dialog](const char* name, bool is_on) {
+        dialog.findChild<QCheckBox*>(QLatin1String(name))->setChecked(is_on);
+      };
+      check("chkLoadStructure", false);
+      check("chkLoadBotFile", loads_description);
+      auto* const files =
+          dialog.findChild<QListWidget*>(QStringLiteral("filFile"));
+      files->setCurrentRow(0);
+      dialog.accept();
+    });
+    constexpr const char* kDescription = "In the files, rookie.bot";
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+      return RowOf(loads_description ? kDescription
+                                     : "In the files, rookie_c.c") >= 0;
+    }));
+    EXPECT_EQ(RowOf(kDescription) >= 0, loads_description);
+  }
 }
 
 TEST_F(Findings, AreThoseOfTheFilesWhereTheBotLies) {

@@ -21,6 +21,7 @@
 #include "editor/dialogs/find_dialog.h"
 #include "editor/dialogs/open_dialog.h"
 #include "editor/state/draft_keeper.h"
+#include "editor/state/recent_bots.h"
 #include "model/characteristic_catalogue.h"
 #include "session/bot_document.h"
 #include "session/presets.h"
@@ -312,6 +313,15 @@ TEST_F(Habits, KnowsNoPlaceToSaveADraftTo) {
   EXPECT_FALSE(IsFile(folder_ / "Rookie/lost_c.c"));
   EXPECT_EQ(*ReadFile(file), bytes);
   EXPECT_TRUE(is_changed());
+}
+
+TEST(RecentBots, AreFewWhateverTheFileHas) {
+  QStringList texts(2, QStringLiteral("no bot"));
+  for (int bot = 0; bot < 900; ++bot) {
+    texts << QStringLiteral("/%1_c.c|").arg(bot);
+  }
+  const QStringList kept = RecentBots(texts).ToStrings();
+  EXPECT_EQ(kept, texts.mid(2, 9));
 }
 
 TEST_F(Habits, OpensWhatIsDroppedAndRemembersIt) {

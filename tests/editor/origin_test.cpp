@@ -60,6 +60,17 @@ class Origin : public WindowFixture {
     prompts_.log.clear();
   }
 
+  /// Has the files made in that folder by the dialog.
+  void MakeIn(const std::string& place, bool makes_package) {
+    fs::create_directories(folder_ / place);
+    ChooseAndAnswer<frmOpen>("mnuMake", [&](frmOpen& dialog) {
+      dialog.findChild<QCheckBox*>(QStringLiteral("chkMakePk3"))
+          ->setChecked(makes_package);
+      dialog.findChild<DirView*>()->SetFolder(folder_ / place);
+      dialog.accept();
+    });
+  }
+
   void Press(Qt::Key key) {
     auto* const slider = Find<QWidget>("osBotPara_44")
                              ->findChild<QSlider*>(QStringLiteral("sliValue"));
@@ -162,8 +173,20 @@ TEST_F(Origin, MaySaveAnewWhatTheGameCannotRead) {
 TEST_F(Origin, GoesWithADraft) {
   const fs::path a = Make("a", "Rookie", 0.25);
   const fs::path b = Make("b", "Other", 0.75);
-  std::ofstream(a, std::ios::app) << "// a comment of the author\n";
+  std::ofstream(a, std::ios::app)
+      << "// a comment of the author\nskill 1 { CHARACTERISTIC_OWN 1 }\n";
   Open(a);
+  const auto notes = [this] {
+    const auto* const list = Find<QListWidget>("lstNotes");
+    std::vector<std::string> texts;
+    for (int row = 0; row < list->count(); ++row) {
+      texts.push_back(list->item(row)->text().toStdString());
+    }
+    return texts;
+  };
+  const std::vector<std::string> noticed = notes();
+  EXPECT_THAT(noticed, ElementsAre(HasSubstr("Comments"), "Also in these files",
+                                   HasSubstr("CHARACTERISTIC_OWN")));
   Press(Qt::Key_End);
   window_->findChild<DraftKeeper*>()->SaveNow();
   WindowFixture::Open();
@@ -172,11 +195,27 @@ TEST_F(Origin, GoesWithADraft) {
   Find<QPushButton>("cmdTakeDraft")->click();
   EXPECT_EQ(bot().Name(), "Rookie");
   EXPECT_TRUE(Find<QWidget>("barNotes")->isVisible());
+  EXPECT_EQ(notes(), noticed);
   Choose("mnuSaveAgain");
   EXPECT_THAT(prompts_.log, IsEmpty());
   EXPECT_FALSE(is_changed());
   EXPECT_THAT(folder_.Read("a/botfiles/bots/rookie_w.c"), HasSubstr("400"));
   EXPECT_EQ(Contents("b"), b_before);
+}
+
+TEST_F(Origin, GoesWithADraftAsItWasLastMade) {
+  Open(Make("a", "Rookie", 0.25));
+  MakeIn("out", true);
+  Type("txtBotPara_0", "Newt");
+  window_->findChild<DraftKeeper*>()->SaveNow();
+  WindowFixture::Open();
+  Open(Make("b", "Other", 0.75));
+  MakeIn("elsewhere", false);
+  const auto elsewhere = Contents("elsewhere");
+  Find<QPushButton>("cmdTakeDraft")->click();
+  Choose("mnuSaveAgain");
+  EXPECT_TRUE(IsFile(folder_ / "out/bot-Newt.pk3"));
+  EXPECT_EQ(Contents("elsewhere"), elsewhere);
 }
 
 TEST_F(Origin, LeavesADescriptionThatWasNotRead) {
@@ -312,6 +351,25 @@ TEST_F(Origin, OffersAPackageThatHidesTheFilesAnew) {
   Choose("mnuSaveAgain");
   EXPECT_THAT(prompts_.log.back(), HasSubstr("bot-Newt.pk3' lies there too"));
   EXPECT_TRUE(ReadPackageEntry(other, "models/newt.md3"));
+}
+
+TEST_F(Origin, AsksAboutAPackageAnewOnceTheBotIsMadeWithoutOne) {
+  Open(Make("a", "Rookie", 0.25));
+  MakeIn("out", true);
+  const auto save_edited = [this](Qt::Key key) {
+    prompts_.log.clear();
+    Press(key);
+    Choose("mnuSaveAgain");
+  };
+  save_edited(Qt::Key_End);
+  EXPECT_THAT(prompts_.log, IsEmpty());
+  // Neither that it was the bot's own holds then, nor the answer of before.
+  for (const Qt::Key key : {Qt::Key_Home, Qt::Key_End}) {
+    MakeIn("out", false);
+    save_edited(key);
+    EXPECT_THAT(prompts_.log,
+                ElementsAre(HasSubstr("bot-Rookie.pk3' lies there too")));
+  }
 }
 
 TEST_F(Origin, AsksBeforeWhatIsGoneComesBack) {
@@ -509,13 +567,7 @@ TEST_F(Origin, KnowsTheFilesOfAnotherNameAgain) {
 TEST_F(Origin, KnowsThePackageOfAnotherNameAgain) {
   Type("txtBotPara_0", "Rookie");
   Press(Qt::Key_End);
-  fs::create_directory(folder_ / "out");
-  ChooseAndAnswer<frmOpen>("mnuMake", [this](frmOpen& dialog) {
-    dialog.findChild<QCheckBox*>(QStringLiteral("chkMakePk3"))
-        ->setChecked(true);
-    dialog.findChild<DirView*>()->SetFolder(folder_ / "out");
-    dialog.accept();
-  });
+  MakeIn("out", true);
   Type("txtBotPara_0", "Newt");
   Choose("mnuSaveAgain");
   EXPECT_TRUE(IsFile(folder_ / "out/bot-Newt.pk3"));

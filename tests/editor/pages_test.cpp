@@ -285,7 +285,8 @@ TEST_F(ParameterPages, TellTheValuesFromWhichTheBotActsOtherwise) {
   int told = 0;
   for (const auto& page : pages_) {
     for (const ValueControl* control : page->findChildren<ValueControl*>()) {
-      for (const Threshold& threshold : ThresholdsOf(control->Index())) {
+      for (const Threshold& threshold :
+           ThresholdsOf(ParameterAt(control->Index()))) {
         EXPECT_THAT(control->toolTip().toStdString(),
                     HasSubstr(QString::number(threshold.value).toStdString()))
             << control->Index() << ": " << threshold.text;
@@ -305,7 +306,7 @@ TEST_F(ParameterPages, SayWhatTheGameNeverReads) {
                                    ? std::string()
                                    : control->mark()->toolTip().toStdString();
       const int index = control->Index();
-      if (IsReadByGame(index)) {
+      if (IsReadByGame(ParameterAt(index))) {
         EXPECT_THAT(tip, Not(HasSubstr("never reads"))) << index;
         EXPECT_THAT(mark, Not(HasSubstr("never reads"))) << index;
       } else {

@@ -52,7 +52,7 @@ TEST(VocabularyRows, AreThoseOfTheirKeys) {
       {75, "battlesuit"}};
   for (int index = kPerLevelRange.first; index <= kItemWeightRange.last;
        ++index) {
-    const std::string name = LettersOf(CharacteristicName(index));
+    const std::string name = LettersOf(ParameterName(ParameterAt(index)));
     const auto other = other_words.find(index);
     std::string key(other == other_words.end() ? BareKey(index)
                                                : other->second);

@@ -7,6 +7,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QTest>
+#include <QTimer>
 #include <QToolButton>
 #include <algorithm>
 #include <functional>
@@ -14,7 +15,9 @@
 #include <vector>
 
 #include "editor/dialogs/options_dialog.h"
+#include "editor/dialogs/search_progress.h"
 #include "editor/panels/welcome_page.h"
+#include "editor/state/bot_checker.h"
 #include "install/program/settings_file.h"
 #include "tests/editor/window_fixture.h"
 #include "tests/support/package_maker.h"
@@ -160,6 +163,25 @@ TEST_F(Welcome, SetsAndScansAGameByOneClick) {
   EXPECT_THAT(folder_.Read("fgs.ini"), HasSubstr("game"));
   EXPECT_TRUE(IsOpen());
   EXPECT_TRUE(Page()->isAncestorOf(window_->focusWidget()));
+}
+
+TEST_F(Welcome, ReadsAGameWhoseScanWasCancelled) {
+  folder_.WriteProgram("game/quake3.exe", "");
+  folder_.Write("game/baseq3/pak0.pk3",
+                MakeZip({{"botfiles/rnd.c", "food = { \"stew\"; }"}}));
+  QTimer canceller;
+  QObject::connect(&canceller, &QTimer::timeout, [this] {
+    auto* const scan = window_->findChild<frmSearchBaseQ3*>();
+    if (scan != nullptr) scan->reject();
+  });
+  canceller.start(0);
+  Page()->ShowGames({{.name = QStringLiteral("Quake III Arena"),
+                      .folder = folder_ / "game",
+                      .about = {},
+                      .is_set = false}});
+  Find<QPushButton>("cmdUseGame")->click();
+  EXPECT_FALSE(state_->settings.BaseQ3Check);
+  EXPECT_NE(window_->findChild<BotChecker*>()->game(), nullptr);
 }
 
 }  // namespace

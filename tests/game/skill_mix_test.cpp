@@ -60,8 +60,8 @@ TEST(SkillMix, FollowsTheGamesRules) {
            {20, {0.0, 0.5, 0.5}, 2, kDefault, 0, 0},
            {20, {0.5, 0.0, 0.5}, 2, kDefault, 0, 0},
            {20, {0.5, 0.5, 0.5}, 2, kMixed, 0.5, 0.5}}) {
-    const ValueAtSkill mixed =
-        MixSkill(WithLevels(row.index, row.levels), row.index, row.skill);
+    const ValueAtSkill mixed = MixSkill(WithLevels(row.index, row.levels),
+                                        ParameterAt(row.index), row.skill);
     SCOPED_TRACE(testing::Message() << row.index << " at " << row.skill);
     EXPECT_EQ(mixed.origin, row.origin);
     EXPECT_NEAR(mixed.value, row.value, 1e-9);
@@ -71,7 +71,7 @@ TEST(SkillMix, FollowsTheGamesRules) {
 
 std::vector<double> ThresholdValues(int index) {
   std::vector<double> values;
-  for (const Threshold& threshold : ThresholdsOf(index)) {
+  for (const Threshold& threshold : ThresholdsOf(ParameterAt(index))) {
     values.push_back(threshold.value);
   }
   return values;
@@ -90,12 +90,15 @@ TEST(SkillMix, KnowsThresholdsInTheirOrder) {
   }
   EXPECT_THAT(ThresholdValues(28), ElementsAre(0.4, 0.6, 0.8, 0.9));
   for (const int index : kPerLevelRange) {
+    const ParameterId id = ParameterAt(index);
     double last = 0;
-    for (const Threshold& threshold : ThresholdsOf(index)) {
+    for (const Threshold& threshold : ThresholdsOf(id)) {
       EXPECT_EQ(threshold.index, index);
       EXPECT_GT(threshold.value, last);
       last = threshold.value;
     }
+    // What begins somewhere is read.
+    EXPECT_TRUE(ThresholdsOf(id).empty() || IsReadByGame(id)) << index;
   }
 }
 

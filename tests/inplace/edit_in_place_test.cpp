@@ -190,7 +190,7 @@ TEST(EditInPlaceTest, FindsWeightsByTheWeightCodeOfTheGame) {
             "code takes them: \"Gauntlet usage\" from the number in line 5, "
             "\"Shotgun usage\" from BANG (line 2), \"Machinegun usage\" from "
             "the number in line 7, \"Railgun usage\" from SLUG (line 4).");
-  EXPECT_EQ(file.notes().list()[1].text, AlsoInFile(1, "TWICE"));
+  EXPECT_EQ(file.notes().list()[1].text, AlsoInFile({}, 0, 1, "TWICE").text);
   EXPECT_EQ(
       file.notes().list()[2].text,
       "The weight code takes no number of the file, or no single one, "

@@ -3,17 +3,8 @@
 #   match.sh [FRAGSMITH_CLI]
 # Exit status 77 when the game is not installed.
 source "$(dirname "${BASH_SOURCE[0]}")/set_up.sh"
-need_program "${1:-$build/bin/fragsmith-cli}"
-cli=$program
-need_installed "${server_packages[@]}"
-
-scratch=$(mktemp -d)
-trap 'rm -rf "$scratch"' EXIT
-mkdir "$scratch/program" "$scratch/tmp" "$scratch/home"
-# Nothing may be left in either of them.
-export TMPDIR=$scratch/tmp HOME=$scratch/home
-"$cli" new --preset average --name Rookie --seed 1 \
-  --program-folder "$scratch/program" >"$scratch/rookie.json"
+begin_with_a_server "$@"
+make_average_bot "$scratch/rookie.json"
 python3 - "$scratch" <<'PYTHON'
 import json
 import sys

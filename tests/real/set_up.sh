@@ -30,3 +30,22 @@ need_installed() {
     fi
   done
 }
+
+# begin_with_a_server [FRAGSMITH_CLI]: for scripts that start a real game. Sets
+# `cli` and `scratch`, a folder that goes at the end; what is left behind in its
+# "tmp" and "home" is a fault.
+begin_with_a_server() {
+  need_program "${1:-$build/bin/fragsmith-cli}"
+  cli=$program
+  need_installed "${server_packages[@]}"
+  scratch=$(mktemp -d)
+  trap 'rm -rf "$scratch"' EXIT
+  mkdir "$scratch/program" "$scratch/tmp" "$scratch/home"
+  export TMPDIR=$scratch/tmp HOME=$scratch/home
+}
+
+# make_average_bot FILE: a document.
+make_average_bot() {
+  "$cli" new --preset average --name Rookie --seed 1 \
+    --program-folder "$scratch/program" >"$1"
+}

@@ -97,6 +97,10 @@ Draft DraftWithOrigin() {
   home.left_package = "/g/bot-y.pk3";
   LoadReport& report = *draft.origin.report;
   report.notes.Add({.file = "x_c.c", .line = 3, .text = "Odd \xFF."});
+  report.notes.Add({.file = "x_c.c",
+                    .line = 9,
+                    .text = "Also.",
+                    .kind = NoteKind::kAlsoInFile});
   report.odd_values = {{Id(102), {.read = 0.5, .plain = 0.25}},
                        {Id(49), {.read = 0.0, .plain = std::string("x")}},
                        {kModelField, {.read = std::string("a"), .plain = {}}}};
@@ -118,10 +122,44 @@ TEST(Draft, KnowsWhereTheBotCameFrom) {
   ASSERT_NE(found.loaded, nullptr);
   EXPECT_EQ(WriteBotDocument(*found.loaded), WriteBotDocument(*home.loaded));
   const LoadReport& report = *read.origin.report;
-  ASSERT_EQ(report.notes.list().size(), 1U);
+  ASSERT_EQ(report.notes.list().size(), 2U);
   EXPECT_THAT(Describe(report.notes.list().front()), HasSubstr("x_c.c:3: Odd"));
+  EXPECT_EQ(report.notes.list().front().kind, NoteKind::kOther);
+  EXPECT_EQ(report.notes.list().back().kind, NoteKind::kAlsoInFile);
   ASSERT_EQ(report.odd_values.size(), 3U);
   EXPECT_EQ(report.odd_values.at(Id(49)), (OddValue{0.0, std::string("x")}));
+}
+
+TEST(Draft, NotesWhatIsNotKnownOfAnOriginAndTakesTheRest) {
+  const Draft draft = DraftWithOrigin();
+  const std::string whole = WriteDraft(draft);
+  for (const auto& [before, field] :
+       {std::pair("\"chat\": {", "origin.home.files.new"),
+        {"\"path\": \"/b", "origin.home.files.chat.new"},
+        {"\"folder\":", "origin.home.place.new"},
+        {"\"path\": \"/g/bot-x", "origin.home.package.new"},
+        {"\"format\": 1,\n        \"name\"", "new"},
+        {"\"notes\":", "origin.report.new"},
+        {"\"file\":", "origin.report.notes[0].new"},
+        {"\"parameter\": 49", "origin.report.oddValues[1].new"}}) {
+    std::string newer = whole;
+    const std::size_t place = newer.find(before);
+    ASSERT_NE(place, std::string::npos) << before;
+    newer.insert(place, R"("new": {"deep": [1]}, )");
+    Notes notes;
+    const Draft read = ReadDraft(newer, "", notes).value();
+    ASSERT_EQ(notes.list().size(), 1U) << before;
+    EXPECT_THAT(notes.list()[0].text,
+                StartsWith(std::string("Field ") + field + ": "));
+    EXPECT_EQ(read.origin.home->files, draft.origin.home->files);
+    EXPECT_EQ(read.origin.report->odd_values.size(), 3U) << before;
+  }
+  std::string newer = whole;
+  newer.replace(newer.find("alsoInFile"), 10, "shy");
+  Notes notes;
+  EXPECT_EQ(ReadDraft(newer, "", notes).value().origin.home->files,
+            draft.origin.home->files);
+  EXPECT_EQ(notes.list().size(), 1U);
 }
 
 TEST(Draft, LetsAnOriginGoThatCannotBeMeantAndKeepsTheBot) {

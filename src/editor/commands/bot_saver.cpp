@@ -315,7 +315,6 @@ BotSaver::Outcome BotSaver::Write(const SavePlan& plan, bool leaves_changes,
 
 void BotSaver::RememberValues(const SavedBot& saved, const SavePlan& plan,
                               bool leaves_changes) {
-  const bool is_whole = saved.files.size() == plan.files.size();
   std::vector<BotFile> left;
   for (const auto& [file, path] : plan.files) {
     const auto written = saved.files.find(file);
@@ -325,8 +324,9 @@ void BotSaver::RememberValues(const SavedBot& saved, const SavePlan& plan,
                          known->second == written->second;
     if (!is_done) left.push_back(file);
   }
-  for (const auto& [file, path] : plan.left_alone) {
-    if (leaves_changes || !is_whole) left.push_back(file);
+  // Without changes that are left, these files say what the bot has.
+  if (leaves_changes) {
+    for (const auto& [file, path] : plan.left_alone) left.push_back(file);
   }
   const Bot* const before =
       home().saved ? home().saved.get() : home().loaded.get();

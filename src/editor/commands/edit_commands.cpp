@@ -9,7 +9,6 @@
 #include "editor/controls/value_control.h"
 #include "editor/dialogs/find_dialog.h"
 #include "editor/toolkit/game_text_conversion.h"
-#include "editor/toolkit/table_text.h"
 #include "model/characteristic_catalogue.h"
 
 namespace fragsmith {
@@ -86,20 +85,20 @@ void EditCommands::CopyLevel(Level from, Level to) {
 
 void EditCommands::CopyParameter(ParameterId from, ParameterId to) {
   if (!typed_text_.Store()) return;
-  current_.Edit(
-      {.text = TableText(ParameterTitle(to)), .place = to, .merges = false},
-      [from, to](Bot& bot) { bot.Put(to, bot.Parameter(from)); });
+  current_.Edit({.text = QString::fromUtf8(ParameterTitle(to)),
+                 .place = to,
+                 .merges = false},
+                [from, to](Bot& bot) { bot.Put(to, bot.Parameter(from)); });
 }
 
 void EditCommands::Reset(ParameterId parameter) {
   if (!typed_text_.Store()) return;
   const Value loaded = current_.loaded().Parameter(parameter);
-  current_.Edit(
-      {.text =
-           QStringLiteral("Reset %1").arg(TableText(ParameterTitle(parameter))),
-       .place = parameter,
-       .merges = false},
-      [parameter, &loaded](Bot& bot) { bot.Put(parameter, loaded); });
+  current_.Edit({.text = QStringLiteral("Reset %1")
+                             .arg(QString::fromUtf8(ParameterTitle(parameter))),
+                 .place = parameter,
+                 .merges = false},
+                [parameter, &loaded](Bot& bot) { bot.Put(parameter, loaded); });
 }
 
 void EditCommands::ResetFocused() {
@@ -114,7 +113,7 @@ void EditCommands::ShowParameterMenu(ParameterId parameter,
   const Value loaded = current_.loaded().Parameter(parameter);
   QAction* const reset =
       menu.addAction(QStringLiteral("Re&set %1 to %2")
-                         .arg(TableText(ParameterTitle(parameter)),
+                         .arg(QString::fromUtf8(ParameterTitle(parameter)),
                               loaded == Value() ? QStringLiteral("0")
                                                 : ToQString(ToText(loaded))));
   reset->setEnabled(loaded != current_.bot().Parameter(parameter));

@@ -4,7 +4,6 @@
 #include <QGuiApplication>
 #include <QSysInfo>
 
-#include "editor/toolkit/table_text.h"
 #include "support/program_version.h"
 
 namespace fragsmith {
@@ -17,7 +16,7 @@ void HelpCommands::ShowManual(const QString& chapter) {
 void HelpCommands::ReportFault() {
   QGuiApplication::clipboard()->setText(
       QStringLiteral("Fragsmith %1, Qt %2, %3, %4")
-          .arg(TableText(kProgramVersion), QLatin1String(qVersion()),
+          .arg(QString::fromUtf8(kProgramVersion), QLatin1String(qVersion()),
                QSysInfo::prettyProductName(), QGuiApplication::platformName()));
   ShowManual(QStringLiteral("Report a fault"));
   emit StatusText(

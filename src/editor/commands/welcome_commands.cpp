@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "editor/toolkit/game_text_conversion.h"
-#include "editor/toolkit/table_text.h"
 #include "support/files.h"
 #include "support/text.h"
 
@@ -35,7 +34,7 @@ WelcomeCommands::WelcomeCommands(
   connect(&page_, &WelcomePage::OtherFolderWanted, this,
           [this] { choose_(QStringLiteral("mnuOptions")); });
   connect(&page_, &WelcomePage::KindChosen, this, [this](BotKind kind) {
-    choose_(QStringLiteral("mnuNew_") + TableText(TextOf(kind).key));
+    choose_(QStringLiteral("mnuNew_") + QString::fromUtf8(TextOf(kind).key));
   });
   connect(&page_, &WelcomePage::BotChosen, &commands_,
           &BotCommands::OpenOfList);

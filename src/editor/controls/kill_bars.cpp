@@ -8,7 +8,6 @@
 
 #include "chat/vocabulary.h"
 #include "editor/toolkit/game_text_conversion.h"
-#include "editor/toolkit/table_text.h"
 #include "game/weapon_order.h"
 #include "support/text.h"
 
@@ -51,10 +50,11 @@ void KillBars::ShowKills(const Bot& bot, const Counts& kills,
     QString text = QStringLiteral("%1.").arg(place);
     if (rank.weight <= 0) text = QStringLiteral("never");
     if (rank.is_tied) text = QStringLiteral("tie");
-    rows_.push_back({.weapon = TableText(ParameterCaption(rank.weapon.index())),
-                     .rank = text,
-                     .kills = count,
-                     .other_kills = other_count});
+    rows_.push_back(
+        {.weapon = QString::fromUtf8(ParameterCaption(rank.weapon.index())),
+         .rank = text,
+         .kills = count,
+         .other_kills = other_count});
   }
   // What kills without being a weapon of the bot's list.
   std::set<std::string> others;

@@ -5,7 +5,7 @@ namespace fragsmith {
 OneSlider::OneSlider(QWidget* parent)
     : ValueControl(OneSliderScale, parent), slider_(AddRow()) {
   connect(slider_, &ValueSlider::Moved, this,
-          [this] { emit Changed(Index(), slider_->Number()); });
+          [this] { emit Changed(ParameterId(Index()), slider_->Number()); });
 }
 
 void OneSlider::ShowValue(const Value& value) { slider_->ShowValue(value); }

@@ -18,7 +18,7 @@ class OneSlider : public ValueControl {
 
  signals:
   /// The user moved the slider.
-  void Changed(int index, double value);
+  void Changed(fragsmith::ParameterId parameter, double value);
 
  private:
   ValueSlider* slider_;

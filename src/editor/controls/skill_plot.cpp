@@ -7,7 +7,6 @@
 #include <vector>
 
 #include "chat/vocabulary.h"
-#include "editor/toolkit/table_text.h"
 
 namespace fragsmith {
 namespace {
@@ -65,11 +64,11 @@ SkillPlot::SkillPlot(QWidget* parent) : QWidget(parent) {
   setObjectName(QStringLiteral("picSkills"));
 }
 
-void SkillPlot::ShowCharacteristic(const Bot& bot, int index) {
-  index_ = index;
-  title_ = TableText(CharacteristicName(index));
-  values_ = MixShownSkills(bot, index);
-  thresholds_ = ThresholdsOf(index);
+void SkillPlot::ShowCharacteristic(const Bot& bot, ParameterId id) {
+  top_ = UsedRangeOf(id).highest;
+  title_ = QString::fromUtf8(ParameterName(id));
+  values_ = MixShownSkills(bot, id);
+  thresholds_ = ThresholdsOf(id);
   setAccessibleName(title_ + QStringLiteral(" by skill"));
   setAccessibleDescription(Words());
   setToolTip(Words().toHtmlEscaped());
@@ -85,16 +84,16 @@ QString SkillPlot::Words() const {
   }
   for (const Threshold& threshold : thresholds_) {
     words << QStringLiteral("At %1: %2")
-                 .arg(Number(threshold.value), TableText(threshold.text));
+                 .arg(Number(threshold.value),
+                      QString::fromUtf8(threshold.text));
   }
   return words.join(QStringLiteral("; "));
 }
 
 double SkillPlot::Top() const {
-  double top = UsedRangeOf(index_).highest;
   // The range of some is far beyond what anybody sets.
   constexpr double kMaxByRange = 360;
-  top = std::min(top, kMaxByRange);
+  double top = std::min(top_, kMaxByRange);
   for (const ValueAtSkill& value : values_) top = std::max(top, value.value);
   return top;
 }
@@ -151,7 +150,7 @@ void SkillPlot::paintEvent(QPaintEvent* /*event*/) {
     painter.setPen(QPen(faint, 1, Qt::DashLine));
     painter.drawLine(left, QPointF(area.right(), left.y()));
     const QString caption =
-        metrics.elidedText(TableText(threshold.text), Qt::ElideRight,
+        metrics.elidedText(QString::fromUtf8(threshold.text), Qt::ElideRight,
                            static_cast<int>(area.width()));
     const QRectF room = PlaceOfCaption(
         QRectF(left.x() + line / 3.0, left.y() - line,

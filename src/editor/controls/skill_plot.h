@@ -19,8 +19,8 @@ class SkillPlot : public QWidget {
  public:
   explicit SkillPlot(QWidget* parent = nullptr);
 
-  /// A catalogue index of 2 to 30.
-  void ShowCharacteristic(const Bot& bot, int index);
+  /// A parameter that each level has, of any level.
+  void ShowCharacteristic(const Bot& bot, ParameterId id);
 
   QSize minimumSizeHint() const override;
 
@@ -32,7 +32,7 @@ class SkillPlot : public QWidget {
   QString Words() const;
   double Top() const;
 
-  int index_ = 0;
+  double top_ = 0;  ///< Of the range that the game takes.
   QString title_;
   std::vector<ValueAtSkill> values_;
   std::span<const Threshold> thresholds_;

@@ -35,7 +35,8 @@ void ThreeSlider::MoveOthers(Level moved) {
   // All stand right before anybody hears of the first.
   levels.insert(levels.begin(), moved);
   for (const Level level : levels) {
-    emit Changed(Index(), level, sliders_.at(IndexOf(level))->Number());
+    emit Changed(ParameterId(level, Index()),
+                 sliders_.at(IndexOf(level))->Number());
   }
 }
 

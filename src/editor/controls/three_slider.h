@@ -34,7 +34,7 @@ class ThreeSlider : public ValueControl {
  signals:
   /// The user moved the slider of a level; one signal for each slider that
   /// had to follow comes behind it.
-  void Changed(int index, fragsmith::Level level, double value);
+  void Changed(fragsmith::ParameterId parameter, double value);
 
  private:
   void MoveOthers(Level moved);

@@ -9,7 +9,6 @@
 #include <optional>
 
 #include "chat/vocabulary.h"
-#include "editor/toolkit/table_text.h"
 #include "editor/toolkit/wheel_guard.h"
 
 namespace fragsmith {
@@ -19,7 +18,7 @@ namespace {
 constexpr std::array<int, 6> kDistances = {0, 500, 700, 1000, 3000, 5000};
 
 QString WeaponName(const WeaponRank& rank) {
-  return TableText(ParameterCaption(rank.weapon.index()));
+  return QString::fromUtf8(ParameterCaption(rank.weapon.index()));
 }
 
 QString WeightText(const WeaponRank& rank) {

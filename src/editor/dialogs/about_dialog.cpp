@@ -7,7 +7,6 @@
 #include <QVBoxLayout>
 
 #include "editor/dialogs/dialog_parts.h"
-#include "editor/toolkit/table_text.h"
 #include "support/program_version.h"
 
 namespace fragsmith {
@@ -47,7 +46,7 @@ frmAbout::frmAbout(QWidget* parent) : QDialog(parent) {
   heading.setBold(true);
   heading.setPointSizeF(heading.pointSizeF() * 1.4);
   name->setFont(heading);
-  AddLine(QStringLiteral("Version ") + TableText(kProgramVersion),
+  AddLine(QStringLiteral("Version ") + QString::fromUtf8(kProgramVersion),
           QStringLiteral("lblVersion"), column, this);
   AddLine(QStringLiteral("Bot creator program for Q3A."),
           QStringLiteral("lblDescription"), column, this);

@@ -17,8 +17,6 @@ constexpr const char* kData = "data";
 constexpr const char* kGame = "game";
 constexpr const char* kMap = "map";
 
-QString Shown(const std::string& utf8) { return QString::fromStdString(utf8); }
-
 /// Empty for none: what is missing is not the folder where we happen to be.
 fs::path PathOf(const QString& text) {
   const std::string bytes = text.trimmed().toStdString();
@@ -80,7 +78,7 @@ void EngineFields::FillEngines(EngineChoice choice) {
   }
   for (const fs::path& engine : FindEngines(folders)) {
     if (choice == EngineChoice::kAll || IsDedicatedServer(engine)) {
-      engine_->addItem(Shown(BytesFromPath(engine)));
+      engine_->addItem(QString::fromStdString(BytesFromPath(engine)));
     }
   }
 }
@@ -106,7 +104,7 @@ void EngineFields::Save(QSettings& file) const {
 
 void EngineFields::Suggest() {
   engine_->setCurrentText(engine_->itemText(0));
-  data_->setText(Shown(BytesFromPath(
+  data_->setText(QString::fromStdString(BytesFromPath(
       DataFolder(Engine(), PathFromBytes(state_.settings.Q3Baseq3)))));
   SuggestGame();
 }
@@ -114,8 +112,8 @@ void EngineFields::Suggest() {
 void EngineFields::SuggestGame() {
   const std::string game =
       DefaultGame(PathOf(engine_->currentText()), PathOf(data_->text()));
-  game_->setText(Shown(game));
-  map_->setText(Shown(DefaultMap(game)));
+  game_->setText(QString::fromStdString(game));
+  map_->setText(QString::fromStdString(DefaultMap(game)));
 }
 
 // One without a folder is looked for as a shell does.

@@ -12,7 +12,6 @@
 
 #include "chat/chat_catalogue.h"
 #include "editor/toolkit/game_text_conversion.h"
-#include "editor/toolkit/table_text.h"
 #include "trial/match_words.h"
 
 namespace fragsmith {
@@ -23,8 +22,6 @@ enum SaidColumn { kTimes, kLine, kSituation, kSaidColumns };
 /// Where a row of what was said keeps the number of its line, and what was
 /// said where it is none of the bot's.
 constexpr int kLineRole = Qt::UserRole;
-
-QString Shown(const std::string& utf8) { return QString::fromStdString(utf8); }
 
 QTreeWidget* MakeList(const char* name, const QString& accessible_name,
                       const QStringList& headings, QWidget* parent) {
@@ -43,7 +40,7 @@ QTreeWidget* MakeList(const char* name, const QString& accessible_name,
 QString SituationsOf(const OwnLine& line) {
   QStringList captions;
   for (const ChatPlace& place : line.places) {
-    const QString caption = TableText(ChatTypeAt(place.type).Caption);
+    const QString caption = QString::fromUtf8(ChatTypeAt(place.type).Caption);
     if (!captions.contains(caption)) captions << caption;
   }
   return captions.join(QStringLiteral(", "));
@@ -119,15 +116,17 @@ QWidget* MatchResults::MakeLists() {
 void MatchResults::ShowSession(MatchSession& session) {
   const bool is_same = shown_ == &session;
   shown_ = &session;
-  QString verdict = Shown(VerdictOf(session));
-  if (!session.remark.empty()) verdict += u'\n' + Shown(session.remark);
+  QString verdict = QString::fromStdString(VerdictOf(session));
+  if (!session.remark.empty()) {
+    verdict += u'\n' + QString::fromStdString(session.remark);
+  }
   verdict_->setText(verdict);
   share_->ShowShares(session.shares,
                      session.is_until_sure() ? 0 : session.games);
   const MatchReport& report = session.report;
   const BotSums sums = SumsOf(report, 0);
   kills_->ShowKills(session.bot, sums.kills, SumsOf(report, 1).kills,
-                    Shown(session.names.at(1)));
+                    QString::fromStdString(session.names.at(1)));
   ShowFigures(report, session.names);
   if (!is_same) {
     said_->clear();
@@ -139,7 +138,8 @@ void MatchResults::ShowSession(MatchSession& session) {
 
 void MatchResults::ShowFigures(const MatchReport& report,
                                const std::vector<std::string>& names) {
-  bots_->setVerticalHeaderLabels({Shown(names.at(0)), Shown(names.at(1))});
+  bots_->setVerticalHeaderLabels({QString::fromStdString(names.at(0)),
+                                  QString::fromStdString(names.at(1))});
   const std::vector<BotFigures> figures = FiguresOf(TalliesOf(report));
   for (std::size_t bot = 0; bot < names.size(); ++bot) {
     QStringList cells;
@@ -147,12 +147,14 @@ void MatchResults::ShowFigures(const MatchReport& report,
       const BotSums sums = SumsOf(report, bot);
       const int by_itself = sums.suicides + sums.falls;
       cells << QString::number(sums.score)
-            << Shown(ShownShare(figures[bot].share))
+            << QString::fromStdString(ShownShare(figures[bot].share))
             << QString::number(Sum(sums.kills))
             << QString::number(Sum(sums.deaths) + by_itself)
             << QString::number(by_itself) << QString::number(Sum(sums.items))
-            << Shown(fragsmith::Shown(figures[bot].frags_a_minute, 1, 2, ""))
-            << Shown(fragsmith::Shown(figures[bot].deaths_a_minute, 1, 2, ""));
+            << QString::fromStdString(
+                   Shown(figures[bot].frags_a_minute, 1, 2, ""))
+            << QString::fromStdString(
+                   Shown(figures[bot].deaths_a_minute, 1, 2, ""));
     }
     for (int cell = 0; cell < bots_->columnCount(); ++cell) {
       auto* const item = new QTableWidgetItem(cells.value(cell));

@@ -32,8 +32,6 @@ constexpr int kFirstMinutes = 5;
 constexpr int kMaxMinutes = 60;
 constexpr int kFirstGames = 10;
 constexpr int kMaxGames = 1000;
-/// Of matches until it is sure.
-constexpr int kMaxUntilSure = 500;
 constexpr int kMaxJobs = 64;
 
 // The choices stand in a group of their own in the file of the window; the
@@ -50,8 +48,6 @@ constexpr const char* kAsLoaded = "The bot as it was loaded";
 constexpr const char* kAsSaved = "The bot as it was last saved";
 
 enum RunColumn { kBot, kAgainst, kShare, kMatches, kSkillAndMap, kRunColumns };
-
-QString Shown(const std::string& utf8) { return QString::fromStdString(utf8); }
 
 QSpinBox* MakeNumber(const char* name, const QString& accessible_name, int most,
                      int value, QWidget* parent) {
@@ -166,7 +162,7 @@ QWidget* frmMatch::MakeChoices() {
   until_sure_->setToolTip(
       tr("Plays until it is clear which of the two is better, or that they "
          "differ by less than 5 points in a hundred, %1 matches at most")
-          .arg(kMaxUntilSure));
+          .arg(kMostUntilSure));
   connect(until_sure_, &QCheckBox::toggled, games_, &QWidget::setDisabled);
   fields->addRow(QString(), until_sure_);
   fields->addRow(tr("Side &by side:"), jobs_);
@@ -349,14 +345,14 @@ Result<std::unique_ptr<MatchSession>> frmMatch::MakeSession() {
   if (opponent.bot != nullptr && *opponent.bot == session->bot) {
     session->remark = "Nothing is different: it plays against itself.";
   }
-  session->games = until_sure_->isChecked() ? kMaxUntilSure : games_->value();
+  session->games = until_sure_->isChecked() ? kMostUntilSure : games_->value();
   MatchReport& report = session->report;
   report.sources = session->names;
   if (until_sure_->isChecked()) {
     report.tests.emplace_back(0, 1, SequentialTest::Question());
   }
   report.plan.minutes = minutes_->value();
-  QString maps = Shown(engine_->Map());
+  QString maps = QString::fromStdString(engine_->Map());
   report.plan.maps = MapsIn(maps.remove(u' ').toStdString());
   const Author author = AuthorOf(state_.settings);
   for (const Bot* const bot :
@@ -376,7 +372,9 @@ void frmMatch::Start() {
   if (!store_()) return;
   SaveChoices();
   Result<std::unique_ptr<MatchSession>> made = MakeSession();
-  if (!made) return progress_->Say(Shown(Describe(made.error())));
+  if (!made) {
+    return progress_->Say(QString::fromStdString(Describe(made.error())));
+  }
   sessions_.push_back(std::move(*made));
   MatchSession& session = *sessions_.back();
   auto* const row = new QTreeWidgetItem(runs_);
@@ -426,18 +424,21 @@ void frmMatch::ShowRun(QTreeWidgetItem& row, const MatchSession& session) {
   const MatchPlan& plan = session.report.plan;
   QString maps;
   for (const std::string& map : plan.maps) {
-    maps += (maps.isEmpty() ? QString() : QStringLiteral(",")) + Shown(map);
+    maps += (maps.isEmpty() ? QString() : QStringLiteral(",")) +
+            QString::fromStdString(map);
   }
-  row.setText(kBot, Shown(session.names.at(0)));
-  row.setText(kAgainst, Shown(session.names.at(1)));
+  row.setText(kBot, QString::fromStdString(session.names.at(0)));
+  row.setText(kAgainst, QString::fromStdString(session.names.at(1)));
   row.setText(kSkillAndMap,
               QStringLiteral("%1, %2").arg(plan.bots.front().skill).arg(maps));
   row.setText(kMatches, QString::number(session.report.played.size()));
   if (!session.shares.empty()) {
-    row.setText(kShare, Shown(ShownShare(session.shares.back())));
+    row.setText(kShare,
+                QString::fromStdString(ShownShare(session.shares.back())));
   }
   for (int cell = 0; cell < kRunColumns; ++cell) {
-    row.setToolTip(cell, Shown(VerdictOf(session)).toHtmlEscaped());
+    row.setToolTip(cell,
+                   QString::fromStdString(VerdictOf(session)).toHtmlEscaped());
   }
 }
 

@@ -2,7 +2,6 @@
 
 #include <string_view>
 
-#include "editor/toolkit/table_text.h"
 #include "editor/toolkit/wheel_guard.h"
 #include "game/skill_names.h"
 
@@ -19,7 +18,9 @@ SkillBox::SkillBox(QWidget* parent) : QComboBox(parent) {
   setAccessibleName(tr("Skill"));
   IgnoreWheelWithoutFocus(*this);
   for (const std::string_view name : kSkillNames) {
-    addItem(QStringLiteral("%1 - %2").arg(count() + 1).arg(TableText(name)));
+    addItem(QStringLiteral("%1 - %2")
+                .arg(count() + 1)
+                .arg(QString::fromUtf8(name)));
   }
   setCurrentIndex(kFirstSkill - 1);
 }

@@ -10,7 +10,6 @@
 #include <QStyle>
 #include <QVBoxLayout>
 #include <algorithm>
-#include <cstdlib>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -37,12 +36,6 @@ constexpr int kServerSeconds = 1800;
 // The choices stand in a group of their own in the file of the window.
 constexpr const char* kGroup = "try";
 constexpr const char* kOpponents = "opponents";
-
-QString Shown(const std::string& utf8) { return QString::fromStdString(utf8); }
-
-/// The dialog whose game is to end when the program does. That may come by a
-/// way on which nobody is asked, as when the screen goes away.
-frmTry* open_dialog = nullptr;
 
 }  // namespace
 
@@ -84,22 +77,12 @@ frmTry::frmTry(const Bot& bot, const std::vector<Finding>& findings,
     EndNow();
     SetRunning(false);
   });
-  open_dialog = this;
-  static const bool kIsRegistered = std::atexit([] {
-                                      if (open_dialog != nullptr) {
-                                        open_dialog->EndNow();
-                                      }
-                                    }) == 0;
-  static_cast<void>(kIsRegistered);  // It is there for its making alone.
   LoadChoices();
   SetRunning(false);
   start_->setFocus();
 }
 
-frmTry::~frmTry() {
-  EndNow();
-  open_dialog = nullptr;
-}
+frmTry::~frmTry() { EndNow(); }
 
 QLayout* frmTry::MakeFields() {
   auto* const fields = new QFormLayout;
@@ -268,7 +251,9 @@ void frmTry::Start() {
     return;
   }
   const Result<void> started = StartEngine(setup);
-  if (!started) return ShowFault(Shown(Describe(started.error())));
+  if (!started) {
+    return ShowFault(QString::fromStdString(Describe(started.error())));
+  }
   SetRunning(true);
   watch_.start();
 }
@@ -293,8 +278,10 @@ void frmTry::ShowOutput() {
   for (std::string_view more = run_->ReadMore(); !more.empty();
        more = run_->ReadMore()) {
     for (const TrialLine& line : reader_->Read(more)) {
-      QString text = Shown(line.text);
-      if (!line.sentence.empty()) text += u'\n' + Shown(line.sentence);
+      QString text = QString::fromStdString(line.text);
+      if (!line.sentence.empty()) {
+        text += u'\n' + QString::fromStdString(line.sentence);
+      }
       auto* const item = new QListWidgetItem(text, lines_);
       item->setIcon(SeverityIcon(line.severity, *style()));
       lines_->scrollToBottom();
@@ -302,14 +289,16 @@ void frmTry::ShowOutput() {
     if (run_->IsEndless()) break;
   }
   if (reader_->is_over() && !was_over) {
-    verdict_->Say(Shown(VerdictText(reader_->verdict(), added_name_)));
+    verdict_->Say(
+        QString::fromStdString(VerdictText(reader_->verdict(), added_name_)));
   }
 }
 
 void frmTry::ShowEnd(bool is_stopped) {
   ShowOutput();
   if (!reader_->is_over()) {
-    QString text = Shown(VerdictText(reader_->verdict(), added_name_));
+    QString text =
+        QString::fromStdString(VerdictText(reader_->verdict(), added_name_));
     if (!is_stopped) {
       text = tr("The engine ended before the bot was added. %1 "
                 "Look at the data folder and the game folder.")
@@ -318,7 +307,9 @@ void frmTry::ShowEnd(bool is_stopped) {
       if (!last.empty()) {
         lines_->addItem(tr("What it printed last:"));
       }
-      for (const std::string& line : last) lines_->addItem(Shown(line));
+      for (const std::string& line : last) {
+        lines_->addItem(QString::fromStdString(line));
+      }
       lines_->scrollToBottom();
     }
     verdict_->Say(text);

@@ -19,6 +19,7 @@
 #include "editor/dialogs/engine_fields.h"
 #include "editor/dialogs/skill_box.h"
 #include "editor/state/program_state.h"
+#include "editor/toolkit/program_end.h"
 #include "model/bot.h"
 #include "support/temporary_folder.h"
 #include "trial/game_trial.h"
@@ -95,6 +96,7 @@ class frmTry : public QDialog {
   QListWidget* lines_;
   FindingsView* found_ = nullptr;
   HintLine* verdict_;
+  AtProgramEnd at_program_end_{[this] { EndNow(); }};
 };
 
 }  // namespace fragsmith

@@ -9,7 +9,6 @@
 #include "chat/vocabulary.h"
 #include "editor/toolkit/game_text_conversion.h"
 #include "editor/toolkit/page_table.h"
-#include "editor/toolkit/table_text.h"
 #include "model/characteristic_catalogue.h"
 #include "support/text.h"
 
@@ -32,9 +31,9 @@ void BotPlacesModel::CollectParameters() {
   const auto add = [this](ParameterId parameter, const QString& where,
                           std::string_view key) {
     Entry entry;
-    entry.text = TableText(ParameterTitle(parameter));
+    entry.text = QString::fromUtf8(ParameterTitle(parameter));
     if (!where.isEmpty()) entry.text += QStringLiteral(" - ") + where;
-    entry.sought = (entry.text + u' ' + TableText(key)).toLower();
+    entry.sought = (entry.text + u' ' + QString::fromUtf8(key)).toLower();
     entry.place = parameter;
     entries_.push_back(std::move(entry));
   };
@@ -51,12 +50,13 @@ void BotPlacesModel::CollectParameters() {
         const std::string_view key = TrimBlanksAndTabs(
             kCatalogue.at(static_cast<std::size_t>(control.index)));
         if (!control.HasLevels()) {
-          add(ParameterId(control.index), TableText(page.tab_caption), key);
+          add(ParameterId(control.index), QString::fromUtf8(page.tab_caption),
+              key);
           continue;
         }
         for (const Level level : kLevels) {
-          add(ParameterId(level, control.index), TableText(page.tab_caption),
-              key);
+          add(ParameterId(level, control.index),
+              QString::fromUtf8(page.tab_caption), key);
         }
       }
     }
@@ -66,10 +66,10 @@ void BotPlacesModel::CollectParameters() {
 void BotPlacesModel::CollectChats(const Bot& bot) {
   for (const ChatTypeId type : kAllChatTypes) {
     const ChatType& row = ChatTypeAt(type);
-    const QString caption = TableText(row.Caption);
+    const QString caption = QString::fromUtf8(row.Caption);
     ChatPlace place = {.type = type, .line = std::nullopt};
     entries_.push_back({QStringLiteral("%1 - Chat texts").arg(caption),
-                        (caption + u' ' + TableText(row.Key)).toLower(),
+                        (caption + u' ' + QString::fromUtf8(row.Key)).toLower(),
                         place});
     for (const std::string& line : bot.ChatLines(type)) {
       place.line = place.line.value_or(-1) + 1;

@@ -29,7 +29,7 @@ std::map<ParameterId, int> GroupsOfParameters() {
 
 QString GroupTitle(int group) {
   if (group == kIdentityGroup) return QStringLiteral("Identity");
-  return TableText(
+  return QString::fromUtf8(
       group < kFirstTypeGroup
           ? PageOf(group).tab_caption
           : ChatTypeAt(ChatTypeOfIndex(group - kFirstTypeGroup).value())
@@ -47,17 +47,7 @@ std::vector<ParameterId> ParametersOf(int group) {
     }
   }
   std::sort(indices.begin(), indices.end());
-  std::vector<ParameterId> parameters;
-  for (const int index : indices) {
-    if (!kPerLevelRange.Contains(index)) {
-      parameters.emplace_back(index);
-      continue;
-    }
-    for (const Level level : kLevels) {
-      parameters.emplace_back(level, index);
-    }
-  }
-  return parameters;
+  return ParametersOf(indices);
 }
 
 int GroupOf(const BotDifference& difference) {

@@ -6,7 +6,6 @@
 
 #include "chat/vocabulary.h"
 #include "editor/toolkit/game_text_conversion.h"
-#include "editor/toolkit/table_text.h"
 
 namespace fragsmith {
 namespace {
@@ -17,8 +16,6 @@ using Cell = DifferenceRow::Cell;
 constexpr std::size_t kMaxLines = 200;
 constexpr int kMaxLetters = 500;
 
-QString Utf8(const std::string& text) { return QString::fromStdString(text); }
-
 /// What is not there is said, for those who hear the list too.
 Cell CellOf(const QString& text) {
   if (text.isEmpty()) return {QStringLiteral("(none)"), true};
@@ -26,9 +23,9 @@ Cell CellOf(const QString& text) {
 }
 
 Cell Shown(const Bot& bot, ParameterId parameter) {
-  return CellOf(IsIdentityField(parameter)
-                    ? ToQString(bot.Text(parameter))
-                    : Utf8(ShownValue(bot.Parameter(parameter))));
+  return CellOf(IsIdentityField(parameter) ? ToQString(bot.Text(parameter))
+                                           : QString::fromStdString(ShownValue(
+                                                 bot.Parameter(parameter))));
 }
 
 /// The line as it is counted in the bot that is compared; one that it lacks,
@@ -65,7 +62,7 @@ void AddParameters(int group, const Bot& bot, const Bot& other,
     row.key.parameter = parameter;
     row.is_equal = found == indices.end();
     if (!row.is_equal) row.difference = found->second;
-    row.cells = {Cell{TableText(ParameterTitle(parameter))},
+    row.cells = {Cell{QString::fromUtf8(ParameterTitle(parameter))},
                  Shown(bot, parameter), Shown(other, parameter)};
   }
 }
@@ -99,8 +96,9 @@ void AddLines(const std::vector<BotDifference>& differences,
     row.key.right_line = difference.right_line;
     row.key.lacking = lacking;
     row.difference = index;
-    row.cells = {Cell{LineTitle(difference)}, CellOf(Utf8(difference.left)),
-                 CellOf(Utf8(difference.right))};
+    row.cells = {Cell{LineTitle(difference)},
+                 CellOf(QString::fromStdString(difference.left)),
+                 CellOf(QString::fromStdString(difference.right))};
   }
   for (const auto& [group, count] : left_out) {
     DifferenceRow& row = Add(types[group]->children, types[group]);
@@ -130,7 +128,7 @@ DifferenceRows MakeDifferenceRows(
 
 QString DifferenceTitle(const BotDifference& difference) {
   if (difference.parameter) {
-    return TableText(ParameterTitle(*difference.parameter));
+    return QString::fromUtf8(ParameterTitle(*difference.parameter));
   }
   return GroupTitle(GroupOf(difference)) + QStringLiteral(", ") +
          LineTitle(difference).toLower();

@@ -14,17 +14,13 @@ namespace {
 /// So many of one kind are told one by one.
 constexpr std::size_t kMaxAlone = 2;
 
-QString Utf8(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 }  // namespace
 
 QString FindingsModel::TextOf(const Finding& finding) const {
-  const QString text = Utf8(finding.text);
+  const QString text = QString::fromUtf8(finding.text);
   const auto* const file = std::get_if<FilePlace>(&finding.place);
-  QString place = Utf8(file != nullptr ? FilePlaceText(*file)
-                                       : ChatPlaceText(finding.place));
+  QString place = QString::fromUtf8(
+      file != nullptr ? FilePlaceText(*file) : ChatPlaceText(finding.place));
   if (file != nullptr && !is_of_files_alone_) {
     place.prepend(place.isEmpty() ? QStringLiteral("In the files")
                                   : QStringLiteral("In the files, "));
@@ -106,7 +102,7 @@ QVariant FindingsModel::data(const QModelIndex& index, int role) const {
       if (row.folded > 0) return QStringLiteral("Mend all %1").arg(row.folded);
       return row.finding.mends.size() > 1
                  ? QStringLiteral("Mend...")
-                 : Utf8(row.finding.mends.front().title);
+                 : QString::fromUtf8(row.finding.mends.front().title);
     case Qt::ToolTipRole:
       return row.folded > 0 ? FoldingHelp() : QVariant();
     default:

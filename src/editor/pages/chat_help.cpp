@@ -8,45 +8,45 @@
 #include "chat/chat_catalogue.h"
 #include "chat/vocabulary.h"
 #include "editor/toolkit/page_table.h"
-#include "editor/toolkit/table_text.h"
 #include "game/chat_type_facts.h"
 
 namespace fragsmith {
 namespace {
 
 QString WhatPointerHolds(ChatTypeId type, int pointer) {
-  const int variable = TableText(ChatPointerAt(pointer).Item()).toInt();
-  return TableText(FillText(FillOf(type, variable)));
+  const int variable = QString::fromUtf8(ChatPointerAt(pointer).Item()).toInt();
+  return QString::fromUtf8(FillText(FillOf(type, variable)));
 }
 
 }  // namespace
 
 QString ChatTypeHelp(ChatTypeId type) {
   const ChatTypeFacts& facts = FactsOfChatType(type);
-  QString text = TableText(WhenText(facts));
+  QString text = QString::fromUtf8(WhenText(facts));
   if (!facts.is_heard) return text;
-  return text + QStringLiteral(
-                    " \"%1\" on the page \"Chat characteristics\" sets the "
-                    "chance. Bots speak in free-for-all games only, and at "
-                    "most one line in 25 seconds.")
-                    .arg(TableText(ParameterName(facts.chance.value())));
+  return text +
+         QStringLiteral(
+             " \"%1\" on the page \"Chat characteristics\" sets the "
+             "chance. Bots speak in free-for-all games only, and at "
+             "most one line in 25 seconds.")
+             .arg(QString::fromUtf8(ParameterName(facts.chance.value())));
 }
 
 QString ChatPointerHelp(ChatTypeId type, int pointer) {
   return QStringLiteral("Inserts %1: in the game %2.")
-      .arg(TableText(ChatPointerAt(pointer).Variable),
+      .arg(QString::fromUtf8(ChatPointerAt(pointer).Variable),
            WhatPointerHolds(type, pointer));
 }
 
 QString WhyNotFilled(ChatTypeId type, const QString& variable) {
   for (const int pointer : ChatTypeAt(type).Pointers()) {
     const ChatPointer& entry = ChatPointerAt(pointer);
-    if (TableText(entry.Variable) != variable) continue;
-    const ChatFill fill = FillOf(type, TableText(entry.Item()).toInt());
+    if (QString::fromUtf8(entry.Variable) != variable) continue;
+    const ChatFill fill = FillOf(type, QString::fromUtf8(entry.Item()).toInt());
     if (fill != ChatFill::kNothing && fill != ChatFill::kInvalid) return {};
     return QCoreApplication::translate(
                "ChatPage", "The game does not fill %1 here: it speaks %2.")
-        .arg(variable, TableText(FillText(fill)));
+        .arg(variable, QString::fromUtf8(FillText(fill)));
   }
   return {};
 }
@@ -76,7 +76,7 @@ QString ChatVariables(ChatTypeId type) {
   QStringList variables;
   for (const int pointer : ChatTypeAt(type).Pointers()) {
     variables << QStringLiteral("%1 is %2")
-                     .arg(TableText(ChatPointerAt(pointer).Variable),
+                     .arg(QString::fromUtf8(ChatPointerAt(pointer).Variable),
                           WhatPointerHolds(type, pointer));
   }
   return variables.join(QStringLiteral("; "));

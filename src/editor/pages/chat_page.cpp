@@ -201,7 +201,8 @@ void ChatPage::AddSelectedList() {
 void ChatPage::AddWord() {
   const int word = words_->currentRow();
   if (word < 0) return;
-  Insert(TableText(kWordLists.at(static_cast<std::size_t>(word)).Variable));
+  Insert(QString::fromUtf8(
+      kWordLists.at(static_cast<std::size_t>(word)).Variable));
 }
 
 void ChatPage::AddLine() {

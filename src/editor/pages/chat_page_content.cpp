@@ -21,7 +21,7 @@ QWidget* ChatPage::MakeContent() {
   const CurrentBot::Filling filling(current_);
   auto* const content = new QWidget;
   auto* const column = new QVBoxLayout(content);
-  auto* const frame = new QGroupBox(TableText(
+  auto* const frame = new QGroupBox(QString::fromUtf8(
       kPages.at(static_cast<std::size_t>(kChatPage)).frames.front().caption));
   column->addWidget(frame);
   auto* const grid = new QGridLayout(frame);
@@ -131,7 +131,7 @@ void ChatPage::MakeReadyLines(QGridLayout& grid) {
     AddEntry(*groups_, group.Caption,
              QStringLiteral("Ready-made lines of the game, under the name %1. "
                             "Which there are depends on its data.")
-                 .arg(TableText(group.Name)));
+                 .arg(QString::fromUtf8(group.Name)));
   }
   FitWidth(*groups_);
   connect(groups_, &QListWidget::currentRowChanged, this,
@@ -158,7 +158,8 @@ void ChatPage::MakeWords(QGridLayout& grid) {
     AddEntry(*words_, words.Caption,
              QStringLiteral("%1 becomes a random word of the game's list %2. "
                             "Not all game data have it.")
-                 .arg(TableText(words.Variable), TableText(words.Key)));
+                 .arg(QString::fromUtf8(words.Variable),
+                      QString::fromUtf8(words.Key)));
   }
   FitWidth(*words_);
   OnChoice(*words_, this, [this] { AddWord(); });

@@ -47,7 +47,7 @@ void FitWidth(QListWidget& list) {
 }
 
 void AddEntry(QListWidget& list, std::string_view text, const QString& help) {
-  auto* const item = new QListWidgetItem(TableText(text), &list);
+  auto* const item = new QListWidgetItem(QString::fromUtf8(text), &list);
   item->setToolTip(WrappedToolTip(item->text(), help));
   item->setData(Qt::AccessibleDescriptionRole, help);
 }

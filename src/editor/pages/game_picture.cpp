@@ -6,7 +6,6 @@
 
 #include "chat/vocabulary.h"
 #include "editor/pages/parameter_help.h"
-#include "editor/toolkit/table_text.h"
 #include "model/characteristic_catalogue.h"
 
 namespace fragsmith {
@@ -15,10 +14,11 @@ namespace {
 constexpr int kCorner = 8;
 constexpr int kLines = 12;
 
-const ControlRow* RowOf(const PageRow& page, int index) {
+const ControlRow* RowOf(const PageRow& page, ParameterId id) {
+  const ParameterId wanted = id.level() ? id.At(kLevels.front()) : id;
   for (const FrameRow& frame : page.frames) {
     for (const ControlRow& control : frame.controls) {
-      if (!control.IsEmptyPlace() && control.index == index) return &control;
+      if (!control.IsEmptyPlace() && control.Id() == wanted) return &control;
     }
   }
   return nullptr;
@@ -31,7 +31,7 @@ GamePicture::GamePicture(const PageRow& page, CurrentBot& current,
     : QWidget(parent),
       page_(page),
       current_(current),
-      index_(page.frames.front().controls.front().index),
+      id_(page.frames.front().controls.front().Id()),
       name_(new QLabel(this)),
       help_(new QLabel(this)) {
   setObjectName(QStringLiteral("picGame"));
@@ -41,7 +41,7 @@ GamePicture::GamePicture(const PageRow& page, CurrentBot& current,
   if (page.frames.front().controls.front().HasLevels()) {
     plot_ = new SkillPlot(this);
     row->addWidget(plot_, 3);
-  } else if (kWeaponWeightRange.Contains(ParameterId(index_))) {
+  } else if (kWeaponWeightRange.Contains(id_)) {
     bars_ = new WeaponBars(this);
     row->addWidget(bars_, 3);
   }
@@ -57,25 +57,25 @@ GamePicture::GamePicture(const PageRow& page, CurrentBot& current,
   column->addWidget(name_);
   column->addWidget(help_, 1);
   row->addLayout(column, 2);
-  Show(index_);
+  Show(id_);
 }
 
 QSize GamePicture::sizeHint() const {
   return {0, fontMetrics().lineSpacing() * kLines + 24};
 }
 
-void GamePicture::Show(int index) {
-  const ControlRow* const row = RowOf(page_, index);
+void GamePicture::Show(ParameterId id) {
+  const ControlRow* const row = RowOf(page_, id);
   if (row == nullptr) return;
-  index_ = index;
-  name_->setText(TableText(CharacteristicName(index)));
+  id_ = row->Id();
+  name_->setText(QString::fromUtf8(ParameterName(id_)));
   help_->setText(PlainHelp(*row));
   help_->setToolTip(help_->text());
   ShowBot();
 }
 
 void GamePicture::ShowBot() {
-  if (plot_ != nullptr) plot_->ShowCharacteristic(current_.bot(), index_);
+  if (plot_ != nullptr) plot_->ShowCharacteristic(current_.bot(), id_);
   if (bars_ != nullptr) bars_->ShowBot(current_.bot());
 }
 

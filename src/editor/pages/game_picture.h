@@ -22,8 +22,8 @@ class GamePicture : public QWidget {
   GamePicture(const PageRow& page, CurrentBot& current,
               QWidget* parent = nullptr);
 
-  /// Turns to a parameter of the page, by its index in the catalogue.
-  void Show(int index);
+  /// Turns to a parameter of the page, of whichever level.
+  void Show(ParameterId id);
 
   /// Draws anew, after an edit.
   void ShowBot();
@@ -36,7 +36,7 @@ class GamePicture : public QWidget {
  private:
   const PageRow& page_;
   CurrentBot& current_;
-  int index_;
+  ParameterId id_;
   SkillPlot* plot_ = nullptr;   ///< On pages of characteristics by level.
   WeaponBars* bars_ = nullptr;  ///< On the page of the weapons' use.
   QLabel* name_;

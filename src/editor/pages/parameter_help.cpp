@@ -263,7 +263,8 @@ QString RangeText(const ControlRow& control, std::string_view unit) {
   if (!scale) return {};
   const QString top = control.IsRescaled() ? QStringLiteral("400, 600 or 1000")
                                            : QString::number(control.max);
-  const QString shown_unit = unit.empty() ? QString() : u' ' + TableText(unit);
+  const QString shown_unit =
+      unit.empty() ? QString() : u' ' + QString::fromUtf8(unit);
   return QStringLiteral(" From 0 to %1%2 in steps of %3.")
       .arg(top, shown_unit, QString::number(scale->step));
 }
@@ -272,13 +273,13 @@ QString RangeText(const ControlRow& control, std::string_view unit) {
 
 QString PlainHelp(const ControlRow& control) {
   const ParameterHelp& help = HelpFor(control.index);
-  QString text = TableText(help.text);
+  QString text = QString::fromUtf8(help.text);
   int number = 0;
-  for (const Threshold& threshold : ThresholdsOf(control.index)) {
+  for (const Threshold& threshold : ThresholdsOf(control.Id())) {
     text.replace(QStringLiteral("{%1}").arg(++number),
                  QString::number(threshold.value));
   }
-  if (!IsReadByGame(control.index)) {
+  if (!IsReadByGame(control.Id())) {
     text.prepend(QStringLiteral("The game never reads this value. "));
   }
   if (kChanceRange.Contains(control.index) &&

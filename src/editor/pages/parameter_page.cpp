@@ -17,7 +17,6 @@
 #include "editor/controls/value_box.h"
 #include "editor/controls/value_slider.h"
 #include "editor/pages/parameter_help.h"
-#include "editor/toolkit/table_text.h"
 #include "editor/toolkit/tool_tip.h"
 #include "game/skill_mix.h"
 #include "game/skill_names.h"
@@ -28,7 +27,7 @@ namespace {
 /// The text of a row of the grid out of texts that are taken in turn.
 QString TextOfRow(std::span<const std::string_view> texts, int row) {
   if (texts.empty()) return {};
-  return TableText(texts[static_cast<std::size_t>(row) % texts.size()]);
+  return QString::fromUtf8(texts[static_cast<std::size_t>(row) % texts.size()]);
 }
 
 /// Rows with headings in turn belong together.
@@ -58,7 +57,7 @@ void SetHelp(const ControlRow& row, ValueControl& control) {
         QStringLiteral("Skill level %1, \"%2\". The game mixes the levels "
                        "between.")
             .arg(level)
-            .arg(TableText(
+            .arg(QString::fromUtf8(
                 kSkillNames.at(static_cast<std::size_t>(level - 1)))));
   }
 }
@@ -74,7 +73,7 @@ ParameterPage::ParameterPage(const PageRow& page, CurrentBot& current,
               return;
             }
             if (const auto parameter = ParameterOf(now)) {
-              picture_->Show(parameter->index());
+              picture_->Show(*parameter);
             }
           });
 }
@@ -82,7 +81,7 @@ ParameterPage::ParameterPage(const PageRow& page, CurrentBot& current,
 bool ParameterPage::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::Enter) {
     if (const auto* const control = qobject_cast<ValueControl*>(watched)) {
-      picture_->Show(control->Index());
+      picture_->Show(ParameterAt(control->Index()));
     }
   }
   return ScrollingPage::eventFilter(watched, event);
@@ -155,7 +154,7 @@ QWidget* ParameterPage::MakeScaleSelector(int number) {
 }
 
 QGroupBox* ParameterPage::MakeFrame(const FrameRow& frame) {
-  auto* const box = new QGroupBox(TableText(frame.caption));
+  auto* const box = new QGroupBox(QString::fromUtf8(frame.caption));
   auto* const grid = new QGridLayout(box);
   grid->setHorizontalSpacing(fontMetrics().averageCharWidth() * 2);
   // Behind each row there is an empty one; those that part the rows grow.
@@ -176,12 +175,12 @@ QGroupBox* ParameterPage::MakeFrame(const FrameRow& frame) {
     const int row = index / frame.columns;
     const int column = index % frame.columns;
     ValueControl* const control = MakeControl(entry);
-    control->SetSpokenName(TableText(CharacteristicName(entry.index)));
+    control->SetSpokenName(QString::fromUtf8(ParameterName(entry.Id())));
     SetHelp(entry, *control);
-    if (!IsReadByGame(entry.index)) {
+    if (!IsReadByGame(entry.Id())) {
       control->SetQuiet(QStringLiteral("not read by the game"));
     }
-    if (!IsReadByGame(entry.index) && control->NeedMark() != nullptr) {
+    if (!IsReadByGame(entry.Id()) && control->NeedMark() != nullptr) {
       MarkText never_read;
       never_read.Add(Severity::kHint,
                      QStringLiteral("The game never reads this."));
@@ -214,7 +213,7 @@ ValueControl* ParameterPage::MakeControl(const ControlRow& row) {
   for (ValueSlider* const slider : control->findChildren<ValueSlider*>()) {
     connect(slider, &QSlider::sliderReleased, &current_, &CurrentBot::EndStep);
     std::vector<double> marks;
-    for (const Threshold& threshold : ThresholdsOf(row.index)) {
+    for (const Threshold& threshold : ThresholdsOf(row.Id())) {
       marks.push_back(threshold.value);
     }
     slider->SetMarks(std::move(marks));
@@ -242,9 +241,9 @@ ThreeSlider* ParameterPage::MakeThreeSlider(const ControlRow& row) {
   control->SetOptional(row.is_optional);
   control->SetMode(row.linking);
   connect(control, &ThreeSlider::Changed, this,
-          [this, control](int index, Level level, double value) {
-            current_.SetParameter(ParameterId(level, index), value,
-                                  ParameterId(control->MovingLevel(), index));
+          [this, control](ParameterId parameter, double value) {
+            current_.SetParameter(parameter, value,
+                                  parameter.At(control->MovingLevel()));
           });
   three_sliders_.push_back({&row, control});
   return control;
@@ -253,9 +252,10 @@ ThreeSlider* ParameterPage::MakeThreeSlider(const ControlRow& row) {
 OneSlider* ParameterPage::MakeOneSlider(const ControlRow& row) {
   auto* const control = new OneSlider;
   control->setObjectName(QStringLiteral("osBotPara_%1").arg(row.index));
-  connect(control, &OneSlider::Changed, this, [this](int index, double value) {
-    current_.SetParameter(ParameterId(index), value);
-  });
+  connect(control, &OneSlider::Changed, this,
+          [this](ParameterId parameter, double value) {
+            current_.SetParameter(parameter, value);
+          });
   one_sliders_.push_back({&row, control});
   return control;
 }

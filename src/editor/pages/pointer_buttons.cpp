@@ -13,14 +13,16 @@ PointerButtons::PointerButtons(QWidget* parent) : QWidget(parent) {
   row->setContentsMargins(0, 0, 0, 0);
   for (std::size_t pointer = 0; pointer < buttons_.size(); ++pointer) {
     const ChatPointer& entry = kChatPointers.at(pointer);
-    auto* const button = new QPushButton(TableText(entry.button_caption), this);
+    auto* const button =
+        new QPushButton(QString::fromUtf8(entry.button_caption), this);
     button->setObjectName(QStringLiteral("cmdPointer_%1").arg(pointer));
     button->setAccessibleName(
-        QStringLiteral("Insert %1").arg(TableText(entry.button_caption)));
+        QStringLiteral("Insert %1")
+            .arg(QString::fromUtf8(entry.button_caption)));
     button->hide();
     row->addWidget(button);
     connect(button, &QPushButton::clicked, this,
-            [this, &entry] { emit Chosen(TableText(entry.Variable)); });
+            [this, &entry] { emit Chosen(QString::fromUtf8(entry.Variable)); });
     buttons_.at(pointer) = button;
   }
   row->addStretch(1);
@@ -37,7 +39,7 @@ void PointerButtons::ShowType(std::optional<ChatTypeId> type) {
     button->setAccessibleDescription(help);
     // Greyed, but still there to be pressed by who knows better.
     const bool is_filled =
-        WhyNotFilled(*type, TableText(ChatPointerAt(pointer).Variable))
+        WhyNotFilled(*type, QString::fromUtf8(ChatPointerAt(pointer).Variable))
             .isEmpty();
     QPalette colors;
     if (!is_filled) {

@@ -10,7 +10,6 @@
 #include "editor/pages/chat_help.h"
 #include "editor/toolkit/game_text_conversion.h"
 #include "editor/toolkit/page_table.h"
-#include "editor/toolkit/table_text.h"
 #include "editor/toolkit/tool_tip.h"
 #include "game/chat_type_facts.h"
 #include "game/limits.h"
@@ -117,7 +116,7 @@ void SpokenPreview::SayAnother() {
 
 void SpokenPreview::ShowWhen(const Bot& bot) {
   const ChatTypeFacts& facts = FactsOfChatType(type_);
-  QString text = TableText(WhenText(facts));
+  QString text = QString::fromUtf8(WhenText(facts));
   if (facts.is_heard && facts.chance) {
     const double chance =
         std::clamp(ToNumber(bot.Parameter(*facts.chance)).value_or(0), 0.0,
@@ -125,7 +124,7 @@ void SpokenPreview::ShowWhen(const Bot& bot) {
         facts.chance_factor;
     text += tr(" Chance: %1 % (%2).")
                 .arg(QString::number(chance * 100, 'f', 0),
-                     TableText(ParameterName(*facts.chance)));
+                     QString::fromUtf8(ParameterName(*facts.chance)));
   }
   const QString variables = ChatVariables(type_);
   if (!variables.isEmpty()) text += u'\n' + variables + u'.';

@@ -13,10 +13,6 @@
 namespace fragsmith {
 namespace {
 
-QString Utf8(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 /// "2 errors", "1 hint"; nothing for none.
 void AddCount(QStringList& counts, qsizetype count, const char* word) {
   if (count == 0) return;
@@ -151,7 +147,8 @@ void FindingsDock::MendOrAsk(const Finding& finding) {
   menu->setAttribute(Qt::WA_DeleteOnClose);
   for (const Mend& mend : finding.mends) {
     connect(
-        menu->addAction(Utf8(mend.title).replace(u'&', QLatin1String("&&"))),
+        menu->addAction(
+            QString::fromUtf8(mend.title).replace(u'&', QLatin1String("&&"))),
         &QAction::triggered, this,
         [this, place = finding.place, mend] { emit MendWanted(place, mend); });
   }

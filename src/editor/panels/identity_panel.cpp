@@ -17,7 +17,6 @@
 #include "editor/controls/captioned_field.h"
 #include "editor/toolkit/code_page_validator.h"
 #include "editor/toolkit/game_text_conversion.h"
-#include "editor/toolkit/table_text.h"
 #include "editor/toolkit/undo_keys.h"
 #include "editor/toolkit/wheel_guard.h"
 #include "game/limits.h"
@@ -134,7 +133,7 @@ QWidget* IdentityPanel::ArenaLordField() {
 QLineEdit* IdentityPanel::AddBox(ParameterId field) {
   auto* const box = new QLineEdit(this);
   box->setObjectName(QStringLiteral("txtBotPara_%1").arg(field.index()));
-  box->setAccessibleName(TableText(ParameterName(field)));
+  box->setAccessibleName(QString::fromUtf8(ParameterName(field)));
   box->setValidator(new CodePageValidator(box));
   box->installEventFilter(this);
   LeaveUndoToWindow(*box, UndoOfBox::kWhileModified);
@@ -238,7 +237,7 @@ QWidget* IdentityPanel::RailField() {
   rail_ = new QComboBox(this);
   IgnoreWheelWithoutFocus(*rail_);
   rail_->setObjectName(QStringLiteral("cmbRail"));
-  rail_->setAccessibleName(TableText(ParameterName(kRailColorField)));
+  rail_->setAccessibleName(QString::fromUtf8(ParameterName(kRailColorField)));
   rail_->setToolTip(
       QStringLiteral("Written as \"color\". The game reads color1 instead and "
                      "keeps its red trail."));

@@ -4,8 +4,6 @@
 #include <utility>
 #include <vector>
 
-#include "botfiles/left_out.h"
-
 namespace fragsmith {
 
 ListBar::ListBar(const QString& name, QWidget* parent)
@@ -61,7 +59,7 @@ void ListBar::Fill(const Notes& notes) {
   std::vector<QString> others;
   for (const Note& note : notes.list()) {
     QString text = QString::fromStdString(Describe(note));
-    if (note.text.starts_with(kAlsoInFile)) {
+    if (note.kind == NoteKind::kAlsoInFile) {
       others.push_back(std::move(text));
     } else {
       list_->addItem(text);

@@ -9,7 +9,6 @@
 #include <algorithm>
 #include <array>
 
-#include "editor/toolkit/table_text.h"
 #include "support/files.h"
 
 namespace fragsmith {
@@ -158,9 +157,11 @@ void WelcomePage::MakeKinds(QVBoxLayout& column) {
   for (std::size_t at = 0; at < kBotKinds.size(); ++at) {
     const BotKind kind = kBotKinds.at(at);
     const BotKindText& text = TextOf(kind);
-    auto* const card = new CardButton(kIcons.at(at), TableText(text.caption),
-                                      TableText(text.about));
-    card->setObjectName(QStringLiteral("cmdKind_") + TableText(text.key));
+    auto* const card =
+        new CardButton(kIcons.at(at), QString::fromUtf8(text.caption),
+                       QString::fromUtf8(text.about));
+    card->setObjectName(QStringLiteral("cmdKind_") +
+                        QString::fromUtf8(text.key));
     connect(card, &QAbstractButton::clicked, this,
             [this, kind] { emit KindChosen(kind); });
     kind_buttons_.push_back(card);

@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "chat/vocabulary.h"
-#include "editor/toolkit/table_text.h"
 
 namespace fragsmith {
 namespace {
@@ -132,7 +131,7 @@ bool CurrentBot::SetParameter(ParameterId id, const Value& value,
     SetChanged(true);
     return true;
   }
-  const EditName name = {.text = TableText(ParameterTitle(leader)),
+  const EditName name = {.text = QString::fromUtf8(ParameterTitle(leader)),
                          .place = leader,
                          .merges = true};
   is_touched_ = before == state_;

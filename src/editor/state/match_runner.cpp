@@ -2,17 +2,12 @@
 
 #include <QGuiApplication>
 #include <algorithm>
-#include <cstdlib>
 #include <utility>
 
 namespace fragsmith {
 namespace {
 
 constexpr int kStepMilliseconds = 20;
-
-/// Whose engines are to end when the program does. That may come by a way on
-/// which nobody is asked, as when the screen goes away.
-MatchRunner* open_runner = nullptr;
 
 }  // namespace
 
@@ -39,16 +34,7 @@ MatchRunner::MatchRunner(QObject* parent) : QObject(parent) {
   timer_.setInterval(kStepMilliseconds);
   connect(&timer_, &QTimer::timeout, this, &MatchRunner::Step);
   connect(qApp, &QGuiApplication::commitDataRequest, this, &MatchRunner::Stop);
-  open_runner = this;
-  static const bool kIsRegistered = std::atexit([] {
-                                      if (open_runner != nullptr) {
-                                        open_runner->run_.reset();
-                                      }
-                                    }) == 0;
-  static_cast<void>(kIsRegistered);  // It is there for its making alone.
 }
-
-MatchRunner::~MatchRunner() { open_runner = nullptr; }
 
 void MatchRunner::Start(MatchSession& session, MatchServer server, int jobs) {
   session_ = &session;

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "editor/toolkit/program_end.h"
 #include "model/bot.h"
 #include "trial/match_report.h"
 #include "trial/match_run.h"
@@ -46,7 +47,6 @@ class MatchRunner : public QObject, private MatchRunListener {
 
  public:
   explicit MatchRunner(QObject* parent);
-  ~MatchRunner() override;
 
   /// The session outlives the run.
   void Start(MatchSession& session, MatchServer server, int jobs);
@@ -76,6 +76,7 @@ class MatchRunner : public QObject, private MatchRunListener {
 
   QTimer timer_;
   std::optional<MatchRun> run_;
+  AtProgramEnd at_program_end_{[this] { run_.reset(); }};
   MatchSession* session_ = nullptr;
   std::size_t in_play_ = 0;
   int minute_ = 1;

@@ -9,7 +9,6 @@
 #include <string_view>
 
 #include "chat/vocabulary.h"
-#include "editor/toolkit/table_text.h"
 #include "model/characteristic_catalogue.h"
 #include "model/level_linking.h"
 #include "model/value_scale.h"
@@ -29,6 +28,7 @@ struct ControlRow {
 
   constexpr bool IsEmptyPlace() const { return index == 0; }
   constexpr bool HasLevels() const { return kPerLevelRange.Contains(index); }
+  constexpr ParameterId Id() const { return ParameterAt(index); }
   /// True when the scale selector of its page sets its maximum.
   constexpr bool IsRescaled() const { return max == kWeightMaxima[0]; }
 };
@@ -188,7 +188,7 @@ static_assert([] {
 inline QString CaptionText(const ControlRow& control, int max) {
   const std::string_view caption = ParameterCaption(control.index);
   if (caption.empty()) return {};
-  return TableText(caption) + QStringLiteral(" (0-%1)").arg(max);
+  return QString::fromUtf8(caption) + QStringLiteral(" (0-%1)").arg(max);
 }
 
 }  // namespace fragsmith
