@@ -11,11 +11,6 @@
 namespace fragsmith {
 namespace {
 
-bool IsBlank(char letter) {
-  const auto byte = static_cast<unsigned char>(letter);
-  return byte <= ' ' || byte >= 128;
-}
-
 /// Takes words apart as the game does in all files but the .c ones: up to a
 /// blank, or between quotes without escapes.
 class WordReader {
@@ -62,7 +57,7 @@ class WordReader {
     while (offset_ < bytes_.size()) {
       const std::string_view rest = bytes_.substr(offset_);
       std::size_t length = 0;
-      if (IsBlank(rest[0])) {
+      if (IsGameBlank(rest[0])) {
         length = 1;
       } else if (rest.starts_with("//")) {
         length = std::min(rest.find('\n'), rest.size());
@@ -322,7 +317,7 @@ int DescriptionSet::Line(std::string_view key) const {
 }
 
 std::string_view UnquotedWord(std::string_view text) {
-  const auto* const end = std::ranges::find_if(text, IsBlank);
+  const auto* const end = std::ranges::find_if(text, IsGameBlank);
   return text.substr(0, static_cast<std::size_t>(end - text.begin()));
 }
 
