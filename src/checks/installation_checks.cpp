@@ -15,9 +15,11 @@
 namespace fragsmith {
 namespace {
 
-bool IsStandardBot(const std::string& name) {
+/// Only where no game is known, as others than the original have other bots.
+bool IsStandardBot(const CheckContext& context, const std::string& name) {
   static const BotList kStandard = BotList::Standard();
-  return kStandard.Find(name).has_value();
+  return (context.game == nullptr || context.game->known_bots.empty()) &&
+         kStandard.Find(name).has_value();
 }
 
 }  // namespace
@@ -42,7 +44,7 @@ void CheckNameIsTaken(const CheckContext& context, FindingList& findings) {
     // A description of this very bot that is called otherwise than we do.
     if (EqualIgnoringCase(winner->character, "bots/" + name + "_c.c")) return;
     findings.Add(kNameField, NameTakenText(name, ShownPlace(*winner)));
-  } else if (winner != nullptr || IsStandardBot(name)) {
+  } else if (winner != nullptr || IsStandardBot(context, name)) {
     findings.Add(kNameField,
                  "The game has a bot " + Quoted(name) +
                      " of its own and keeps that one: this bot will not "
