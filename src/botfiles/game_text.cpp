@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "botfiles/value_format.h"
+#include "support/game_blank.h"
 #include "support/numbers.h"
 #include "support/text.h"
 

@@ -7,6 +7,7 @@
 #include "botfiles/value_format.h"
 #include "model/characteristic_catalogue.h"
 #include "support/code_page.h"
+#include "support/game_blank.h"
 #include "support/numbers.h"
 #include "support/text.h"
 

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "game/limits.h"
+#include "support/game_blank.h"
 #include "support/text.h"
 
 namespace fragsmith {

@@ -5,7 +5,7 @@
 #include <charconv>
 
 #include "game/limits.h"
-#include "support/text.h"
+#include "support/game_blank.h"
 
 namespace fragsmith {
 namespace {

@@ -7,6 +7,7 @@
 #include "chat/chat_line.h"
 #include "game/limits.h"
 #include "game/plain_letters.h"
+#include "support/game_blank.h"
 #include "support/text.h"
 
 namespace fragsmith {

@@ -10,6 +10,7 @@
 #include "game/limits.h"
 #include "inplace/attempt.h"
 #include "session/identity_rules.h"
+#include "support/game_blank.h"
 #include "support/text.h"
 
 namespace fragsmith {

@@ -64,15 +64,6 @@ std::string_view TrimBlanksAndTabs(std::string_view text) {
               [](char letter) { return letter == ' ' || letter == '\t'; });
 }
 
-bool IsGameBlank(char letter) {
-  const auto byte = static_cast<unsigned char>(letter);
-  return byte <= ' ' || byte >= 128;
-}
-
-std::string_view TrimGameBlanks(std::string_view text) {
-  return Trim(text, IsGameBlank);
-}
-
 char ToLower(char letter) { return kLower[static_cast<unsigned char>(letter)]; }
 
 char ToUpper(char letter) { return kUpper[static_cast<unsigned char>(letter)]; }

@@ -23,11 +23,6 @@ std::string RemoveBlanks(std::string_view text);
 std::string_view TrimBlanks(std::string_view text);
 std::string_view TrimBlanksAndTabs(std::string_view text);
 
-/// What the game passes over between words. Bytes are signed in the games that
-/// people play, so those from 128 on count as blanks as well.
-bool IsGameBlank(char letter);
-std::string_view TrimGameBlanks(std::string_view text);
-
 /// Case by the letter pairs of Windows-1252 (Ä and ä, Š and š, Ÿ and ÿ).
 char ToLower(char letter);
 char ToUpper(char letter);
