@@ -194,6 +194,18 @@ Fault UnknownKey(const GameToken& key, const GameToken& last,
                     " Write its key in front of it, or remove it."};
 }
 
+std::string TwoNumbersText(const GameToken& value, const GameToken& behind) {
+  const std::string whole = value.text + behind.text;
+  std::string text = "The game finds " + Quoted(behind.text);
+  text += " behind the value " + Quoted(value.text);
+  text += kBlockIsLost;
+  text += " Each key has one number";
+  return text + (std::ranges::count(whole, '.') > 1
+                     ? ": remove one of them."
+                     : ", without a blank inside: write " + whole +
+                           ", or remove one of them.");
+}
+
 std::string BadValueText(const GameToken& value) {
   const std::string lost(kBlockIsLost);
   if (value.kind == GameToken::Kind::kLiteral) {

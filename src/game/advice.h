@@ -33,6 +33,9 @@ struct Fault {
 Fault UnknownKey(const GameToken& key, const GameToken& last,
                  std::string_view line, const CharacterBlock& block);
 
+/// What to say of a number that stands behind the one that is a key's value.
+std::string TwoNumbersText(const GameToken& value, const GameToken& behind);
+
 /// What to say of a word that stands where the value of a key should.
 std::string BadValueText(const GameToken& value);
 

@@ -350,6 +350,9 @@ TEST(CheckFiles, SaysWhatToDo) {
       // The number that was meant.
       {"c", "TIME 0.5", "TIME 0,9", "number \"0,9\" and"},
       {"c", "TIME 0.5", "TIME 0,9", "Write 0.9."},
+      {"c", "ATTACK_SKILL 0.5", "ATTACK_SKILL 0. 5", "write 0.5, or"},
+      {"c", "TIME 0.5", "TIME 2 40", "write 240, or"},
+      {"c", "TIME 0.5", "TIME 0.2 0.5", "remove one of them."},
       {"c", "TIME 0.5", "TIME 9e-1;", "Write 0.9."},
       {"c", "TIME 0.5", "TIME 0.9f // fast", "Write 0.9."},
       {"c", "TIME 0.5", "TIME 0.5 /* a /* b */ c */",
