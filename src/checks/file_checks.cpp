@@ -189,9 +189,17 @@ class FileChecker {
   std::string ConsequenceOf(const Cause& cause) const {
     std::string text;
     const std::optional<DescriptionSet>& set = reader_.description();
+    // A path that goes on to the end of the file is that of no file.
     if (cause.complaint.id == "description-quote" && set &&
-        !set->Text("aifile").empty()) {
-      return " The game adds the bot, but it may be with those files.";
+        cause.complaint.key != "aifile") {
+      return set->Text("aifile").empty()
+                 ? " The game adds the bot with another bot's files, or not at "
+                   "all."
+                 : " The game adds the bot, but it may be with those files.";
+    }
+    if (cause.complaint.id == "other-character") {
+      return " The game adds the bot, but with the character and the files of "
+             "that one.";
     }
     for (const auto& [verdict, skills] : cause.skills) {
       const bool is_refused = verdict == Verdict::kRefused;

@@ -347,6 +347,9 @@ TEST(CheckFiles, SaysWhatToDo) {
        "Remove the quotation marks inside the text"},
       {"bot", "$$", "funname \"Big\n}",
        "The game adds the bot, but it may be with those files."},
+      {"bot", "model", "funname \"Big\nmodel", "another bot's files, or not"},
+      {"bot", "aifile\t", "aifile\t\"", "The game does not add the bot."},
+      {"bot", "bots/x_c.c", "bots/sarge_c.c", "and the files of that one."},
       // The number that was meant.
       {"c", "TIME 0.5", "TIME 0,9", "number \"0,9\" and"},
       {"c", "TIME 0.5", "TIME 0,9", "Write 0.9."},
