@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <utility>
 
+#include "game/file_faults.h"
 #include "game/limits.h"
 #include "support/game_blank.h"
 #include "support/text.h"
@@ -145,11 +146,15 @@ class SetReader {
                  last_key_);
         told_line_ = line_;
       } else if (is_stray && told_line_ != line_) {
-        Complain("description-more-words", Severity::kWarning,
-                 "Of " + Quoted(last_key_) + " the game reads only " +
-                     Quoted(last_value_) + ", and takes " + Quoted(key) +
-                     " behind it for a key. Put a text of several words in "
-                     "quotation marks.",
+        const std::string_view curly =
+            AdviceForCurlyQuotes(LineOfFile(file_.bytes, line_));
+        std::string text = "Of " + Quoted(last_key_);
+        text += " the game reads only " + Quoted(last_value_);
+        text += ", and takes " + Quoted(key) + " behind it for a key.";
+        text += curly.empty()
+                    ? " Put a text of several words in quotation marks."
+                    : curly;
+        Complain("description-more-words", Severity::kWarning, std::move(text),
                  last_key_);
       }
       ReadValue(key, is_stray);

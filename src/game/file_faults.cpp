@@ -137,7 +137,7 @@ std::string_view AdviceForOpenText(std::string_view line) {
          "write ', since the game never shows a \".";
 }
 
-std::string_view AdviceForLine(std::string_view line) {
+std::string_view AdviceForCurlyQuotes(std::string_view line) {
   // In UTF-8 and in Windows-1252.
   const bool is_curly = Contains(line, "\xE2\x80\x9C") ||
                         Contains(line, "\xE2\x80\x9D") ||
@@ -145,6 +145,14 @@ std::string_view AdviceForLine(std::string_view line) {
   if (is_curly) {
     return " There are curly quotation marks (\xE2\x80\x9C \xE2\x80\x9D) in "
            "this line, which the game does not see. Type straight ones (\").";
+  }
+  return {};
+}
+
+std::string_view AdviceForLine(std::string_view line) {
+  if (const std::string_view advice = AdviceForCurlyQuotes(line);
+      !advice.empty()) {
+    return advice;
   }
   const std::size_t comment = line.find("/*");
   const std::size_t end = line.find("*/");

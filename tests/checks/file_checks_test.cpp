@@ -345,11 +345,14 @@ TEST(CheckFiles, SaysWhatToDo) {
       {"t", "\"bye\";", "\"bye;\nHELLO1;", "Close the text on the same line"},
       {"bot", "model", "funname \"The \"Great\"\"\nmodel",
        "Remove the quotation marks inside the text"},
+      {"bot", "model",
+       "funname \xE2\x80\x9C"
+       "Big Bad\xE2\x80\x9D\nmodel",
+       "behind it for a key. There are curly quotation marks"},
       {"bot", "$$", "funname \"Big\n}",
        "The game adds the bot, but it may be with those files."},
       {"bot", "model", "funname \"Big\nmodel", "another bot's files, or not"},
       {"bot", "aifile\t", "aifile\t\"", "The game does not add the bot."},
-      {"bot", "bots/x_c.c", "bots/sarge_c.c", "and the files of that one."},
       // The number that was meant.
       {"c", "TIME 0.5", "TIME 0,9", "number \"0,9\" and"},
       {"c", "TIME 0.5", "TIME 0,9", "Write 0.9."},
@@ -440,6 +443,8 @@ TEST(CheckFiles, PicksTheBotOfTheDescriptionThatIsMeant) {
   const BotFileSet set = FileSetOf(files, "x");
   EXPECT_EQ(Verdicts(set), "RRRR");
   EXPECT_THAT(Found(set), Contains("x.bot:3: error other-character"));
+  EXPECT_THAT(CheckFiles(set, StandInGameFile).front().text,
+              HasSubstr("with the character and the files of that one."));
 }
 
 TEST(CheckFiles, TellsSwappedWeightsOnce) {
