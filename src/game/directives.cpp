@@ -233,6 +233,13 @@ bool GameSource::Define() {
                " is defined by itself; the game leaves that out of its value. "
                "Write its value in its place.");
     } else {
+      // The end of an included file is no end of its last line.
+      if (macro.name.file != 0 && token.file == 0) {
+        Complain("include-with-more", token,
+                 "The game takes " + Quoted(token.text) +
+                     " behind the name of the included file for a part of "
+                     "that file's last line. Remove it.");
+      }
       ReportOddity(token);
       macro.body.push_back(token);
     }

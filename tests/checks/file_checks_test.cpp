@@ -360,6 +360,7 @@ TEST(CheckFiles, SaysWhatToDo) {
       {"c", "TIME 0.5", "TIME 2 40", "write 240, or"},
       {"c", "TIME 0.5", "TIME 0.2 0.5", "remove one of them."},
       {"c", "TIME 0.5", "TIME 9e-1;", "Write 0.9."},
+      {"c", "chars.h\"", "chars.h\";", "\";\" behind the name of"},
       {"c", "TIME 0.5", "TIME 0.9f // fast", "Write 0.9."},
       {"c", "TIME 0.5", "TIME 0.5 /* a /* b */ c */",
        "Remove the comment inside it."},
