@@ -1,6 +1,7 @@
 #include "game/character_reader.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 #include "game/advice.h"
@@ -49,7 +50,18 @@ class BlockFaults {
     if (!in_number_ && (value.Is("}") || value.Is("skill"))) {
       return TellNoValue(without_value_.value_or(key));
     }
-    Tell("bad-value", value, BadValueText(value));
+    constexpr std::array kTexts = {0,
+                                   1,
+                                   kGameWeaponWeights,
+                                   kGameChatFile,
+                                   kGameChatName,
+                                   kGameItemWeights};
+    const bool is_number_wanted =
+        !std::ranges::count(kTexts, static_cast<int>(key.number));
+    Tell("bad-value", value,
+         BadValueText(value, is_number_wanted,
+                      value.file == 0 ? source_.bytes().substr(value.span.begin)
+                                      : std::string_view(value.text)));
   }
 
  private:
@@ -169,7 +181,7 @@ std::optional<CharacterBlock> ReadCharacterBlock(const GameFile& file,
                       "The game finds " + Quoted(token.text) +
                           " outside a skill block and reads no further. Here "
                           "it expects skill, a number and {." +
-                          AdviceForStray(token, "skill"));
+                          AdviceForStray(token, "skill", source.bytes()));
       return std::nullopt;
     }
     const int line = token.file == 0 ? token.line : 0;
