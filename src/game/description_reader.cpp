@@ -175,8 +175,28 @@ class SetReader {
     told_line_ = line_;
   }
 
+  /// Without a brace between two bots, or with two names for one.
+  void TellSecondName() {
+    line_ = second_name_line_;
+    if (has_two_files_) {
+      Complain(kBotsMerged, Severity::kError,
+               "The } and the { between two bots are missing above this line, "
+               "so the game makes one bot of two and does not know " +
+                   Quoted(lost_name_) + ". Write } and { above this line.");
+    } else {
+      Complain("name-twice", Severity::kWarning,
+               "The bot has a second name here: the game takes the last and "
+               "does not know " +
+                   Quoted(lost_name_) + ". Remove one of the lines.",
+               "name");
+    }
+  }
+
   void TellBrace() {
-    if (brace_.empty()) return;
+    if (brace_.empty()) {
+      if (!lost_name_.empty()) TellSecondName();
+      return;
+    }
     const std::string begin =
         "the bot that begins in line " + std::to_string(set_.line);
     line_ = brace_line_;
@@ -289,9 +309,13 @@ class SetReader {
     last_value_ = value;
     size_ += key.size() + value.size() + 2;
     const bool is_too_long = size_ > limits::kMaxDescription;
-    if (EqualIgnoringCase(key, "name") && !brace_.empty()) {
+    if (EqualIgnoringCase(key, "name") &&
+        !EqualIgnoringCase(set_.Text("name"), value) && lost_name_.empty()) {
       lost_name_ = set_.Text("name");
+      second_name_line_ = line_;
     }
+    has_two_files_ = has_two_files_ || (EqualIgnoringCase(key, "aifile") &&
+                                        !set_.Text("aifile").empty());
     if (!is_too_long && !IsThrownAway(key) && !IsThrownAway(value)) {
       set_.values[ToLower(key)] = {std::move(value), line_, span};
       return;
@@ -322,6 +346,8 @@ class SetReader {
   std::string brace_;  ///< The first where a key should stand.
   int brace_line_ = 0;
   std::string lost_name_;  ///< Of a bot that another one swallows.
+  int second_name_line_ = 0;
+  bool has_two_files_ = false;
 };
 
 }  // namespace
