@@ -8,6 +8,8 @@
 
 #include "checks/bot_reader.h"
 #include "checks/character_file_checks.h"
+#include "checks/identity_checks.h"
+#include "game/game_path.h"
 #include "support/code_page.h"
 #include "support/text.h"
 
@@ -147,6 +149,13 @@ class FileChecker {
     const int line = set.Line("name");
     RaiseLostName({file, line});
     if (findings().IsTold({file, line})) return;
+    // That of the files is looked at in memory.
+    std::string for_menus = NameForMenusText(name);
+    if (!for_menus.empty() && files_.character &&
+        !EqualIgnoringCase(name, BotOfPath(files_.character->game_path))) {
+      Add("name-too-long-for-menus", Severity::kWarning, file, line,
+          std::move(for_menus));
+    }
     if (name.find_first_of(" \t") != std::string::npos) {
       Add("name-with-blank", Severity::kWarning, file, line,
           "The name " + Quoted(name) +

@@ -388,6 +388,7 @@ TEST(CheckFiles, SaysWhatToDo) {
       {"bot", "$$", "},", "Write } and a blank behind it."},
       {"bot", "$$", "name Rook\naifile bots/botx_c.c\n}",
        "does not know \"x\". Write } and { above this line."},
+      {"bot", "name\tbotx", "name abcdefghijklmnop", "menu of a skirmish can"},
       {"bot", "model", "name Rook\nmodel", "does not know \"x\". Remove one"},
       {"bot", "", "{\nname botx\n}\n",
        "twice in this file, here and in line 4"},
