@@ -272,8 +272,8 @@ bool BotReader::Weights(const std::string& path, bool are_weapons,
   });
   place->second = read.is_loaded;
   if (!value.is_own) return read.is_loaded;
-  const std::optional<Complaint> of_kind =
-      FaultOfKind(*file, read, are_weapons);
+  const std::optional<Complaint> of_kind = FaultOfKind(
+      *file, read, are_weapons, {.file = CharacterName(), .line = value.line});
   if (!read.is_loaded) {
     if (of_kind) complaints_.ReplaceError(first, *of_kind);
     return false;

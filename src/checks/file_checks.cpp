@@ -9,6 +9,7 @@
 #include "checks/bot_reader.h"
 #include "checks/character_file_checks.h"
 #include "checks/identity_checks.h"
+#include "checks/weight_kind.h"
 #include "game/game_path.h"
 #include "support/code_page.h"
 #include "support/text.h"
@@ -94,7 +95,7 @@ class FileChecker {
           const bool is_of_description =
               files_.description && one.place.file == files_.description->name;
           return one.severity == Severity::kError &&
-                 !(is_known && is_of_description);
+                 !(is_known && is_of_description && one.id != kNotACharacter);
         });
     if (found == list.end()) return;  // It is not known.
     auto cause =
@@ -190,7 +191,8 @@ class FileChecker {
 
   bool IsCauseIn(const GameFile& file) const {
     return std::ranges::any_of(causes_, [&file](const Cause& cause) {
-      return cause.complaint.place.file == file.name;
+      return cause.complaint.place.file == file.name ||
+             cause.complaint.id == kNotACharacter;
     });
   }
 

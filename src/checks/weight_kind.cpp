@@ -1,10 +1,12 @@
 #include "checks/weight_kind.h"
 
+#include <algorithm>
 #include <array>
 #include <string>
 #include <string_view>
 #include <utility>
 
+#include "botfiles/game_text.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -33,8 +35,8 @@ std::optional<std::pair<std::size_t, int>> FindInclude(
 }  // namespace
 
 std::optional<Complaint> FaultOfKind(const GameFile& file,
-                                     const WeightsRead& read,
-                                     bool are_weapons) {
+                                     const WeightsRead& read, bool are_weapons,
+                                     const FilePlace& named_at) {
   const auto& own = are_weapons ? kWeaponCode : kItemCode;
   const auto& other = are_weapons ? kItemCode : kWeaponCode;
   const bool has_other_weights = read.missing_macro.empty();
@@ -55,11 +57,20 @@ std::optional<Complaint> FaultOfKind(const GameFile& file,
                  std::string(own.at(included->first)) + "\".";
     return fault;
   }
-  std::string path = file.game_path;
   const std::string_view end = are_weapons ? "_w.c" : "_i.c";
+  const std::string_view other_end = are_weapons ? "_i.c" : "_w.c";
+  std::string path = file.game_path;
+  if (EndsWithIgnoringCase(path, other_end)) {
+    path.replace(path.size() - end.size(), end.size(), end);
+    fault.place = named_at;
+    fault.text = "This line names " + Quoted(file.game_path) +
+                 " for the weights of " + own_kind +
+                 ", and that file has none but those of " + other_kind +
+                 ". Write " + Quoted(path) + " in each skill block.";
+    return fault;
+  }
   if (EndsWithIgnoringCase(path, end)) {
-    path.replace(path.size() - end.size(), end.size(),
-                 are_weapons ? "_i.c" : "_w.c");
+    path.replace(path.size() - end.size(), end.size(), other_end);
   }
   fault.text = "The game takes the weights of " + own_kind +
                " out of this file, and it has none but those of " + other_kind +
@@ -67,6 +78,45 @@ std::optional<Complaint> FaultOfKind(const GameFile& file,
                " have been swapped, exchange their names; if not, write "
                "#include \"" +
                std::string(own.at(included->first)) + "\" here.";
+  return fault;
+}
+
+std::optional<Complaint> FaultOfCharacter(const GameFile& file,
+                                          const FilePlace& named_at) {
+  Complaint fault = {.id = kNotACharacter,
+                     .severity = Severity::kError,
+                     .place = {.file = file.name, .line = 0},
+                     .text = {}};
+  std::string_view held;
+  LineReader lines(file.bytes);
+  while (const std::optional<std::string_view> line = lines.Next()) {
+    std::string_view rest = *line;
+    const std::string_view word = TakeWord(rest);
+    if (word == "skill") return std::nullopt;
+    if (!held.empty() || (word != "chat" && word != "#define")) continue;
+    held = word == "chat" ? "chats" : "weights";
+    fault.place.line = static_cast<int>(lines.number());
+  }
+  if (held.empty()) return std::nullopt;
+  std::string path = file.game_path;
+  constexpr std::array<std::string_view, 3> kOtherEnds = {"_w.c", "_i.c",
+                                                          "_t.c"};
+  const bool is_other =
+      std::ranges::any_of(kOtherEnds, [&path](std::string_view end) {
+        return EndsWithIgnoringCase(path, end);
+      });
+  if (is_other) {
+    path[path.size() - 3] = 'c';
+    fault.place = named_at;
+    fault.text = "This line names " + Quoted(file.game_path) +
+                 ", which holds " + std::string(held) +
+                 " and not the bot's character. Write " + Quoted(path) + ".";
+  } else {
+    fault.text = "This file holds " + std::string(held) +
+                 ", but the game looks in it for the bot's character, the "
+                 "blocks skill 1, skill 4 and skill 5. Put the bot's own "
+                 "character file in its place.";
+  }
   return fault;
 }
 

@@ -388,6 +388,9 @@ TEST(CheckFiles, SaysWhatToDo) {
       {"bot", "$$", "},", "Write } and a blank behind it."},
       {"bot", "$$", "name Rook\naifile bots/botx_c.c\n}",
        "does not know \"x\". Write } and { above this line."},
+      // A file in the place of another.
+      {"bot", "botx_c.c", "botx_w.c", "weights and not the bot's character."},
+      {"c", "*", "chat \"x\"\n{\n}\n", "This file holds chats, but the game"},
       {"bot", "name\tbotx", "name abcdefghijklmnop", "menu of a skirmish can"},
       {"bot", "model", "name Rook\nmodel", "does not know \"x\". Remove one"},
       {"bot", "", "{\nname botx\n}\n",
@@ -461,6 +464,20 @@ TEST(CheckFiles, PicksTheBotOfTheDescriptionThatIsMeant) {
   EXPECT_THAT(Found(set), Contains("x.bot:3: error other-character"));
   EXPECT_THAT(CheckFiles(set, StandInGameFile).front().text,
               HasSubstr("with the character and the files of that one."));
+}
+
+TEST(CheckFiles, TellsSwappedPathsOfWeights) {
+  std::map<std::string, std::string> files;
+  ASSERT_TRUE(MakeEngineCase({"", "c", "", "", "", ""}, "x", files));
+  files["c"] = ReplaceAll(files["c"], "x_w.c", "x_?.c");
+  files["c"] = ReplaceAll(files["c"], "x_i.c", "x_w.c");
+  files["c"] = ReplaceAll(files["c"], "x_?.c", "x_i.c");
+  const std::vector<Finding> findings =
+      CheckFiles(FileSetOf(files, "x"), StandInGameFile);
+  EXPECT_THAT(findings.front().text,
+              HasSubstr("of items. Write \"bots/x_w.c\" in each skill block."));
+  EXPECT_EQ(std::get<FilePlace>(findings.front().place),
+            (FilePlace{.file = "x_c.c", .line = 9}));
 }
 
 TEST(CheckFiles, TellsSwappedWeightsOnce) {
