@@ -86,7 +86,7 @@ std::optional<Mend> MixGapMend(const Bot& bot, int index, LevelPair levels) {
 
 std::string BetweenText(LevelPair levels) {
   return levels.lower == Level::k1 ? "At the skills 2 and 3"
-                                   : "At skills between 4 and 5";
+                                   : "At skills between 4 and 5, such as 4.5,";
 }
 
 /// The one text that the game finds between the quotes that are put around a
@@ -170,7 +170,7 @@ void CheckTextForNumber(const CheckContext& context, FindingList& findings) {
     findings.Add(parameter,
                  QuotedName(parameter) + " is the text " + ShownValue(value) +
                      ", not a number. The game takes 0 in its place and "
-                     "complains again and again.",
+                     "complains again and again. Give a number.",
                  {Safe(MendTo(parameter, 0))});
   });
 }

@@ -271,7 +271,8 @@ void CheckLineOnScreen(const CheckContext& context, FindingList& findings) {
                        : std::to_string(longest)) +
                   " characters";
     text += "; the screen shows some " +
-            std::to_string(limits::kSafeSpokenBytes) + " and cuts the rest.";
+            std::to_string(limits::kSafeSpokenBytes) +
+            " and cuts the rest. Shorten it.";
     findings.Add(PlaceOf(line), std::move(text), ByOtherLine(context, line));
   });
 }
@@ -346,8 +347,10 @@ void CheckLineVariables(const CheckContext& context, FindingList& findings) {
       findings.Add(PlaceOf(line),
                    "In this situation the game has nothing for " + variable +
                        (fill == ChatFill::kInvalid
-                            ? ": the bot says \"[invalid var]\" in its place."
-                            : ": the bot leaves it out."),
+                            ? ": the bot says \"[invalid var]\" in its place. "
+                              "Take it out of the line."
+                            : ": the bot leaves it out. Take it out of the "
+                              "line, or choose another."),
                    std::move(mends));
       return;
     }
@@ -372,7 +375,7 @@ void CheckLineBraces(const CheckContext& context, FindingList& findings) {
       findings.Add(PlaceOf(line),
                    reason +
                        ": the bot speaks it as it stands there, braces "
-                       "and all.",
+                       "and all. Take it out of the line.",
                    {SetLine(line, ReplacedAll(*line.text, part, ""),
                             "Take " + shown + " out of the line")});
       return;

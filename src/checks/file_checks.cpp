@@ -11,14 +11,12 @@
 #include "checks/identity_checks.h"
 #include "checks/weight_kind.h"
 #include "game/game_path.h"
+#include "model/file_names.h"
 #include "support/code_page.h"
 #include "support/text.h"
 
 namespace fragsmith {
 namespace {
-
-/// Bytes of "_c.c".
-constexpr std::size_t kSuffixLength = 4;
 
 /// The skills to try, so that each level of the file is read, by itself and
 /// in a mix.
@@ -299,7 +297,8 @@ std::string NameToAdd(const BotFileSet& files) {
   if (!files.character) return {};
   std::string name = files.character->game_path;
   name.erase(0, name.rfind('/') + 1);
-  return name.substr(0, name.size() - std::min(name.size(), kSuffixLength));
+  return name.substr(0,
+                     name.size() - std::min(name.size(), kCharacterEnd.size()));
 }
 
 std::vector<std::string> FilesOpened(const BotFileSet& files,

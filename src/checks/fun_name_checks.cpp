@@ -143,9 +143,9 @@ void CheckFunNameLength(const CheckContext& context, FindingList& findings) {
       "The fun name has " + std::to_string(name.inner.size()) +
           " characters, colour codes included; the game " +
           (name.inner.size() > limits::kMaxFunName
-               ? "has no room for so many and throws it away."
+               ? "has no room for so many and throws it away. Shorten it."
                : "shows the first " + std::to_string(limits::kMaxPlayerName) +
-                     " of them and cuts the rest."),
+                     " of them and cuts the rest. Shorten it."),
       {FunNameTo(name.inner.substr(0, limits::kMaxPlayerName),
                  "Cut the fun name after " +
                      std::to_string(limits::kMaxPlayerName) + " characters")});
@@ -165,13 +165,15 @@ void CheckFunNameBlack(const CheckContext& context, FindingList& findings) {
   }
   for (std::size_t at = 0; at < name.inner.size(); ++at) {
     if (!IsBlackCode(name.inner, at)) continue;
-    findings.Add(kFunNameField,
-                 "The fun name has the colour code \"" +
-                     ShownText(name.inner.substr(at, 2)) +
-                     "\", which stands for black. The game takes black out of "
-                     "names: the letters behind it keep the colour before it.",
-                 {FunNameTo(WithoutBlack(name.inner),
-                            "Take black out of the fun name")});
+    findings.Add(
+        kFunNameField,
+        "The fun name has the colour code \"" +
+            ShownText(name.inner.substr(at, 2)) +
+            "\", which stands for black. The game takes black out of "
+            "names: the letters behind it keep the colour before it. Choose "
+            "another colour.",
+        {FunNameTo(WithoutBlack(name.inner),
+                   "Take black out of the fun name")});
     return;
   }
 }
@@ -193,8 +195,12 @@ void CheckFunNameIsEmpty(const CheckContext& context, FindingList& findings) {
     mends.push_back(SetTo(kFunNameField, '"' + name.inner + '"',
                           "Put double quotes around the fun name"));
   }
-  findings.Add(kFunNameField, what + ". The game calls the bot \"<NULL>\".",
-               std::move(mends));
+  findings.Add(
+      kFunNameField,
+      what +
+          ". The game calls the bot \"<NULL>\". Write a name there, or "
+          "leave it empty to show the bot under its own.",
+      std::move(mends));
 }
 
 void CheckFunNameDots(const CheckContext& context, FindingList& findings) {
@@ -202,7 +208,7 @@ void CheckFunNameDots(const CheckContext& context, FindingList& findings) {
   if (!HasAccents(name.inner) && !Contains(name.inner, "%")) return;
   findings.Add(kFunNameField,
                "The game shows letters with accents, other special signs and "
-               "\"%\" in the fun name as dots.",
+               "\"%\" in the fun name as dots. Use plain letters.",
                {FunNameTo(Without(InPlainLetters(name.inner), "%"),
                           "Use plain letters in the fun name")});
 }
@@ -215,7 +221,7 @@ void CheckFunNameQuotes(const CheckContext& context, FindingList& findings) {
   findings.Add(kFunNameField,
                "Without double quotes around it, the game reads the fun name "
                "only up to \"" +
-                   ShownText(read) + "\".",
+                   ShownText(read) + "\". Put double quotes around it.",
                {Safe(SetTo(kFunNameField, '"' + name.inner + '"',
                            "Put double quotes around the fun name"))});
 }

@@ -192,7 +192,7 @@ void CheckGender(const CheckContext& context, FindingList& findings) {
   findings.Add(kGenderField,
                "The game takes the gender \"" + ShownText(gender) +
                    "\" as \"it\". It knows male and female in small letters "
-                   "only.",
+                   "only: write one of them, or it.",
                std::move(mends));
 }
 
@@ -204,7 +204,7 @@ void CheckModelText(const CheckContext& context, FindingList& findings) {
       findings.Add(field, name + " \"" + ShownText(text) +
                               "\" has a semicolon, a backslash or a double "
                               "quote: the game throws the line away and shows "
-                              "the bot as another model.");
+                              "the bot as another model. Take it out.");
     } else if (UnquotedWord(text).size() < text.size()) {
       findings.Add(field, name + " \"" + ShownText(text) +
                               "\" has a blank or a letter with an accent, and "

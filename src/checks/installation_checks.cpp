@@ -8,6 +8,7 @@
 #include "game/limits.h"
 #include "install/program/bot_list.h"
 #include "model/characteristic_catalogue.h"
+#include "model/file_names.h"
 #include "session/bot_file.h"
 #include "support/code_page.h"
 #include "support/text.h"
@@ -42,7 +43,7 @@ void CheckNameIsTaken(const CheckContext& context, FindingList& findings) {
                          .package = GamePackage{BotPackageName(name)}});
   if (winner != nullptr && !winner->is_of_list()) {
     // A description of this very bot that is called otherwise than we do.
-    if (EqualIgnoringCase(winner->character, "bots/" + name + "_c.c")) return;
+    if (EqualIgnoringCase(winner->character, CharacterPath(name))) return;
     findings.Add(kNameField, NameTakenText(name, ShownPlace(*winner)));
   } else if (winner != nullptr || IsStandardBot(context, name)) {
     findings.Add(kNameField,

@@ -4,6 +4,7 @@
 
 #include "game/game_path.h"
 #include "install/program/bot_list.h"
+#include "model/file_names.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -41,9 +42,9 @@ void TakeStandardNames(bool is_packed, BotFileSet& files) {
     const std::string name = ToLower(bot.Name);
     // Of files of one name the game takes its own before a bot's package.
     files.names_taken.emplace(
-        name, WinningDescription{
-                  .shown_path = "its own list of bots",
-                  .character = is_packed ? "" : "bots/" + name + "_c.c"});
+        name,
+        WinningDescription{.shown_path = "its own list of bots",
+                           .character = is_packed ? "" : CharacterPath(name)});
   }
 }
 

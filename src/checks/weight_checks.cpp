@@ -40,7 +40,7 @@ void CheckTextForWeight(const CheckContext& context, FindingList& findings) {
         weight,
         QuotedName(weight) + " is the text " + ShownValue(value) +
             ", not a number: the game cannot read the file of "
-            "weights and does not add the bot.",
+            "weights and does not add the bot. Give a number.",
         {Safe(SetTo(weight, 0.0, "Set " + QuotedName(weight) + " to 0"))});
   }
 }

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "botfiles/game_text.h"
+#include "model/file_names.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -57,8 +58,9 @@ std::optional<Complaint> FaultOfKind(const GameFile& file,
                  std::string(own.at(included->first)) + "\".";
     return fault;
   }
-  const std::string_view end = are_weapons ? "_w.c" : "_i.c";
-  const std::string_view other_end = are_weapons ? "_i.c" : "_w.c";
+  const std::string_view end = are_weapons ? kWeaponWeightEnd : kItemWeightEnd;
+  const std::string_view other_end =
+      are_weapons ? kItemWeightEnd : kWeaponWeightEnd;
   std::string path = file.game_path;
   if (EndsWithIgnoringCase(path, other_end)) {
     path.replace(path.size() - end.size(), end.size(), end);
@@ -99,14 +101,15 @@ std::optional<Complaint> FaultOfCharacter(const GameFile& file,
   }
   if (held.empty()) return std::nullopt;
   std::string path = file.game_path;
-  constexpr std::array<std::string_view, 3> kOtherEnds = {"_w.c", "_i.c",
-                                                          "_t.c"};
+  constexpr std::array kOtherEnds = {kWeaponWeightEnd, kItemWeightEnd,
+                                     kChatEnd};
   const bool is_other =
       std::ranges::any_of(kOtherEnds, [&path](std::string_view end) {
         return EndsWithIgnoringCase(path, end);
       });
   if (is_other) {
-    path[path.size() - 3] = 'c';
+    path.replace(path.size() - kCharacterEnd.size(), kCharacterEnd.size(),
+                 kCharacterEnd);
     fault.place = named_at;
     fault.text = "This line names " + Quoted(file.game_path) +
                  ", which holds " + std::string(held) +

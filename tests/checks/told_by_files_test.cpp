@@ -83,8 +83,8 @@ BotFileSet AsWritten(const Bot& bot, const GameData& game) {
   return set;
 }
 
-/// "error", or empty where there is nothing but hints. A hint matters where it
-/// is all that a check has to say.
+/// How grave the gravest of those is that meet the condition: "error"; empty
+/// where there are none.
 template <typename Condition>
 std::string Gravest(const std::vector<Finding>& findings, Condition condition) {
   std::optional<Severity> gravest;
