@@ -168,9 +168,15 @@ bool GameSource::Include() {
     const std::string beside = "bots/" + path;
     const std::string above = path.substr(path.rfind('/') + 1);
     const std::string_view of_game = MeantFile(path, file_);
-    std::string advice = of_game.empty()
-                             ? "Correct the name, or remove the line."
-                             : "Write " + Quoted(of_game) + ".";
+    std::string advice = "Correct the name, or remove the line.";
+    if (EqualIgnoringCase(of_game, path)) {
+      advice =
+          "It is one of the game's own, which the game folder does not have: "
+          "perhaps that is another folder, or packages of the game are "
+          "missing.";
+    } else if (!of_game.empty()) {
+      advice = "Write " + Quoted(of_game) + ".";
+    }
     for (const std::string& meant : {beside, above}) {
       if (meant == path) continue;
       work_ += kWorkOfInclude;
