@@ -172,13 +172,18 @@ std::optional<Finding> FilesTooDeep(const GivenFiles& given,
     std::string_view above = found.front();
     above.remove_suffix(path.size() + 1);
     const std::string folder = Quoted(above);
-    std::string text = "The folders botfiles and scripts lie inside a folder ";
-    text += folder;
-    text += ", and the game looks for them at the top alone. Put what is in ";
-    text += folder;
-    text +=
-        " at the top, without that folder around it. The game does not add the "
-        "bot.";
+    std::string text;
+    if (above.empty() || above == ".") {
+      text = "The names in the package begin with " +
+             Quoted(std::string(above) + "/") +
+             ", and the game does not find them. Make the package anew, "
+             "without that in front of botfiles and scripts.";
+    } else {
+      text = "The folders botfiles and scripts lie inside a folder " + folder +
+             ", and the game looks for them at the top alone. Put what is in " +
+             folder + " at the top, without that folder around it.";
+    }
+    text += " The game does not add the bot.";
     const std::optional<GameFile> file = given.OpenInAnyCase(found.front());
     return Finding{
         .id = "folder-too-deep",

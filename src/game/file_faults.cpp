@@ -50,6 +50,18 @@ int OpenBrace(std::string_view bytes) {
   return open.empty() ? 0 : open.back();
 }
 
+/// What made a file that is no plain text; empty for one that may be.
+std::string_view MakerOf(std::string_view bytes) {
+  if (bytes.starts_with("{\\rtf") || bytes.starts_with("PK\x03\x04")) {
+    return "a word processor";
+  }
+  const std::string start = ToLower(bytes.substr(0, sizeof("<!doctype")));
+  if (start.starts_with("<!doctype") || start.starts_with("<html")) {
+    return "a browser, as a web page";
+  }
+  return {};
+}
+
 bool IsSavedAsUnicode(std::string_view bytes) {
   return bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF") ||
          (bytes.size() > 3 && (bytes[0] == '\0' || bytes[1] == '\0'));
@@ -63,6 +75,13 @@ std::optional<Complaint> FaultOfBytes(const GameFile& file) {
                      .place = {.file = file.name, .line = 1},
                      .text = {}};
   const std::string_view bytes = file.bytes;
+  if (const std::string_view maker = MakerOf(bytes); !maker.empty()) {
+    fault.id = "no-plain-text";
+    fault.text = "This file was saved by " + std::string(maker) +
+                 ", with much in it that is not the bot's. Save it as plain "
+                 "text, without formatting.";
+    return fault;
+  }
   if (IsSavedAsUnicode(bytes)) {
     fault.id = "saved-as-unicode";
     fault.text =

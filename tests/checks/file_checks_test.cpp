@@ -388,6 +388,9 @@ TEST(CheckFiles, SaysWhatToDo) {
       {"bot", "$$", "},", "Write } and a blank behind it."},
       {"bot", "$$", "name Rook\naifile bots/botx_c.c\n}",
        "does not know \"x\". Write } and { above this line."},
+      {"c", "botx_w.c", "botw.c", "the bot's own is \"bots/x_w.c\"."},
+      {"c", "*", "{\\rtf1 skill 1}", "saved by a word processor"},
+      {"t", "*", "<!DOCTYPE html>\n<html></html>", "as a web page, with"},
       // A file in the place of another.
       {"bot", "botx_c.c", "botx_w.c", "weights and not the bot's character."},
       {"c", "*", "chat \"x\"\n{\n}\n", "This file holds chats, but the game"},
