@@ -335,7 +335,7 @@ ReadReport ReadCharacteristicFile(std::string_view bytes,
     bot.Put(kVersionMajorField, 0.0);
     bot.Put(kVersionMinorField, 0.0);
   }
-  return CharacterReader(file_name, identity, bot).Read(bytes);
+  return CharacterReader(file_name, identity, bot).Read(WithPlainBlanks(bytes));
 }
 
 }  // namespace fragsmith

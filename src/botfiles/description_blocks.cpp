@@ -1,8 +1,11 @@
 #include "botfiles/description_blocks.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <optional>
 
 #include "botfiles/game_text.h"
+#include "support/game_blank.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -46,9 +49,20 @@ class BlockReader {
     file_.blocks.push_back({line, line, {}});
   }
 
-  /// Braces count only where they stand by themselves.
+  /// Braces count only where they stand by themselves. What begins with curly
+  /// quotes and the like begins behind them for the game, and ends in front of
+  /// the next.
   static std::string_view TakeToken(std::string_view& code) {
-    const std::string_view token = FirstToken(code);
+    std::string_view token = FirstToken(code);
+    if (!token.empty() && IsGameBlank(token.front())) {
+      while (!code.empty() && IsGameBlank(code.front())) code.remove_prefix(1);
+      token = FirstToken(code);
+      if (!token.starts_with('"')) {
+        token = token.substr(
+            0, static_cast<std::size_t>(
+                   std::ranges::find_if(token, IsGameBlank) - token.begin()));
+      }
+    }
     if (!token.empty()) {
       code.remove_prefix(
           static_cast<std::size_t>(token.data() + token.size() - code.data()));

@@ -1,11 +1,13 @@
 #include "botfiles/game_text.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <optional>
 #include <utility>
 
 #include "botfiles/value_format.h"
+#include "support/game_blank.h"
 #include "support/numbers.h"
 #include "support/text.h"
 
@@ -15,6 +17,55 @@ std::string_view WithoutByteOrderMark(std::string_view bytes) {
   constexpr std::string_view kMark = "\xEF\xBB\xBF";
   if (bytes.starts_with(kMark)) bytes.remove_prefix(kMark.size());
   return bytes;
+}
+
+namespace {
+
+/// How many bytes at the front look like a blank, and are one to the game, but
+/// are none of those that people type.
+std::size_t OddBlankLength(std::string_view text, char before) {
+  constexpr std::array<std::string_view, 7> kUtf8 = {
+      "\xC2\xA0",     "\xE2\x80\x82", "\xE2\x80\x83", "\xE2\x80\x89",
+      "\xE2\x80\x8B", "\xE2\x80\xAF", "\xE3\x80\x80"};
+  for (const std::string_view blank : kUtf8) {
+    if (text.starts_with(blank)) return blank.size();
+  }
+  // Behind another such byte it may be a part of a letter in UTF-8.
+  if (text[0] == '\xA0') return (before & 0x80) == 0 ? 1 : 0;
+  const bool is_control = text[0] > '\0' && text[0] < ' ';
+  return is_control && !Contains("\t\r\n", text.substr(0, 1)) ? 1 : 0;
+}
+
+}  // namespace
+
+std::string WithPlainBlanks(std::string_view bytes) {
+  std::string plain(bytes);
+  std::size_t at = 0;
+  const auto pass = [&](std::string_view end, std::size_t from) {
+    const std::size_t found = bytes.find(end, from);
+    at = found == std::string_view::npos ? bytes.size() : found + end.size();
+  };
+  while (at < bytes.size()) {
+    const std::string_view rest = bytes.substr(at);
+    if (rest.starts_with("//")) {
+      pass("\n", at);
+    } else if (rest.starts_with("/*")) {
+      pass("*/", at + 2);
+    } else if (rest[0] == '"') {
+      // No text goes beyond its line.
+      for (++at; at < bytes.size() && bytes[at] != '"' && bytes[at] != '\n';
+           ++at) {
+        if (bytes.substr(at).starts_with("\\\"")) ++at;
+      }
+      ++at;
+    } else {
+      const char before = at > 0 ? plain[at - 1] : ' ';
+      const std::size_t length = OddBlankLength(rest, before);
+      plain.replace(at, length, length, ' ');
+      at += std::max(length, std::size_t{1});
+    }
+  }
+  return plain;
 }
 
 std::string_view CommentStripper::Strip(std::string_view line) {
@@ -63,7 +114,7 @@ void CommentStripper::Drop(std::string_view comment) {
 }
 
 std::string_view TakeWord(std::string_view& code) {
-  code = TrimBlanksAndTabs(code);
+  while (!code.empty() && IsGameBlank(code.front())) code.remove_prefix(1);
   std::size_t length = 0;
   if (code.starts_with('"')) {
     length = code.find('"', 1);
@@ -71,7 +122,11 @@ std::string_view TakeWord(std::string_view& code) {
   } else if (code.starts_with('{') || code.starts_with('}')) {
     length = 1;
   } else {
-    length = code.find_first_of(" \t{}");
+    const auto* const end =
+        std::find_if(code.begin(), code.end(), [](char letter) {
+          return letter == '{' || letter == '}' || IsGameBlank(letter);
+        });
+    length = static_cast<std::size_t>(end - code.begin());
   }
   const std::string_view word = code.substr(0, length);
   code.remove_prefix(word.size());

@@ -11,6 +11,10 @@ namespace fragsmith {
 /// The bytes of a file without the mark that some editors put at the front.
 std::string_view WithoutByteOrderMark(std::string_view bytes);
 
+/// The bytes with ordinary blanks for the no-break spaces and the like that the
+/// game passes over and nobody sees, outside of comments and texts in quotes.
+std::string WithPlainBlanks(std::string_view bytes);
+
 /// Takes the comments out of lines as the game does: "//" to the end of the
 /// line and "/* */", also over several lines; neither inside quotes. A byte
 /// order mark in front of a line goes as well: joined files have some inside.
@@ -32,7 +36,8 @@ class CommentStripper {
 };
 
 /// Takes the next word of a line without comments: a text with its quotes, a
-/// brace, or all up to the next blank, TAB or brace. Empty at the end.
+/// brace, or all up to the next brace or what the game takes for a blank. Empty
+/// at the end.
 std::string_view TakeWord(std::string_view& code);
 
 /// A word without its quotes, where it has some.

@@ -7,6 +7,7 @@
 #include "botfiles/value_format.h"
 #include "model/characteristic_catalogue.h"
 #include "support/code_page.h"
+#include "support/game_blank.h"
 #include "support/numbers.h"
 #include "support/text.h"
 
@@ -87,7 +88,10 @@ ValueReader::Seen& ValueReader::SeenOf(ParameterId id) {
 }
 
 void ValueReader::Take(const KeyedLine& line, ParameterId id, IsTold is_told) {
-  const std::string_view text = ValueTextOf(line.text, id.index());
+  std::string_view text = ValueTextOf(line.text, id.index());
+  // Such as curly quotes around a number, which the game does not see.
+  const std::string_view bare = TrimGameBlanks(text);
+  if (!IsNumericText(text) && IsNumericText(bare)) text = bare;
   const auto column = static_cast<std::size_t>(text.data() - line.text.data());
   report_.spans[id].push_back(
       {line.start + column, line.start + column + text.size()});

@@ -130,7 +130,7 @@ class WeightReader {
     for (const int key : kind_.range) {
       if (BareKey(key).substr(kDefine.size()) == name) {
         return reader_.TakeAsGame(number_, ParameterId(key),
-                                  PlainValue(FirstToken(value)));
+                                  PlainValue(TakeWord(value)));
       }
     }
     left_out_.AddName(name, number_);
@@ -167,12 +167,12 @@ std::string WriteItemWeightFile(const Bot& bot, const Author& author,
 
 ReadReport ReadWeaponWeightFile(std::string_view bytes,
                                 const std::string& file_name, Bot& bot) {
-  return WeightReader(file_name, kWeaponFile, bot).Read(bytes);
+  return WeightReader(file_name, kWeaponFile, bot).Read(WithPlainBlanks(bytes));
 }
 
 ReadReport ReadItemWeightFile(std::string_view bytes,
                               const std::string& file_name, Bot& bot) {
-  return WeightReader(file_name, kItemFile, bot).Read(bytes);
+  return WeightReader(file_name, kItemFile, bot).Read(WithPlainBlanks(bytes));
 }
 
 }  // namespace fragsmith

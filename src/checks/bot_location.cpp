@@ -1,10 +1,14 @@
 #include "checks/bot_location.h"
 
+#include <algorithm>
 #include <array>
+#include <cstddef>
 #include <string_view>
 #include <system_error>
 #include <utility>
 
+#include "game/complaints.h"
+#include "model/file_names.h"
 #include "session/bot_file.h"
 #include "session/bot_sources.h"
 #include "support/files.h"
@@ -80,6 +84,43 @@ Result<std::vector<BotLocation>> BotsAt(const fs::path& path) {
     found.push_back(InFolder(is_beside ? bots : path.parent_path(), *name));
   }
   return found;
+}
+
+std::string WhyNoBots(const fs::path& path) {
+  const bool is_folder = IsFolder(path);
+  const Result<GivenFiles> given = is_folder ? GivenFiles::OfFolder(path, false)
+                                             : GivenFiles::OfPackage(path);
+  if (!given) return {};
+  for (const std::string_view end : {kCharacterEnd, kDescriptionEnd}) {
+    const std::vector<std::string> texts =
+        given->PathsLike("", std::string(end) + ".txt");
+    if (texts.empty()) continue;
+    return "The name of " +
+           Quoted(texts.front().substr(texts.front().rfind('/') + 1)) +
+           " ends in .txt, so the game does not take it for a file of a bot. "
+           "Remove the .txt from the names of the bot's files.";
+  }
+  const std::vector<std::string> files = given->PathsLike("", kCharacterEnd);
+  if (files.empty()) return {};
+  std::string_view folder = files.front();
+  const std::size_t slash = folder.rfind('/');
+  const std::string name = Quoted(folder.substr(slash + 1));
+  folder = folder.substr(0, slash + 1);
+  if (is_folder) {
+    folder.remove_prefix(std::min(folder.size(), kBotFilesFolder.size() + 1));
+    if (folder.empty()) return {};
+    folder.remove_suffix(1);
+    return name + " lies in the folder " + Quoted(folder) +
+           " there: give that folder. For the game the files belong into " +
+           std::string(kBotFilesFolder) + ".";
+  }
+  if (!folder.empty()) folder.remove_suffix(1);
+  return name + " lies " +
+         (folder.empty() ? "at the top of the package"
+                         : "in the folder " + Quoted(folder)) +
+         ", where the game does not look. Make the package anew: the files "
+         "that end in .c belong into its folder botfiles/bots, the one that "
+         "ends in .bot into its folder scripts.";
 }
 
 std::optional<BotLocation> LocationOf(const BotHome& home) {

@@ -36,6 +36,11 @@ std::optional<std::string> BotNameOfAnyFile(const std::filesystem::path& file);
 /// above botfiles/bots or of a package, or the one that a file belongs to.
 Result<std::vector<BotLocation>> BotsAt(const std::filesystem::path& path);
 
+/// What is to be said of a folder or a package in which there is no bot, but
+/// files that look like some: where they lie, or what they are called. UTF-8;
+/// empty where nothing is.
+std::string WhyNoBots(const std::filesystem::path& path);
+
 /// Where the files of a bot were last read or written; nothing for one that
 /// has no files.
 std::optional<BotLocation> LocationOf(const BotHome& home);

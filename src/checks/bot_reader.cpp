@@ -197,6 +197,16 @@ std::string BotReader::AdviceForPath(std::string_view path) const {
   return OwnFile(whole) != nullptr ? "Write " + Quoted(whole) + "." : "";
 }
 
+/// By the words with which findings call its kind; null where it has none.
+const GameFile* BotReader::OwnOfKind(std::string_view what) const {
+  const std::optional<GameFile>* own = nullptr;
+  if (what == "character") own = &files_.character;
+  if (what == "chat") own = &files_.chat;
+  if (what == KindOfWeights(true)) own = &files_.weapon_weights;
+  if (what == KindOfWeights(false)) own = &files_.item_weights;
+  return own != nullptr && *own ? &**own : nullptr;
+}
+
 void BotReader::TellMissing(const std::string& path, std::string_view what,
                             const std::string& place, int line) {
   const std::string shown =
@@ -235,8 +245,12 @@ void BotReader::TellMissing(const std::string& path, std::string_view what,
             " is not the bot's own. Whether the game has it was not looked "
             "at, as no game folder is set.");
   } else {
+    const GameFile* const own = OwnOfKind(what);
     Add("file-missing", kError, place, line,
-        shown + " does not exist. Correct the path or add the file.");
+        shown + " does not exist. Correct the path or add the file" +
+            (own == nullptr
+                 ? "."
+                 : "; the bot's own is " + Quoted(own->game_path) + "."));
   }
 }
 
@@ -273,8 +287,8 @@ bool BotReader::Weights(const std::string& path, bool are_weapons,
   });
   place->second = read.is_loaded;
   if (!value.is_own) return read.is_loaded;
-  const std::optional<Complaint> of_kind =
-      FaultOfKind(*file, read, are_weapons);
+  const std::optional<Complaint> of_kind = FaultOfKind(
+      *file, read, are_weapons, {.file = CharacterName(), .line = value.line});
   if (!read.is_loaded) {
     if (of_kind) complaints_.ReplaceError(first, *of_kind);
     return false;

@@ -80,6 +80,7 @@ class BotReader {
 
   std::optional<GameFile> Find(std::string_view path, std::string_view what,
                                const std::string& place, int line);
+  const GameFile* OwnOfKind(std::string_view what) const;
   void TellMissing(const std::string& path, std::string_view what,
                    const std::string& place, int line);
   /// Whether the path in this line of the description is all that the game

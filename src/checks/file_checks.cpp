@@ -8,6 +8,9 @@
 
 #include "checks/bot_reader.h"
 #include "checks/character_file_checks.h"
+#include "checks/identity_checks.h"
+#include "checks/weight_kind.h"
+#include "game/game_path.h"
 #include "model/file_names.h"
 #include "support/code_page.h"
 #include "support/text.h"
@@ -90,7 +93,7 @@ class FileChecker {
           const bool is_of_description =
               files_.description && one.place.file == files_.description->name;
           return one.severity == Severity::kError &&
-                 !(is_known && is_of_description);
+                 !(is_known && is_of_description && one.id != kNotACharacter);
         });
     if (found == list.end()) return;  // It is not known.
     auto cause =
@@ -145,6 +148,13 @@ class FileChecker {
     const int line = set.Line("name");
     RaiseLostName({file, line});
     if (findings().IsTold({file, line})) return;
+    // That of the files is looked at in memory.
+    std::string for_menus = NameForMenusText(name);
+    if (!for_menus.empty() && files_.character &&
+        !EqualIgnoringCase(name, BotOfPath(files_.character->game_path))) {
+      Add("name-too-long-for-menus", Severity::kWarning, file, line,
+          std::move(for_menus));
+    }
     if (name.find_first_of(" \t") != std::string::npos) {
       Add("name-with-blank", Severity::kWarning, file, line,
           "The name " + Quoted(name) +
@@ -179,7 +189,8 @@ class FileChecker {
 
   bool IsCauseIn(const GameFile& file) const {
     return std::ranges::any_of(causes_, [&file](const Cause& cause) {
-      return cause.complaint.place.file == file.name;
+      return cause.complaint.place.file == file.name ||
+             cause.complaint.id == kNotACharacter;
     });
   }
 
@@ -187,9 +198,17 @@ class FileChecker {
   std::string ConsequenceOf(const Cause& cause) const {
     std::string text;
     const std::optional<DescriptionSet>& set = reader_.description();
+    // A path that goes on to the end of the file is that of no file.
     if (cause.complaint.id == "description-quote" && set &&
-        !set->Text("aifile").empty()) {
-      return " The game adds the bot, but it may be with those files.";
+        cause.complaint.key != "aifile") {
+      return set->Text("aifile").empty()
+                 ? " The game adds the bot with another bot's files, or not at "
+                   "all."
+                 : " The game adds the bot, but it may be with those files.";
+    }
+    if (cause.complaint.id == "other-character") {
+      return " The game adds the bot, but with the character and the files of "
+             "that one.";
     }
     for (const auto& [verdict, skills] : cause.skills) {
       const bool is_refused = verdict == Verdict::kRefused;

@@ -129,22 +129,25 @@ void CheckLongName(const CheckContext& context, FindingList& findings) {
                RenameTo(name.substr(0, limits::kMaxNameInSkirmish)));
 }
 
-void CheckNameForMenus(const CheckContext& context, FindingList& findings) {
-  const std::string name = context.bot.Name();
-  if (name.size() <= limits::kMaxNameInSkirmish ||
-      name.size() > limits::kMaxName)
-    return;
+std::string NameForMenusText(std::string_view name) {
+  if (name.size() <= limits::kMaxNameInSkirmish) return {};
   std::string menus = "the menu of a skirmish";
   if (name.size() > limits::kMaxNameInBotMenu) {
     menus += " and the menu \"add bots\"";
   }
-  findings.Add(kNameField,
-               "The name has " + std::to_string(name.size()) +
-                   " characters, which is more than " + menus +
-                   " can hold: there the bot cannot be picked. The console's "
-                   "addbot command works. Up to " +
-                   std::to_string(limits::kMaxNameInSkirmish) +
-                   " characters fit everywhere.",
+  return "The name has " + std::to_string(name.size()) +
+         " characters, which is more than " + menus +
+         " can hold: there the bot cannot be picked. The console's addbot "
+         "command works. Up to " +
+         std::to_string(limits::kMaxNameInSkirmish) +
+         " characters fit everywhere.";
+}
+
+void CheckNameForMenus(const CheckContext& context, FindingList& findings) {
+  const std::string name = context.bot.Name();
+  std::string text = NameForMenusText(name);
+  if (text.empty() || name.size() > limits::kMaxName) return;
+  findings.Add(kNameField, std::move(text),
                RenameTo(name.substr(0, limits::kMaxNameInSkirmish)));
 }
 

@@ -1,6 +1,9 @@
 #ifndef FRAGSMITH_CHECKS_IDENTITY_CHECKS_H_
 #define FRAGSMITH_CHECKS_IDENTITY_CHECKS_H_
 
+#include <string>
+#include <string_view>
+
 #include "checks/check_context.h"
 
 namespace fragsmith {
@@ -11,6 +14,8 @@ void CheckUnusableName(const CheckContext& context, FindingList& findings);
 void CheckNumericName(const CheckContext& context, FindingList& findings);
 void CheckLongName(const CheckContext& context, FindingList& findings);
 void CheckNameForMenus(const CheckContext& context, FindingList& findings);
+/// What to say of a name that the game's menus cannot hold; empty for others.
+std::string NameForMenusText(std::string_view name);
 void CheckNameCharacters(const CheckContext& context, FindingList& findings);
 void CheckNameAccents(const CheckContext& context, FindingList& findings);
 

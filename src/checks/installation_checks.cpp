@@ -28,9 +28,10 @@ bool IsStandardBot(const CheckContext& context, const std::string& name) {
 void CheckGameIsKnown(const CheckContext& context, FindingList& findings) {
   if (context.game != nullptr) return;
   findings.Add(WholeBot{},
-               "No game folder is set, so nobody has looked whether the "
-               "bot's name and model fit the installed game and which word "
-               "lists it has. Set the folder of the game in the options.");
+               "No game folder is set, or there is no game in it, so nobody "
+               "has looked whether the bot's name and model fit the installed "
+               "game and which word lists it has. Set the folder of the game "
+               "in the options.");
 }
 
 void CheckNameIsTaken(const CheckContext& context, FindingList& findings) {

@@ -10,7 +10,9 @@
 #include "chat/vocabulary.h"
 #include "checks/bot_on_disk.h"
 #include "game/description_reader.h"
+#include "install/program/game_folder.h"
 #include "support/code_page.h"
+#include "support/files.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -170,13 +172,18 @@ std::optional<Finding> FilesTooDeep(const GivenFiles& given,
     std::string_view above = found.front();
     above.remove_suffix(path.size() + 1);
     const std::string folder = Quoted(above);
-    std::string text = "The folders botfiles and scripts lie inside a folder ";
-    text += folder;
-    text += ", and the game looks for them at the top alone. Put what is in ";
-    text += folder;
-    text +=
-        " at the top, without that folder around it. The game does not add the "
-        "bot.";
+    std::string text;
+    if (above.empty() || above == ".") {
+      text = "The names in the package begin with " +
+             Quoted(std::string(above) + "/") +
+             ", and the game does not find them. Make the package anew, "
+             "without that in front of botfiles and scripts.";
+    } else {
+      text = "The folders botfiles and scripts lie inside a folder " + folder +
+             ", and the game looks for them at the top alone. Put what is in " +
+             folder + " at the top, without that folder around it.";
+    }
+    text += " The game does not add the bot.";
     const std::optional<GameFile> file = given.OpenInAnyCase(found.front());
     return Finding{
         .id = "folder-too-deep",
@@ -286,6 +293,32 @@ std::optional<Finding> InPlaceOfGameFiles(
       .place = FilePlace{.file = std::move(place)},
       .text = std::move(text),
       .mends = {}};
+}
+
+std::optional<Finding> PackageInWrongFolder(
+    const std::filesystem::path& package,
+    const std::filesystem::path& package_folder) {
+  const std::filesystem::path lies_in = WholePath(package).parent_path();
+  const std::filesystem::path wanted = WholePath(package_folder);
+  const std::filesystem::path from_game =
+      lies_in.lexically_relative(wanted.parent_path());
+  if (from_game.empty() || *from_game.begin() == "..") return std::nullopt;
+  const bool is_of_modification = from_game != "." &&
+                                  !from_game.has_parent_path() &&
+                                  !IsStandardPackageFolder(lies_in);
+  const bool is_below_another =
+      from_game.has_parent_path() && *from_game.begin() != wanted.filename();
+  if (from_game == wanted.filename() || is_of_modification ||
+      is_below_another) {
+    return std::nullopt;
+  }
+  return Finding{.id = "package-in-wrong-folder",
+                 .severity = Severity::kWarning,
+                 .place = FilePlace{.file = Utf8FromPath(package.filename())},
+                 .text = "The package lies in '" + Utf8FromPath(lies_in) +
+                         "', where the game does not look. Move it to '" +
+                         Utf8FromPath(wanted) + "'.",
+                 .mends = {}};
 }
 
 void TakeForCause(const BotFileSet& files, const IncludeLookup& with_games_own,

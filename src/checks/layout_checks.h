@@ -1,6 +1,7 @@
 #ifndef FRAGSMITH_CHECKS_LAYOUT_CHECKS_H_
 #define FRAGSMITH_CHECKS_LAYOUT_CHECKS_H_
 
+#include <filesystem>
 #include <optional>
 #include <string>
 
@@ -34,6 +35,12 @@ bool GameFileWins(const GameFiles& game,
 std::optional<Finding> InPlaceOfGameFiles(
     const GivenFiles& given, const std::string& name,
     const std::optional<GamePackage>& package, const GameFiles* game);
+
+/// That a package lies in the game, but not in the folder of its packages;
+/// nothing for one that lies elsewhere, or where a modification may have it.
+std::optional<Finding> PackageInWrongFolder(
+    const std::filesystem::path& package,
+    const std::filesystem::path& package_folder);
 
 /// Where the bot is good when the game's own files are looked up, those in
 /// their place are what is wrong, and the other errors follow from that.

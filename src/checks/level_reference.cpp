@@ -10,6 +10,7 @@
 
 #include "chat/vocabulary.h"
 #include "checks/bot_reader.h"
+#include "checks/weight_kind.h"
 #include "game/file_faults.h"
 #include "model/level.h"
 #include "support/text.h"
@@ -91,7 +92,17 @@ const std::optional<CharacterLevel>& BotReader::LoadLevel(int level) {
   }
   ReadOne(*file, true, read);
   const bool has_it = loaded && loaded->origin == CharacterOrigin::kOwn;
-  if (!has_it && !complaints_.HasError(first)) TellMissingBlocks(*file);
+  FilePlace named_at = {.file = file->name, .line = 0};
+  if (description_) {
+    named_at = {.file = files_.description->name,
+                .line = description_->Line("aifile")};
+  }
+  const std::optional<Complaint> of_kind = FaultOfCharacter(*file, named_at);
+  if (!has_it && of_kind) {
+    complaints_.ReplaceError(first, *of_kind);
+  } else if (!has_it && !complaints_.HasError(first)) {
+    TellMissingBlocks(*file);
+  }
   return loaded;
 }
 

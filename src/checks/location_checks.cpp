@@ -192,6 +192,12 @@ std::vector<Finding> LocationCheck::InFiles() const {
     TakeForCause(on_disk_.files, WithGamesOwn(), *hiding, findings);
     findings.push_back(*std::move(hiding));
   }
+  if (game_ != nullptr && given_.is_packed()) {
+    if (std::optional<Finding> misplaced =
+            PackageInWrongFolder(location_.package, game_->files.folder())) {
+      findings.insert(findings.begin(), *std::move(misplaced));
+    }
+  }
   AddHowToPlay(findings);
   return findings;
 }

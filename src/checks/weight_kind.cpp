@@ -1,10 +1,12 @@
 #include "checks/weight_kind.h"
 
+#include <algorithm>
 #include <array>
 #include <string>
 #include <string_view>
 #include <utility>
 
+#include "botfiles/game_text.h"
 #include "chat/vocabulary.h"
 #include "model/file_names.h"
 #include "support/text.h"
@@ -35,8 +37,8 @@ std::optional<std::pair<std::size_t, int>> FindInclude(
 }  // namespace
 
 std::optional<Complaint> FaultOfKind(const GameFile& file,
-                                     const WeightsRead& read,
-                                     bool are_weapons) {
+                                     const WeightsRead& read, bool are_weapons,
+                                     const FilePlace& named_at) {
   const auto& own = are_weapons ? kWeaponCode : kItemCode;
   const auto& other = are_weapons ? kItemCode : kWeaponCode;
   const bool has_other_weights = read.missing_macro.empty();
@@ -57,11 +59,21 @@ std::optional<Complaint> FaultOfKind(const GameFile& file,
                  std::string(own.at(included->first)) + "\".";
     return fault;
   }
-  std::string path = file.game_path;
   const std::string_view end = are_weapons ? kWeaponWeightEnd : kItemWeightEnd;
+  const std::string_view other_end =
+      are_weapons ? kItemWeightEnd : kWeaponWeightEnd;
+  std::string path = file.game_path;
+  if (EndsWithIgnoringCase(path, other_end)) {
+    path.replace(path.size() - end.size(), end.size(), end);
+    fault.place = named_at;
+    fault.text = "This line names " + Quoted(file.game_path) +
+                 " for the weights of " + own_kind +
+                 ", and that file has none but those of " + other_kind +
+                 ". Write " + Quoted(path) + " in each skill block.";
+    return fault;
+  }
   if (EndsWithIgnoringCase(path, end)) {
-    path.replace(path.size() - end.size(), end.size(),
-                 are_weapons ? kItemWeightEnd : kWeaponWeightEnd);
+    path.replace(path.size() - end.size(), end.size(), other_end);
   }
   fault.text = "The game takes the weights of " + own_kind +
                " out of this file, and it has none but those of " + other_kind +
@@ -69,6 +81,46 @@ std::optional<Complaint> FaultOfKind(const GameFile& file,
                " have been swapped, exchange their names; if not, write "
                "#include \"" +
                std::string(own.at(included->first)) + "\" here.";
+  return fault;
+}
+
+std::optional<Complaint> FaultOfCharacter(const GameFile& file,
+                                          const FilePlace& named_at) {
+  Complaint fault = {.id = kNotACharacter,
+                     .severity = Severity::kError,
+                     .place = {.file = file.name, .line = 0},
+                     .text = {}};
+  std::string_view held;
+  LineReader lines(file.bytes);
+  while (const std::optional<std::string_view> line = lines.Next()) {
+    std::string_view rest = *line;
+    const std::string_view word = TakeWord(rest);
+    if (word == "skill") return std::nullopt;
+    if (!held.empty() || (word != "chat" && word != "#define")) continue;
+    held = word == "chat" ? "chats" : "weights";
+    fault.place.line = static_cast<int>(lines.number());
+  }
+  if (held.empty()) return std::nullopt;
+  std::string path = file.game_path;
+  constexpr std::array kOtherEnds = {kWeaponWeightEnd, kItemWeightEnd,
+                                     kChatEnd};
+  const bool is_other =
+      std::ranges::any_of(kOtherEnds, [&path](std::string_view end) {
+        return EndsWithIgnoringCase(path, end);
+      });
+  if (is_other) {
+    path.replace(path.size() - kCharacterEnd.size(), kCharacterEnd.size(),
+                 kCharacterEnd);
+    fault.place = named_at;
+    fault.text = "This line names " + Quoted(file.game_path) +
+                 ", which holds " + std::string(held) +
+                 " and not the bot's character. Write " + Quoted(path) + ".";
+  } else {
+    fault.text = "This file holds " + std::string(held) +
+                 ", but the game looks in it for the bot's character, the "
+                 "blocks skill 1, skill 4 and skill 5. Put the bot's own "
+                 "character file in its place.";
+  }
   return fault;
 }
 

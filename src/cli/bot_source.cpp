@@ -153,11 +153,14 @@ Choice Choose(const std::vector<std::string>& names, const BotSource& options,
     return {};
   }
   if (names.empty()) {
-    Fail(context, {.what = "There are no bot files.",
-                   .file = options.source,
-                   .line = 0,
-                   .advice = "The files of a bot end in _c.c, _w.c, _i.c and "
-                             "_t.c."});
+    const std::string why = WhyNoBots(PathFromBytes(options.source));
+    Fail(context,
+         {.what = "There are no bot files.",
+          .file = options.source,
+          .line = 0,
+          .advice = why.empty()
+                        ? "The files of a bot end in _c.c, _w.c, _i.c and _t.c."
+                        : why});
     return {};
   }
   if (options.name.empty()) {

@@ -4,6 +4,7 @@
 #include <charconv>
 #include <cstddef>
 #include <system_error>
+#include <utility>
 #include <vector>
 
 #include "chat/vocabulary.h"
@@ -19,18 +20,26 @@ constexpr std::string_view kKeyPrefix = "CHARACTERISTIC_";
 constexpr std::string_view kBlockIsLost =
     " and throws this whole skill block away.";
 
-/// How many letters must be put in, taken out or changed to make one word of
-/// the other, capitals aside.
+/// How many letters must be put in, taken out, changed or exchanged with their
+/// neighbours to make one word of the other, capitals aside.
 std::size_t Differences(std::string_view left, std::string_view right) {
+  const auto is_same = [&](std::size_t of_left, std::size_t of_right) {
+    return ToLower(left[of_left - 1]) == ToLower(right[of_right - 1]);
+  };
+  std::vector<std::size_t> before;
+  std::vector<std::size_t> last;
   std::vector<std::size_t> row(right.size() + 1);
   for (std::size_t at = 0; at < row.size(); ++at) row[at] = at;
-  for (const char letter : left) {
-    std::size_t diagonal = row[0]++;
+  for (std::size_t letter = 1; letter <= left.size(); ++letter) {
+    before = std::exchange(last, row);
+    row[0] = letter;
     for (std::size_t at = 1; at < row.size(); ++at) {
-      const std::size_t changed =
-          diagonal + (ToLower(letter) == ToLower(right[at - 1]) ? 0 : 1);
-      diagonal = row[at];
-      row[at] = std::min({changed, row[at] + 1, row[at - 1] + 1});
+      row[at] = std::min({last[at - 1] + (is_same(letter, at) ? 0 : 1),
+                          last[at] + 1, row[at - 1] + 1});
+      if (letter > 1 && at > 1 && is_same(letter, at - 1) &&
+          is_same(letter - 1, at)) {
+        row[at] = std::min(row[at], before[at - 2] + 1);
+      }
     }
   }
   return row.back();
@@ -79,12 +88,24 @@ std::string WholeNumber(const GameToken& value, const GameToken& behind,
   const std::size_t begin = line.find(read);
   if (begin == std::string_view::npos) return read;
   line.remove_prefix(begin);
-  const std::size_t end = line.find_first_of(" \t/;}", read.size());
+  const std::size_t end = line.find_first_of(" \t\r\n/;}", read.size());
   return std::string(line.substr(0, end));
+}
+
+/// With digits for the letters that look like some: "0.3" for "O.3"; empty
+/// where that makes no number.
+std::string WithDigits(std::string_view word) {
+  std::string number(word);
+  for (char& letter : number) {
+    if (letter == 'O' || letter == 'o') letter = '0';
+    if (letter == 'I' || letter == 'l') letter = '1';
+  }
+  return IsNumericText(number) ? number : std::string();
 }
 
 /// In plain digits: "0.9" for "0,9", "0.9f" and "9e-1".
 std::string PlainNumber(std::string number) {
+  if (std::string digits = WithDigits(number); !digits.empty()) return digits;
   std::ranges::replace(number, ',', '.');
   double value = 0;
   const auto read =
@@ -133,13 +154,15 @@ std::string_view NearestWord(std::string_view wrong,
   return nearest;
 }
 
-std::string AdviceForStray(const GameToken& token, std::string_view expected) {
+std::string AdviceForStray(const GameToken& token, std::string_view expected,
+                           std::string_view bytes) {
   if (token.file != 0) {
     return " It comes out of the file that this #include brings in, which "
            "does not belong here. Move the #include to where it belongs, "
            "or remove it.";
   }
   if (token.Is("}")) return " There is a } too many here or above. Remove it.";
+  if (token.Is(")") || token.Is("]")) return " Write } in its place.";
   if (token.kind == GameToken::Kind::kSign) {
     return " Remove it; a comment begins with //.";
   }
@@ -150,7 +173,13 @@ std::string AdviceForStray(const GameToken& token, std::string_view expected) {
       !NearestWord(token.text, {&expected, 1}).empty()) {
     return " Write " + std::string(expected) + ".";
   }
-  return " Perhaps there is a } too many above.";
+  const bool is_behind_block = Contains(bytes.substr(0, token.span.begin), "}");
+  if (token.kind != GameToken::Kind::kName) {
+    return is_behind_block ? " Perhaps there is a } too many above."
+                           : " Remove it.";
+  }
+  return " Perhaps " + std::string(expected) + " is meant" +
+         (is_behind_block ? ", or there is a } too many above." : ".");
 }
 
 std::string AdviceForMacroValue(std::string_view value) {
@@ -186,6 +215,11 @@ Fault UnknownKey(const GameToken& key, const GameToken& last,
     return {"unknown-characteristic", UnknownNameText(key.text)};
   }
   const std::string found = "The game finds " + Quoted(key.text);
+  if (key.Is(")") || key.Is("]")) {
+    return {"not-a-key", found + " where it expects a key or a }" +
+                             std::string(kBlockIsLost) +
+                             " Write } in its place."};
+  }
   return {"not-a-key",
           key.kind == Kind::kSign
               ? found + " in front of a key" + std::string(kBlockIsLost) +
@@ -195,7 +229,20 @@ Fault UnknownKey(const GameToken& key, const GameToken& last,
                     " Write its key in front of it, or remove it."};
 }
 
-std::string BadValueText(const GameToken& value) {
+std::string TwoNumbersText(const GameToken& value, const GameToken& behind) {
+  const std::string whole = value.text + behind.text;
+  std::string text = "The game finds " + Quoted(behind.text);
+  text += " behind the value " + Quoted(value.text);
+  text += kBlockIsLost;
+  text += " Each key has one number";
+  return text + (std::ranges::count(whole, '.') > 1
+                     ? ": remove one of them."
+                     : ", without a blank inside: write " + whole +
+                           ", or remove one of them.");
+}
+
+std::string BadValueText(const GameToken& value, bool is_number_wanted,
+                         std::string_view from) {
   const std::string lost(kBlockIsLost);
   if (value.kind == GameToken::Kind::kLiteral) {
     return "The game takes no text in single quotes (')" + lost +
@@ -209,9 +256,13 @@ std::string BadValueText(const GameToken& value) {
     return "The game takes no " + Quoted(value.text) +
            " between a key and its value" + lost + " Remove it.";
   }
-  return "The game finds " + Quoted(value.text) +
-         " behind this key, which is neither a number nor a text" + "," + lost +
-         " Put a text in quotation marks.";
+  std::string text = "The game finds " + Quoted(value.text) +
+                     " behind this key, which is neither a number nor a text,";
+  text += lost;
+  if (!is_number_wanted) return text + " Put a text in quotation marks.";
+  std::string number = WithDigits(WholeNumber(value, {}, from));
+  return text + " Write " + (number.empty() ? "a number" : number) +
+         (number.empty() ? ", such as 0.6." : ", in digits alone.");
 }
 
 }  // namespace fragsmith

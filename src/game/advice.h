@@ -15,9 +15,10 @@ namespace fragsmith {
 std::string_view NearestWord(std::string_view wrong,
                              std::span<const std::string_view> words);
 
-/// What to do about a word that stands outside all blocks, where the game looks
-/// for this one: a sentence behind a blank.
-std::string AdviceForStray(const GameToken& token, std::string_view expected);
+/// What to do about a word that stands outside all blocks of a file with these
+/// bytes, where the game looks for this one: a sentence behind a blank.
+std::string AdviceForStray(const GameToken& token, std::string_view expected,
+                           std::string_view bytes);
 
 /// What to do about the value of a macro that should be a number and is this
 /// text: a sentence.
@@ -33,8 +34,13 @@ struct Fault {
 Fault UnknownKey(const GameToken& key, const GameToken& last,
                  std::string_view line, const CharacterBlock& block);
 
-/// What to say of a word that stands where the value of a key should.
-std::string BadValueText(const GameToken& value);
+/// What to say of a number that stands behind the one that is a key's value.
+std::string TwoNumbersText(const GameToken& value, const GameToken& behind);
+
+/// What to say of a word that stands where the value of a key should; the file
+/// goes on with these bytes from there.
+std::string BadValueText(const GameToken& value, bool is_number_wanted,
+                         std::string_view from);
 
 }  // namespace fragsmith
 

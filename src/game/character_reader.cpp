@@ -1,6 +1,7 @@
 #include "game/character_reader.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 #include "chat/vocabulary.h"
@@ -20,20 +21,48 @@ class BlockFaults {
   explicit BlockFaults(GameSource& source) : source_(source) {}
 
   void Take(const GameToken& key, const GameToken& value) {
+    last_key_ = key;
+    last_value_ = value;
     if (without_value_ || !IsKey(key) || !IsKey(value)) return;
     without_value_ = key;
   }
 
+  /// A number behind that of a key is the next key to the game.
+  void TakeKey(const GameToken& key) {
+    using Kind = GameToken::Kind;
+    const bool is_in_number =
+        key.kind == Kind::kNumber && key.macro.empty() && IsKey(last_key_) &&
+        last_value_.kind == Kind::kNumber && key.file == last_value_.file &&
+        key.line == last_value_.line;
+    if (!in_number_ && is_in_number) in_number_ = {last_value_, key};
+  }
+
   void Tell(std::string_view id, const GameToken& token, std::string text) {
+    if (in_number_) {
+      const auto& [value, behind] = *in_number_;
+      return source_.Complain("not-one-value", behind,
+                              TwoNumbersText(value, behind));
+    }
     if (without_value_) return TellNoValue(*without_value_);
     source_.Complain(id, token, std::move(text));
   }
 
   void TellBadValue(const GameToken& key, const GameToken& value) {
-    if (value.Is("}") || value.Is("skill")) {
+    if (!in_number_ && (value.Is("}") || value.Is("skill"))) {
       return TellNoValue(without_value_.value_or(key));
     }
-    Tell("bad-value", value, BadValueText(value));
+    constexpr std::array kTexts = {0,
+                                   1,
+                                   kGameWeaponWeights,
+                                   kGameChatFile,
+                                   kGameChatName,
+                                   kGameItemWeights};
+    const bool is_number_wanted =
+        !std::ranges::count(kTexts, static_cast<int>(key.number));
+    Tell("bad-value", value,
+         BadValueText(value, is_number_wanted,
+                      value.file == 0 ? source_.bytes().substr(value.span.begin)
+                                      : std::string_view(value.text)));
   }
 
  private:
@@ -52,7 +81,10 @@ class BlockFaults {
   }
 
   GameSource& source_;
+  GameToken last_key_;
+  GameToken last_value_;
   std::optional<GameToken> without_value_;
+  std::optional<std::pair<GameToken, GameToken>> in_number_;
 };
 
 /// Reads up to the "}" of the block. When the file ends before, or an error
@@ -62,6 +94,7 @@ bool ReadValues(GameSource& source, CharacterBlock& block) {
   GameToken token;
   BlockFaults faults(source);
   while (source.ReadAny(key) && !key.Is("}")) {
+    faults.TakeKey(key);
     if (key.kind != GameToken::Kind::kNumber || !key.is_whole) {
       Fault fault = UnknownKey(key, token, source.LineOf(key), block);
       faults.Tell(fault.id, key, std::move(fault.text));
@@ -149,7 +182,7 @@ std::optional<CharacterBlock> ReadCharacterBlock(const GameFile& file,
                       "The game finds " + Quoted(token.text) +
                           " outside a skill block and reads no further. Here "
                           "it expects skill, a number and {." +
-                          AdviceForStray(token, "skill"));
+                          AdviceForStray(token, "skill", source.bytes()));
       return std::nullopt;
     }
     const int line = token.file == 0 ? token.line : 0;

@@ -178,7 +178,7 @@ bool ReadTypes(GameSource& source, GameChat& chat) {
                           Quoted(token.text) +
                           " where it expects type and a name in quotation "
                           "marks." +
-                          AdviceForStray(token, "type"));
+                          AdviceForStray(token, "type", source.bytes()));
       return false;
     }
     if (!source.ExpectString(token)) return false;
@@ -215,7 +215,7 @@ bool ReadGameChat(const GameFile& file, std::string_view chat_name,
                       "The game finds " + Quoted(token.text) +
                           " outside a chat. Here it expects chat, a name in "
                           "quotation marks and {." +
-                          AdviceForStray(token, "chat"));
+                          AdviceForStray(token, "chat", source.bytes()));
       return false;
     }
     if (!source.ExpectString(token)) return false;

@@ -46,7 +46,9 @@ void Complaints::KeepFirstError(std::size_t first) {
 void Complaints::ReplaceError(std::size_t first, Complaint fault) {
   for (std::size_t at = first; at < list_.size(); ++at) {
     if (list_[at].severity != Severity::kError) continue;
-    if (fault.place.line > list_[at].place.line && list_[at].place.line > 0) {
+    const FilePlace& place = list_[at].place;
+    if (fault.place.file == place.file && fault.place.line > place.line &&
+        place.line > 0) {
       return;
     }
     fault.severity = Severity::kError;

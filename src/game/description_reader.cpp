@@ -6,16 +6,13 @@
 #include <utility>
 
 #include "chat/vocabulary.h"
+#include "game/file_faults.h"
 #include "game/limits.h"
+#include "support/game_blank.h"
 #include "support/text.h"
 
 namespace fragsmith {
 namespace {
-
-bool IsBlank(char letter) {
-  const auto byte = static_cast<unsigned char>(letter);
-  return byte <= ' ' || byte >= 128;
-}
 
 /// Takes words apart as the game does in all files but the .c ones: up to a
 /// blank, or between quotes without escapes.
@@ -63,7 +60,7 @@ class WordReader {
     while (offset_ < bytes_.size()) {
       const std::string_view rest = bytes_.substr(offset_);
       std::size_t length = 0;
-      if (IsBlank(rest[0])) {
+      if (IsGameBlank(rest[0])) {
         length = 1;
       } else if (rest.starts_with("//")) {
         length = std::min(rest.find('\n'), rest.size());
@@ -150,11 +147,15 @@ class SetReader {
                  last_key_);
         told_line_ = line_;
       } else if (is_stray && told_line_ != line_) {
-        Complain("description-more-words", Severity::kWarning,
-                 "Of " + Quoted(last_key_) + " the game reads only " +
-                     Quoted(last_value_) + ", and takes " + Quoted(key) +
-                     " behind it for a key. Put a text of several words in "
-                     "quotation marks.",
+        const std::string_view curly =
+            AdviceForCurlyQuotes(LineOfFile(file_.bytes, line_));
+        std::string text = "Of " + Quoted(last_key_);
+        text += " the game reads only " + Quoted(last_value_);
+        text += ", and takes " + Quoted(key) + " behind it for a key.";
+        text += curly.empty()
+                    ? " Put a text of several words in quotation marks."
+                    : curly;
+        Complain("description-more-words", Severity::kWarning, std::move(text),
                  last_key_);
       }
       ReadValue(key, is_stray);
@@ -175,8 +176,28 @@ class SetReader {
     told_line_ = line_;
   }
 
+  /// Without a brace between two bots, or with two names for one.
+  void TellSecondName() {
+    line_ = second_name_line_;
+    if (has_two_files_) {
+      Complain(kBotsMerged, Severity::kError,
+               "The } and the { between two bots are missing above this line, "
+               "so the game makes one bot of two and does not know " +
+                   Quoted(lost_name_) + ". Write } and { above this line.");
+    } else {
+      Complain("name-twice", Severity::kWarning,
+               "The bot has a second name here: the game takes the last and "
+               "does not know " +
+                   Quoted(lost_name_) + ". Remove one of the lines.",
+               "name");
+    }
+  }
+
   void TellBrace() {
-    if (brace_.empty()) return;
+    if (brace_.empty()) {
+      if (!lost_name_.empty()) TellSecondName();
+      return;
+    }
     const std::string begin =
         "the bot that begins in line " + std::to_string(set_.line);
     line_ = brace_line_;
@@ -289,9 +310,13 @@ class SetReader {
     last_value_ = value;
     size_ += key.size() + value.size() + 2;
     const bool is_too_long = size_ > limits::kMaxDescription;
-    if (EqualIgnoringCase(key, "name") && !brace_.empty()) {
+    if (EqualIgnoringCase(key, "name") &&
+        !EqualIgnoringCase(set_.Text("name"), value) && lost_name_.empty()) {
       lost_name_ = set_.Text("name");
+      second_name_line_ = line_;
     }
+    has_two_files_ = has_two_files_ || (EqualIgnoringCase(key, "aifile") &&
+                                        !set_.Text("aifile").empty());
     if (!is_too_long && !IsThrownAway(key) && !IsThrownAway(value)) {
       set_.values[ToLower(key)] = {std::move(value), line_, span};
       return;
@@ -322,6 +347,8 @@ class SetReader {
   std::string brace_;  ///< The first where a key should stand.
   int brace_line_ = 0;
   std::string lost_name_;  ///< Of a bot that another one swallows.
+  int second_name_line_ = 0;
+  bool has_two_files_ = false;
 };
 
 }  // namespace
@@ -341,7 +368,7 @@ int DescriptionSet::Line(std::string_view key) const {
 }
 
 std::string_view UnquotedWord(std::string_view text) {
-  const auto* const end = std::ranges::find_if(text, IsBlank);
+  const auto* const end = std::ranges::find_if(text, IsGameBlank);
   return text.substr(0, static_cast<std::size_t>(end - text.begin()));
 }
 

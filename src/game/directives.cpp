@@ -169,9 +169,15 @@ bool GameSource::Include() {
     const std::string beside = "bots/" + path;
     const std::string above = path.substr(path.rfind('/') + 1);
     const std::string_view of_game = MeantFile(path, file_);
-    std::string advice = of_game.empty()
-                             ? "Correct the name, or remove the line."
-                             : "Write " + Quoted(of_game) + ".";
+    std::string advice = "Correct the name, or remove the line.";
+    if (EqualIgnoringCase(of_game, path)) {
+      advice =
+          "It is one of the game's own, which the game folder does not have: "
+          "perhaps that is another folder, or packages of the game are "
+          "missing.";
+    } else if (!of_game.empty()) {
+      advice = "Write " + Quoted(of_game) + ".";
+    }
     for (const std::string& meant : {beside, above}) {
       if (meant == path) continue;
       work_ += kWorkOfInclude;
@@ -237,6 +243,13 @@ bool GameSource::Define() {
                " is defined by itself; the game leaves that out of its value. "
                "Write its value in its place.");
     } else {
+      // The end of an included file is no end of its last line.
+      if (macro.name.file != 0 && token.file == 0) {
+        Complain("include-with-more", token,
+                 "The game takes " + Quoted(token.text) +
+                     " behind the name of the included file for a part of "
+                     "that file's last line. Remove it.");
+      }
       ReportOddity(token);
       macro.body.push_back(token);
     }

@@ -50,6 +50,18 @@ int OpenBrace(std::string_view bytes) {
   return open.empty() ? 0 : open.back();
 }
 
+/// What made a file that is no plain text; empty for one that may be.
+std::string_view MakerOf(std::string_view bytes) {
+  if (bytes.starts_with("{\\rtf") || bytes.starts_with("PK\x03\x04")) {
+    return "a word processor";
+  }
+  const std::string start = ToLower(bytes.substr(0, sizeof("<!doctype")));
+  if (start.starts_with("<!doctype") || start.starts_with("<html")) {
+    return "a browser, as a web page";
+  }
+  return {};
+}
+
 bool IsSavedAsUnicode(std::string_view bytes) {
   return bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF") ||
          (bytes.size() > 3 && (bytes[0] == '\0' || bytes[1] == '\0'));
@@ -63,6 +75,13 @@ std::optional<Complaint> FaultOfBytes(const GameFile& file) {
                      .place = {.file = file.name, .line = 1},
                      .text = {}};
   const std::string_view bytes = file.bytes;
+  if (const std::string_view maker = MakerOf(bytes); !maker.empty()) {
+    fault.id = "no-plain-text";
+    fault.text = "This file was saved by " + std::string(maker) +
+                 ", with much in it that is not the bot's. Save it as plain "
+                 "text, without formatting.";
+    return fault;
+  }
   if (IsSavedAsUnicode(bytes)) {
     fault.id = "saved-as-unicode";
     fault.text =
@@ -137,7 +156,7 @@ std::string_view AdviceForOpenText(std::string_view line) {
          "write ', since the game never shows a \".";
 }
 
-std::string_view AdviceForLine(std::string_view line) {
+std::string_view AdviceForCurlyQuotes(std::string_view line) {
   // In UTF-8 and in Windows-1252.
   const bool is_curly = Contains(line, "\xE2\x80\x9C") ||
                         Contains(line, "\xE2\x80\x9D") ||
@@ -145,6 +164,14 @@ std::string_view AdviceForLine(std::string_view line) {
   if (is_curly) {
     return " There are curly quotation marks (\xE2\x80\x9C \xE2\x80\x9D) in "
            "this line, which the game does not see. Type straight ones (\").";
+  }
+  return {};
+}
+
+std::string_view AdviceForLine(std::string_view line) {
+  if (const std::string_view advice = AdviceForCurlyQuotes(line);
+      !advice.empty()) {
+    return advice;
   }
   const std::size_t comment = line.find("/*");
   const std::size_t end = line.find("*/");

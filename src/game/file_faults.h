@@ -31,6 +31,9 @@ std::string_view AdviceForOpenText(std::string_view line);
 /// Empty, or a sentence.
 std::string_view AdviceForLine(std::string_view line);
 
+/// The same of curly quotation marks alone.
+std::string_view AdviceForCurlyQuotes(std::string_view line);
+
 }  // namespace fragsmith
 
 #endif  // FRAGSMITH_GAME_FILE_FAULTS_H_

@@ -5,6 +5,7 @@
 #include <charconv>
 
 #include "game/limits.h"
+#include "support/game_blank.h"
 
 namespace fragsmith {
 namespace {
@@ -19,13 +20,6 @@ bool IsHexDigit(char letter) {
 bool BeginsName(char letter) {
   return (letter >= 'a' && letter <= 'z') || (letter >= 'A' && letter <= 'Z') ||
          letter == '_';
-}
-
-/// Bytes are signed in the games that people play, so those from 128 on count
-/// as blanks as well.
-bool IsBlank(char letter) {
-  const auto byte = static_cast<unsigned char>(letter);
-  return byte != 0 && (byte <= ' ' || byte >= 128);
 }
 
 constexpr std::string_view kSingleSigns = "*/%+-~&|^!><.,;:=?(){}[]\\#$";
@@ -98,7 +92,7 @@ char GameLexer::At(std::size_t ahead) const {
 bool GameLexer::SkipBlanks() {
   const std::size_t start = offset_;
   while (offset_ < bytes_.size()) {
-    if (IsBlank(At())) {
+    if (IsGameBlank(At())) {
       line_ += At() == '\n' ? 1 : 0;
       ++offset_;
     } else if (At() == '/' && At(1) == '/') {

@@ -113,12 +113,19 @@ bool GameSource::ExpectBrace(const GameToken& last, GameToken* brace) {
     if (brace != nullptr) *brace = std::move(token);
     return true;
   }
+  const bool is_bracket = token.Is("(") || token.Is("[");
   const bool is_behind = token.file == last.file && token.line == last.line;
-  Complain("expected-brace", is_behind ? token : last,
-           "The game expects a { behind " + Quoted(last.text) + " but finds " +
-               Quoted(token.macro.empty() ? token.text : token.macro) +
-               (is_behind ? ". Remove the " + Quoted(token.text) + "."
-                          : ". Write the { between them."));
+  std::string text = "The game expects a { behind " + Quoted(last.text) +
+                     " but finds " +
+                     Quoted(token.macro.empty() ? token.text : token.macro);
+  if (is_bracket) {
+    text += ". Write { in its place.";
+  } else {
+    text += is_behind ? ". Remove the " + Quoted(token.text) + "."
+                      : ". Write the { between them.";
+  }
+  Complain("expected-brace", is_behind || is_bracket ? token : last,
+           std::move(text));
   return false;
 }
 

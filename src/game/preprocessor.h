@@ -47,6 +47,9 @@ class GameSource {
   GameSource(const GameFile& file, const IncludeLookup& game,
              Complaints& findings);
 
+  /// Of the file itself.
+  std::string_view bytes() const { return file_.bytes; }
+
   /// The next token; false at the end and at an error.
   bool Read(GameToken& token);
 

@@ -7,6 +7,7 @@
 #include "chat/chat_line.h"
 #include "game/limits.h"
 #include "game/plain_letters.h"
+#include "support/game_blank.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -112,16 +113,13 @@ std::string_view SampleNames::Of(ChatFill fill) const {
 std::string AsOnScreen(std::string_view text) {
   const std::string without_tildes = RemoveTildes(text);
   text = without_tildes;
-  const auto is_blank = [](char letter) {
-    return IsAccented(letter) || static_cast<unsigned char>(letter) <= ' ';
-  };
   const auto begins = [&text](std::size_t at, std::string_view sign) {
     return text.substr(at).starts_with(sign);
   };
   std::vector<std::string_view> parts;
   std::size_t at = 0;
   while (at < text.size()) {
-    if (is_blank(text[at])) {
+    if (IsGameBlank(text[at])) {
       ++at;
     } else if (begins(at, "//")) {
       break;
@@ -135,7 +133,7 @@ std::string AsOnScreen(std::string_view text) {
       at = end + 1;
     } else {
       const std::size_t begin = at;
-      while (at < text.size() && !is_blank(text[at]) && text[at] != '"' &&
+      while (at < text.size() && !IsGameBlank(text[at]) && text[at] != '"' &&
              !begins(at, "//") && !begins(at, "/*")) {
         ++at;
       }

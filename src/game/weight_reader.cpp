@@ -58,7 +58,8 @@ class WeightReader {
         return " Write #define in front of it.";
       }
     }
-    return token.file == 0 ? " Remove it." : AdviceForStray(token, "weight");
+    return token.file == 0 ? " Remove it."
+                           : AdviceForStray(token, "weight", source_.bytes());
   }
 
   bool ReadSwitch(const GameToken& begin) {

@@ -10,6 +10,7 @@
 #include "game/limits.h"
 #include "inplace/attempt.h"
 #include "session/identity_rules.h"
+#include "support/game_blank.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -155,10 +156,8 @@ class DescriptionPlan {
 
   static bool NeedsQuotes(std::string_view text) {
     // Outside of quotes the game ends a word at a letter beyond ASCII, too.
-    const bool has_end = std::ranges::any_of(text, [](char letter) {
-      return letter == ' ' || letter == '\t' || (letter & 0x80) != 0;
-    });
-    return has_end || Contains(text, "//") || Contains(text, "/*");
+    return std::ranges::any_of(text, IsGameBlank) || Contains(text, "//") ||
+           Contains(text, "/*");
   }
 
   Splice Replacement(TextSpan span, const std::string& text) const {

@@ -116,6 +116,47 @@ TEST(BotFiles, AreWrittenAgainByteForByte) {
   }
 }
 
+TEST(BotFiles, AreReadWithTheBlanksThatOnlyTheGameTakesForSome) {
+  Bot bot;
+  Set(bot, kNameField, "Nix\xA0y");
+  for (const Level level : kLevels) Set(bot, ParameterId(level, 6), 240.0);
+  for (int index = 31; index <= 80; ++index) Set(bot, Id(index), index + 0.25F);
+  for (const std::string blank :
+       {"\xA0", "\xC2\xA0", "\xE2\x80\x8B", "\x1A", "\xA0 \xA0"}) {
+    for (std::size_t at = 0; at < 3; ++at) {
+      const Format& format = Formats()[at];
+      std::string bytes;
+      for (const char letter : format.write(bot)) {
+        bytes += letter == '\t' ? blank : std::string(1, letter);
+        if (letter == '\n') bytes += blank;
+      }
+      Bot read;
+      for (const auto& [id, value] : format.read(bytes, read).plain_values) {
+        read.Put(id, value);
+      }
+      Bot expected;
+      (void)format.read(format.write(bot), expected);
+      EXPECT_EQ(format.write(read), format.write(expected)) << bytes;
+    }
+  }
+  // What a person sees is kept, whatever the game makes of it.
+  Bot read;
+  for (const auto& [text, value] : {std::pair("\x93male\x94", "\x93male\x94"),
+                                    {"\xC9ric", "\xC9ric"},
+                                    {"\"a\xA0z\"", "a\xA0z"}}) {
+    const std::string line = "CHARACTERISTIC_CHAT_NAME " + std::string(text);
+    (void)ReadCharacteristicFile(line, "f", ReadIdentity::kYes, read);
+    EXPECT_EQ(read.Text(kChatNameField), value);
+  }
+  for (const char* const number : {"\x93"
+                                   "0.7\x94",
+                                   "\x96 0.7"}) {
+    const std::string line = "CHARACTERISTIC_CHAT_MISC " + std::string(number);
+    (void)ReadCharacteristicFile(line, "f", ReadIdentity::kYes, read);
+    EXPECT_EQ(read.Text(Id(33)), "0.7");
+  }
+}
+
 TEST(BotFiles, SurviveHugeAndBinaryInput) {
   const RandomSource random = SeededRandom(7);
   std::string noise;

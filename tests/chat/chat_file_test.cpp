@@ -148,6 +148,27 @@ TEST(ChatFile, TellsTypesThatBeginAlikeApart) {
             "evl");
 }
 
+TEST(ChatFile, PassesOverTheBlanksThatNobodySees) {
+  const std::string text = "a\xA0z\xC2\xA0 \x93hi\x94";
+  for (const std::string blank : {"\xA0", "\xC2\xA0", "\x1A"}) {
+    std::string file;
+    for (const char letter :
+         GameLines("chat \"x\"|{|>#include \"teamplay.h\"|>type \"death_lava\"|"
+                   ">{|>>\"" +
+                   text +
+                   "\";|>>\"b\",>0;|>}|>type>\"kill_rail\"|>{|>>\"c\";|"
+                   ">}|}|")) {
+      file += letter == '\t' ? blank : std::string(1, letter);
+    }
+    Bot bot;
+    const ReadReport report = ReadChatFile(file, "f_t.c", bot);
+    EXPECT_EQ(bot.ChatLine(TypeAt(11), 0), text);
+    EXPECT_EQ(bot.ChatLine(TypeAt(11), 1), "b{ANYOPPONENTNAME}");
+    EXPECT_EQ(bot.ChatLine(TypeAt(20), 0), "c");
+    EXPECT_THAT(Described(report.notes), ElementsAre());
+  }
+}
+
 TEST(ChatFile, SurvivesHugeAndBinaryInput) {
   const RandomSource random = SeededRandom(10);
   const std::string type = "type \"game_enter\"\n";

@@ -345,12 +345,33 @@ TEST(CheckFiles, SaysWhatToDo) {
       {"t", "\"bye\";", "\"bye;\nHELLO1;", "Close the text on the same line"},
       {"bot", "model", "funname \"The \"Great\"\"\nmodel",
        "Remove the quotation marks inside the text"},
+      {"bot", "model",
+       "funname \xE2\x80\x9C"
+       "Big Bad\xE2\x80\x9D\nmodel",
+       "behind it for a key. There are curly quotation marks"},
       {"bot", "$$", "funname \"Big\n}",
        "The game adds the bot, but it may be with those files."},
+      {"bot", "model", "funname \"Big\nmodel", "another bot's files, or not"},
+      {"bot", "aifile\t", "aifile\t\"", "The game does not add the bot."},
       // The number that was meant.
       {"c", "TIME 0.5", "TIME 0,9", "number \"0,9\" and"},
       {"c", "TIME 0.5", "TIME 0,9", "Write 0.9."},
+      {"c", "ATTACK_SKILL 0.5", "ATTACK_SKILL 0. 5", "write 0.5, or"},
+      {"c", "TIME 0.5", "TIME O.5", "Write 0.5, in digits"},
+      {"c", "TIME 0.5", "TIME l.0", "Write 1.0, in digits"},
+      {"c", "TIME 0.5", "TIME high", "Write a number, such as 0.6."},
+      {"c", "\"bots/botx_w.c\"", "weapons", "Put a text in quotation marks."},
+      {"c", "TIME 0.5", "TIME 24O", "Write 240."},
+      {"c", "skill 1\n{", "skill 1\n(", "Write { in its place."},
+      {"c", "$$", ")", "Write } in its place."},
+      {"t", "$$", ")", "Write } in its place."},
+      {"t", "chat \"", "chta \"", "Write chat."},
+      {"t", "type", "tpye", "Write type."},
+      {"c", "skill 1", "level 1", "{. Perhaps skill is meant."},
+      {"c", "TIME 0.5", "TIME 2 40", "write 240, or"},
+      {"c", "TIME 0.5", "TIME 0.2 0.5", "remove one of them."},
       {"c", "TIME 0.5", "TIME 9e-1;", "Write 0.9."},
+      {"c", "chars.h\"", "chars.h\";", "\";\" behind the name of"},
       {"c", "TIME 0.5", "TIME 0.9f // fast", "Write 0.9."},
       {"c", "TIME 0.5", "TIME 0.5 /* a /* b */ c */",
        "Remove the comment inside it."},
@@ -365,6 +386,16 @@ TEST(CheckFiles, SaysWhatToDo) {
       {"bot", "$$", "},\n{\nname Rook\naifile bots/botx_c.c\n}",
        "does not know \"x\". Write } and a blank behind it."},
       {"bot", "$$", "},", "Write } and a blank behind it."},
+      {"bot", "$$", "name Rook\naifile bots/botx_c.c\n}",
+       "does not know \"x\". Write } and { above this line."},
+      {"c", "botx_w.c", "botw.c", "the bot's own is \"bots/x_w.c\"."},
+      {"c", "*", "{\\rtf1 skill 1}", "saved by a word processor"},
+      {"t", "*", "<!DOCTYPE html>\n<html></html>", "as a web page, with"},
+      // A file in the place of another.
+      {"bot", "botx_c.c", "botx_w.c", "weights and not the bot's character."},
+      {"c", "*", "chat \"x\"\n{\n}\n", "This file holds chats, but the game"},
+      {"bot", "name\tbotx", "name abcdefghijklmnop", "menu of a skirmish can"},
+      {"bot", "model", "name Rook\nmodel", "does not know \"x\". Remove one"},
       {"bot", "", "{\nname botx\n}\n",
        "twice in this file, here and in line 4"},
       {"bot", "$", "{\nname botx\naifile bots/botx_c.c\n}\n",
@@ -434,6 +465,22 @@ TEST(CheckFiles, PicksTheBotOfTheDescriptionThatIsMeant) {
   const BotFileSet set = FileSetOf(files, "x");
   EXPECT_EQ(Verdicts(set), "RRRR");
   EXPECT_THAT(Found(set), Contains("x.bot:3: error other-character"));
+  EXPECT_THAT(CheckFiles(set, StandInGameFile).front().text,
+              HasSubstr("with the character and the files of that one."));
+}
+
+TEST(CheckFiles, TellsSwappedPathsOfWeights) {
+  std::map<std::string, std::string> files;
+  ASSERT_TRUE(MakeEngineCase({"", "c", "", "", "", ""}, "x", files));
+  files["c"] = ReplaceAll(files["c"], "x_w.c", "x_?.c");
+  files["c"] = ReplaceAll(files["c"], "x_i.c", "x_w.c");
+  files["c"] = ReplaceAll(files["c"], "x_?.c", "x_i.c");
+  const std::vector<Finding> findings =
+      CheckFiles(FileSetOf(files, "x"), StandInGameFile);
+  EXPECT_THAT(findings.front().text,
+              HasSubstr("of items. Write \"bots/x_w.c\" in each skill block."));
+  EXPECT_EQ(std::get<FilePlace>(findings.front().place),
+            (FilePlace{.file = "x_c.c", .line = 9}));
 }
 
 TEST(CheckFiles, TellsSwappedWeightsOnce) {

@@ -158,5 +158,43 @@ TEST_F(PackageChecks, ReadTheListThatTheGameReads) {
               Not(Contains(HasSubstr("no-description"))));
 }
 
+TEST_F(PackageChecks, TellWhereTheGameDoesNotLook) {
+  folder_.Write("game/baseoa/pak0.pk3",
+                MakeZip({{"botfiles/bots/default_c.c", ""}}));
+  folder_.Write("game/baseq3/other.pk3", MakeZip({{"a", ""}}));
+  const auto game = ReadInstalledGame(folder_ / "game");
+  ASSERT_TRUE(game);
+  for (const auto& [place, is_told] : {std::pair("game/baseoa/", false),
+                                       {"game/", true},
+                                       {"game/baseoa/mods/", true},
+                                       {"game/baseq3/", true},
+                                       {"game/mod/", false},
+                                       {"game/mod/old/", false},
+                                       {"", false}}) {
+    const std::vector<std::string> found =
+        Found(Packed(), std::string(place) + "bot-x.pk3", &*game);
+    const bool is_first =
+        !found.empty() &&
+        fragsmith::Contains(found.front(), "package-in-wrong-folder");
+    EXPECT_EQ(is_first, is_told) << place;
+  }
+}
+
+TEST_F(PackageChecks, TellOfFilesThatAreNoneOfABot) {
+  const auto why = [this](const std::string& name) {
+    folder_.Write("bot-x.pk3", MakeZip({{name, "skill 1"}}));
+    return WhyNoBots(folder_ / "bot-x.pk3");
+  };
+  EXPECT_THAT(why("x_c.c"), HasSubstr("\"x_c.c\" lies at the top of the"));
+  EXPECT_THAT(why("bots/X_c.c"), HasSubstr("lies in the folder \"bots\","));
+  EXPECT_THAT(why("botfiles/bots/x_c.c.txt"), HasSubstr("Remove the .txt"));
+  EXPECT_EQ(why("readme.txt"), "");
+  folder_.Write("loose/bots/x_c.c", "");
+  EXPECT_THAT(WhyNoBots(folder_ / "loose"), HasSubstr("folder \"bots\" there"));
+  folder_.Write("texts/x.bot.txt", "");
+  EXPECT_THAT(WhyNoBots(folder_ / "texts"), HasSubstr("Remove the .txt"));
+  EXPECT_EQ(WhyNoBots(folder_ / "none"), "");
+}
+
 }  // namespace
 }  // namespace fragsmith

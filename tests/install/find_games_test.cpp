@@ -97,6 +97,9 @@ TEST_F(Games, OfAnotherNameAreScannedWithTheirOwnPackage) {
   }
   folder_.Write("game/missionpack/pak0.pk3", "");
   EXPECT_EQ(PackageFolder(game), game / "baseoa");
+  // One without the game's package is none that it reads.
+  folder_.Write("game/baseq3/bot-x.pk3", "");
+  EXPECT_EQ(PackageFolder(game), game / "baseoa");
   ScriptedPrompts prompts;
   Notes notes;
   BaseLists lists;

@@ -4,6 +4,7 @@
 #include <memory>
 #include <utility>
 
+#include "checks/bot_location.h"
 #include "editor/dialogs/changes_dialog.h"
 #include "editor/toolkit/game_text_conversion.h"
 #include "install/program/game_folder.h"
@@ -259,7 +260,20 @@ void BotCommands::OpenFolder(const fs::path& folder) {
     if (files.size() == 1) return OpenPath(inner / files.front());
     return ShowOpenSaveForm(OpenKind::kLoadBot);
   }
-  emit StatusText(tr("There is no bot in %1.").arg(Shown(folder)));
+  TellNoBot(folder);
+}
+
+/// In a box where there is something to do about it.
+void BotCommands::TellNoBot(const fs::path& path) {
+  const QString text = tr("There is no bot in %1.").arg(Shown(path));
+  const std::string why = WhyNoBots(path);
+  if (why.empty()) {
+    emit StatusText(text);
+    return;
+  }
+  state_.prompts.Show({.title = std::string(kProgramTitle),
+                       .text = text.toStdString() + ' ' + why,
+                       .icon = MessageIcon::kExclamation});
 }
 
 void BotCommands::OpenPackage(const fs::path& package,
@@ -273,7 +287,7 @@ void BotCommands::OpenPackage(const fs::path& package,
     return;
   }
   if (bots->entries().empty()) {
-    emit StatusText(tr("There is no bot in %1.").arg(Shown(package)));
+    TellNoBot(package);
     return;
   }
   if (!MayLoseChanges(kLoadQuestion)) return;

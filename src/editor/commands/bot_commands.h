@@ -106,6 +106,7 @@ class BotCommands : public QObject {
                                 const OpenChoice& choice);
   void frmOpenBot_GiveBot(const LoadedPart& part, const OpenChoice& choice);
   void OpenFolder(const std::filesystem::path& folder);
+  void TellNoBot(const std::filesystem::path& path);
   void OpenPackage(const std::filesystem::path& package,
                    const std::string& wanted);
   void Take(const LoadedPart& part, std::optional<LoadedBot> loaded,

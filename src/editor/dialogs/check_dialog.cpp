@@ -134,11 +134,17 @@ void frmCheck::FindBots() {
   found_->ShowFindings({});
   if (!bots_.empty()) return CheckSoon();
   timer_.stop();
-  verdict_->Say(
-      bots ? tr("There is no bot in %1. The files of a bot end in _c.c, _w.c, "
-                "_i.c, _t.c and .bot; of many packages choose one.")
-                 .arg(QString::fromStdString(Utf8FromPath(chosen)))
-           : QString::fromStdString(Describe(bots.error())));
+  if (!bots) {
+    return verdict_->Say(QString::fromStdString(Describe(bots.error())));
+  }
+  const std::string why = WhyNoBots(chosen);
+  verdict_->Say(tr("There is no bot in %1. %2")
+                    .arg(QString::fromStdString(Utf8FromPath(chosen)),
+                         why.empty()
+                             ? tr("The files of a bot end in _c.c, _w.c, "
+                                  "_i.c, _t.c and .bot; of many packages "
+                                  "choose one.")
+                             : QString::fromStdString(why)));
 }
 
 void frmCheck::CheckSoon() {

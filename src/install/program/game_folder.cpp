@@ -76,14 +76,20 @@ bool HasGameProgram(const fs::path& gameFolder) {
 }
 
 fs::path PackageFolder(const fs::path& gameFolder) {
-  fs::path exact = gameFolder / kStandardFolder;
-  if (gameFolder.empty() || IsFolder(exact)) return exact;
+  const fs::path exact = gameFolder / kStandardFolder;
+  if (gameFolder.empty() || FindFile(exact, kGamePackage)) return exact;
+  std::optional<fs::path> standard;
+  if (IsFolder(exact)) standard = exact;
   std::optional<fs::path> other;
   std::error_code reason;
   for (fs::directory_iterator entry(gameFolder, reason), end;
        !reason && entry != end; entry.increment(reason)) {
     const fs::path& folder = entry->path();
-    if (IsStandardPackageFolder(folder) && IsFolder(folder)) return folder;
+    if (IsStandardPackageFolder(folder) && IsFolder(folder)) {
+      if (FindFile(folder, kGamePackage)) return folder;
+      if (!standard) standard = folder;
+      continue;
+    }
     const std::string name = BytesFromPath(folder.filename());
     if (EqualIgnoringCase(name.substr(0, kOtherFolders.size()),
                           kOtherFolders) &&
@@ -91,7 +97,7 @@ fs::path PackageFolder(const fs::path& gameFolder) {
       other = folder;
     }
   }
-  return other.value_or(exact);
+  return other.value_or(standard.value_or(exact));
 }
 
 bool IsStandardPackageFolder(const fs::path& package_folder) {

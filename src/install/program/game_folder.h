@@ -22,8 +22,8 @@ inline constexpr std::string_view kUserDefinedPackage = "UserDef";
 bool HasGameProgram(const std::filesystem::path& gameFolder);
 
 /// The folder of the game's packages: baseq3, or in a game of another name the
-/// one in its place, such as baseoa, which has a pak0.pk3. Where there is none
-/// baseq3, which does not exist then.
+/// one in its place, such as baseoa, which has a pak0.pk3 where baseq3 has
+/// none. Where there is none baseq3, which may not exist then.
 std::filesystem::path PackageFolder(const std::filesystem::path& gameFolder);
 
 /// True when the package folder is the game's own baseq3, of whose pak0.pk3
