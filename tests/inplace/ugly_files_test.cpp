@@ -328,6 +328,18 @@ TEST(UglyFilesTest, EditsTheBlockOfATypeThatTheGameUses) {
                             ViewOf(BotFile::kChat, *edited, StandInGameFile)),
                 ElementsAre(Key("chat hit_nokill")));
   }
+  const LoadedFile two_blocks(BotFile::kChat, one + "}\n");
+  for (const bool is_first : {true, false}) {
+    std::vector<std::string> lines = {"ha", "next time", "ho", "next time"};
+    lines.insert(is_first ? lines.begin() : lines.end(), "new");
+    Notes notes;
+    ASSERT_TRUE(two_blocks.Edited(type, lines, &notes));
+    ASSERT_EQ(notes.empty(), !is_first);
+    if (is_first) {
+      EXPECT_THAT(notes.list().front().text,
+                  HasSubstr("they come back in another order than given"));
+    }
+  }
   const IncludeLookup game = With({{"more.h", kTypes[0]}});
   for (const std::string& bytes :
        {one + "#include \"more.h\"\n}\n",
