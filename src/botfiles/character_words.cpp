@@ -69,9 +69,9 @@ void CharacterWords::TakeWordOf(std::string_view word) {
     return;
   } else if (word == kSkill) {
     expects_level_ = true;
-    level_line_ = line_;
+    block_.line = line_;
   } else if (const std::optional<int> key = KeyNamed(word)) {
-    open_key_ = Found{.key = *key, .line = line_};
+    open_key_ = Found{.key = *key, .line = line_, .block = block_};
   } else if (!IsBrace(word)) {
     left_out_.AddName(word, line_);
     skips_value_ = true;
@@ -80,11 +80,12 @@ void CharacterWords::TakeWordOf(std::string_view word) {
 
 void CharacterWords::TakeLevel(std::string_view word) {
   const std::optional<double> number = NumberFromText(word);
-  level_.reset();
+  std::optional<int>& level = block_.level;
+  level.reset();
   if (number && std::fabs(*number) < kMaxLevel) {
-    level_ = static_cast<int>(*number);
+    level = static_cast<int>(*number);
   }
-  is_repeated_ = level_ && !levels_.insert(*level_).second;
+  block_.is_repeated = level && !levels_.insert(*level).second;
 }
 
 void CharacterWords::EndKey(Value value) {

@@ -16,11 +16,19 @@ namespace fragsmith {
 /// in blocks, wherever the lines end.
 class CharacterWords {
  public:
+  struct Block {
+    std::optional<int> level;
+    std::size_t line = 0;  ///< Where it begins.
+    /// The file had a block of this level before, which the game takes.
+    bool is_repeated = false;
+  };
+
   struct Found {
     int key = 0;
     std::size_t line = 0;  ///< Of the key.
     Value value = {};
     bool is_bare = false;  ///< A text without quotes.
+    Block block = {};      ///< Of the key.
   };
 
   /// What is no part of a bot goes to the one that collects such.
@@ -32,11 +40,8 @@ class CharacterWords {
   /// A key at the end of the file, with nothing behind it.
   const std::vector<Found>& Finish();
 
-  /// The block that the last line belongs to, and where it begins.
-  std::optional<int> level() const { return level_; }
-  std::size_t level_line() const { return level_line_; }
-  /// The file had a block of this level before, which the game takes.
-  bool is_repeated() const { return is_repeated_; }
+  /// The block that the last line belongs to.
+  const Block& block() const { return block_; }
 
  private:
   void TakeWordOf(std::string_view word);
@@ -46,9 +51,7 @@ class CharacterWords {
   LeftOut& left_out_;
   std::vector<Found> found_;
   std::size_t line_ = 0;
-  std::optional<int> level_;
-  std::size_t level_line_ = 0;
-  bool is_repeated_ = false;
+  Block block_;
   std::set<int> levels_;
   bool expects_level_ = false;
   std::optional<Found> open_key_;

@@ -229,7 +229,7 @@ class CharacterReader {
     } else if (!kPerLevelRange.Contains(*key)) {
       reader_.Take(line, ParameterId(*key));
     } else if (const auto level = KnownLevel(level_)) {
-      const IsTold is_told = TellOtherLevel();
+      const IsTold is_told = TellOtherLevel(words_.block());
       reader_.Take(line, {*level, *key}, is_told);
     } else if (!is_skip_noted_) {
       reader_.AddNote(
@@ -260,7 +260,7 @@ class CharacterReader {
   }
 
   void TakeAsGame(const CharacterWords::Found& found) {
-    const std::optional<Level> level = KnownLevel(words_.level());
+    const std::optional<Level> level = KnownLevel(found.block.level);
     if (level) report_.given.insert({*level, found.key});
     const bool is_text = found.key <= kGenderField.index() ||
                          found.key >= kChatFileField.index();
@@ -279,23 +279,23 @@ class CharacterReader {
       return reader_.TakeAsGame(found.line, ParameterId(found.key),
                                 found.value);
     }
-    const IsTold is_told = TellOtherLevel();
-    if (!level || words_.is_repeated()) return;
+    const IsTold is_told = TellOtherLevel(found.block);
+    if (!level || found.block.is_repeated) return;
     reader_.TakeAsGame(found.line, {*level, found.key}, found.value, is_told);
   }
 
   /// Tells once of each block whose level is another to the game.
-  IsTold TellOtherLevel() {
-    const bool is_other = words_.level() != level_;
-    if (!is_other && !words_.is_repeated()) return IsTold::kNo;
+  IsTold TellOtherLevel(const CharacterWords::Block& block) {
+    const bool is_other = block.level != level_;
+    if (!is_other && !block.is_repeated) return IsTold::kNo;
     const std::size_t line =
-        is_other ? std::max(words_.level_line(), level_line_) : level_line_;
+        is_other ? std::max(block.line, level_line_) : level_line_;
     if (std::exchange(told_line_, line) == line) return IsTold::kYes;
     reader_.AddNote(
         line, is_other
                   ? "The values from here on are read as those of " +
                         LevelText(level_) + ", but the game takes them for " +
-                        LevelText(words_.level()) + "."
+                        LevelText(block.level) + "."
                   : "There was a block of " + LevelText(level_) +
                         " before. The values of this one count here, but the "
                         "game takes the first.");

@@ -4,6 +4,7 @@
 #include <map>
 
 #include "checks/bot_checks.h"
+#include "checks/odd_values.h"
 
 namespace fragsmith {
 namespace {
@@ -24,10 +25,18 @@ const Mend* FirstMend(const Finding& finding) {
   return finding.mends.empty() ? nullptr : &finding.mends.front();
 }
 
-int MendAll(Bot& bot, const GameData* game, const MendChoice& choice) {
+int MendAll(Bot& bot, const GameData* game, const MendChoice& choice,
+            const LoadReport& report) {
   int count = 0;
+  for (const Finding& odd : OddValues(bot, report)) {
+    const Mend* const mend = choice(odd);
+    if (mend == nullptr) continue;
+    mend->apply(bot);
+    ++count;
+  }
   for (int round = 0; round < kMaxRounds; ++round) {
-    const std::vector<Finding> findings = CheckBot(bot, game);
+    std::vector<Finding> findings = CheckBot(bot, game);
+    TellOddValues(bot, report, findings);
     // A mend knows its place as it was at the check: a second one there would
     // take the first one back.
     std::map<BotPlace, const Mend*> mends;

@@ -6,6 +6,7 @@
 #include "checks/finding.h"
 #include "game/game_data.h"
 #include "model/bot.h"
+#include "session/bot_origin.h"
 
 namespace fragsmith {
 
@@ -20,8 +21,10 @@ const Mend* SafeMend(const Finding& finding);
 const Mend* FirstMend(const Finding& finding);
 
 /// Makes the chosen mends until nothing is left that has one: a mend may bring
-/// what another one puts right. Gives how many were made.
-int MendAll(Bot& bot, const GameData* game, const MendChoice& choice);
+/// what another one puts right. Gives how many were made. What the load read
+/// otherwise than the game becomes the game's first.
+int MendAll(Bot& bot, const GameData* game, const MendChoice& choice,
+            const LoadReport& report = {});
 
 }  // namespace fragsmith
 

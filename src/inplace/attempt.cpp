@@ -13,6 +13,20 @@ void ExpectOurs(ParameterId id, std::string fact, Attempt& attempt) {
   attempt.expected[PlainFact(id)] = std::move(fact);
 }
 
+bool CutsToken(std::string_view bytes, TextSpan span) {
+  const LineOfFile line = LineAround(bytes, span.begin);
+  const auto are_one = [bytes](std::size_t at) {
+    constexpr std::string_view kGaps = " \t\r\n\"";
+    return at > 0 && at < bytes.size() &&
+           !Contains(kGaps, bytes.substr(at - 1, 1)) &&
+           !Contains(kGaps, bytes.substr(at, 1));
+  };
+  const std::string_view before =
+      bytes.substr(line.text.begin, span.begin - line.text.begin);
+  return are_one(span.begin) || are_one(span.end) ||
+         std::count(before.begin(), before.end(), '"') % 2 == 1;
+}
+
 TextSpan TokenAt(std::string_view bytes, TextSpan span) {
   const std::string_view token = FirstToken(TextAt(bytes, span));
   const auto begin = static_cast<std::size_t>(token.data() - bytes.data());
@@ -28,6 +42,26 @@ TextSpan LastSpan(const PlanContext& context, ParameterId id) {
   const auto found = context.reading.report.spans.find(id);
   if (found == context.reading.report.spans.end()) return {};
   return TokenAt(context.bytes, found->second.back());
+}
+
+bool IsInCondition(std::string_view bytes, std::size_t offset) {
+  const std::vector<TextSpan> comments = CommentsIn(bytes);
+  LineReader lines(bytes.substr(0, offset));
+  int depth = 0;
+  while (const std::optional<std::string_view> line = lines.Next()) {
+    std::string_view text = TrimBlanksAndTabs(*line);
+    const auto begin = static_cast<std::size_t>(text.data() - bytes.data());
+    if (!text.starts_with('#') ||
+        std::ranges::any_of(comments, [begin](TextSpan comment) {
+          return comment.begin <= begin && begin < comment.end;
+        })) {
+      continue;
+    }
+    text = TrimBlanksAndTabs(text.substr(1));
+    if (text.starts_with("if")) ++depth;
+    if (text.starts_with("endif")) --depth;
+  }
+  return depth > 0;
 }
 
 void AddPadded(const PlanContext& context, ParameterId id, Plan& plan) {
@@ -57,6 +91,12 @@ std::string TwoPlacesRefusal(std::string_view bytes, TextSpan of_game,
   const std::size_t game_line = LineNumberAt(bytes, of_game.begin);
   const std::size_t load_line = LineNumberAt(bytes, of_load.begin);
   if (game_line == load_line) return {};
+  const LineOfFile line = LineAround(bytes, of_load.begin);
+  if (TrimBlanksAndTabs(TextAt(bytes, line.text)).ends_with('\\')) {
+    return "Line " + std::to_string(load_line) +
+           " goes on in the next one, and a load reads no further than the "
+           "line. Join the lines first.";
+  }
   return "The game takes the value from line " + std::to_string(game_line) +
          " of the file, and a load takes that of line " +
          std::to_string(load_line) + ". Remove one of them first.";

@@ -75,6 +75,13 @@ std::vector<Splice> Insertions(std::string_view bytes,
                                std::string_view padded_key,
                                std::string_view value);
 
+/// True for a span that begins or ends within a token or a text in quotes: our
+/// reader goes by columns.
+bool CutsToken(std::string_view bytes, TextSpan span);
+
+/// True between an #if and its #endif, where the game may pass over lines.
+bool IsInCondition(std::string_view bytes, std::size_t offset);
+
 /// The token at which a text begins that our reader takes for a value.
 TextSpan TokenAt(std::string_view bytes, TextSpan span);
 

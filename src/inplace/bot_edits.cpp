@@ -9,7 +9,6 @@
 #include <variant>
 
 #include "botfiles/characteristic_file.h"
-#include "botfiles/description_file.h"
 #include "chat/vocabulary.h"
 #include "game/description_reader.h"
 #include "game/game_path.h"
@@ -146,45 +145,6 @@ Error PutBack(const std::vector<const FileEdit*>& written, Error error) {
     error.advice += " The other files are as they were.";
   }
   return error;
-}
-
-/// The list of bots that lies where the character's description would.
-std::optional<OriginFile> ListBeside(const OriginFile& character) {
-  OriginFile list;
-  if (!character.is_on_disk()) {
-    list = {.path = character.path, .entry = std::string(kBotListPath)};
-    return list;
-  }
-  const fs::path folder = character.path.parent_path();
-  const std::optional<fs::path> root = LayoutRootOf(folder);
-  const std::optional<fs::path> path =
-      FindFile(root ? *root / kScriptsFolder : folder, kBotList);
-  if (!path) return std::nullopt;
-  list.path = *path;
-  return list;
-}
-
-void TakeListedIdentity(LoadedBot& loaded, const ModelCatalogue& models) {
-  const auto character = loaded.files.find(BotFile::kCharacteristics);
-  if (character == loaded.files.end()) return;
-  std::optional<OriginFile> list = ListBeside(character->second);
-  if (!list) return;
-  const Result<std::string> bytes = BytesAt(*list);
-  if (!bytes) return;
-  const std::string called = CalledBy(loaded.files);
-  if (!IsDescribed(*bytes, called)) return;
-  list->fingerprint = FingerprintOf(*bytes);
-  const DescriptionReport report =
-      ReadDescriptionFile(*bytes, ShownAt(*list), loaded.bot, called);
-  for (const auto& [id, value] : report.plain_values) {
-    loaded.plain_values.insert_or_assign(id, value);
-  }
-  loaded.has_arena_lord = report.has_arena_lord;
-  UseCatalogueSpelling(loaded.bot, models);
-  loaded.notes.Add({ShownAt(*list), 0,
-                    "The bot has no description of its own; its model, fun "
-                    "name and the rest are those of this list."});
-  loaded.files.emplace(BotFile::kDescription, std::move(*list));
 }
 
 /// By what name a description speaks of the bot: several of a list may share

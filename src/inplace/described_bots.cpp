@@ -5,12 +5,16 @@
 #include <vector>
 
 #include "botfiles/description_blocks.h"
+#include "botfiles/description_file.h"
 #include "botfiles/game_text.h"
 #include "botfiles/left_out.h"
 #include "game/description_reader.h"
 #include "inplace/bot_edits.h"
+#include "inplace/named_files.h"
+#include "install/packages/package.h"
 #include "model/characteristic_catalogue.h"
 #include "model/file_names.h"
+#include "session/listed_description.h"
 #include "session/save_again.h"
 #include "support/code_page.h"
 #include "support/files.h"
@@ -18,30 +22,51 @@
 
 namespace fragsmith {
 namespace fs = std::filesystem;
+namespace {
 
-bool IsList(const OriginFile& file) {
-  const std::string name =
-      file.is_on_disk() ? BytesFromPath(file.path.filename()) : file.entry;
-  return EndsWithIgnoringCase(name, kBotList);
+/// The description of another name that has the bot, where its own would lie.
+std::optional<OriginFile> ListBeside(const OriginFile& character,
+                                     const std::string& called) {
+  if (character.is_on_disk()) {
+    const fs::path folder = character.path.parent_path();
+    const std::optional<fs::path> root = LayoutRootOf(folder);
+    const std::optional<fs::path> path =
+        FindListed(root ? *root / kScriptsFolder : folder, called);
+    return path ? std::optional(OriginFile{.path = *path}) : std::nullopt;
+  }
+  Notes ignored;
+  std::vector<std::string> entries = ListPackageEntries(character.path, ignored)
+                                         .value_or(std::vector<std::string>());
+  std::erase_if(entries, [](const std::string& entry) {
+    return !ToLower(entry).starts_with(std::string(kScriptsFolder) + '/') ||
+           !EndsWithIgnoringCase(entry, FileSuffix(BotFile::kDescription));
+  });
+  // The game reads the list first.
+  entries.emplace(entries.begin(), kBotListPath);
+  for (const std::string& entry : entries) {
+    OriginFile file = {.path = character.path, .entry = entry};
+    const Result<std::string> bytes = BytesAt(file);
+    if (bytes && IsDescribed(*bytes, called)) return file;
+  }
+  return std::nullopt;
 }
 
-bool IsDescribed(std::string_view description, std::string_view called) {
-  const std::string character = CharacterPath(called);
-  Complaints untold;
-  return std::ranges::any_of(
-      ReadGameDescription({std::string(kBotListPath), std::string(kBotList),
-                           std::string(description)},
-                          untold),
-      [&character](const DescriptionSet& set) {
-        return EqualIgnoringCase(set.Text("aifile"), character);
-      });
+}  // namespace
+
+bool IsList(const OriginFile& file, std::string_view called) {
+  const std::string name = NameAt(file);
+  const std::string_view suffix = FileSuffix(BotFile::kDescription);
+  return EqualIgnoringCase(name, kBotList) ||
+         (EndsWithIgnoringCase(name, suffix) &&
+          !EqualIgnoringCase(name, std::string(called) + std::string(suffix)));
 }
 
 bool IsListOf(const OriginFile& file, const BotHome& home) {
-  if (!IsList(file)) return false;
+  const std::string called = CalledBy(home.files);
+  if (!IsList(file, called)) return false;
   const Result<std::string> bytes = BytesAt(file);
   if (!bytes) return !file.is_on_disk() || IsFile(file.path);
-  return IsDescribed(*bytes, CalledBy(home.files));
+  return IsDescribed(*bytes, called);
 }
 
 std::optional<fs::path> ListWithoutBot(const SavePlan& plan,
@@ -49,9 +74,9 @@ std::optional<fs::path> ListWithoutBot(const SavePlan& plan,
   const auto known = home.files.find(BotFile::kDescription);
   const auto target = plan.files.find(BotFile::kDescription);
   if (known == home.files.end() || !known->second.is_on_disk() ||
-      !IsList(known->second) || target == plan.files.end() ||
-      IsFile(target->second) || HasNewName(plan, home) ||
-      IsListOf(known->second, home)) {
+      !IsList(known->second, CalledBy(home.files)) ||
+      target == plan.files.end() || IsFile(target->second) ||
+      HasNewName(plan, home) || IsListOf(known->second, home)) {
     return std::nullopt;
   }
   return known->second.path;
@@ -80,6 +105,28 @@ std::string BotsThatGo(const SavePlan& plan, const Bot& bot) {
     if (!is_kept) names.Add("\"" + ShownText(name) + "\"");
   }
   return names.empty() ? std::string() : names.Text();
+}
+
+void TakeListedIdentity(LoadedBot& loaded, const ModelCatalogue& models) {
+  const auto character = loaded.files.find(BotFile::kCharacteristics);
+  if (character == loaded.files.end()) return;
+  const std::string called = CalledBy(loaded.files);
+  std::optional<OriginFile> list = ListBeside(character->second, called);
+  if (!list) return;
+  const Result<std::string> bytes = BytesAt(*list);
+  if (!bytes) return;
+  list->fingerprint = FingerprintOf(*bytes);
+  const DescriptionReport report =
+      ReadDescriptionFile(*bytes, ShownAt(*list), loaded.bot, called);
+  for (const auto& [id, value] : report.plain_values) {
+    loaded.plain_values.insert_or_assign(id, value);
+  }
+  loaded.has_arena_lord = report.has_arena_lord;
+  UseCatalogueSpelling(loaded.bot, models);
+  loaded.notes.Add({ShownAt(*list), 0,
+                    "The bot has no description of its own; its model, fun "
+                    "name and the rest are those of this file."});
+  loaded.files.emplace(BotFile::kDescription, std::move(*list));
 }
 
 std::string NameDescribedTwice(const SavePlan& plan, const Bot& bot) {

@@ -8,15 +8,14 @@
 
 #include "model/bot.h"
 #include "session/bot_origin.h"
+#include "session/load_bot.h"
 #include "session/save_bot.h"
 
 namespace fragsmith {
 
-/// A list of bots holds others beside this one, and has another name.
-bool IsList(const OriginFile& file);
-
-/// True where a description holds the bot whose files are called so.
-bool IsDescribed(std::string_view description, std::string_view called);
+/// A description of another name than the bot's files: the list of bots, or one
+/// that may have others beside it.
+bool IsList(const OriginFile& file, std::string_view called);
 
 /// True for a list that describes the bot, or that is there and tells nothing
 /// as it cannot be read.
@@ -36,6 +35,10 @@ std::string BotsThatGo(const SavePlan& plan, const Bot& bot);
 /// writes, that has the bot's name too: both, and which of them the game takes;
 /// UTF-8, empty without one.
 std::string NameDescribedTwice(const SavePlan& plan, const Bot& bot);
+
+/// A bot without a description of its own has what another one says of it, on
+/// disk or in its package, and that is then a file of the bot.
+void TakeListedIdentity(LoadedBot& loaded, const ModelCatalogue& models);
 
 }  // namespace fragsmith
 

@@ -65,12 +65,18 @@ class CharacteristicPlan {
     }
     for (std::size_t insertion = 0; insertion < kMaxInsertions; ++insertion) {
       if (std::optional<Attempt> attempt = AsGame(levels, insertion)) {
-        plan_.attempts.push_back(std::move(*attempt));
+        plan_.attempts.push_back(*attempt);
+        if (AddLastPlace(*attempt)) {
+          plan_.attempts.push_back(std::move(*attempt));
+        }
       }
     }
-    if (has_value) plan_.attempts.push_back(AsOurs());
+    if (has_value && IsOurs(LastSpan(context_, id_))) {
+      plan_.attempts.push_back(AsOurs());
+    }
     AddPadded(context_, id_, plan_);
     for (const Level level : levels) TellTwoPlaces(level);
+    TellCalculated();
     if (!id_.level()) NoteOldValues(levels);
     return std::move(plan_);
   }
@@ -113,6 +119,15 @@ class CharacteristicPlan {
     if (Contains(TextAt(context_.bytes, line.text), BareKey(id_.index()))) {
       plan_.refusal = TwoPlacesRefusal(context_.bytes, of_game, of_load);
     }
+  }
+
+  void TellCalculated() {
+    const std::string& plain = context_.reading.facts.at(PlainFact(id_));
+    // Texts have a quotation mark in front.
+    if (!plain.starts_with("\"$")) return;
+    plan_.refusal =
+        "The file has the game calculate it, and only a plain number can be "
+        "changed. Write one there first, such as 0.5.";
   }
 
   /// What a bot has once may stand there with another value at each level.
@@ -242,29 +257,44 @@ class CharacteristicPlan {
     for (const auto& [level, text] : texts) {
       attempt.splices.push_back({GameSpan(level), text});
     }
-    if (!id_.level()) AddOtherPlaces(attempt);
     Expect(attempt);
     return attempt;
   }
 
-  /// What a bot has once may also stand in blocks that the game never reads.
-  void AddOtherPlaces(Attempt& attempt) const {
-    const auto spans = context_.reading.report.spans.find(id_);
-    if (spans == context_.reading.report.spans.end()) return;
+  /// True for a place that an edit may write to though the game does not read
+  /// it: no part of a word, no comment and no line that it passes over.
+  bool IsOurs(TextSpan token) const {
     const std::vector<TextSpan> comments = CommentsIn(context_.bytes);
-    std::vector<Splice> others;
-    for (const TextSpan span : spans->second) {
-      const bool is_known = std::any_of(
-          attempt.splices.begin(), attempt.splices.end(),
-          [&](const Splice& splice) { return Overlap(span, splice.span); });
-      const TextSpan token = TokenAt(context_.bytes, span);
-      const bool is_comment = std::any_of(
-          comments.begin(), comments.end(),
-          [token](TextSpan comment) { return Overlap(token, comment); });
-      if (!is_known && !is_comment && !token.empty())
-        others.push_back(Replacement(token));
+    return !token.empty() && !CutsToken(context_.bytes, token) &&
+           !IsInCondition(context_.bytes, token.begin) &&
+           std::none_of(
+               comments.begin(), comments.end(),
+               [token](TextSpan comment) { return Overlap(token, comment); });
+  }
+
+  /// Of what a bot has once a load takes the last place, which may be in a
+  /// block that the game does not read. False where nothing is to be added.
+  bool AddLastPlace(Attempt& attempt) {
+    const TextSpan last = LastSpan(context_, id_);
+    const bool is_known = std::any_of(
+        attempt.splices.begin(), attempt.splices.end(),
+        [last](const Splice& splice) { return Overlap(last, splice.span); });
+    if (id_.level() || last.empty() || is_known) return false;
+    if (!IsOurs(last)) {
+      const std::string line =
+          std::to_string(LineNumberAt(context_.bytes, last.begin));
+      plan_.refusal =
+          IsInCondition(context_.bytes, last.begin)
+              ? "A load takes the value from line " + line +
+                    ", which the game passes over. Change that line, or "
+                    "take it out, first."
+              : "A load reads line " + line +
+                    " otherwise than the game does. Write nothing but a TAB "
+                    "between key and value there first.";
+      return false;
     }
-    attempt.splices.insert(attempt.splices.end(), others.begin(), others.end());
+    attempt.splices.push_back(Replacement(last));
+    return true;
   }
 
   /// Where only our reader finds it.

@@ -78,13 +78,30 @@ class ChatPlan {
   /// one of these is not wanted.
   std::optional<Lines> WithoutFixedLines() {
     const Lines& all = context_.after.ChatLines(type_);
-    std::map<std::string_view, std::vector<std::size_t>> places;
-    for (std::size_t at = 0; at < all.size(); ++at) {
-      places[all[at]].push_back(at);
-    }
+    // Lines that both lists have in the same row are the same, whatever others
+    // say so too.
+    Lines texts;
+    for (const OldLine& line : old_) texts.push_back(line.text);
     std::vector<bool> is_fixed(all.size());
+    std::vector<bool> is_kept(all.size());
+    std::vector<bool> is_found(old_.size());
+    for (const LineStep& step : StepsBetween(texts, all)) {
+      if (!step.old_line || !step.new_line) continue;
+      if (texts[*step.old_line] != all[*step.new_line]) continue;
+      is_found[*step.old_line] = true;
+      is_kept[*step.new_line] = true;
+      is_fixed[*step.new_line] = !old_[*step.old_line].in_game;
+    }
+    std::map<std::string_view, std::vector<std::size_t>> places;
+    for (const bool is_wanted_first : {false, true}) {
+      for (std::size_t at = 0; at < all.size(); ++at) {
+        if (!is_fixed[at] && is_kept[at] != is_wanted_first) {
+          places[all[at]].push_back(at);
+        }
+      }
+    }
     for (std::size_t at = old_.size(); at-- > 0;) {
-      if (old_[at].in_game) continue;
+      if (old_[at].in_game || is_found[at]) continue;
       const auto place = places.find(old_[at].text);
       if (place != places.end() && !place->second.empty()) {
         is_fixed[place->second.back()] = true;
@@ -334,7 +351,21 @@ class ChatPlan {
     Lines texts;
     for (auto& [place, text] : ours) texts.push_back(std::move(text));
     attempt.expected[RuleFact(type_)] = FactOf(texts);
+    NoteOrder(texts);
     plan_.attempts.push_back(std::move(attempt));
+  }
+
+  /// Lines of several blocks stay in their own, and a load takes these one
+  /// behind the other.
+  void NoteOrder(const Lines& texts) {
+    Lines wanted = context_.after.ChatLines(type_);
+    std::erase(wanted, std::string());
+    const std::string note =
+        "The lines of this situation stand in several blocks of the file, and "
+        "each stays in its own: they come back in another order than given.";
+    if (texts != wanted && std::ranges::find(notes_, note) == notes_.end()) {
+      notes_.push_back(note);
+    }
   }
 
   const PlanContext& context_;

@@ -67,8 +67,9 @@ class DescriptionPlan {
     if (is_there) {
       attempt.splices.push_back(text ? Replacement(old->second.span, *text)
                                      : LineRemoval(old->second.span, key));
-      Plan plan = {.attempts = {attempt}, .refusal = {}};
-      if (text && HasCommentBeside(old->second.span)) {
+      Plan plan = {.attempts = {attempt},
+                   .refusal = text ? RefusedSign(*text) : std::string()};
+      if (text && plan.refusal.empty() && HasCommentBeside(old->second.span)) {
         plan.refusal =
             "A load takes the comment in its line for a part of it. Put that "
             "into a line of its own first.";
@@ -84,7 +85,7 @@ class DescriptionPlan {
       return plan;
     }
     if (!text) return {.attempts = {}, .refusal = {}, .is_needless = true};
-    Plan plan;
+    Plan plan = {.attempts = {}, .refusal = RefusedSign(*text)};
     for (Splice& splice : NewLines(key, *text)) {
       attempt.splices = {std::move(splice)};
       plan.attempts.push_back(attempt);
@@ -93,6 +94,20 @@ class DescriptionPlan {
   }
 
  private:
+  /// Why a text with this sign does not come back; empty without one.
+  std::string RefusedSign(std::string_view text) const {
+    const std::size_t sign = text.find_first_of(";\"\\");
+    if (sign != std::string_view::npos) {
+      return "The game throws away a line with " +
+             std::string(text.substr(sign, 1)) + " in its value. Take it out.";
+    }
+    if (field_ == kModelField && text.find_first_of(" \t") != text.npos) {
+      return "No model and no skin of the game has a blank in its name. Take "
+             "it out.";
+    }
+    return {};
+  }
+
   std::string Key() const {
     switch (field_.index()) {
       case kNameField.index():

@@ -240,6 +240,15 @@ Plan PlanWeight(const PlanContext& context, ParameterId id) {
     const auto found = std::find_if(
         reading.found.begin(), reading.found.end(),
         [id](const FoundWeight& weight) { return weight.parameter == id; });
+    if (found == reading.found.end() && macro != nullptr &&
+        !macro->value.empty()) {
+      return {.attempts = {},
+              .refusal = "A load does not know line " +
+                         std::to_string(
+                             LineNumberAt(context.bytes, macro->value.begin)) +
+                         ". Write it as \"" + std::string(kDefine) +
+                         macro->name + " " + macro->text + "\" first."};
+    }
     if (found == reading.found.end()) return PlanNewMacro(context, id, name);
     Plan plan = PlanOneOfMany(context, *found);
     if (plan.refusal.empty()) plan.refusal = OddValueRefusal(context, macro);
@@ -264,6 +273,7 @@ Plan PlanWeight(const PlanContext& context, ParameterId id) {
   spans.push_back(LastSpan(context, id));
   for (const TextSpan span : spans) {
     if (!IsOneLine(context.bytes, span)) continue;
+    if (CutsToken(context.bytes, span)) continue;
     Attempt attempt = attempt_at(span);
     ExpectOurs(id, FactOf(value), attempt);
     if (macro != nullptr) {
@@ -282,6 +292,10 @@ Plan PlanWeight(const PlanContext& context, ParameterId id) {
     } else if (plan.refusal.empty()) {
       plan.refusal = TwoPlacesRefusal(context.bytes, game_spans.front(), span);
     }
+  }
+  if (plan.refusal.empty() && macro != nullptr && !macro->value.empty()) {
+    plan.refusal =
+        TwoPlacesRefusal(context.bytes, macro->value, LastSpan(context, id));
   }
   AddPadded(context, id, plan);
   return plan;

@@ -80,9 +80,10 @@ BotEdits EditsOf(const SaveInPlace& save, const OriginFiles& files,
                  const NumberChooser& chooser) {
   const Bot& before = *Before(save.home);
   BrokenFiles broken = save.broken;
-  std::erase_if(broken, [&files](const auto& file) {
+  const std::string called = CalledBy(save.home.files);
+  std::erase_if(broken, [&](const auto& file) {
     const auto origin = files.find(file.first);
-    return origin == files.end() || IsList(origin->second);
+    return origin == files.end() || IsList(origin->second, called);
   });
   BotEdits edits =
       EditBotFiles(files, before, save.bot, save.game, chooser, broken);
@@ -92,7 +93,7 @@ BotEdits EditsOf(const SaveInPlace& save, const OriginFiles& files,
     const bool is_unchanged =
         edit.outcome == FileEdit::Outcome::kUnchanged ||
         (broken.contains(kind) && ChangesIn(kind, before, save.bot).empty());
-    if ((is_unchanged && !changes_header) || IsList(edit.origin) ||
+    if ((is_unchanged && !changes_header) || IsList(edit.origin, called) ||
         !IsOurs(edit, save, changes_header)) {
       continue;
     }
@@ -192,7 +193,7 @@ InPlacePlan PlanInPlace(const SaveInPlace& save, SavePlan& plan) {
   for (auto& [kind, edit] : edits.files) {
     if (kind == BotFile::kChat) result.spellings = edit.origin.spellings;
     // Of a list the bot has no file of its own that a package could take.
-    if (IsList(edit.origin)) {
+    if (IsList(edit.origin, CalledBy(save.home.files))) {
       const bool is_anew = result.backups.erase(edit.origin.path) > 0;
       if (is_anew) continue;
       plan.files.erase(kind);

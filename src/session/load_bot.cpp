@@ -10,6 +10,7 @@
 #include "chat/chat_file.h"
 #include "model/characteristic_catalogue.h"
 #include "session/identity_rules.h"
+#include "session/listed_description.h"
 #include "session/load_losses.h"
 #include "support/code_page.h"
 #include "support/files.h"
@@ -146,7 +147,13 @@ void LoadDescription(const std::string& name, const fs::path& folder,
            "Couldn't load the bot file because the directory structure "
            "doesn't comply with the standard Q3 one...");
   }
-  if (!description_folder ||
+  // Another description may have the bot, and then none is missing.
+  const bool is_listed =
+      description_folder &&
+      !FindFile(*description_folder,
+                name + std::string(FileSuffix(BotFile::kDescription))) &&
+      FindListed(*description_folder, name);
+  if (!description_folder || is_listed ||
       !Load(BotFile::kDescription, name, *description_folder, loaded,
             environment.prompts)) {
     SetStandardIdentity(loaded.bot, StandardNamesOf(environment.bots));
@@ -163,9 +170,10 @@ void ReadBotFile(BotFile file, const LoadedPart& part, std::string_view bytes,
   if (WithoutByteOrderMark(bytes).size() < bytes.size()) {
     loaded.notes.Add({.file = shown,
                       .line = 1,
-                      .text = "The file begins with a byte order mark, which "
-                              "the game stumbles over; a file made anew has "
-                              "none."});
+                      .text =
+                          "The file begins with a byte order mark. The "
+                          "game passes over it on PCs; a file made anew has "
+                          "none."});
   }
   switch (file) {
     case BotFile::kDescription: {

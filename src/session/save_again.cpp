@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 #include <set>
 #include <string>
 #include <utility>
@@ -159,12 +160,25 @@ void TakeUpEarlier(const Bot& bot, BotHome& home) {
   if (!plan) return;
   const fs::path target = plan->files.at(kFirst);
   if (target == FirstPath(home.files)) return;
-  const auto found = std::ranges::find(
+  auto found = std::ranges::find(
       home.earlier, target,
       [](const BotHome::Earlier& one) { return FirstPath(one.files); });
-  if (found == home.earlier.end()) return;
+  if (found == home.earlier.end()) {
+    // Those of the name may lie elsewhere than the last save went to.
+    const auto has_name =
+        [name = FileNameOf(kFirst, bot)](const OriginFiles& files) {
+          return IsSameName(FirstPath(files).filename(), name);
+        };
+    if (has_name(home.files)) return;
+    const auto last =
+        std::ranges::find_if(home.earlier.rbegin(), home.earlier.rend(),
+                             has_name, &BotHome::Earlier::files);
+    if (last == home.earlier.rend()) return;
+    found = std::prev(last.base());
+    home.target.reset();
+  }
   BotHome::Earlier earlier = *found;
-  Exchange(home, target);
+  Exchange(home, FirstPath(earlier.files));
   home.files = std::move(earlier.files);
   home.saved = std::move(earlier.saved);
   home.package = std::move(earlier.package);

@@ -236,6 +236,19 @@ TEST(CharacteristicFile, OffersWhatTheGameReadsInAnotherLevel) {
   EXPECT_THAT(NotedLines(report.notes), ElementsAre(2, 3, 6));
 }
 
+TEST(CharacteristicFile, KnowsTheLevelsOfOneLineAsTheGameDoes) {
+  Bot bot;
+  const ReadReport report = ReadCharacteristicFile(
+      GameLines(
+          "skill 1 { $JUMPER 1 } skill 4 { $JUMPER 4 } skill 5 { $JUMPER 5 }"),
+      "f", ReadIdentity::kNo, bot);
+  for (const Level level : kLevels) {
+    const ParameterId jumper(level, 9);
+    EXPECT_EQ(report.plain_values.at(jumper), Value(1.0 * NumberOf(level)));
+    EXPECT_TRUE(report.given.contains(jumper));
+  }
+}
+
 TEST(CharacteristicFile, SkipsUnknownLevelsButNotTheirSingleValues) {
   Bot bot;
   const std::string values = ">$JUMPER>>>>>>1|>$CROUCHER>>>>>>1|>$CHAT_KILL ";

@@ -8,7 +8,9 @@
 #include <vector>
 
 #include "checks/bot_checks.h"
+#include "checks/odd_values.h"
 #include "game/ready_lines.h"
+#include "model/characteristic_catalogue.h"
 #include "session/presets.h"
 #include "tests/support/ids.h"
 #include "tests/support/set_parameter.h"
@@ -16,12 +18,15 @@
 namespace fragsmith {
 namespace {
 
+using ::testing::AllOf;
 using ::testing::AnyOf;
 using ::testing::Each;
 using ::testing::ElementsAre;
 using ::testing::Field;
+using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::Ne;
+using ::testing::StartsWith;
 
 /// A game with few of the ready-made lines, one of them too long to be shown.
 GameData SmallGame() {
@@ -97,6 +102,60 @@ TEST(MendAll, CountsEachMendOnceAndOnlyTheChosen) {
   EXPECT_EQ(MendAll(bot, nullptr, reaction), 1);
   EXPECT_EQ(bot.Parameter(Id(507)), Value(1.0));
   EXPECT_EQ(bot.Parameter(Id(44)), Value(50.0));
+}
+
+/// Weights with comments behind them, which columns make texts of.
+TEST(MendAll, TakesNothingThatTheGameHasInTheFile) {
+  Bot bot = CreateAverageBot(SeededRandom(0));
+  LoadReport report;
+  for (const int index : kWeaponWeightRange) {
+    Set(bot, Id(index), std::string("// mine"));
+    report.odd_values[Id(index)] = {.read = std::string("// mine"),
+                                    .plain = index + 0.5};
+  }
+  // The user's own by now, and one that was read as the game does.
+  Set(bot, Id(49), 400.0);
+  report.odd_values[Id(50)].plain = std::string("// mine");
+
+  std::vector<Finding> findings = CheckBot(bot, nullptr);
+  TellOddValues(bot, report, findings);
+  for (Finding& finding : findings) {
+    if (finding.place != BotPlace(Id(46))) continue;
+    EXPECT_THAT(finding.text,
+                AllOf(StartsWith("The load read \"// mine\" for "
+                                 "\"Machinegun usage\", while the game has "
+                                 "46.5 from the file."),
+                      HasSubstr("\"Take the values as the game reads them\"")));
+    Bot mended = bot;
+    FirstMend(finding)->apply(mended);
+    EXPECT_EQ(mended.Parameter(Id(46)), Value(46.5));
+  }
+
+  for (const MendChoice& choice :
+       {MendChoice(SafeMend), MendChoice(FirstMend)}) {
+    Bot mended = bot;
+    EXPECT_GT(MendAll(mended, nullptr, choice, report), 0);
+    for (const int index : kWeaponWeightRange) {
+      if (index == 49 || index == 50) continue;
+      EXPECT_EQ(mended.Parameter(Id(index)), Value(index + 0.5)) << index;
+    }
+    EXPECT_EQ(mended.Parameter(Id(49)), Value(400.0));
+    EXPECT_EQ(mended.Parameter(Id(50)), Value(0.0));
+  }
+  // Where one place alone is mended that sets others too.
+  Set(bot, Id(54), 0.0);
+  for (int index = 55; index <= kItemWeightRange.last; ++index) {
+    Set(bot, Id(index), std::string("// mine"));
+    report.odd_values[Id(index)] = {.read = std::string("// mine"),
+                                    .plain = 7.0};
+  }
+  MendAll(
+      bot, nullptr,
+      [](const Finding& finding) {
+        return finding.place == BotPlace(Id(54)) ? FirstMend(finding) : nullptr;
+      },
+      report);
+  EXPECT_EQ(bot.Parameter(Id(55)), Value(7.0));
 }
 
 TEST(ReadyLines, AreThoseThatTheGameHasAndShowsWhole) {

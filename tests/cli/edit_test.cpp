@@ -232,19 +232,23 @@ TEST_F(EditCommand, FindsABotByTheListThatItStandsIn) {
   const std::string list =
       "{\nname Rook\nmodel sarge\naifile bots/rook_c.c\n}\n"
       "{\nname Tower\nmodel major\naifile bots/rook_c.c\n}\n";
-  folder_.Write("bots.txt", list);
   folder_.Write("rook_c.c", "#include \"chars.h\"\n");
-  std::istringstream in;
-  std::ostringstream out;
-  std::ostringstream err;
-  RunCommandLine(
-      {"edit", folder_.path().string(), "TOWER", "--set", "model=biker",
-       "--program-folder", (folder_ / "program").string()},
-      in, out, err);
-  EXPECT_EQ(folder_.Read("bots.txt"),
-            "{\nname Rook\nmodel sarge\naifile bots/rook_c.c\n}\n"
-            "{\nname Tower\nmodel biker\naifile bots/rook_c.c\n}\n")
-      << err.str();
+  for (const char* const name : {"mine.bot", "bots.txt"}) {
+    folder_.Write(name, list);
+    std::istringstream in;
+    std::ostringstream out;
+    std::ostringstream err;
+    RunCommandLine(
+        {"edit", folder_.path().string(), "TOWER", "--set", "model=biker",
+         "--program-folder", (folder_ / "program").string()},
+        in, out, err);
+    EXPECT_EQ(folder_.Read(name),
+              "{\nname Rook\nmodel sarge\naifile bots/rook_c.c\n}\n"
+              "{\nname Tower\nmodel biker\naifile bots/rook_c.c\n}\n")
+        << err.str();
+    // Nothing is missing there.
+    EXPECT_THAT(err.str(), Not(HasSubstr("Unable to find bot file")));
+  }
 }
 
 TEST_F(EditCommand, EditsAFunNameAmongBlanksAndTellsTheLimits) {

@@ -200,6 +200,27 @@ TEST_F(Findings, AreMendedTogetherInOneStep) {
   EXPECT_EQ(bot(), before);
 }
 
+TEST_F(Findings, LeaveWhatTheGameHasInTheFiles) {
+  const fs::path made =
+      SaveBot(bot(), folder_, {.uses_layout = true}, {}, prompts_)
+          .written.front();
+  folder_.Write("botfiles/bots/tester_w.c",
+                "#define W_GAUNTLET 10 // mine\n#define W_RAILGUN 190 // my "
+                "railgun\n#include \"fw_weap.c\"\n");
+  prompts_.confirmations = {true};
+  window_->OpenPath(made);
+  Wait();
+  ASSERT_EQ(bot().Parameter(Id(49)), Value(std::string("// my railgun")));
+  EXPECT_GE(RowOf("The load read \"// my railgun\" for \"Railgun usage\""), 0);
+  const Bot before = bot();
+  Find<QPushButton>("cmdMendSafe")->click();
+  EXPECT_EQ(bot().Parameter(Id(44)), Value(10.0));
+  EXPECT_EQ(bot().Parameter(Id(49)), Value(190.0));
+  EXPECT_EQ(RowOf("Railgun"), -1);
+  Choose("mnuUndo");
+  EXPECT_EQ(bot(), before);
+}
+
 TEST_F(Findings, MakeANewBotReadyButForWhatWasEdited) {
   window_->current().SetChanged(false);
   Choose("mnuNewAverage");

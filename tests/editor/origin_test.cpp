@@ -564,6 +564,41 @@ TEST_F(Origin, KnowsTheFilesOfAnotherNameAgain) {
   EXPECT_EQ(folder_.Read("a/scripts/other.bot"), other);
 }
 
+TEST_F(Origin, KnowsTheFilesOfAnotherNameInAnotherFolder) {
+  Open(Make("a", "Rookie", 0.25));
+  fs::create_directory(folder_ / "b");
+  const auto make_in = [this](const char* place) {
+    ChooseAndAnswer<frmOpen>("mnuMake", [&](frmOpen& dialog) {
+      dialog.findChild<DirView*>()->SetFolder(folder_ / place);
+      dialog.accept();
+    });
+  };
+  Press(Qt::Key_End);
+  make_in("a");
+  Type("txtBotPara_0", "Other");
+  make_in("b");
+  const auto b = Contents("b");
+  ASSERT_THAT(b, SizeIs(5));
+  // The name, and then the value.
+  prompts_.log.clear();
+  Choose("mnuUndo");
+  Choose("mnuUndo");
+  ASSERT_EQ(bot().Name(), "Rookie");
+  Choose("mnuSaveAgain");
+  EXPECT_THAT(prompts_.log, IsEmpty());
+  EXPECT_EQ(Contents("b"), b);
+  EXPECT_THAT(Contents("a"), SizeIs(5));
+  EXPECT_THAT(folder_.Read("a/rookie_w.c"), Not(HasSubstr("400")));
+  // And forth again.
+  Choose("mnuRedo");
+  Choose("mnuRedo");
+  ASSERT_EQ(bot().Name(), "Other");
+  Choose("mnuSaveAgain");
+  EXPECT_THAT(prompts_.log, IsEmpty());
+  EXPECT_EQ(Contents("b"), b);
+  EXPECT_THAT(Contents("a"), SizeIs(5));
+}
+
 TEST_F(Origin, KnowsThePackageOfAnotherNameAgain) {
   Type("txtBotPara_0", "Rookie");
   Press(Qt::Key_End);

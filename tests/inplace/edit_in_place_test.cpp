@@ -436,6 +436,14 @@ TEST(EditInPlaceTest, ReplacesAndTakesOutFieldsOfADescription) {
             "-funname \"A B\"\n");
   EXPECT_EQ(file.Difference(file.Edited(kArenaLordField, 0.0)),
             "-arenaLord 1\n+arenaLord 0\n");
+  // What the game has no place for is named.
+  for (const char* const name : {"A;b", "A\"b", "A\\b"}) {
+    EXPECT_THAT(file.Difference(file.Edited(kFunNameField, name)),
+                HasSubstr("The game throws away a line with " +
+                          std::string(name).substr(1, 1) + " in its value."));
+  }
+  EXPECT_THAT(file.Difference(file.Edited(kModelField, "my model")),
+              HasSubstr("has a blank in its name. Take it out."));
 }
 
 TEST(EditInPlaceTest, RefusesADescriptionWhoseLinesHoldMore) {

@@ -35,8 +35,8 @@ class LoadedFile {
   const BothReaders& readers() const { return readers_; }
   const Notes& notes() const { return notes_; }
 
-  Result<std::string> Edited(const Bot& after) const {
-    return EditInPlace(readers_, bytes_, before_, after);
+  Result<std::string> Edited(const Bot& after, Notes* notes = nullptr) const {
+    return EditInPlace(readers_, bytes_, before_, after, {}, notes);
   }
   Result<std::string> Edited(ParameterId id, Value value) const {
     Bot after = before_;
@@ -44,7 +44,8 @@ class LoadedFile {
     return Edited(after);
   }
   Result<std::string> Edited(ChatTypeId type,
-                             const std::vector<std::string>& lines) const {
+                             const std::vector<std::string>& lines,
+                             Notes* notes = nullptr) const {
     Bot after = before_;
     while (after.HighestChatLine(type) >= 0) {
       after.RemoveChatLine(type, after.HighestChatLine(type));
@@ -53,7 +54,7 @@ class LoadedFile {
     for (const std::string& line : lines) {
       after.SetChatLine(type, number++, line);
     }
-    return Edited(after);
+    return Edited(after, notes);
   }
 
   /// The lines that an edit took out and put in: "-old\n+new\n"; or why it

@@ -80,10 +80,15 @@ class SaveInPlaceTest : public ::testing::Test {
   std::vector<fs::path> written_;
 };
 
-TEST_F(SaveInPlaceTest, TouchesWhatWasEditedAlone) {
+/// In a description of another name.
+class ListedBotTest : public SaveInPlaceTest,
+                      public testing::WithParamInterface<const char*> {};
+
+TEST_P(ListedBotTest, TouchesWhatWasEditedAlone) {
   folder_.Write("botfiles/bots/rook_c.c", kCharacter);
   folder_.Write("botfiles/bots/rook_w.c", kWeights);
-  folder_.Write("scripts/bots.txt", kList);
+  const std::string list = GetParam();
+  folder_.Write(list, kList);
   Load();
   EXPECT_EQ(bot_.Text(kModelField), "sarge");
   bot_.Put(Id(402), 0.5);
@@ -94,7 +99,7 @@ TEST_F(SaveInPlaceTest, TouchesWhatWasEditedAlone) {
   wanted.replace(wanted.find("0.250"), 5, "0.500");
   EXPECT_EQ(folder_.Read("botfiles/bots/rook_c.c"), wanted);
   EXPECT_EQ(folder_.Read("botfiles/bots/rook_w.c"), kWeights);
-  EXPECT_EQ(folder_.Read("scripts/bots.txt"), kList);
+  EXPECT_EQ(folder_.Read(list), kList);
   EXPECT_FALSE(fs::exists(folder_ / "botfiles/bots/rook_i.c"));
 
   Load();
@@ -102,10 +107,14 @@ TEST_F(SaveInPlaceTest, TouchesWhatWasEditedAlone) {
   EXPECT_THAT(ChangesToShow(Saving()),
               HasSubstr("-model sarge\n+model major\n aifile"));
   Save();
-  EXPECT_THAT(written_, ElementsAre(folder_ / "scripts/bots.txt"));
-  EXPECT_THAT(folder_.Read("scripts/bots.txt"),
-              HasSubstr("name Rook\nmodel major\n"));
+  EXPECT_THAT(written_, ElementsAre(folder_ / list));
+  EXPECT_THAT(folder_.Read(list), HasSubstr("name Rook\nmodel major\n"));
 }
+
+// The game reads the list first, and then each description.
+INSTANTIATE_TEST_SUITE_P(Lists, ListedBotTest,
+                         testing::Values("scripts/bots.txt",
+                                         "scripts/mine.bot"));
 
 TEST_F(SaveInPlaceTest, AsksAboutWhatIsNotEditable) {
   folder_.Write("botfiles/bots/rook_c.c", kCharacter);

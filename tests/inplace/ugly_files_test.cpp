@@ -122,6 +122,48 @@ TEST(UglyFilesTest, RefusesALevelThatTheGameDoesNotRead) {
   EXPECT_FALSE(passed_over.Edited(kAttack1, 0.7));
 }
 
+/// A value for all levels, which a load takes from where it stands last.
+TEST(UglyFilesTest, LeavesLinesThatTheGamePassesOver) {
+  const std::string half = Characteristic("CHAT_KILL", "0.5");
+  const std::string more = Characteristic("CHAT_KILL", "0.7");
+  const std::string easy = "\tCHARACTERISTIC_CHAT_KILL EASY // or 0.1\n";
+  const auto level = [](const char* number, const std::string& lines) {
+    return "skill " + std::string(number) + "\n{\n" +
+           Characteristic("AIM_SKILL", "0.3") + lines + "}\n";
+  };
+  const auto edited = [](const std::string& levels) {
+    const LoadedFile file(
+        BotFile::kCharacteristics,
+        "#define X 1\n#define EASY 0.3\n#include \"chars.h\"\n" + levels);
+    return file.Difference(file.Edited(ParameterId(36), 0.7));
+  };
+  const std::string either =
+      "#ifdef X\n" + easy + "#else\n" + half + "#endif\n";
+  EXPECT_EQ(edited(level("1", either) + level("4", half)),
+            "-#define EASY 0.3\n+#define EASY 0.7\n-" + half + "+" + more);
+  EXPECT_THAT(edited(level("1", half) + level("4", either)),
+              HasSubstr("A load takes the value from line 15, which the game "
+                        "passes over."));
+  // Another level stays too, unless a load takes the value from there.
+  for (const std::string& other : {easy, half}) {
+    EXPECT_EQ(edited(level("1", half) + level("3", other) + level("4", half)),
+              "-" + half + "+" + more + "-" + half + "+" + more);
+  }
+  EXPECT_EQ(edited(level("1", half) + level("3", half)),
+            "-" + half + "+" + more + "-" + half + "+" + more);
+  EXPECT_THAT(edited(level("1", half) + level("3", easy)),
+              HasSubstr("A load reads line 12 otherwise than the game does."));
+}
+
+TEST(UglyFilesTest, RefusesWhatTheGameCalculates) {
+  const LoadedFile file(
+      BotFile::kCharacteristics,
+      "#include \"chars.h\"\nskill 1\n{\n" +
+          Characteristic("ATTACK_SKILL", "$evalfloat(0.2 + 0.2)") + "}\n");
+  EXPECT_THAT(file.Difference(file.Edited(kAttack1, 0.7)),
+              HasSubstr("The file has the game calculate it"));
+}
+
 TEST(UglyFilesTest, RefusesAWeightThatTheGameTakesFromElsewhere) {
   struct Case {
     std::string bytes;
@@ -131,6 +173,12 @@ TEST(UglyFilesTest, RefusesAWeightThatTheGameTakesFromElsewhere) {
       {AllWeapons(kRail50) + kInclude + kRail70,
        "The game takes the value from line 7 of the file, and a load takes "
        "that of line 13. Remove one of them first."},
+      {AllWeapons("#define W_RAILGUN \\\n190\n") + kInclude,
+       "Line 7 goes on in the next one, and a load reads no further than the "
+       "line. Join the lines first."},
+      {AllWeapons("  #  define W_RAILGUN 190\n") + kInclude,
+       "A load does not know line 7. Write it as \"#define W_RAILGUN 190\" "
+       "first."},
       {AllWeapons("") + kInclude + kRail50,
        "This #include stands above the #define of W_RAILGUN"},
       {AllWeapons(kRail50 + "#undef W_RAILGUN\n") + kInclude,
@@ -327,6 +375,18 @@ TEST(UglyFilesTest, EditsTheBlockOfATypeThatTheGameUses) {
     EXPECT_THAT(Differences(ViewOf(BotFile::kChat, bytes, StandInGameFile),
                             ViewOf(BotFile::kChat, *edited, StandInGameFile)),
                 ElementsAre(Key("chat hit_nokill")));
+  }
+  const LoadedFile two_blocks(BotFile::kChat, one + "}\n");
+  for (const bool is_first : {true, false}) {
+    std::vector<std::string> lines = {"ha", "next time", "ho", "next time"};
+    lines.insert(is_first ? lines.begin() : lines.end(), "new");
+    Notes notes;
+    ASSERT_TRUE(two_blocks.Edited(type, lines, &notes));
+    ASSERT_EQ(notes.empty(), !is_first);
+    if (is_first) {
+      EXPECT_THAT(notes.list().front().text,
+                  HasSubstr("they come back in another order than given"));
+    }
   }
   const IncludeLookup game = With({{"more.h", kTypes[0]}});
   for (const std::string& bytes :

@@ -124,6 +124,21 @@ TEST_F(LoadBotTest, TellsOfWhatStaysInTheHeader) {
   EXPECT_EQ(note_count(), 1U);
 }
 
+TEST_F(LoadBotTest, MissesNoDescriptionThatAnotherOneHas) {
+  Save("bot");
+  const std::string own = folder_.Read("bot/rookie.bot");
+  fs::remove(folder_ / "bot/rookie.bot");
+  for (const char* const name : {"bots.txt", "others.bot"}) {
+    const std::string path = "bot/" + std::string(name);
+    folder_.Write(path, "{ name x aifile bots/x_c.c }\n" + own);
+    (void)Load("rookie", "bot");
+    EXPECT_THAT(prompts_.log, IsEmpty()) << name;
+    folder_.Write(path, "{ name x aifile bots/x_c.c }\n");
+    (void)Load("rookie", "bot");
+    EXPECT_THAT(prompts_.log, ElementsAre(kMissing.back())) << name;
+  }
+}
+
 TEST_F(LoadBotTest, TellsOfAByteOrderMark) {
   Save("bot");
   for (const char* const name : {"rookie_c.c", "rookie_w.c", "rookie.bot"}) {

@@ -50,7 +50,8 @@ void MendCommands::Attach(FindingsDock& dock,
 
 void MendCommands::MendMany(const QString& name, const MendChoice& choice) {
   Bot mended = current_.bot();
-  const int count = MendAll(mended, checker_.game(), choice);
+  const int count =
+      MendAll(mended, checker_.game(), choice, *current_.origin().report);
   if (count > 0) {
     current_.Edit({.text = name, .place = {}, .merges = false},
                   [&mended](Bot& bot) { bot = mended; });

@@ -5,6 +5,7 @@
 
 #include "checks/bot_checks.h"
 #include "checks/bot_location.h"
+#include "checks/odd_values.h"
 #include "session/bot_origin.h"
 
 namespace fragsmith {
@@ -24,9 +25,12 @@ void FilesChecker::SetGame(const InstalledGame* game) {
 
 std::vector<Finding> FilesChecker::InMemory() const {
   const Bot& bot = current_.bot();
-  if (!files_) return CheckBot(bot, game_ == nullptr ? nullptr : &game_->data);
   const std::shared_ptr<const Bot>& saved = current_.origin().home->saved;
-  return files_->InMemory(bot, saved != nullptr && bot == *saved);
+  std::vector<Finding> findings =
+      files_ ? files_->InMemory(bot, saved != nullptr && bot == *saved)
+             : CheckBot(bot, game_ == nullptr ? nullptr : &game_->data);
+  TellOddValues(bot, *current_.origin().report, findings);
+  return findings;
 }
 
 void FilesChecker::CheckSoon() {

@@ -1,0 +1,40 @@
+#include "session/listed_description.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "botfiles/description_blocks.h"
+#include "model/file_names.h"
+#include "session/bot_file.h"
+#include "support/files.h"
+#include "support/text.h"
+
+namespace fragsmith {
+namespace fs = std::filesystem;
+
+bool IsDescribed(std::string_view description, std::string_view called) {
+  const std::string character = CharacterPath(called);
+  const std::vector<DescriptionBlock> blocks =
+      ReadDescriptionBlocks(description).blocks;
+  return std::ranges::any_of(
+      blocks, [&character](const DescriptionBlock& block) {
+        return EqualIgnoringCase(block.Text("aifile"), character);
+      });
+}
+
+std::optional<fs::path> FindListed(const fs::path& folder,
+                                   std::string_view called) {
+  std::vector<fs::path> paths;
+  if (auto list = FindFile(folder, kBotList)) paths.push_back(*std::move(list));
+  for (const fs::path& name :
+       ListFiles(folder, FileSuffix(BotFile::kDescription))) {
+    paths.push_back(folder / name);
+  }
+  for (const fs::path& path : paths) {
+    const Result<std::string> bytes = ReadFile(path, kMaxBotFileBytes);
+    if (bytes && IsDescribed(*bytes, called)) return path;
+  }
+  return std::nullopt;
+}
+
+}  // namespace fragsmith

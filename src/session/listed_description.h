@@ -1,0 +1,22 @@
+#ifndef FRAGSMITH_SESSION_LISTED_DESCRIPTION_H_
+#define FRAGSMITH_SESSION_LISTED_DESCRIPTION_H_
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace fragsmith {
+
+/// True where a description holds the bot whose files are called so.
+bool IsDescribed(std::string_view description, std::string_view called);
+
+/// Of a folder's descriptions the one that holds the bot whose files are called
+/// so: the list of bots, which the game reads first, or one that is called
+/// otherwise.
+std::optional<std::filesystem::path> FindListed(
+    const std::filesystem::path& folder, std::string_view called);
+
+}  // namespace fragsmith
+
+#endif  // FRAGSMITH_SESSION_LISTED_DESCRIPTION_H_
