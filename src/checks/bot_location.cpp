@@ -7,6 +7,7 @@
 #include <system_error>
 #include <utility>
 
+#include "chat/vocabulary.h"
 #include "game/complaints.h"
 #include "model/file_names.h"
 #include "session/bot_file.h"

@@ -35,10 +35,10 @@ bool IsText(int number) {
 
 /// False for what no known game reads.
 bool IsReadKey(std::string_view key) {
-  return std::none_of(kPerLevelRange.begin(), kPerLevelRange.end(),
-                      [key](int index) {
-                        return !IsReadByGame(index) && BareKey(index) == key;
-                      });
+  return std::none_of(
+      kPerLevelRange.begin(), kPerLevelRange.end(), [key](int index) {
+        return !IsReadByGame(ParameterAt(index)) && BareKey(index) == key;
+      });
 }
 
 class CharacterFileChecker {

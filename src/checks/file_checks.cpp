@@ -6,6 +6,7 @@
 #include <map>
 #include <utility>
 
+#include "chat/vocabulary.h"
 #include "checks/bot_reader.h"
 #include "checks/character_file_checks.h"
 #include "checks/identity_checks.h"

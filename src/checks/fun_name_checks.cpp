@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "botfiles/description_file.h"
+#include "chat/vocabulary.h"
 #include "game/description_reader.h"
 #include "game/limits.h"
 #include "game/plain_letters.h"
