@@ -33,6 +33,11 @@ std::string Text(QWidget& control, const QString& suffix = {}) {
       .toStdString();
 }
 
+/// Of a signal Changed.
+ParameterId ParameterOf(const QList<QVariant>& change) {
+  return *static_cast<const ParameterId*>(change.first().constData());
+}
+
 /// What the signal Changed of a control has reported, and forgets it.
 std::vector<double> Values(QSignalSpy& changes) {
   std::vector<double> values;
@@ -48,9 +53,7 @@ using Levels = std::vector<std::tuple<int, double>>;
 Levels LevelValues(QSignalSpy& changes) {
   Levels values;
   for (const QList<QVariant>& change : changes) {
-    const auto& parameter =
-        *static_cast<const ParameterId*>(change[0].constData());
-    values.emplace_back(NumberOf(parameter.level().value()),
+    values.emplace_back(NumberOf(ParameterOf(change).level().value()),
                         change[1].toDouble());
   }
   changes.clear();
@@ -129,7 +132,7 @@ TEST(OneSlider, TakesMouseAndWheelFromTheUser) {
   }
   EXPECT_EQ(changes.count(), 0);
   QTest::mouseClick(&slider, Qt::LeftButton, {}, right);
-  EXPECT_EQ(changes.first().first().toInt(), 32);
+  EXPECT_EQ(ParameterOf(changes.first()), ParameterId(32));
   EXPECT_EQ(Values(changes), std::vector<double>{0.1});
 
   QTest::keyClick(&slider, Qt::Key_Home);
