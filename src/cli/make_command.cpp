@@ -5,6 +5,7 @@
 #include <system_error>
 #include <utility>
 
+#include "botfiles/header_comment.h"
 #include "cli/bot_source.h"
 #include "cli/command.h"
 #include "game/game_lookup.h"
@@ -47,9 +48,12 @@ Result<void> SpareOthers(const Bot& bot, const SavePlan& plan,
     const std::size_t others = OtherFilesIn(*plan.package, bot);
     if (others > 0) return refuse(WhatGoes(others), *plan.package);
   }
-  for (const std::filesystem::path& path : MadeByOthers(plan, {})) {
+  for (const std::filesystem::path& path : NeverRead(plan, bot, {}, {})) {
+    if (path == plan.package) continue;
     const Result<std::string> bytes = ReadFile(path);
     if (!bytes) return Failure(bytes.error());
+    // One that was made here is made again by the same command.
+    if (HeaderLineCount(*bytes) > 0) continue;
     const Result<std::filesystem::path> kept = KeepBackup(path, *bytes);
     if (!kept) return Failure(kept.error());
     context.prompts.Show(

@@ -120,7 +120,8 @@ TEST(BotFiles, AreReadWithTheBlanksThatOnlyTheGameTakesForSome) {
   Bot bot;
   Set(bot, kNameField, "Nix\xA0y");
   for (const Level level : kLevels) Set(bot, ParameterId(level, 6), 240.0);
-  for (int index = 31; index <= 80; ++index) Set(bot, Id(index), index + 0.25F);
+  for (int index = 31; index <= 80; ++index)
+    Set(bot, Id(index), static_cast<float>(index) + 0.25F);
   for (const std::string blank :
        {"\xA0", "\xC2\xA0", "\xE2\x80\x8B", "\x1A", "\xA0 \xA0"}) {
     for (std::size_t at = 0; at < 3; ++at) {
