@@ -196,6 +196,31 @@ std::optional<Finding> FilesTooDeep(const GivenFiles& given,
   return std::nullopt;
 }
 
+void TellNearbyFiles(const GivenFiles& given, const std::string& name,
+                     std::vector<Finding>& findings) {
+  constexpr std::string_view kText = ".txt";
+  const std::string description =
+      ToLower(name) + std::string(FileSuffix(BotFile::kDescription));
+  for (Finding& finding : findings) {
+    std::string advice;
+    const bool lacks_description = finding.id == "no-description";
+    if (!lacks_description && finding.id != "file-missing") continue;
+    for (const std::string& path : given.PathsLike("", kText)) {
+      const std::string meant = path.substr(0, path.size() - kText.size());
+      if (lacks_description ? meant.ends_with("/" + description)
+                            : Contains(ToLower(finding.text), Quoted(meant))) {
+        advice = " Remove the .txt from the name of " + Quoted(path) + ".";
+      }
+    }
+    if (lacks_description && advice.empty()) {
+      for (const std::string& path : given.PathsLike("", "/" + description)) {
+        advice = " Move " + Quoted(path) + " there.";
+      }
+    }
+    finding.text += advice;
+  }
+}
+
 std::optional<Finding> OthersInDescription(const GivenFiles& given,
                                            const BotFileSet& files) {
   if (!files.description || files.description->game_path == kBotListPath) {

@@ -180,6 +180,26 @@ TEST_F(PackageChecks, TellWhereTheGameDoesNotLook) {
   }
 }
 
+TEST_F(PackageChecks, NameTheFileThatMayBeMeant) {
+  const auto found_with = [this](const std::string& path,
+                                 const std::string& other) {
+    std::vector<PackageEntry> entries = entries_;
+    for (PackageEntry& entry : entries_) {
+      if (entry.name == path) entry.name = other;
+    }
+    std::vector<std::string> found = Found(Packed());
+    entries_ = std::move(entries);
+    return found;
+  };
+  EXPECT_THAT(found_with("scripts/x.bot", "botfiles/bots/x.bot"),
+              ElementsAre(HasSubstr("Move \"botfiles/bots/x.bot\" there.")));
+  EXPECT_THAT(found_with("scripts/x.bot", "scripts/x.bot.txt"),
+              ElementsAre(HasSubstr("the name of \"scripts/x.bot.txt\".")));
+  EXPECT_THAT(
+      found_with("botfiles/bots/x_w.c", "botfiles/bots/x_w.c.txt"),
+      ElementsAre(HasSubstr("the name of \"botfiles/bots/x_w.c.txt\".")));
+}
+
 TEST_F(PackageChecks, TellOfFilesThatAreNoneOfABot) {
   const auto why = [this](const std::string& name) {
     folder_.Write("bot-x.pk3", MakeZip({{name, "skill 1"}}));
