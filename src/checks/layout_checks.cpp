@@ -204,12 +204,17 @@ void TellNearbyFiles(const GivenFiles& given, const std::string& name,
   for (Finding& finding : findings) {
     std::string advice;
     const bool lacks_description = finding.id == "no-description";
-    if (!lacks_description && finding.id != "file-missing") continue;
+    if (!lacks_description && finding.id != "file-missing" &&
+        finding.id != "not-looked-at") {
+      continue;
+    }
+    const std::string text = ToLower(finding.text);
     for (const std::string& path : given.PathsLike("", kText)) {
-      const std::string meant = path.substr(0, path.size() - kText.size());
-      if (lacks_description ? meant.ends_with("/" + description)
-                            : Contains(ToLower(finding.text), Quoted(meant))) {
-        advice = " Remove the .txt from the name of " + Quoted(path) + ".";
+      const std::string file = path.substr(path.rfind('/') + 1);
+      const std::string meant = file.substr(0, file.size() - kText.size());
+      if (lacks_description ? meant == description
+                            : Contains(text, '/' + meant + '"')) {
+        advice = " Remove the .txt from the name of " + Quoted(file) + ".";
       }
     }
     if (lacks_description && advice.empty()) {
