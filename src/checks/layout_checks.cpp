@@ -179,9 +179,11 @@ std::optional<Finding> FilesTooDeep(const GivenFiles& given,
              ", and the game does not find them. Make the package anew, "
              "without that in front of botfiles and scripts.";
     } else {
-      text = "The folders botfiles and scripts lie inside a folder " + folder +
-             ", and the game looks for them at the top alone. Put what is in " +
-             folder + " at the top, without that folder around it.";
+      text = "The folders botfiles and scripts lie inside a folder ";
+      text += folder;
+      text += ", and the game looks for them at the top alone. Put what is in ";
+      text += folder;
+      text += " at the top, without that folder around it.";
     }
     text += " The game does not add the bot.";
     const std::optional<GameFile> file = given.OpenInAnyCase(found.front());
