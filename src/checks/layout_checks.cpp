@@ -179,9 +179,11 @@ std::optional<Finding> FilesTooDeep(const GivenFiles& given,
              ", and the game does not find them. Make the package anew, "
              "without that in front of botfiles and scripts.";
     } else {
-      text = "The folders botfiles and scripts lie inside a folder " + folder +
-             ", and the game looks for them at the top alone. Put what is in " +
-             folder + " at the top, without that folder around it.";
+      text = "The folders botfiles and scripts lie inside a folder ";
+      text += folder;
+      text += ", and the game looks for them at the top alone. Put what is in ";
+      text += folder;
+      text += " at the top, without that folder around it.";
     }
     text += " The game does not add the bot.";
     const std::optional<GameFile> file = given.OpenInAnyCase(found.front());
@@ -194,6 +196,36 @@ std::optional<Finding> FilesTooDeep(const GivenFiles& given,
         .keeps_out = true};
   }
   return std::nullopt;
+}
+
+void TellNearbyFiles(const GivenFiles& given, const std::string& name,
+                     std::vector<Finding>& findings) {
+  constexpr std::string_view kText = ".txt";
+  const std::string description =
+      ToLower(name) + std::string(FileSuffix(BotFile::kDescription));
+  for (Finding& finding : findings) {
+    std::string advice;
+    const bool lacks_description = finding.id == "no-description";
+    if (!lacks_description && finding.id != "file-missing" &&
+        finding.id != "not-looked-at") {
+      continue;
+    }
+    const std::string text = ToLower(finding.text);
+    for (const std::string& path : given.PathsLike("", kText)) {
+      const std::string file = path.substr(path.rfind('/') + 1);
+      const std::string meant = file.substr(0, file.size() - kText.size());
+      if (lacks_description ? meant == description
+                            : Contains(text, '/' + meant + '"')) {
+        advice = " Remove the .txt from the name of " + Quoted(file) + ".";
+      }
+    }
+    if (lacks_description && advice.empty()) {
+      for (const std::string& path : given.PathsLike("", "/" + description)) {
+        advice = " Move " + Quoted(path) + " there.";
+      }
+    }
+    finding.text += advice;
+  }
 }
 
 std::optional<Finding> OthersInDescription(const GivenFiles& given,

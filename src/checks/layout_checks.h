@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "checks/file_checks.h"
 #include "checks/finding.h"
@@ -16,6 +17,11 @@ namespace fragsmith {
 /// where the game does not look; nothing when they do not.
 std::optional<Finding> FilesTooDeep(const GivenFiles& given,
                                     const std::string& name);
+
+/// Adds to what is said of missing files which of the given ones may be meant:
+/// with .txt at the end of its name, or in another folder.
+void TellNearbyFiles(const GivenFiles& given, const std::string& name,
+                     std::vector<Finding>& findings);
 
 /// That the bot's description has others that are found by their names alone:
 /// they play with the same files, or lack theirs. Nothing without any.

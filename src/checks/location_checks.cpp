@@ -178,6 +178,14 @@ std::vector<Finding> LocationCheck::InFiles() const {
   // Nothing that is said of missing files is news then.
   if (too_deep && !on_disk_.files.character) return {*too_deep};
   std::vector<Finding> findings = Check(on_disk_.files);
+  TellNearbyFiles(given_, location_.name, findings);
+  // What is said of a bot without files is said of its package.
+  for (Finding& finding : findings) {
+    auto* const place = std::get_if<FilePlace>(&finding.place);
+    if (place != nullptr && place->file.empty()) {
+      place->file = given_.package_name();
+    }
+  }
   AddPackageFaults(given_, on_disk_.files, findings);
   if (auto others = OthersInDescription(given_, on_disk_.files)) {
     findings.push_back(*std::move(others));

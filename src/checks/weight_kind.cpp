@@ -96,8 +96,13 @@ std::optional<Complaint> FaultOfCharacter(const GameFile& file,
     std::string_view rest = *line;
     const std::string_view word = TakeWord(rest);
     if (word == "skill") return std::nullopt;
-    if (!held.empty() || (word != "chat" && word != "#define")) continue;
-    held = word == "chat" ? "chats" : "weights";
+    const std::string_view name = TakeWord(rest);
+    const bool is_weight =
+        word == "#define" &&
+        (name.starts_with("W_") || name.starts_with("GWW_") ||
+         name.starts_with("FS_") || name.starts_with("FLAG_"));
+    if (!held.empty() || (word != "chat" && !is_weight)) continue;
+    held = is_weight ? "weights" : "chats";
     fault.place.line = static_cast<int>(lines.number());
   }
   if (held.empty()) return std::nullopt;

@@ -391,13 +391,17 @@ BotLocationOutcome FindBot(const BotSource& options, CommandContext& context) {
       return InFolder(bots->front().folder, bots->front().name, options);
     }
   }
+  const bool is_zip = EndsWithIgnoringCase(file, ".zip");
   Fail(context,
        {.what = IsFile(source) ? "This is neither a *_c.c file nor a *.pk3 "
                                  "package."
                                : "There is no such file or folder.",
         .file = options.source,
         .line = 0,
-        .advice = "Give a folder of bot files, one *_c.c file or a package."});
+        .advice = is_zip ? "If it is a package, make .pk3 of the end of its "
+                           "name: the game reads no other."
+                         : "Give a folder of bot files, one *_c.c file or a "
+                           "package."});
   return {};
 }
 

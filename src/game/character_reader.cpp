@@ -59,10 +59,9 @@ class BlockFaults {
                                    kGameItemWeights};
     const bool is_number_wanted =
         !std::ranges::count(kTexts, static_cast<int>(key.number));
-    Tell("bad-value", value,
-         BadValueText(value, is_number_wanted,
-                      value.file == 0 ? source_.bytes().substr(value.span.begin)
-                                      : std::string_view(value.text)));
+    std::string_view from = value.text;
+    if (value.file == 0) from = source_.bytes().substr(value.span.begin);
+    Tell("bad-value", value, BadValueText(value, is_number_wanted, from));
   }
 
  private:

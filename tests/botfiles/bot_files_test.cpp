@@ -145,14 +145,16 @@ TEST(BotFiles, AreReadWithTheBlanksThatOnlyTheGameTakesForSome) {
   for (const auto& [text, value] : {std::pair("\x93male\x94", "\x93male\x94"),
                                     {"\xC9ric", "\xC9ric"},
                                     {"\"a\xA0z\"", "a\xA0z"}}) {
-    const std::string line = "CHARACTERISTIC_CHAT_NAME " + std::string(text);
+    const std::string line =
+        "CHARACTERISTIC_GENDER\t\t\t\t\t" + std::string(text);
     (void)ReadCharacteristicFile(line, "f", ReadIdentity::kYes, read);
-    EXPECT_EQ(read.Text(kChatNameField), value);
+    EXPECT_EQ(read.Text(kGenderField), value);
   }
   for (const char* const number : {"\x93"
                                    "0.7\x94",
                                    "\x96 0.7"}) {
-    const std::string line = "CHARACTERISTIC_CHAT_MISC " + std::string(number);
+    const std::string line =
+        "CHARACTERISTIC_CHAT_MISC\t\t\t\t\t" + std::string(number);
     (void)ReadCharacteristicFile(line, "f", ReadIdentity::kYes, read);
     EXPECT_EQ(read.Text(Id(33)), "0.7");
   }

@@ -128,7 +128,8 @@ TEST(CharacteristicFile, TakesValuesByThePaddingOfTheKey) {
       {">$JUMPER>>>>>>-2", -2.0, {}},
       {">$JUMPER>>>>>>0.5 // x", "0.5 // x", 0.5},
       {">$JUMPER>>>>>>\"a b\" c", "a b\" c", "a b"},
-      {">$JUMPER>>>>>>\xC4\xFF", "\xC4\xFF", {}},
+      // Letters outside of quotes that the game takes for blanks.
+      {">$JUMPER>>>>>>\xC4\xFF", "\xC4\xFF", Value()},
       {">$JUMPER>>>>>>" + huge + ".5", huge + ".5", 1e40},
       // Lines that hold no value.
       {"//>$JUMPER>>>>>>0.5", 7.0, {}},

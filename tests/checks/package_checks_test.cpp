@@ -180,6 +180,31 @@ TEST_F(PackageChecks, TellWhereTheGameDoesNotLook) {
   }
 }
 
+TEST_F(PackageChecks, NameTheFileThatMayBeMeant) {
+  const auto found_with = [this](const std::string& path,
+                                 const std::string& other,
+                                 const InstalledGame* game = nullptr) {
+    std::vector<PackageEntry> entries = entries_;
+    for (PackageEntry& entry : entries_) {
+      if (entry.name == path) entry.name = other;
+    }
+    std::vector<std::string> found = Found(Packed(), "bot-x.pk3", game);
+    entries_ = std::move(entries);
+    return found;
+  };
+  EXPECT_THAT(found_with("scripts/x.bot", "botfiles/bots/x.bot"),
+              ElementsAre(HasSubstr("Move \"botfiles/bots/x.bot\" there.")));
+  EXPECT_THAT(found_with("scripts/x.bot", "scripts/x.bot.txt"),
+              ElementsAre(HasSubstr("the name of \"x.bot.txt\".")));
+  folder_.Write("game/baseq3/pak0.pk3",
+                MakeZip({{"botfiles/bots/default_c.c", ""}}));
+  const auto game = ReadInstalledGame(folder_ / "game");
+  ASSERT_TRUE(game);
+  EXPECT_THAT(
+      found_with("botfiles/bots/x_c.c", "botfiles/bots/x_c.c.txt", &*game),
+      Contains(HasSubstr("the name of \"x_c.c.txt\".")));
+}
+
 TEST_F(PackageChecks, TellOfFilesThatAreNoneOfABot) {
   const auto why = [this](const std::string& name) {
     folder_.Write("bot-x.pk3", MakeZip({{name, "skill 1"}}));

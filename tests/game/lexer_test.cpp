@@ -162,7 +162,7 @@ TEST(GameSource, FollowsTheGamesPreprocessor) {
       {"#include \"no.h\"\na", "include-missing@1"},
       {"#include \"again.h\"\na", "x a includes-itself@1"},
       // The last #define of an included file goes on behind the #include.
-      {"#include \"one.h\" 2\nONE", "1 2"},
+      {"#include \"one.h\" 2\nONE", "1 2 include-with-more@1"},
       {"#define A B\n#define B 5\nA", "5"},
       {"#define A 1 \\\n2\nA", "1 2"},
       {"#define A(x,y) y x\nA(1, 2 3)", "2 3 1"},
