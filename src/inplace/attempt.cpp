@@ -13,18 +13,11 @@ void ExpectOurs(ParameterId id, std::string fact, Attempt& attempt) {
   attempt.expected[PlainFact(id)] = std::move(fact);
 }
 
-bool CutsToken(std::string_view bytes, TextSpan span) {
+bool IsBehindKey(std::string_view bytes, ParameterId id, TextSpan span) {
   const LineOfFile line = LineAround(bytes, span.begin);
-  const auto are_one = [bytes](std::size_t at) {
-    constexpr std::string_view kGaps = " \t\r\n\"";
-    return at > 0 && at < bytes.size() &&
-           !Contains(kGaps, bytes.substr(at - 1, 1)) &&
-           !Contains(kGaps, bytes.substr(at, 1));
-  };
-  const std::string_view before =
-      bytes.substr(line.text.begin, span.begin - line.text.begin);
-  return are_one(span.begin) || are_one(span.end) ||
-         std::count(before.begin(), before.end(), '"') % 2 == 1;
+  const std::string_view before = TrimBlanksAndTabs(
+      bytes.substr(line.text.begin, span.begin - line.text.begin));
+  return before.ends_with(BareKey(id.index()));
 }
 
 TextSpan TokenAt(std::string_view bytes, TextSpan span) {

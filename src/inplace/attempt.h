@@ -75,9 +75,9 @@ std::vector<Splice> Insertions(std::string_view bytes,
                                std::string_view padded_key,
                                std::string_view value);
 
-/// True for a span that begins or ends within a token or a text in quotes: our
-/// reader goes by columns.
-bool CutsToken(std::string_view bytes, TextSpan span);
+/// True where nothing but blanks stands between the key and the span. Our
+/// reader goes by columns, and may begin within a word or behind others.
+bool IsBehindKey(std::string_view bytes, ParameterId id, TextSpan span);
 
 /// True between an #if and its #endif, where the game may pass over lines.
 bool IsInCondition(std::string_view bytes, std::size_t offset);

@@ -37,9 +37,13 @@ std::optional<OriginFile> ListBeside(const OriginFile& character,
   Notes ignored;
   std::vector<std::string> entries = ListPackageEntries(character.path, ignored)
                                          .value_or(std::vector<std::string>());
-  std::erase_if(entries, [](const std::string& entry) {
-    return !ToLower(entry).starts_with(std::string(kScriptsFolder) + '/') ||
-           !EndsWithIgnoringCase(entry, FileSuffix(BotFile::kDescription));
+  const std::string folder = std::string(kScriptsFolder) + '/';
+  const std::string_view suffix = FileSuffix(BotFile::kDescription);
+  const std::string own = folder + called + std::string(suffix);
+  std::erase_if(entries, [&](const std::string& entry) {
+    return !ToLower(entry).starts_with(folder) ||
+           !EndsWithIgnoringCase(entry, suffix) ||
+           EqualIgnoringCase(entry, own);
   });
   // The game reads the list first.
   entries.emplace(entries.begin(), kBotListPath);

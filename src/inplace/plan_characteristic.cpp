@@ -262,10 +262,10 @@ class CharacteristicPlan {
   }
 
   /// True for a place that an edit may write to though the game does not read
-  /// it: no part of a word, no comment and no line that it passes over.
+  /// it: behind its key, no comment and no line that it passes over.
   bool IsOurs(TextSpan token) const {
     const std::vector<TextSpan> comments = CommentsIn(context_.bytes);
-    return !token.empty() && !CutsToken(context_.bytes, token) &&
+    return !token.empty() && IsBehindKey(context_.bytes, id_, token) &&
            !IsInCondition(context_.bytes, token.begin) &&
            std::none_of(
                comments.begin(), comments.end(),
@@ -289,8 +289,9 @@ class CharacteristicPlan {
                     ", which the game passes over. Change that line, or "
                     "take it out, first."
               : "A load reads line " + line +
-                    " otherwise than the game does. Write nothing but a TAB "
-                    "between key and value there first.";
+                    " otherwise than the game does, and takes that value. Take "
+                    "the line out, or write it as a file made here has it, "
+                    "first.";
       return false;
     }
     attempt.splices.push_back(Replacement(last));

@@ -101,7 +101,8 @@ class DescriptionPlan {
       return "The game throws away a line with " +
              std::string(text.substr(sign, 1)) + " in its value. Take it out.";
     }
-    if (field_ == kModelField && text.find_first_of(" \t") != text.npos) {
+    if (field_ == kModelField &&
+        text.find_first_of(" \t") != std::string_view::npos) {
       return "No model and no skin of the game has a blank in its name. Take "
              "it out.";
     }

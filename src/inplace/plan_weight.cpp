@@ -273,7 +273,8 @@ Plan PlanWeight(const PlanContext& context, ParameterId id) {
   spans.push_back(LastSpan(context, id));
   for (const TextSpan span : spans) {
     if (!IsOneLine(context.bytes, span)) continue;
-    if (CutsToken(context.bytes, span)) continue;
+    const bool is_macro = macro != nullptr && span == macro->value;
+    if (!is_macro && !IsBehindKey(context.bytes, id, span)) continue;
     Attempt attempt = attempt_at(span);
     ExpectOurs(id, FactOf(value), attempt);
     if (macro != nullptr) {

@@ -26,9 +26,13 @@ std::optional<fs::path> FindListed(const fs::path& folder,
                                    std::string_view called) {
   std::vector<fs::path> paths;
   if (auto list = FindFile(folder, kBotList)) paths.push_back(*std::move(list));
-  for (const fs::path& name :
-       ListFiles(folder, FileSuffix(BotFile::kDescription))) {
-    paths.push_back(folder / name);
+  // A description of its own is read with the bot's files, or left alone.
+  const std::string_view suffix = FileSuffix(BotFile::kDescription);
+  const std::string own = std::string(called) + std::string(suffix);
+  for (const fs::path& name : ListFiles(folder, suffix)) {
+    const bool is_own =
+        EqualIgnoringCase(GameTextFromPath(name).value_or(std::string()), own);
+    if (!is_own) paths.push_back(folder / name);
   }
   for (const fs::path& path : paths) {
     const Result<std::string> bytes = ReadFile(path, kMaxBotFileBytes);

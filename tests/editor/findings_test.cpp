@@ -202,7 +202,7 @@ TEST_F(Findings, AreMendedTogetherInOneStep) {
 
 TEST_F(Findings, LeaveWhatTheGameHasInTheFiles) {
   const fs::path made =
-      SaveBot(bot(), folder_, {.uses_layout = true}, {}, prompts_)
+      SaveBot(bot(), folder_.path(), {.uses_layout = true}, {}, prompts_)
           .written.front();
   folder_.Write("botfiles/bots/tester_w.c",
                 "#define W_GAUNTLET 10 // mine\n#define W_RAILGUN 190 // my "
@@ -210,8 +210,9 @@ TEST_F(Findings, LeaveWhatTheGameHasInTheFiles) {
   prompts_.confirmations = {true};
   window_->OpenPath(made);
   Wait();
-  ASSERT_EQ(bot().Parameter(Id(49)), Value(std::string("// my railgun")));
-  EXPECT_GE(RowOf("The load read \"// my railgun\" for \"Railgun usage\""), 0);
+  ASSERT_EQ(bot().Parameter(Id(49)), Value(std::string("0 // my railgun")));
+  EXPECT_GE(RowOf("The load read \"0 // my railgun\" for \"Railgun usage\""),
+            0);
   const Bot before = bot();
   Find<QPushButton>("cmdMendSafe")->click();
   EXPECT_EQ(bot().Parameter(Id(44)), Value(10.0));

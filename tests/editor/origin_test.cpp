@@ -565,7 +565,7 @@ TEST_F(Origin, KnowsTheFilesOfAnotherNameAgain) {
 }
 
 TEST_F(Origin, KnowsTheFilesOfAnotherNameInAnotherFolder) {
-  Open(Make("a", "Rookie", 0.25));
+  Open(Make("a", "Rookie", 0.25, {}));
   fs::create_directory(folder_ / "b");
   const auto make_in = [this](const char* place) {
     ChooseAndAnswer<frmOpen>("mnuMake", [&](frmOpen& dialog) {
