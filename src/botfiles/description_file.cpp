@@ -10,6 +10,7 @@
 #include "botfiles/left_out.h"
 #include "botfiles/value_format.h"
 #include "model/characteristic_catalogue.h"
+#include "model/file_names.h"
 #include "support/code_page.h"
 #include "support/numbers.h"
 #include "support/text.h"
@@ -265,7 +266,7 @@ int Match(const DescriptionBlock& block, const Bot& bot,
   constexpr int kByName = 2;
   int match = 0;
   const std::string file = block.Text("aifile");
-  if (EqualIgnoringCase(file, "bots/" + named + "_c.c")) match += kByFile;
+  if (EqualIgnoringCase(file, CharacterPath(named))) match += kByFile;
   const std::string name = block.Text("name");
   if (EqualIgnoringCase(name, bot.Name())) match += kByName;
   if (EqualIgnoringCase(name, named)) ++match;

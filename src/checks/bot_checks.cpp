@@ -1,5 +1,6 @@
 #include "checks/bot_checks.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <utility>
@@ -9,6 +10,7 @@
 #include "checks/characteristic_checks.h"
 #include "checks/chat_checks.h"
 #include "checks/chat_line_checks.h"
+#include "checks/fun_name_checks.h"
 #include "checks/identity_checks.h"
 #include "checks/installation_checks.h"
 #include "checks/weight_checks.h"
@@ -32,8 +34,7 @@ constexpr std::array kChecks = {
     Check{"name-forbidden-character", kError, CheckNameCharacters, kByFiles},
     Check{"name-accent", kError, CheckNameAccents, kByFiles},
     Check{"name-taken", kError, CheckNameIsTaken, kByFiles},
-    Check{"fun-name-forbidden-character", kError, CheckFunNameCharacters,
-          kByFiles},
+    Check{"fun-name-hides-bot", kError, CheckFunNameHidesBot, kByFiles},
     Check{"description-too-large", kError, CheckDescriptionSize, kByFiles},
     Check{"text-breaks-file", kError, CheckTextThatBreaksFile, kByFiles},
     Check{"level-mix-gap", kError, CheckLevelMix, kByFiles},
@@ -51,6 +52,8 @@ constexpr std::array kChecks = {
     Check{"model-not-installed", kWarning, CheckModelIsInstalled},
     Check{"model-unreadable", kWarning, CheckModelText},
     Check{"gender-unknown", kWarning, CheckGender},
+    Check{"fun-name-forbidden-character", kWarning, CheckFunNameCharacters,
+          kByFiles},
     Check{"fun-name-too-long", kWarning, CheckFunNameLength},
     Check{"fun-name-black", kWarning, CheckFunNameBlack},
     Check{"fun-name-empty", kWarning, CheckFunNameIsEmpty, kByFiles},
@@ -61,7 +64,6 @@ constexpr std::array kChecks = {
     Check{"value-negative", kWarning, CheckNegativeValue, kByFiles},
     Check{"reaction-time-clamped", kWarning, CheckReactionTime},
     Check{"value-clamped", kWarning, CheckValueBeyondRange},
-    Check{"no-weapon-chosen", kWarning, CheckWeaponAtAll, kByFiles},
     Check{"gauntlet-fighter", kWarning, CheckGauntletFighter},
     Check{"no-item-wanted", kWarning, CheckNoItems},
     Check{"weights-of-other-macros", kWarning, CheckOtherMacros},
@@ -116,7 +118,13 @@ std::vector<Finding> CheckBot(const Bot& bot, const GameData* game) {
     findings.Begin(check);
     check.function(context, findings);
   }
-  return findings.Take();
+  std::vector<Finding> sorted = findings.Take();
+  // What a check finds is not always as grave as its row says.
+  std::stable_sort(sorted.begin(), sorted.end(),
+                   [](const Finding& left, const Finding& right) {
+                     return left.severity < right.severity;
+                   });
+  return sorted;
 }
 
 BotFile KindOfPlace(const BotPlace& place) {

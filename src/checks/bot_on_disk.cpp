@@ -9,6 +9,7 @@
 #include "game/description_reader.h"
 #include "game/game_data.h"
 #include "game/game_path.h"
+#include "model/file_names.h"
 #include "support/code_page.h"
 #include "support/text.h"
 
@@ -19,7 +20,7 @@ namespace {
 /// scripts itself, those of a package may lie one folder below it.
 std::vector<std::string> DescriptionPaths(const GivenFiles& given) {
   const std::string folder = std::string(kScriptsFolder) + "/";
-  std::vector<std::string> paths = given.PathsLike(folder, ".bot");
+  std::vector<std::string> paths = given.PathsLike(folder, kDescriptionEnd);
   std::erase_if(paths, [&](const std::string& path) {
     return std::count(path.begin(), path.end(), '/') >
            (given.is_packed() ? 2 : 1);
@@ -101,7 +102,7 @@ BotOnDisk ReadBot(const GivenFiles& given, const std::string& name,
 
 bool SpeaksOf(const GameFile& file, const std::string& name) {
   Complaints untold;
-  const std::string path = "bots/" + name + "_c.c";
+  const std::string path = CharacterPath(name);
   const std::vector<DescriptionSet> sets = ReadGameDescription(file, untold);
   return std::ranges::any_of(sets, [&](const DescriptionSet& set) {
     return EqualIgnoringCase(

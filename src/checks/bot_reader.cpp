@@ -11,6 +11,7 @@
 #include "game/file_faults.h"
 #include "game/game_path.h"
 #include "game/limits.h"
+#include "game/plain_letters.h"
 #include "support/code_page.h"
 #include "support/text.h"
 
@@ -113,6 +114,17 @@ bool BotReader::HasLoneBackslash(int line) const {
   return Contains(text, "\\") && !Contains(text, "\\\\");
 }
 
+bool BotReader::EndsAtAccent(std::string_view path, const std::string& place,
+                             int line) const {
+  if (!files_.description || place != files_.description->name || line == 0) {
+    return false;
+  }
+  const std::string_view text = LineOfFile(files_.description->bytes, line);
+  const std::size_t at = text.find(path);
+  return at != std::string_view::npos && at + path.size() < text.size() &&
+         IsAccented(text[at + path.size()]);
+}
+
 template <typename Condition>
 const GameFile* BotReader::FindOwn(const Condition& condition) const {
   for (const Member member : kMembers) {
@@ -190,7 +202,13 @@ void BotReader::TellMissing(const std::string& path, std::string_view what,
       "The " + std::string(what) + " file " + Quoted("botfiles/" + path);
   const GameFile* const other_case = OwnInAnyCase(path);
   const std::string on_disk = PathLookedFor(path, FileHome::kLoose);
-  if (HasLoneBackslash(line)) {
+  if (EndsAtAccent(path, place, line)) {
+    Add("path-accent", kError, place, line,
+        "The game reads the path of the " + std::string(what) +
+            " file only up to " + Quoted(path) +
+            ", where a letter with an accent follows. Call the bot and its "
+            "files by letters without accents.");
+  } else if (HasLoneBackslash(line)) {
     Add("path-backslash", kError, place, line,
         "The path of the " + std::string(what) +
             " file has a \\ in this line, and the game takes that and the "
@@ -308,10 +326,8 @@ bool BotReader::Chat(const CharacterValue& path, const CharacterValue& name) {
     Complaints all(files_.is_game_known);
     const bool is_good = ReadGameChat(*file, name.text, game_, all, &chat);
     for (const Complaint& one : all.list()) {
-      const Complaint told =
-          one.id == "chat-name" ? WithoutChat(path, name, chat, one) : one;
-      complaints.Add(told.id, told.severity, told.place.file, told.place.line,
-                     told.text);
+      complaints.Add(one.id == "chat-name" ? WithoutChat(path, name, chat, one)
+                                           : one);
     }
     return is_good;
   });

@@ -82,6 +82,10 @@ class BotReader {
                                const std::string& place, int line);
   void TellMissing(const std::string& path, std::string_view what,
                    const std::string& place, int line);
+  /// Whether the path in this line of the description is all that the game
+  /// reads of a longer one.
+  bool EndsAtAccent(std::string_view path, const std::string& place,
+                    int line) const;
   std::string AdviceForPath(std::string_view path) const;
   template <typename Condition>
   const GameFile* FindOwn(const Condition& condition) const;

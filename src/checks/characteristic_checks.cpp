@@ -10,6 +10,7 @@
 #include "game/number.h"
 #include "game/skill_mix.h"
 #include "model/characteristic_catalogue.h"
+#include "support/code_page.h"
 
 namespace fragsmith {
 namespace {
@@ -85,17 +86,19 @@ std::optional<Mend> MixGapMend(const Bot& bot, int index, LevelPair levels) {
 
 std::string BetweenText(LevelPair levels) {
   return levels.lower == Level::k1 ? "At the skills 2 and 3"
-                                   : "At skills between 4 and 5";
+                                   : "At skills between 4 and 5, such as 4.5,";
 }
 
-/// Whether the game finds something else than the one text between quotes.
-bool BreaksFile(const std::string& text) {
+/// The one text that the game finds between the quotes that are put around a
+/// text; nothing where it finds something else.
+std::optional<GameToken> TextInFile(const std::string& text) {
   const std::string written = '"' + text + '"';
   GameLexer lexer(written);
   GameToken token;
-  return lexer.Next(token) != GameLexer::Outcome::kToken ||
-         token.oddity != GameToken::Oddity::kNone ||
-         lexer.Next(token) != GameLexer::Outcome::kEnd;
+  GameToken next;
+  const bool is_one_text = lexer.Next(token) == GameLexer::Outcome::kToken &&
+                           lexer.Next(next) == GameLexer::Outcome::kEnd;
+  return is_one_text ? std::optional(token) : std::nullopt;
 }
 
 }  // namespace
@@ -121,7 +124,8 @@ void CheckLevelMix(const CheckContext& context, FindingList& findings) {
       if (auto mend = MixGapMend(context.bot, index, levels)) {
         mends.push_back(Safe(std::move(*mend)));
       }
-      findings.Add(upper, std::move(text), std::move(mends));
+      findings.Add(upper, std::move(text), std::move(mends),
+                   SeverityOfMixGap(levels));
     }
   }
 }
@@ -131,7 +135,20 @@ void CheckTextThatBreaksFile(const CheckContext& context,
   const auto check = [&](ParameterId parameter) {
     const auto* text =
         std::get_if<std::string>(&context.bot.Parameter(parameter));
-    if (text == nullptr || IsWeight(parameter) || !BreaksFile(*text)) return;
+    if (text == nullptr || IsWeight(parameter)) return;
+    if (const std::optional<GameToken> token = TextInFile(*text)) {
+      if (token->oddity == GameToken::Oddity::kNone || parameter.level() ||
+          parameter != kGenderField) {
+        return;
+      }
+      findings.Add(parameter,
+                   "The game cuts the gender " + ShownValue(*text) +
+                       " at a backslash that it does not understand: \"" +
+                       ShownText(token->text) +
+                       "\" is all that remains. Take the backslash out.",
+                   {}, Severity::kWarning);
+      return;
+    }
     findings.Add(parameter,
                  QuotedName(parameter) + " is the text " + ShownValue(*text) +
                      ", whose quotes, backslashes or control characters break "
@@ -149,11 +166,11 @@ void CheckTextForNumber(const CheckContext& context, FindingList& findings) {
   ForEachValue([&](ParameterId parameter) {
     const Value& value = context.bot.Parameter(parameter);
     if (IsWeight(parameter) || ToNumber(value)) return;
-    if (BreaksFile(ToText(value))) return;
+    if (!TextInFile(ToText(value))) return;
     findings.Add(parameter,
                  QuotedName(parameter) + " is the text " + ShownValue(value) +
                      ", not a number. The game takes 0 in its place and "
-                     "complains again and again.",
+                     "complains again and again. Give a number.",
                  {Safe(MendTo(parameter, 0))});
   });
 }

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "chat/chat_catalogue.h"
+#include "checks/chat_line_checks.h"
 #include "game/chat_message.h"
 #include "game/chat_type_facts.h"
 #include "game/file_faults.h"
@@ -142,7 +143,8 @@ class ChatFileChecker {
                  "and the rest of an earlier line. Take a number from 0 to "
                  "5.");
       }
-      if (item.kind == ChatItem::Kind::kText && HasBraces(item.text)) {
+      if (item.kind == ChatItem::Kind::kText &&
+          !BracedPart(item.text).empty()) {
         Warn("chat-braces", line.span,
              "The game speaks what stands in braces as it is written: " +
                  Quoted(item.text) +
@@ -150,12 +152,6 @@ class ChatFileChecker {
                  "marks, such as \"well done, \", 0;");
       }
     }
-  }
-
-  static bool HasBraces(std::string_view text) {
-    const std::size_t open = text.find('{');
-    return open != std::string_view::npos &&
-           text.find('}', open) != std::string_view::npos;
   }
 
   const GameFile& file_;

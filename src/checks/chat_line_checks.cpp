@@ -24,12 +24,28 @@ namespace {
 
 using Kind = ChatItem::Kind;
 
+/// Begins the game's own mark of a variable or a word list in a line.
+constexpr char kMark = '\x01';
+
 bool IsControl(char letter) {
   return static_cast<unsigned char>(letter) < ' ' && letter != '\t';
 }
 
-bool HasControl(std::string_view text) {
-  return std::any_of(text.begin(), text.end(), IsControl);
+bool HasBlankingControl(std::string_view text) {
+  return std::any_of(text.begin(), text.end(), [](char letter) {
+    return IsControl(letter) && letter != kMark;
+  });
+}
+
+std::string WithoutControls(std::string text) {
+  std::replace_if(text.begin(), text.end(), IsControl, ' ');
+  return text;
+}
+
+/// These end a text, or the file; the others stay in it.
+bool HasLineEnd(std::string_view text) {
+  return text.find_first_of(std::string_view("\n\0", 2)) !=
+         std::string_view::npos;
 }
 
 /// The text with each backslash doubled that the game would not understand.
@@ -68,7 +84,7 @@ std::string ReplacedAll(std::string text, std::string_view old_part,
 
 /// The line with the plain forms of all that the game would change.
 std::string InGameCharacters(const std::string& line) {
-  std::string text = InPlainLetters(line);
+  std::string text = WithoutControls(InPlainLetters(line));
   text = Replaced(std::move(text), ';', ',');
   text = Replaced(std::move(text), '\t', ' ');
   text = ReplacedAll(std::move(text), "%", " percent");
@@ -97,9 +113,12 @@ void AddChanges(std::string_view text, std::vector<std::string>& changes) {
   add(Contains(text, "/*") && !Contains(shown, "/*"),
       R"("/*" takes away all up to "*/")");
   add(Contains(text, ";"), "a semicolon becomes a blank");
-  add((Contains(text, "  ") && !Contains(shown, "  ")) || HasControl(text) ||
-          Contains(text, "\t"),
+  add((Contains(text, "  ") && !Contains(shown, "  ")) || Contains(text, "\t"),
       "several blanks become one");
+  add(HasBlankingControl(text), "control characters become blanks");
+  add(Contains(text, {&kMark, 1}),
+      "the control character with the code 1 goes away, and may take what "
+      "follows along");
   add(Contains(text, "\""), "double quotes are dropped");
 }
 
@@ -120,16 +139,6 @@ std::string ShownList(const std::string& name) {
                    [&name](const WordList& row) { return row.Key == name; });
   return list == kWordLists.end() ? QuotedText(name)
                                   : std::string(list->Variable);
-}
-
-/// The first "{...}" of the text; empty when there is none.
-std::string_view BracedPart(std::string_view text) {
-  const std::size_t open = text.find('{');
-  if (open == std::string_view::npos) return {};
-  const std::size_t close = text.find('}', open);
-  if (close == std::string_view::npos) return {};
-  const bool is_double = text.substr(close, 2) == "}}";
-  return text.substr(open, close - open + (is_double ? 2 : 1));
 }
 
 bool IsPointerSomewhere(std::string_view variable) {
@@ -160,9 +169,18 @@ void ForEachReadable(const CheckContext& context, Function function) {
 
 }  // namespace
 
+std::string_view BracedPart(std::string_view text) {
+  const std::size_t open = text.find('{');
+  if (open == std::string_view::npos) return {};
+  const std::size_t close = text.find('}', open);
+  if (close == std::string_view::npos) return {};
+  const bool is_double = text.substr(close, 2) == "}}";
+  return text.substr(open, close - open + (is_double ? 2 : 1));
+}
+
 void CheckLineQuotes(const CheckContext& context, FindingList& findings) {
   for (const CheckedLine& line : context.lines) {
-    if (!line.message.is_broken || HasControl(*line.text) ||
+    if (!line.message.is_broken || HasLineEnd(*line.text) ||
         HasBadBackslash(*line.text)) {
       continue;
     }
@@ -184,7 +202,10 @@ void CheckLineQuotes(const CheckContext& context, FindingList& findings) {
 
 void CheckLineBackslashes(const CheckContext& context, FindingList& findings) {
   for (const CheckedLine& line : context.lines) {
-    if (!HasBadBackslash(*line.text)) continue;
+    if (!HasBadBackslash(*line.text) ||
+        !(line.message.is_broken || line.message.is_cut)) {
+      continue;
+    }
     const bool is_last = line.text->ends_with('\\') && line.message.is_broken;
     std::string text =
         is_last ? "The line ends with a backslash, which swallows the end of "
@@ -197,21 +218,20 @@ void CheckLineBackslashes(const CheckContext& context, FindingList& findings) {
         {Safe(SetLine(line, WithGoodBackslashes(*line.text),
                       "Write two backslashes, of which the game speaks one")),
          SetLine(line, ReplacedAll(*line.text, "\\", ""),
-                 "Take the backslashes out")});
+                 "Take the backslashes out")},
+        line.message.is_broken ? Severity::kError : Severity::kWarning);
   }
 }
 
 void CheckLineControls(const CheckContext& context, FindingList& findings) {
   for (const CheckedLine& line : context.lines) {
-    if (!HasControl(*line.text)) continue;
-    std::string plain = *line.text;
-    std::replace_if(plain.begin(), plain.end(), IsControl, ' ');
-    findings.Add(
-        PlaceOf(line),
-        "The line has a line end or another control character in it: "
-        "the game cannot read the chat file and does not add the "
-        "bot.",
-        {Safe(SetLine(line, std::move(plain), "Put blanks in its place"))});
+    if (!line.message.is_broken || !HasLineEnd(*line.text)) continue;
+    findings.Add(PlaceOf(line),
+                 "The line has a line end in it, which breaks the text off: "
+                 "the game cannot read the chat file and does not add the "
+                 "bot. Make two lines of it, or put a blank there.",
+                 {Safe(SetLine(line, WithoutControls(*line.text),
+                               "Put a blank in its place"))});
   }
 }
 
@@ -251,7 +271,8 @@ void CheckLineOnScreen(const CheckContext& context, FindingList& findings) {
                        : std::to_string(longest)) +
                   " characters";
     text += "; the screen shows some " +
-            std::to_string(limits::kSafeSpokenBytes) + " and cuts the rest.";
+            std::to_string(limits::kSafeSpokenBytes) +
+            " and cuts the rest. Shorten it.";
     findings.Add(PlaceOf(line), std::move(text), ByOtherLine(context, line));
   });
 }
@@ -326,8 +347,10 @@ void CheckLineVariables(const CheckContext& context, FindingList& findings) {
       findings.Add(PlaceOf(line),
                    "In this situation the game has nothing for " + variable +
                        (fill == ChatFill::kInvalid
-                            ? ": the bot says \"[invalid var]\" in its place."
-                            : ": the bot leaves it out."),
+                            ? ": the bot says \"[invalid var]\" in its place. "
+                              "Take it out of the line."
+                            : ": the bot leaves it out. Take it out of the "
+                              "line, or choose another."),
                    std::move(mends));
       return;
     }
@@ -352,7 +375,7 @@ void CheckLineBraces(const CheckContext& context, FindingList& findings) {
       findings.Add(PlaceOf(line),
                    reason +
                        ": the bot speaks it as it stands there, braces "
-                       "and all.",
+                       "and all. Take it out of the line.",
                    {SetLine(line, ReplacedAll(*line.text, part, ""),
                             "Take " + shown + " out of the line")});
       return;

@@ -1,5 +1,7 @@
 #include "checks/check_context.h"
 
+#include "support/text.h"
+
 namespace fragsmith {
 
 const WordLists& WordsOf(const CheckContext& context) {
@@ -12,14 +14,21 @@ void FindingList::Begin(const Check& check) {
   of_this_check_ = 0;
 }
 
-void FindingList::Add(BotPlace place, std::string text,
-                      std::vector<Mend> mends) {
+void FindingList::Add(BotPlace place, std::string text, std::vector<Mend> mends,
+                      std::optional<Severity> severity) {
   if (++of_this_check_ > kMaxOfOneCheck) return;
   findings_.push_back({.id = check_->id,
-                       .severity = check_->severity,
+                       .severity = severity.value_or(check_->severity),
                        .place = std::move(place),
                        .text = std::move(text),
                        .mends = std::move(mends)});
+}
+
+std::string Without(std::string text, std::string_view letters) {
+  std::erase_if(text, [letters](char letter) {
+    return Contains(letters, {&letter, 1});
+  });
+  return text;
 }
 
 Mend SetTo(ParameterId parameter, Value value, std::string title) {

@@ -44,7 +44,9 @@ class FindingList {
   /// The findings that follow are this check's.
   void Begin(const Check& check);
 
-  void Add(BotPlace place, std::string text, std::vector<Mend> mends = {});
+  /// The severity is the check's, where it is not another one in this case.
+  void Add(BotPlace place, std::string text, std::vector<Mend> mends = {},
+           std::optional<Severity> severity = {});
 
   std::vector<Finding> Take() { return std::move(findings_); }
 
@@ -60,7 +62,7 @@ using CheckFunction = void (*)(const CheckContext& context,
 /// A question that is asked of every bot.
 struct Check {
   std::string_view id;
-  Severity severity;
+  Severity severity;  ///< The gravest of its findings.
   CheckFunction function;
   /// The reader of the files on disk tells the same with file and line.
   bool is_told_by_files = false;
@@ -71,6 +73,9 @@ inline Mend Safe(Mend mend) {
   mend.is_safe = true;
   return mend;
 }
+
+/// The text without any of these letters, for mends.
+std::string Without(std::string text, std::string_view letters);
 
 /// A mend that sets one parameter.
 Mend SetTo(ParameterId parameter, Value value, std::string title);

@@ -9,7 +9,6 @@
 #include "checks/bot_reader.h"
 #include "checks/installation_checks.h"
 #include "game/game_path.h"
-#include "game/limits.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -84,8 +83,9 @@ void BotReader::ReadDescription() {
       const bool is_others =
           set != nullptr && one.id == "description-sign" &&
           (one.place.line < set->line || one.place.line > set->last_line);
-      complaints.Add(one.id, is_others ? Severity::kHint : one.severity,
-                     one.place.file, one.place.line, one.text);
+      Complaint told = one;
+      if (is_others) told.severity = Severity::kHint;
+      complaints.Add(std::move(told));
     }
     if (set != nullptr) {
       TellSameName(sets, *set);
@@ -204,7 +204,7 @@ void BotReader::TakeDescription(const DescriptionSet& set) {
   }
   // Told of by its reader.
   if (set.is_open) return;
-  if (set.Text("funname").size() > limits::kMaxFunName) {
+  if (set.HidesCharacter()) {
     Add("fun-name-hides-character", kError, file.name, set.Line("funname"),
         "The fun name is so long that the game forgets the path of the "
         "character file. Shorten it.");

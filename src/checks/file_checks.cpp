@@ -6,17 +6,14 @@
 #include <map>
 #include <utility>
 
-#include "chat/vocabulary.h"
 #include "checks/bot_reader.h"
-#include "game/skill_mix.h"
+#include "checks/character_file_checks.h"
+#include "model/file_names.h"
 #include "support/code_page.h"
 #include "support/text.h"
 
 namespace fragsmith {
 namespace {
-
-/// Bytes of "_c.c".
-constexpr std::size_t kSuffixLength = 4;
 
 /// The skills to try, so that each level of the file is read, by itself and
 /// in a mix.
@@ -27,19 +24,6 @@ constexpr std::string_view kAllSkills = "1, 2, 3, 4, 5";
 
 std::string SkillText(double skill) {
   return skill == 2 ? "2, 3" : std::to_string(static_cast<int>(skill));
-}
-
-/// Levels that leave these to the default character are the rule.
-bool IsOptional(int number) {
-  return (number >= 8 && number <= 15) || (number >= 17 && number <= 20) ||
-         number >= 47;
-}
-
-/// The characteristics that are texts.
-bool IsText(int number) {
-  constexpr std::array kTexts = {
-      0, 1, kGameWeaponWeights, kGameChatFile, kGameChatName, kGameItemWeights};
-  return std::find(kTexts.begin(), kTexts.end(), number) != kTexts.end();
 }
 
 /// What the game makes of the files, and why.
@@ -73,10 +57,10 @@ class FileChecker {
     if (reader_.weaponless()) findings().Raise(*reader_.weaponless());
     if (reader_.itemless()) TellItemless();
     CheckName();
-    CheckBlocks();
-    CheckLevels();
-    CheckOthersFiles();
-    CheckMixes();
+    if (reader_.character()) {
+      CheckCharacterFile(files_, game_, IsCauseIn(*reader_.character()),
+                         reader_);
+    }
     return Sorted();
   }
 
@@ -92,11 +76,6 @@ class FileChecker {
   void Add(std::string_view id, Severity severity, const std::string& file,
            int line, std::string text) {
     findings().Add(id, severity, file, line, std::move(text));
-  }
-
-  void Add(const Complaint& complaint) {
-    Add(complaint.id, complaint.severity, complaint.place.file,
-        complaint.place.line, complaint.text);
   }
 
   /// Goes the way of one skill alone; the first error on it is the cause.
@@ -153,9 +132,7 @@ class FileChecker {
               one.place.file == reader_.character()->name);
     });
     Complaints kept(files_.is_game_known);
-    for (const Complaint& one : list) {
-      kept.Add(one.id, one.severity, one.place.file, one.place.line, one.text);
-    }
+    for (Complaint& one : list) kept.Add(std::move(one));
     findings() = std::move(kept);
   }
 
@@ -167,7 +144,7 @@ class FileChecker {
     const std::string& file = files_.description->name;
     const int line = set.Line("name");
     RaiseLostName({file, line});
-    if (IsTold({file, line})) return;
+    if (findings().IsTold({file, line})) return;
     if (name.find_first_of(" \t") != std::string::npos) {
       Add("name-with-blank", Severity::kWarning, file, line,
           "The name " + Quoted(name) +
@@ -200,189 +177,10 @@ class FileChecker {
     findings().Raise(raised);
   }
 
-  /// Of blocks of one level the game takes the first.
-  void CheckBlocks() {
-    if (!reader_.character()) return;
-    const GameFile& file = *reader_.character();
-    std::map<int, int> lines;
-    for (const BlockAt& block : CharacterBlocks(file, game_)) {
-      const auto [first, is_new] = lines.emplace(block.level, block.line);
-      if (is_new || block.line == 0 ||
-          IsTold({file.name, first->second}, "no-file-key") ||
-          IsTold({file.name, block.line}, "no-level")) {
-        continue;
-      }
-      const std::string number = std::to_string(block.level);
-      Add("skill-block-twice", Severity::kWarning, file.name, block.line,
-          "Skill block " + number + " stands twice, first in line " +
-              std::to_string(first->second) +
-              ": the game takes that one and passes over this. Remove the one "
-              "that is not meant, or correct its number.");
-    }
-  }
-
-  void CheckLevels() {
-    if (!reader_.character()) return;
-    const std::string& file = reader_.character()->name;
-    std::vector<std::string> levels;
-    std::string missing;
-    int count = 0;
-    for (const int level : kLevelNumbers) {
-      const CharacterLevel* const loaded = reader_.Level(level);
-      if (loaded == nullptr || loaded->origin != CharacterOrigin::kOwn) {
-        continue;
-      }
-      CheckTexts(level, *loaded);
-      std::string of_level;
-      int of_level_count = 0;
-      for (int number = 0;
-           number < static_cast<int>(kGameCharacteristics.size()); ++number) {
-        const auto found = loaded->block.values.find(number);
-        const bool is_own =
-            found != loaded->block.values.end() && found->second.is_own;
-        if (is_own || IsOptional(number)) continue;
-        if (++of_level_count <= 3) {
-          of_level += (of_level_count > 1 ? ", " : "") + GameKeyName(number);
-        }
-      }
-      if (of_level_count == 0) continue;
-      levels.push_back(std::to_string(level));
-      if (of_level_count > count) {
-        count = of_level_count;
-        missing = of_level;
-      }
-    }
-    // Of a level that is thrown away it says nothing new.
-    const auto is_here = [&file](const Cause& cause) {
-      return cause.complaint.place.file == file;
-    };
-    if (count == 0 || std::ranges::any_of(causes_, is_here)) return;
-    if (count > 3) missing += " and " + std::to_string(count - 3) + " more";
-    Add("missing-keys", Severity::kHint, file, 0,
-        (levels.size() == 1 ? "Skill block " : "The skill blocks ") +
-            Enumeration(levels) +
-            (levels.size() == 1 ? " has no " : " have no ") + missing +
-            ": the game takes what its default character has. Write the lines "
-            "to decide yourself.");
-  }
-
-  /// The game takes 0 for a text where a number belongs.
-  void CheckTexts(int level, const CharacterLevel& loaded) {
-    for (const auto& [number, value] : loaded.block.values) {
-      if (!value.is_own || value.kind != CharacterValue::Kind::kText ||
-          IsText(number) ||
-          static_cast<std::size_t>(number) >= kGameCharacteristics.size()) {
-        continue;
-      }
-      Add("value-not-a-number", Severity::kWarning, reader_.character()->name,
-          value.line,
-          GameKeyName(number) + " of skill " + std::to_string(level) +
-              " is the text " + Quoted(value.text) +
-              ", and a number belongs there: the game takes 0. Write the "
-              "number without quotation marks.");
-    }
-  }
-
-  /// A path that was left as it was in the bot that this one was copied from.
-  void CheckOthersFiles() {
-    constexpr std::array<int, 3> kPaths = {kGameItemWeights, kGameWeaponWeights,
-                                           kGameChatFile};
-    if (!files_.character) return;
-    const std::string own = BotOfPath(files_.character->game_path);
-    const auto own_file = [&](int number) {
-      return number == kGameItemWeights     ? &files_.item_weights
-             : number == kGameWeaponWeights ? &files_.weapon_weights
-                                            : &files_.chat;
-    };
-    for (const int level : kLevelNumbers) {
-      const CharacterLevel* const loaded = reader_.Level(level);
-      if (loaded == nullptr) continue;
-      for (const int number : kPaths) {
-        const auto found = loaded->block.values.find(number);
-        if (found == loaded->block.values.end() || !found->second.is_own) {
-          continue;
-        }
-        const std::string other = BotOfPath(found->second.text);
-        const std::optional<GameFile>& file = *own_file(number);
-        if (other == own) CheckKind(number, found->second, file);
-        if (other.empty() || other == own ||
-            IsTold({reader_.character()->name, found->second.line}) ||
-            reader_.HasLoneBackslash(found->second.line)) {
-          continue;
-        }
-        std::string text = "Skill " + std::to_string(level) + " takes " +
-                           Quoted(found->second.text) +
-                           ", a file of another bot";
-        text += file ? ", and not " + Quoted(file->game_path) +
-                           ", which is this bot's own. Correct the name in "
-                           "this line."
-                     : ". If that is not meant, write the name of this bot's "
-                       "own file.";
-        Add("others-file", file ? Severity::kWarning : Severity::kHint,
-            reader_.character()->name, found->second.line, std::move(text));
-      }
-    }
-  }
-
-  /// Whether something says already what is wrong with this line.
-  bool IsTold(const FilePlace& place, std::string_view id = {}) {
-    return std::ranges::any_of(findings().list(), [&](const Complaint& one) {
-      return one.severity != Severity::kHint && one.place == place &&
-             (id.empty() || one.id == id);
+  bool IsCauseIn(const GameFile& file) const {
+    return std::ranges::any_of(causes_, [&file](const Cause& cause) {
+      return cause.complaint.place.file == file.name;
     });
-  }
-
-  /// A file of this bot that belongs to another key.
-  void CheckKind(int number, const CharacterValue& value,
-                 const std::optional<GameFile>& file) {
-    const auto is_named = [&value](const GameFile& one) {
-      return EqualIgnoringCase(PathLookedFor(value.text, FileHome::kLoose),
-                               one.game_path);
-    };
-    if (!file || is_named(*file)) return;
-    const bool is_of_other_key =
-        std::any_of(BotReader::kMembers.begin(), BotReader::kMembers.end(),
-                    [&](const BotReader::Member member) {
-                      return files_.*member && is_named(*(files_.*member));
-                    });
-    if (!is_of_other_key) return;
-    Add("wrong-file", Severity::kWarning, reader_.character()->name, value.line,
-        GameKeyName(number) + " names " + Quoted(value.text) +
-            ", which is another file of this bot. Write " +
-            Quoted(file->game_path) + ".");
-  }
-
-  /// Between two levels the game mixes numbers with a "." only. No menu offers
-  /// the skills between 4 and 5.
-  void CheckMixes() {
-    if (!reader_.character()) return;
-    for (const LevelPair levels : kMixedLevels) {
-      const int low = NumberOf(levels.lower);
-      const int high = NumberOf(levels.upper);
-      const CharacterLevel* const lower = reader_.Level(low);
-      const CharacterLevel* const upper = reader_.Level(high);
-      if (lower == nullptr || upper == nullptr) continue;
-      for (const auto& [number, value] : lower->block.values) {
-        const auto other = upper->block.values.find(number);
-        using Kind = CharacterValue::Kind;
-        if (!value.is_own || other == upper->block.values.end() ||
-            value.kind == Kind::kText || other->second.kind == Kind::kText ||
-            !LeavesMixGap(value.kind == Kind::kWhole,
-                          other->second.kind == Kind::kWhole) ||
-            static_cast<std::size_t>(number) >= kGameCharacteristics.size()) {
-          continue;
-        }
-        Add("no-mix",
-            levels.lower == Level::k1 ? Severity::kError : Severity::kHint,
-            reader_.character()->name, other->second.line,
-            GameKeyName(number) + " is a whole number at skill " +
-                std::to_string(high) + " but has a point at skill " +
-                std::to_string(low) +
-                ", so at the skills between the bot has no value at all and "
-                "the game takes 0. Write a point and a 0 behind the whole "
-                "number.");
-      }
-    }
   }
 
   /// What becomes of the bot by a fault, a sentence for each way.
@@ -421,7 +219,8 @@ class FileChecker {
                         .place = cause.complaint.place,
                         .text = cause.complaint.text + ConsequenceOf(cause),
                         .mends = {},
-                        .keeps_out = cause.skills.contains(Verdict::kRefused)});
+                        .keeps_out = cause.skills.contains(Verdict::kRefused),
+                        .key = cause.complaint.key});
     }
     const auto order = [&](const Complaint& complaint) {
       std::size_t at = 0;
@@ -442,7 +241,8 @@ class FileChecker {
                         .severity = complaint.severity,
                         .place = std::move(complaint.place),
                         .text = std::move(complaint.text),
-                        .mends = {}});
+                        .mends = {},
+                        .key = std::move(complaint.key)});
     }
     return result;
   }
@@ -478,7 +278,8 @@ std::string NameToAdd(const BotFileSet& files) {
   if (!files.character) return {};
   std::string name = files.character->game_path;
   name.erase(0, name.rfind('/') + 1);
-  return name.substr(0, name.size() - std::min(name.size(), kSuffixLength));
+  return name.substr(0,
+                     name.size() - std::min(name.size(), kCharacterEnd.size()));
 }
 
 std::vector<std::string> FilesOpened(const BotFileSet& files,

@@ -32,6 +32,8 @@ struct Finding {
   std::vector<Mend> mends;
   /// Because of it the game does not add the bot, at some skill or at all.
   bool keeps_out = false;
+  /// The key of a description that it is about, as of a Complaint.
+  std::string key = {};
 };
 
 }  // namespace fragsmith

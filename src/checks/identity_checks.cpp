@@ -4,6 +4,8 @@
 #include <cstddef>
 #include <optional>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "botfiles/characteristic_file.h"
 #include "botfiles/description_file.h"
@@ -20,69 +22,12 @@
 namespace fragsmith {
 namespace {
 
-std::string Without(std::string text, std::string_view letters) {
-  std::erase_if(text, [letters](char letter) {
-    return Contains(letters, {&letter, 1});
-  });
-  return text;
-}
-
 std::vector<Mend> RenameTo(const std::string& name) {
   if (NameRefusal(name)) return {};
   return {SetTo(kNameField, name, "Call the bot " + Utf8FromGameText(name))};
 }
 
 std::string ShownName(const Bot& bot) { return Quoted(bot.Name()); }
-
-/// The fun name as the bot holds it, quotes included, and what is in them.
-struct FunName {
-  explicit FunName(const Bot& bot)
-      : inner(FunNameForBox(bot.FunName())),
-        is_quoted(inner.size() < bot.FunName().size()) {}
-
-  std::string inner;
-  bool is_quoted;
-};
-
-/// Quotes stand around a fun name where the game needs them.
-Mend FunNameTo(const std::string& inner, std::string title) {
-  const bool needs_quotes = UnquotedWord(inner).size() < inner.size();
-  return Safe(SetTo(kFunNameField, needs_quotes ? '"' + inner + '"' : inner,
-                    std::move(title)));
-}
-
-bool IsColorCode(std::string_view text, std::size_t at) {
-  return text[at] == '^' && at + 1 < text.size() && text[at + 1] != '^';
-}
-
-std::string WithoutColors(std::string_view text) {
-  std::string plain;
-  for (std::size_t at = 0; at < text.size(); ++at) {
-    if (IsColorCode(text, at)) {
-      ++at;
-    } else {
-      plain += text[at];
-    }
-  }
-  return plain;
-}
-
-/// The game counts letters and digits alike, modulo 8, and takes out black.
-bool IsBlackCode(std::string_view text, std::size_t at) {
-  return IsColorCode(text, at) && Contains("08HPXhpx", text.substr(at + 1, 1));
-}
-
-std::string WithoutBlack(std::string_view text) {
-  std::string kept;
-  for (std::size_t at = 0; at < text.size(); ++at) {
-    if (IsBlackCode(text, at)) {
-      ++at;
-    } else {
-      kept += text[at];
-    }
-  }
-  return kept;
-}
 
 constexpr ParameterId kTextFields[] = {
     kNameField,  kGenderField, kFunNameField,  kRailColorField,
@@ -226,102 +171,6 @@ void CheckNameAccents(const CheckContext& context, FindingList& findings) {
                RenameTo(InPlainLetters(name)));
 }
 
-void CheckFunNameCharacters(const CheckContext& context,
-                            FindingList& findings) {
-  const FunName name(context.bot);
-  if (!IsThrownAway(name.inner)) return;
-  findings.Add(kFunNameField,
-               "The fun name has a semicolon, a backslash or a double quote "
-               "in it. The game throws such a line away, and with a double "
-               "quote what follows may be misread, too. Take the character "
-               "out.",
-               {FunNameTo(Without(name.inner, kThrownAway),
-                          "Take it out of the fun name")});
-}
-
-void CheckFunNameLength(const CheckContext& context, FindingList& findings) {
-  const FunName name(context.bot);
-  if (name.inner.size() <= limits::kMaxPlayerName) return;
-  findings.Add(
-      kFunNameField,
-      "The fun name has " + std::to_string(name.inner.size()) +
-          " characters, colour codes included; the game shows the "
-          "first " +
-          std::to_string(limits::kMaxPlayerName) +
-          " of them and cuts the rest.",
-      {FunNameTo(name.inner.substr(0, limits::kMaxPlayerName),
-                 "Cut the fun name after " +
-                     std::to_string(limits::kMaxPlayerName) + " characters")});
-}
-
-void CheckFunNameBlack(const CheckContext& context, FindingList& findings) {
-  const FunName name(context.bot);
-  if (!name.inner.empty() && TrimBlanks(WithoutColors(name.inner)).empty() &&
-      Contains(name.inner, "^")) {
-    findings.Add(kFunNameField,
-                 "The fun name has colours but no letters: the game calls the "
-                 "bot \"UnnamedPlayer\".",
-                 {FunNameTo({},
-                            "Empty the fun name, so that the bot is shown "
-                            "under its name")});
-    return;
-  }
-  for (std::size_t at = 0; at < name.inner.size(); ++at) {
-    if (!IsBlackCode(name.inner, at)) continue;
-    findings.Add(kFunNameField,
-                 "The fun name has the colour code \"" +
-                     ShownText(name.inner.substr(at, 2)) +
-                     "\", which stands for black. The game takes black out of "
-                     "names: the letters behind it keep the colour before it.",
-                 {FunNameTo(WithoutBlack(name.inner),
-                            "Take black out of the fun name")});
-    return;
-  }
-}
-
-void CheckFunNameIsEmpty(const CheckContext& context, FindingList& findings) {
-  const FunName name(context.bot);
-  if (name.is_quoted || name.inner.empty()) return;
-  const bool is_blank = TrimBlanksAndTabs(name.inner).empty();
-  const bool is_comment =
-      name.inner.starts_with("//") || name.inner.starts_with("/*");
-  if (!is_blank && !is_comment) return;
-  const std::string what =
-      is_blank ? "The fun name is nothing but blanks"
-               : "The fun name begins with \"" + name.inner.substr(0, 2) +
-                     "\", which the game takes for a comment";
-  std::vector<Mend> mends = {FunNameTo({}, "Empty the fun name")};
-  if (name.inner.starts_with("//")) {
-    mends.push_back(SetTo(kFunNameField, '"' + name.inner + '"',
-                          "Put double quotes around the fun name"));
-  }
-  findings.Add(kFunNameField, what + ". The game calls the bot \"<NULL>\".",
-               std::move(mends));
-}
-
-void CheckFunNameDots(const CheckContext& context, FindingList& findings) {
-  const FunName name(context.bot);
-  if (!HasAccents(name.inner) && !Contains(name.inner, "%")) return;
-  findings.Add(kFunNameField,
-               "The game shows letters with accents, other special signs and "
-               "\"%\" in the fun name as dots.",
-               {FunNameTo(Without(InPlainLetters(name.inner), "%"),
-                          "Use plain letters in the fun name")});
-}
-
-void CheckFunNameQuotes(const CheckContext& context, FindingList& findings) {
-  const FunName name(context.bot);
-  if (name.is_quoted) return;
-  const std::string_view read = UnquotedWord(name.inner);
-  if (read.size() == name.inner.size() || read.empty()) return;
-  findings.Add(kFunNameField,
-               "Without double quotes around it, the game reads the fun name "
-               "only up to \"" +
-                   ShownText(read) + "\".",
-               {Safe(SetTo(kFunNameField, '"' + name.inner + '"',
-                           "Put double quotes around the fun name"))});
-}
-
 void CheckGender(const CheckContext& context, FindingList& findings) {
   const std::string gender = context.bot.Text(kGenderField);
   const char first = gender.empty() ? ' ' : gender.front();
@@ -340,7 +189,7 @@ void CheckGender(const CheckContext& context, FindingList& findings) {
   findings.Add(kGenderField,
                "The game takes the gender \"" + ShownText(gender) +
                    "\" as \"it\". It knows male and female in small letters "
-                   "only.",
+                   "only: write one of them, or it.",
                std::move(mends));
 }
 
@@ -352,7 +201,7 @@ void CheckModelText(const CheckContext& context, FindingList& findings) {
       findings.Add(field, name + " \"" + ShownText(text) +
                               "\" has a semicolon, a backslash or a double "
                               "quote: the game throws the line away and shows "
-                              "the bot as another model.");
+                              "the bot as another model. Take it out.");
     } else if (UnquotedWord(text).size() < text.size()) {
       findings.Add(field, name + " \"" + ShownText(text) +
                               "\" has a blank or a letter with an accent, and "

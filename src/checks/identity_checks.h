@@ -5,7 +5,7 @@
 
 namespace fragsmith {
 
-// What the game makes of the name, the fun name and the looks of the bot.
+// What the game makes of the name and the looks of the bot.
 
 void CheckUnusableName(const CheckContext& context, FindingList& findings);
 void CheckNumericName(const CheckContext& context, FindingList& findings);
@@ -13,13 +13,6 @@ void CheckLongName(const CheckContext& context, FindingList& findings);
 void CheckNameForMenus(const CheckContext& context, FindingList& findings);
 void CheckNameCharacters(const CheckContext& context, FindingList& findings);
 void CheckNameAccents(const CheckContext& context, FindingList& findings);
-
-void CheckFunNameCharacters(const CheckContext& context, FindingList& findings);
-void CheckFunNameLength(const CheckContext& context, FindingList& findings);
-void CheckFunNameBlack(const CheckContext& context, FindingList& findings);
-void CheckFunNameIsEmpty(const CheckContext& context, FindingList& findings);
-void CheckFunNameDots(const CheckContext& context, FindingList& findings);
-void CheckFunNameQuotes(const CheckContext& context, FindingList& findings);
 
 void CheckGender(const CheckContext& context, FindingList& findings);
 void CheckModelText(const CheckContext& context, FindingList& findings);

@@ -8,6 +8,7 @@
 #include "game/limits.h"
 #include "install/program/bot_list.h"
 #include "model/characteristic_catalogue.h"
+#include "model/file_names.h"
 #include "session/bot_file.h"
 #include "support/code_page.h"
 #include "support/text.h"
@@ -15,9 +16,11 @@
 namespace fragsmith {
 namespace {
 
-bool IsStandardBot(const std::string& name) {
+/// Only where no game is known, as others than the original have other bots.
+bool IsStandardBot(const CheckContext& context, const std::string& name) {
   static const BotList kStandard = BotList::Standard();
-  return kStandard.Find(name).has_value();
+  return (context.game == nullptr || context.game->known_bots.empty()) &&
+         kStandard.Find(name).has_value();
 }
 
 }  // namespace
@@ -40,9 +43,9 @@ void CheckNameIsTaken(const CheckContext& context, FindingList& findings) {
                          .package = GamePackage{BotPackageName(name)}});
   if (winner != nullptr && !winner->is_of_list()) {
     // A description of this very bot that is called otherwise than we do.
-    if (EqualIgnoringCase(winner->character, "bots/" + name + "_c.c")) return;
+    if (EqualIgnoringCase(winner->character, CharacterPath(name))) return;
     findings.Add(kNameField, NameTakenText(name, ShownPlace(*winner)));
-  } else if (winner != nullptr || IsStandardBot(name)) {
+  } else if (winner != nullptr || IsStandardBot(context, name)) {
     findings.Add(kNameField,
                  "The game has a bot " + Quoted(name) +
                      " of its own and keeps that one: this bot will not "

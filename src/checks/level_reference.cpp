@@ -114,6 +114,15 @@ void BotReader::TellMissingBlocks(const GameFile& file) {
     twice = " Skill block " + std::to_string(block.level) +
             " stands twice, here for the second time: correct its number.";
   }
+  const auto is_unused = [](const BlockAt& block) {
+    return !std::ranges::count(kLevelNumbers, block.level);
+  };
+  const auto unused = std::ranges::find_if(blocks, is_unused);
+  if (line == 0 && unused != blocks.end()) {
+    line = unused->line;
+    twice = " At no skill it asks for block " + std::to_string(unused->level) +
+            ", which stands here: perhaps its number is wrong.";
+  }
   complaints_.Add(
       "no-level", Severity::kError, file.name, line,
       "This file has no block for skill " + Enumeration(missing) +

@@ -13,6 +13,7 @@
 #include "checks/file_checks.h"
 #include "checks/installation_checks.h"
 #include "checks/layout_checks.h"
+#include "checks/names_of_game.h"
 #include "checks/unknown_values.h"
 #include "game/chat_message.h"
 #include "game/description_reader.h"
@@ -54,37 +55,8 @@ bool IsToldByFiles(std::string_view id) {
                      });
 }
 
-/// Of which package the game takes the character file in place of this bot's;
-/// null when it takes the bot's own. Loose files come before packages.
-const GamePackage* ShadowingPackage(const GameData& game, std::string_view name,
-                                    const std::optional<GamePackage>& package) {
-  const auto found = game.bot_packages.find(ToLower(name));
-  const bool has_other = package && found != game.bot_packages.end() &&
-                         found->second.WinsOver(*package);
-  return has_other ? &found->second : nullptr;
-}
-
 bool IsError(const Finding& finding) {
   return finding.severity == Severity::kError;
-}
-
-/// The bots of the game's list win, and so may those of its packages.
-void TakeNamesOfGame(const GameData& game,
-                     const std::optional<GamePackage>& package, bool hides_list,
-                     BotFileSet& files) {
-  if (!files.description) return;
-  const DescriptionPlace own = {.path = files.description->game_path,
-                                .package = package};
-  for (const auto& [name, known] : game.known_bots) {
-    const KnownBot* const winner = BotThatWins(game, name, own);
-    if (winner == nullptr || (hides_list && winner->is_of_list())) continue;
-    const bool is_of_bot = ShadowingPackage(game, BotOfPath(winner->character),
-                                            package) == nullptr;
-    files.names_taken.emplace(
-        name,
-        WinningDescription{.shown_path = ShownPlace(*winner),
-                           .character = is_of_bot ? winner->character : ""});
-  }
 }
 
 }  // namespace
@@ -132,8 +104,12 @@ LocationCheck::LocationCheck(const BotLocation& location,
   files.has_no_description = has_no_description;
   files.is_game_known = game_ != nullptr;
   if (has_no_description) files.description.reset();
-  if (game_ == nullptr || on_disk_.is_in_bot_list) return;
-  TakeNamesOfGame(game_->data, Package(), hides_list_, files);
+  if (on_disk_.is_in_bot_list) return;
+  if (game_ == nullptr) {
+    TakeStandardNames(given_.is_packed(), files);
+  } else {
+    TakeNamesOfGame(game_->data, Package(), hides_list_, files);
+  }
 }
 
 /// A bot without a description of its own may stand in the game's list.

@@ -7,7 +7,6 @@
 #include <string_view>
 
 #include "game/character_reader.h"
-#include "game/complaints.h"
 #include "game/stand_ins.h"
 #include "model/characteristic_catalogue.h"
 #include "support/text.h"
@@ -63,10 +62,8 @@ bool IsOfMissingValue(std::string_view id) {
 
 /// Whether the files have been found to lack the value of a key.
 bool LacksValue(std::string_view key, const std::vector<Finding>& in_files) {
-  return std::ranges::any_of(in_files, [&](const Finding& one) {
-    return one.id.starts_with("description-") &&
-           Contains(one.text, Quoted(key));
-  });
+  return std::ranges::any_of(
+      in_files, [&](const Finding& one) { return one.key == key; });
 }
 
 /// Whether a finding of the files says the same.

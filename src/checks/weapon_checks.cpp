@@ -1,11 +1,12 @@
 #include "checks/weapon_checks.h"
 
 #include <algorithm>
-#include <array>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "checks/weight_checks.h"
+#include "game/weight_vocabulary.h"
 #include "inplace/splice.h"
 #include "model/value.h"
 #include "support/text.h"
@@ -21,13 +22,6 @@ struct StartWeapon {
 };
 constexpr StartWeapon kGauntlet = {"Gauntlet", "W_GAUNTLET", "GTW"};
 constexpr StartWeapon kMachinegun = {"Machinegun", "W_MACHINEGUN", "MGW"};
-
-/// Those of the game and of its expansion.
-constexpr std::array<std::string_view, 13> kWeapons = {
-    "Gauntlet",        "Machinegun",    "Shotgun",  "Grenade Launcher",
-    "Rocket Launcher", "Lightning Gun", "Railgun",  "Plasma Gun",
-    "BFG10K",          "Nailgun",       "Chaingun", "Prox Launcher",
-    "Grappling Hook"};
 
 const OwnMacro* MacroOf(const WeightsRead& read, const StartWeapon& weapon) {
   const auto found =
@@ -62,10 +56,6 @@ std::string Bare(std::string_view name) {
   std::erase_if(
       bare, [](char one) { return one == ' ' || one == '_' || one == '-'; });
   return bare;
-}
-
-bool IsKnown(std::string_view name) {
-  return std::ranges::count(kWeapons, name) > 0;
 }
 
 }  // namespace
@@ -111,20 +101,21 @@ std::optional<Complaint> NoWeaponAtStart(const GameFile& file,
 void CheckWeaponNames(const GameFile& file, const WeightsRead& read,
                       const IncludeLookup& game, Complaints& complaints) {
   const std::string weapons = game("weapons.c").value_or("");
+  const std::vector<std::string_view> known = WeaponNames();
   for (const GameWeight& weight : read.weights) {
-    if (weight.line == 0 || IsKnown(weight.name) ||
+    if (weight.line == 0 || std::ranges::count(known, weight.name) > 0 ||
         Contains(weapons, '"' + weight.name + '"')) {
       continue;
     }
-    const auto* const meant =
-        std::ranges::find_if(kWeapons, [&weight](std::string_view name) {
+    const auto meant =
+        std::ranges::find_if(known, [&weight](std::string_view name) {
           return Bare(name) == Bare(weight.name);
         });
     complaints.Add(
         "weapon-unknown", Severity::kWarning, file.name, weight.line,
         "The game has no weapon " + Quoted(weight.name) +
             ", and passes over this weight. " +
-            (meant != kWeapons.end()
+            (meant != known.end()
                  ? "Write " + Quoted(*meant) +
                        ", with these capitals and "
                        "blanks."

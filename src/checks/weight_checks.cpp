@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 #include "chat/vocabulary.h"
 #include "game/number.h"
@@ -39,30 +40,24 @@ void CheckTextForWeight(const CheckContext& context, FindingList& findings) {
         weight,
         QuotedName(weight) + " is the text " + ShownValue(value) +
             ", not a number: the game cannot read the file of "
-            "weights and does not add the bot.",
+            "weights and does not add the bot. Give a number.",
         {Safe(SetTo(weight, 0.0, "Set " + QuotedName(weight) + " to 0"))});
   }
 }
 
 void CheckWeaponAtStart(const CheckContext& context, FindingList& findings) {
   if (!IsWeaponless(NumberInGame(context.bot, kGauntletUsage),
-                    NumberInGame(context.bot, kMachinegunUsage)) ||
-      !HasWeapon(context.bot)) {
+                    NumberInGame(context.bot, kMachinegunUsage))) {
     return;
   }
-  findings.Add(kMachinegunUsage,
-               std::string(kWeaponlessText) +
-                   R"( Set "Gauntlet usage" or "Machinegun usage" above 0.)",
-               {UseMachinegun()});
-}
-
-void CheckWeaponAtAll(const CheckContext& context, FindingList& findings) {
-  if (HasWeapon(context.bot)) return;
-  findings.Add(kMachinegunUsage,
-               "No weapon has a weight above 0 yet: the bot has none that it "
-               "may draw, aims badly, and the game fills its console with "
-               "errors. Give weights to the weapons that it is to use.",
-               {UseMachinegun()});
+  std::string text =
+      HasWeapon(context.bot)
+          ? std::string(kWeaponlessText) +
+                R"( Set "Gauntlet usage" or "Machinegun usage" above 0.)"
+          : "No weapon has a weight above 0 yet: the bot has none that it "
+            "may draw, aims badly, and the game fills its console with "
+            "errors. Give weights to the weapons that it is to use.";
+  findings.Add(kMachinegunUsage, std::move(text), {UseMachinegun()});
 }
 
 void CheckGauntletFighter(const CheckContext& context, FindingList& findings) {

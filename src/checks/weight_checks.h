@@ -21,8 +21,6 @@ inline constexpr std::string_view kWeaponlessText =
 
 void CheckTextForWeight(const CheckContext& context, FindingList& findings);
 void CheckWeaponAtStart(const CheckContext& context, FindingList& findings);
-/// A bot of which nobody has chosen the weapons yet.
-void CheckWeaponAtAll(const CheckContext& context, FindingList& findings);
 void CheckGauntletFighter(const CheckContext& context, FindingList& findings);
 void CheckNoItems(const CheckContext& context, FindingList& findings);
 void CheckWeaponNotFetched(const CheckContext& context, FindingList& findings);

@@ -5,6 +5,7 @@
 #include <string_view>
 #include <utility>
 
+#include "model/file_names.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -56,10 +57,10 @@ std::optional<Complaint> FaultOfKind(const GameFile& file,
     return fault;
   }
   std::string path = file.game_path;
-  const std::string_view end = are_weapons ? "_w.c" : "_i.c";
+  const std::string_view end = are_weapons ? kWeaponWeightEnd : kItemWeightEnd;
   if (EndsWithIgnoringCase(path, end)) {
     path.replace(path.size() - end.size(), end.size(),
-                 are_weapons ? "_i.c" : "_w.c");
+                 are_weapons ? kItemWeightEnd : kWeaponWeightEnd);
   }
   fault.text = "The game takes the weights of " + own_kind +
                " out of this file, and it has none but those of " + other_kind +

@@ -7,16 +7,11 @@
 
 namespace fragsmith {
 
-void Complaints::Add(std::string_view id, Severity severity,
-                     const std::string& file, int line, std::string text) {
+void Complaints::Add(Complaint complaint) {
   const auto count = std::count_if(
       list_.begin(), list_.end(),
-      [severity](const Complaint& one) { return one.severity == severity; });
+      [&](const Complaint& one) { return one.severity == complaint.severity; });
   if (static_cast<std::size_t>(count) >= kMax) return;
-  Complaint complaint = {.id = id,
-                         .severity = severity,
-                         .place = {.file = file, .line = line},
-                         .text = std::move(text)};
   const bool is_known =
       std::find(list_.begin(), list_.end(), complaint) != list_.end();
   if (is_known) return;
@@ -58,16 +53,21 @@ void Complaints::ReplaceError(std::size_t first, Complaint fault) {
     list_.erase(list_.begin() + static_cast<std::ptrdiff_t>(at));
     break;
   }
-  Add(fault.id, fault.severity, fault.place.file, fault.place.line,
-      std::move(fault.text));
+  Add(std::move(fault));
+}
+
+bool Complaints::IsTold(const FilePlace& place, std::string_view id) const {
+  return std::ranges::any_of(list_, [&](const Complaint& one) {
+    return one.severity != Severity::kHint && one.place == place &&
+           (id.empty() || one.id == id);
+  });
 }
 
 void Complaints::Raise(const Complaint& complaint) {
   std::erase_if(list_, [&complaint](const Complaint& one) {
     return one.id == complaint.id && one.place == complaint.place;
   });
-  Add(complaint.id, complaint.severity, complaint.place.file,
-      complaint.place.line, complaint.text);
+  Add(complaint);
 }
 
 std::string Quoted(std::string_view game_text) {

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "model/bot_place.h"
@@ -24,6 +25,9 @@ struct Complaint {
   Severity severity = Severity::kHint;
   FilePlace place;
   std::string text;  ///< One sentence or two, UTF-8, for players.
+  /// The key of a description whose value the game does not read as it is
+  /// meant, in lower case; empty for all else.
+  std::string key = {};
 
   bool operator==(const Complaint&) const = default;
 };
@@ -42,7 +46,13 @@ class Complaints {
   bool is_game_known() const { return is_game_known_; }
 
   void Add(std::string_view id, Severity severity, const std::string& file,
-           int line, std::string text);
+           int line, std::string text) {
+    Add({.id = id,
+         .severity = severity,
+         .place = {.file = file, .line = line},
+         .text = std::move(text)});
+  }
+  void Add(Complaint complaint);
 
   /// Errors from this index in the list on did no harm after all.
   void Soften(std::size_t first);
@@ -56,6 +66,9 @@ class Complaints {
   /// The first error from this index on is a consequence of this fault; where
   /// there is none, the fault does no harm.
   void ReplaceError(std::size_t first, Complaint fault);
+
+  /// Whether more than a hint says already what is wrong with this line.
+  bool IsTold(const FilePlace& place, std::string_view id = {}) const;
 
   /// Adds what may be there already as something less grave.
   void Raise(const Complaint& complaint);

@@ -145,14 +145,16 @@ class SetReader {
                  "Of " + Quoted(last_key_) + " the game reads only " +
                      Quoted(last_value_) +
                      ", as a quotation mark inside a text ends it. Remove the "
-                     "quotation marks inside the text, or write ' for them.");
+                     "quotation marks inside the text, or write ' for them.",
+                 last_key_);
         told_line_ = line_;
       } else if (is_stray && told_line_ != line_) {
         Complain("description-more-words", Severity::kWarning,
                  "Of " + Quoted(last_key_) + " the game reads only " +
                      Quoted(last_value_) + ", and takes " + Quoted(key) +
                      " behind it for a key. Put a text of several words in "
-                     "quotation marks.");
+                     "quotation marks.",
+                 last_key_);
       }
       ReadValue(key, is_stray);
     }
@@ -196,8 +198,13 @@ class SetReader {
                            : ". Write } and a blank behind it."));
   }
 
-  void Complain(std::string_view id, Severity severity, std::string text) {
-    findings_.Add(id, severity, file_.name, line_, std::move(text));
+  void Complain(std::string_view id, Severity severity, std::string text,
+                std::string_view key = {}) {
+    findings_.Add({.id = id,
+                   .severity = severity,
+                   .place = {.file = file_.name, .line = line_},
+                   .text = std::move(text),
+                   .key = ToLower(key)});
   }
 
   /// People who write other files put a = between a key and its value.
@@ -209,7 +216,8 @@ class SetReader {
       Complain("description-equals", LossOf(before),
                "The game takes " + Quoted(key) + " for one word. Write " +
                    std::string(before) +
-                   ", a blank and the value, without a =.");
+                   ", a blank and the value, without a =.",
+               before);
     } else if (value.starts_with('=') &&
                span.end - span.begin == value.size()) {
       const bool is_path = EqualIgnoringCase(key, "aifile");
@@ -218,12 +226,14 @@ class SetReader {
                "The game takes " + Quoted(value) + " for the value of " +
                    Quoted(key) +
                    ". Remove the =: the value stands behind its key, with a "
-                   "blank between them.");
+                   "blank between them.",
+               key);
     } else if (key.ends_with(':') &&
                IsKnownKey(key.substr(0, key.size() - 1))) {
       Complain("description-colon", Severity::kWarning,
                "The game does not know the key " + Quoted(key) +
-                   " and passes over this line. Remove the colon.");
+                   " and passes over this line. Remove the colon.",
+               std::string_view(key).substr(0, key.size() - 1));
     } else {
       return;
     }
@@ -244,7 +254,8 @@ class SetReader {
         "description-comment", is_path ? Severity::kError : Severity::kWarning,
         "The comment stands right behind " + Quoted(before) +
             ", and the game takes " + Quoted(value) + " for the value of " +
-            Quoted(key) + ". Put a blank in front of the comment.");
+            Quoted(key) + ". Put a blank in front of the comment.",
+        key);
     told_line_ = line_;
   }
 
@@ -259,7 +270,8 @@ class SetReader {
                "takes the rest of the file for the value of " +
                    Quoted(key) +
                    ", and goes on in another bot's description, whose files "
-                   "it may take. Close it.");
+                   "it may take. Close it.",
+               key);
     }
     TellEquals(key, value, span);
     TellComment(key, value, span);
@@ -269,7 +281,8 @@ class SetReader {
       Complain("description-no-value", Severity::kWarning,
                "There is no value behind " + Quoted(key) +
                    " on its line, so the game takes <NULL> for it. Write the "
-                   "value behind it or remove the line.");
+                   "value behind it or remove the line.",
+               key);
     }
     last_key_ = key;
     last_value_ = value;
@@ -292,7 +305,8 @@ class SetReader {
                        "game keeps of a bot, and is lost. Shorten the values."
                  : "The game throws this line away, because " + Quoted(key) +
                        " or its value holds a ;, a \\ or a \". Remove the "
-                       "sign; in a path write / for \\.");
+                       "sign; in a path write / for \\.",
+             key);
   }
 
   WordReader& words_;
@@ -310,6 +324,10 @@ class SetReader {
 };
 
 }  // namespace
+
+bool DescriptionSet::HidesCharacter() const {
+  return Text("funname").size() > limits::kMaxFunName;
+}
 
 std::string_view DescriptionSet::Text(std::string_view key) const {
   const auto found = values.find(key);

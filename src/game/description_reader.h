@@ -29,6 +29,10 @@ struct DescriptionSet {
   /// before, and so does what the game takes for this bot.
   bool is_open = false;
 
+  /// The fun name is so long that the game loses the path of the character
+  /// file, which it has read.
+  bool HidesCharacter() const;
+
   /// Empty when the key is missing or was thrown away.
   std::string_view Text(std::string_view key) const;
   int Line(std::string_view key) const;

@@ -10,6 +10,7 @@
 #include "game/game_path.h"
 #include "game/limits.h"
 #include "game/preprocessor.h"
+#include "model/file_names.h"
 #include "support/code_page.h"
 #include "support/numbers.h"
 #include "support/text.h"
@@ -43,8 +44,10 @@ std::string_view MeantFile(std::string_view path, const GameFile& file) {
   const bool has_weights = Contains(file.bytes, "#define") &&
                            !Contains(file.bytes, "fw_weap.c") &&
                            !Contains(file.bytes, "fw_items.c");
-  if (has_weights && file.game_path.ends_with("_w.c")) return "fw_weap.c";
-  if (has_weights && file.game_path.ends_with("_i.c")) return "fw_items.c";
+  if (has_weights && file.game_path.ends_with(kWeaponWeightEnd))
+    return "fw_weap.c";
+  if (has_weights && file.game_path.ends_with(kItemWeightEnd))
+    return "fw_items.c";
   return {};
 }
 

@@ -8,6 +8,7 @@
 
 #include "game/description_reader.h"
 #include "model/characteristic_catalogue.h"
+#include "model/file_names.h"
 #include "support/code_page.h"
 #include "support/text.h"
 
@@ -29,11 +30,11 @@ std::optional<std::string_view> Between(std::string_view path,
 
 void TakePath(std::string_view path, const GamePackage& package,
               GameData& data) {
-  if (const auto name = Between(path, "botfiles/bots/", "_c.c")) {
+  if (const auto name = Between(path, "botfiles/bots/", kCharacterEnd)) {
     data.bot_packages.emplace(*name, package);
   }
   const auto script = Between(path, "scripts/", "");
-  if (script && script->ends_with(".bot") && !Contains(*script, "/")) {
+  if (script && script->ends_with(kDescriptionEnd) && !Contains(*script, "/")) {
     data.description_files.emplace(*script);
   }
   const auto model = Between(path, "models/players/", "");
@@ -59,7 +60,7 @@ void TakeKnownBots(const GameFiles& files, GameData& data) {
   take(kBotListPath, {});
   std::vector<std::pair<GamePackage, std::string>> by_package;
   for (const auto& [path, package] : files.entries()) {
-    const auto script = Between(path, "scripts/", ".bot");
+    const auto script = Between(path, "scripts/", kDescriptionEnd);
     if (script && !Contains(*script, "/"))
       by_package.emplace_back(package, path);
   }

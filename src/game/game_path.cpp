@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "model/file_names.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -51,7 +52,7 @@ std::string PathLookedFor(std::string_view path, FileHome home) {
 }
 
 std::string BotOfPath(std::string_view path) {
-  constexpr std::size_t kEnd = std::string_view("_w.c").size();
+  constexpr std::size_t kEnd = kCharacterEnd.size();
   std::string name = ToLower(WithSlashes(path));
   name.erase(0, name.rfind('/') + 1);
   if (name.size() <= kEnd || name[name.size() - kEnd] != '_' ||

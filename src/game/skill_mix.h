@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "game/complaints.h"
 #include "model/bot.h"
 
 namespace fragsmith {
@@ -72,6 +73,11 @@ std::vector<ValueAtSkill> MixShownSkills(const Bot& bot, int index);
 /// leave no value at all.
 constexpr bool LeavesMixGap(bool is_lower_whole, bool is_upper_whole) {
   return !is_lower_whole && is_upper_whole;
+}
+
+/// No menu offers the skills between 4 and 5.
+constexpr Severity SeverityOfMixGap(LevelPair levels) {
+  return levels.lower == Level::k1 ? Severity::kError : Severity::kHint;
 }
 
 /// True when the skills between the levels have no value at all.

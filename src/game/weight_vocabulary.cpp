@@ -189,6 +189,17 @@ std::vector<FoundWeight> FindWeights(const WeightsRead& read,
   return found;
 }
 
+std::vector<std::string_view> WeaponNames() {
+  std::vector<std::string_view> names = {"Nailgun", "Chaingun",
+                                         "Prox Launcher"};
+  for (const NamedWeight& row : kNamedWeights) {
+    if (kWeaponWeightRange.Contains(ParameterId(row.parameter))) {
+      names.push_back(row.name);
+    }
+  }
+  return names;
+}
+
 void KeepUsedWeights(WeightsRead& read) {
   std::set<std::string, std::less<>> earlier;
   std::erase_if(read.weights, [&earlier](const GameWeight& weight) {

@@ -1,6 +1,7 @@
 #ifndef FRAGSMITH_GAME_WEIGHT_VOCABULARY_H_
 #define FRAGSMITH_GAME_WEIGHT_VOCABULARY_H_
 
+#include <string_view>
 #include <vector>
 
 #include "game/weight_reader.h"
@@ -28,6 +29,10 @@ WeightOwner OwnerOf(const GameWeight& weight, ParameterId parameter);
 /// for one that has not. Health and armor are factors: where the code has no
 /// single number for one, there is none.
 std::vector<FoundWeight> FindWeights(const WeightsRead& read, IndexRange range);
+
+/// The weapons as the weight code names them, those of the game's expansion
+/// too.
+std::vector<std::string_view> WeaponNames();
 
 /// Takes out the weights that the game never looks at: of several by one name
 /// it uses the first. A stand-in weight counts as all those of the game that it

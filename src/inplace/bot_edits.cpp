@@ -21,6 +21,7 @@
 #include "install/packages/package.h"
 #include "install/packages/package_writer.h"
 #include "model/characteristic_catalogue.h"
+#include "model/file_names.h"
 #include "session/bot_difference.h"
 #include "support/code_page.h"
 #include "support/files.h"
@@ -196,7 +197,7 @@ std::string CalledIn(const std::string& description, const Bot& bot,
   const bool has_name =
       std::ranges::any_of(sets, [&](const DescriptionSet& set) {
         return EqualIgnoringCase(set.Text("name"), bot.Name()) &&
-               EqualIgnoringCase(set.Text("aifile"), "bots/" + called + "_c.c");
+               EqualIgnoringCase(set.Text("aifile"), CharacterPath(called));
       });
   return has_name ? bot.Name() : called;
 }

@@ -10,6 +10,7 @@
 #include "game/description_reader.h"
 #include "inplace/bot_edits.h"
 #include "model/characteristic_catalogue.h"
+#include "model/file_names.h"
 #include "session/save_again.h"
 #include "support/code_page.h"
 #include "support/files.h"
@@ -25,7 +26,7 @@ bool IsList(const OriginFile& file) {
 }
 
 bool IsDescribed(std::string_view description, std::string_view called) {
-  const std::string character = "bots/" + std::string(called) + "_c.c";
+  const std::string character = CharacterPath(called);
   Complaints untold;
   return std::ranges::any_of(
       ReadGameDescription({std::string(kBotListPath), std::string(kBotList),

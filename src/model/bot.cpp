@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "model/characteristic_catalogue.h"
+#include "model/file_names.h"
 #include "support/code_page.h"
 #include "support/numbers.h"
 #include "support/text.h"
@@ -155,12 +156,15 @@ void Bot::SetName(std::string name) {
     return fields_.at(static_cast<std::size_t>(id.index()));
   };
   field(kNameField) = std::move(name);
-  field(kChatFileField) = chat_name + "_t.c";
-  field(kWeaponFileField) = chat_name + "_w.c";
-  field(kItemFileField) = chat_name + "_i.c";
-  field(kCharacteristicFileField) = chat_name + "_c.c";
   field(kChatNameField) = chat_name;
-  field(kDescriptionFileField) = chat_name + ".bot";
+  const auto name_file = [&](ParameterId id, std::string_view end) {
+    field(id) = chat_name + std::string(end);
+  };
+  name_file(kChatFileField, kChatEnd);
+  name_file(kWeaponFileField, kWeaponWeightEnd);
+  name_file(kItemFileField, kItemWeightEnd);
+  name_file(kCharacteristicFileField, kCharacterEnd);
+  name_file(kDescriptionFileField, kDescriptionEnd);
 }
 
 const std::vector<std::string>& Bot::ChatLines(ChatTypeId type) const {

@@ -1,5 +1,6 @@
 #include "session/bot_file.h"
 
+#include "model/file_names.h"
 #include "support/files.h"
 
 namespace fragsmith {
@@ -8,15 +9,15 @@ namespace fs = std::filesystem;
 std::string_view FileSuffix(BotFile file) {
   switch (file) {
     case BotFile::kDescription:
-      return ".bot";
+      return kDescriptionEnd;
     case BotFile::kCharacteristics:
-      return "_c.c";
+      return kCharacterEnd;
     case BotFile::kChat:
-      return "_t.c";
+      return kChatEnd;
     case BotFile::kItemWeights:
-      return "_i.c";
+      return kItemWeightEnd;
     case BotFile::kWeaponWeights:
-      return "_w.c";
+      return kWeaponWeightEnd;
   }
   return {};
 }

@@ -16,6 +16,7 @@
 namespace fragsmith {
 namespace {
 
+using ::testing::AnyOf;
 using ::testing::Each;
 using ::testing::ElementsAre;
 using ::testing::Field;
@@ -50,8 +51,10 @@ TEST(MendAll, MakesEachNewBotReadyForAnyGame) {
   for (const GameData* const game :
        {static_cast<const GameData*>(nullptr), &small}) {
     Bot zeros = CreateZeroBot();
+    // It has no weapon to draw yet, and no other fault of that weight.
     EXPECT_THAT(CheckBot(zeros, game),
-                Each(Field(&Finding::severity, Ne(Severity::kError))));
+                Each(AnyOf(Field(&Finding::id, "no-weapon-at-start"),
+                           Field(&Finding::severity, Ne(Severity::kError)))));
     EXPECT_GT(MendAll(zeros, game, FirstMend), 0);
     EXPECT_THAT(ErrorsAndWarnings(zeros, game), IsEmpty());
     for (std::uint32_t seed = 0; seed < 30; ++seed) {

@@ -8,9 +8,11 @@
 #include <QVBoxLayout>
 #include <array>
 #include <string>
+#include <string_view>
 
 #include "editor/dialogs/dialog_parts.h"
 #include "editor/dialogs/new_folder.h"
+#include "model/file_names.h"
 #include "support/files.h"
 
 namespace fragsmith {
@@ -18,17 +20,17 @@ namespace {
 
 struct KindRow {
   const char* title;
-  const char* suffix;  ///< Of the files that are listed.
+  std::string_view suffix;  ///< Of the files that are listed.
 };
 
 /// In the order of OpenKind.
 constexpr std::array<KindRow, 9> kKinds = {{
-    {"Load bot", "_c.c"},
-    {"Load bot characteristic files", "_c.c"},
-    {"Load bot chat files", "_t.c"},
-    {"Load bot weapon and item weights files", "_i.c"},
-    {"Load bot weapon usage files", "_w.c"},
-    {"Make botfiles for ", "_c.c"},
+    {"Load bot", kCharacterEnd},
+    {"Load bot characteristic files", kCharacterEnd},
+    {"Load bot chat files", kChatEnd},
+    {"Load bot weapon and item weights files", kItemWeightEnd},
+    {"Load bot weapon usage files", kWeaponWeightEnd},
+    {"Make botfiles for ", kCharacterEnd},
     {"Set Q3 folder", ""},
     {"Set WinZip folder", ""},
     {"Set working folder", ""},
@@ -66,7 +68,8 @@ frmOpen::frmOpen(const OpenRequest& request, Prompts& prompts, QWidget* parent)
   if (IsFolderOnly()) {
     browser_->SetFilesVisible(false);
   } else {
-    browser_->SetFilter(QString::fromUtf8(row.suffix));
+    browser_->SetFilter(QString::fromUtf8(
+        row.suffix.data(), static_cast<qsizetype>(row.suffix.size())));
     lists->addWidget(MakeBotList(request.bots), 2);
     layout->addLayout(MakeOptions(request));
   }

@@ -1,10 +1,7 @@
 #include "editor/pages/chat_page.h"
 
 #include <QFocusEvent>
-#include <QGridLayout>
-#include <QGroupBox>
 #include <QGuiApplication>
-#include <QHBoxLayout>
 #include <QSignalBlocker>
 #include <QTimer>
 #include <algorithm>
@@ -13,16 +10,14 @@
 
 #include "chat/chat_catalogue.h"
 #include "chat/chat_commands.h"
-#include "editor/pages/chat_help.h"
-#include "editor/pages/chat_page_parts.h"
 #include "editor/pages/chat_type_rows.h"
-#include "editor/pages/line_order.h"
 #include "editor/toolkit/game_text_conversion.h"
 #include "editor/toolkit/page_table.h"
 #include "editor/toolkit/severity_icon.h"
 #include "editor/toolkit/tool_tip.h"
 
 namespace fragsmith {
+
 ChatPage::ChatPage(CurrentBot& current, const SynonymList& synonyms,
                    RandomSource random, Prompts& prompts, QWidget* parent)
     : ScrollingPage(parent),
@@ -30,180 +25,6 @@ ChatPage::ChatPage(CurrentBot& current, const SynonymList& synonyms,
       synonyms_(synonyms),
       random_(std::move(random)),
       prompts_(prompts) {}
-
-QWidget* ChatPage::MakeContent() {
-  const CurrentBot::Filling filling(current_);
-  auto* const content = new QWidget;
-  auto* const column = new QVBoxLayout(content);
-  auto* const frame = new QGroupBox(TableText(
-      kPages.at(static_cast<std::size_t>(kChatPage)).frames.front().caption));
-  column->addWidget(frame);
-  auto* const grid = new QGridLayout(frame);
-  // Made in the order of the Tab key.
-  MakeTypes(*grid);
-  MakeLines(*grid);
-  MakeReadyLines(*grid);
-  MakeWords(*grid);
-  MakeSynonyms(*grid);
-  spoken_ = new SpokenPreview(random_);
-  grid->addWidget(spoken_, 5, 0, 1, 5);
-  grid->setRowStretch(1, 1);
-  grid->setColumnStretch(1, 1);
-  types_->setCurrentRow(0);
-  groups_->setCurrentRow(0);
-  words_->setCurrentRow(0);
-  return content;
-}
-
-void ChatPage::MakeTypes(QGridLayout& grid) {
-  types_ = MakeList(QStringLiteral("lstChatGroups"),
-                    QStringLiteral("Chat gr&oups"), grid, 0, 4);
-  type_marks_ = new TypeDelegate(types_);
-  types_->setItemDelegate(type_marks_);
-  FillTypes(*types_);
-  const auto tell = [this] { TellOfLines(current_.bot(), *types_); };
-  for (const auto change : {&CurrentBot::ChatsEdited, &CurrentBot::Replaced}) {
-    connect(&current_, change, types_, tell);
-  }
-  connect(&current_, &CurrentBot::ParameterEdited, types_, tell);
-  connect(&current_, &CurrentBot::Stepped, types_, tell);
-  tell();
-  connect(types_, &QListWidget::currentRowChanged, this, &ChatPage::ShowType);
-}
-
-void ChatPage::MakeLines(QGridLayout& grid) {
-  lines_ = MakeList(QStringLiteral("lstChatLines"),
-                    QStringLiteral("Chat group te&xts"), grid, 1, 1);
-  line_marks_ = new LineDelegate(lines_);
-  lines_->setItemDelegate(line_marks_);
-  connect(lines_, &QListWidget::currentRowChanged, this, &ChatPage::ShowLine);
-  OnChoice(*lines_, this, [this] { box_->setFocus(Qt::OtherFocusReason); });
-  // Without the other keys of a desktop for this, such as Ctrl+D.
-  auto* const erase = new QShortcut(QKeySequence(Qt::Key_Delete), lines_);
-  erase->setContext(Qt::WidgetShortcut);
-  connect(erase, &QShortcut::activated, this, &ChatPage::RemoveLine);
-
-  box_ = MakeLineBox();
-  box_->installEventFilter(this);
-  connect(box_, &QLineEdit::textChanged, this, &ChatPage::StoreLine);
-  connect(box_, &QLineEdit::returnPressed, this,
-          &ChatPage::CheckSynonymsByItself);
-  connect(box_, &QLineEdit::inputRejected, this,
-          [this] { emit StatusText(QLatin1String(kRefusedCharacter)); });
-  grid.addWidget(box_, 2, 1);
-
-  pointers_ = new PointerButtons;
-  const auto choose = [this](const QString& variable) {
-    Insert(variable);
-    const QString reason = WhyNotFilled(*Type(), variable);
-    if (!reason.isEmpty()) emit StatusText(reason);
-  };
-  connect(pointers_, &PointerButtons::Chosen, this, choose);
-  grid.addWidget(pointers_, 3, 1, 1, 4);
-
-  auto* const buttons = new QHBoxLayout;
-  QPushButton* const new_line =
-      MakeButton(QStringLiteral("cmdNewLine"), QStringLiteral("New l&ine"),
-                 QStringLiteral("Adds an empty line to be written."));
-  connect(new_line, &QPushButton::clicked, this, &ChatPage::AddLine);
-  remove_line_ = MakeButton(
-      QStringLiteral("cmdRemoveLine"), tr("Remove line"),
-      QStringLiteral("Removes the selected line. In the list of lines the "
-                     "Delete key does the same."));
-  connect(remove_line_, &QPushButton::clicked, this, &ChatPage::RemoveLine);
-  QPushButton* const add_random = MakeButton(
-      QStringLiteral("cmdAddRandom"), QStringLiteral("&Add random list"),
-      QStringLiteral("Adds a ready-made line of the game that suits the "
-                     "selected chat group, picked at random."));
-  connect(add_random, &QPushButton::clicked, this, &ChatPage::AddRandomList);
-  buttons->addWidget(new_line);
-  buttons->addWidget(remove_line_);
-  buttons->addWidget(add_random);
-  auto* const order = new LineOrder(*lines_);
-  const auto edit = [this](const char* name, int step, auto change) {
-    const int line = Line();
-    current_.EditChats(NameOf(name), [&](Bot& bot) {
-      change(bot, *Type(), line, line + step);
-    });
-    ShowType();
-    SelectLine(line + step);
-  };
-  connect(order, &LineOrder::Moved, this,
-          [edit](int step) { edit("Move line", step, SwapChatLines); });
-  connect(order, &LineOrder::Doubled, this,
-          [edit] { edit("Duplicate line", 1, DoubleChatLine); });
-  // Beside the caption, where it asks for no width of its own.
-  grid.addWidget(order, 0, 1, Qt::AlignRight | Qt::AlignBottom);
-  buttons->addStretch(1);
-  grid.addLayout(buttons, 4, 1);
-}
-
-void ChatPage::MakeReadyLines(QGridLayout& grid) {
-  groups_ = MakeList(QStringLiteral("lstPreDef"),
-                     QStringLiteral("Pre-def chat &lists:"), grid, 2, 1);
-  for (const ChatGroup& group : kChatGroups) {
-    AddEntry(*groups_, group.Caption,
-             QStringLiteral("Ready-made lines of the game, under the name %1. "
-                            "Which there are depends on its data.")
-                 .arg(TableText(group.Name)));
-  }
-  FitWidth(*groups_);
-  connect(groups_, &QListWidget::currentRowChanged, this,
-          &ChatPage::ShowMemberNumbers);
-  numbers_ = new QListWidget;
-  numbers_->setObjectName(QStringLiteral("lstPreDefNumber"));
-  numbers_->setAccessibleName(QStringLiteral("Number in the chat list"));
-  numbers_->setFixedWidth(numbers_->fontMetrics().averageCharWidth() * 8);
-  grid.addWidget(numbers_, 1, 3);
-  OnChoice(*groups_, this, [this] { AddSelectedList(); });
-  OnChoice(*numbers_, this, [this] { AddSelectedList(); });
-  QPushButton* const add = MakeButton(
-      QStringLiteral("cmdAddList"), QStringLiteral("Add &selected list"),
-      QStringLiteral("Puts the ready-made line into the selected line when "
-                     "that is empty, otherwise into a new one."));
-  connect(add, &QPushButton::clicked, this, &ChatPage::AddSelectedList);
-  grid.addWidget(add, 2, 2, 1, 2);
-}
-
-void ChatPage::MakeWords(QGridLayout& grid) {
-  words_ = MakeList(QStringLiteral("lstWords"),
-                    QStringLiteral("Pre-def &word lists:"), grid, 4, 1);
-  for (const WordList& words : kWordLists) {
-    AddEntry(*words_, words.Caption,
-             QStringLiteral("%1 becomes a random word of the game's list %2. "
-                            "Not all game data have it.")
-                 .arg(TableText(words.Variable), TableText(words.Key)));
-  }
-  FitWidth(*words_);
-  OnChoice(*words_, this, [this] { AddWord(); });
-  add_word_ = MakeButton(
-      QStringLiteral("cmdAddWord"), QStringLiteral("A&dd word"),
-      QStringLiteral("Inserts the word list at the cursor of the line box. "
-                     "With the cursor at the very start it takes the place "
-                     "of the whole text."));
-  connect(add_word_, &QPushButton::clicked, this, &ChatPage::AddWord);
-  grid.addWidget(add_word_, 2, 4);
-}
-
-void ChatPage::MakeSynonyms(QGridLayout& grid) {
-  const QString help = QStringLiteral(
-      "Puts ~ in front of each word of the line that is in the synonym list. "
-      "The game may swap words for others of the same meaning; a word with ~ "
-      "stays as it is.");
-  check_ = MakeButton(QStringLiteral("cmdCheckSynonyms"),
-                      QStringLiteral("Chec&k synonyms"), help);
-  connect(check_, &QPushButton::clicked, this, &ChatPage::CheckSynonyms);
-  checks_by_itself_ = new QCheckBox(QStringLiteral("Autocheck s&ynonyms"));
-  checks_by_itself_->setObjectName(QStringLiteral("chkAutoSynonyms"));
-  SetHelp(*checks_by_itself_,
-          help + QStringLiteral(" Done whenever the line box is left or Enter "
-                                "is pressed in it."));
-  auto* const row = new QHBoxLayout;
-  row->addWidget(check_);
-  row->addWidget(checks_by_itself_);
-  row->addStretch(1);
-  grid.addLayout(row, 4, 2, 1, 3);
-}
 
 void ChatPage::ShowBot() {
   if (IsComplete()) ShowType();

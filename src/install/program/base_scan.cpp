@@ -10,6 +10,7 @@
 
 #include "install/packages/package.h"
 #include "install/program/game_folder.h"
+#include "model/file_names.h"
 #include "support/code_page.h"
 #include "support/files.h"
 #include "support/text.h"
@@ -72,20 +73,18 @@ class ListingReader {
   }
 
   void ReadCharacteristicFile(std::string_view line) {
-    constexpr std::string_view kEnd = "_c.c";
-    if (!Contains(line, kEnd)) return;
+    if (!Contains(line, kCharacterEnd)) return;
     const std::optional<std::size_t> folder = Behind(line, "botfiles/bots/");
-    if (folder) AddBot(Between(line, *folder, kEnd), scriptSeen_);
+    if (folder) AddBot(Between(line, *folder, kCharacterEnd), scriptSeen_);
   }
 
   void ReadScript(std::string_view line) {
-    constexpr std::string_view kEnd = ".bot";
-    if (!Contains(line, kEnd)) return;
+    if (!Contains(line, kDescriptionEnd)) return;
     const std::optional<std::size_t> folder = Behind(line, "scripts/");
     if (!folder) return;
     // From here on: also bots whose script is another's count as having one.
     scriptSeen_ = true;
-    AddBot(Between(line, *folder, kEnd), true);
+    AddBot(Between(line, *folder, kDescriptionEnd), true);
   }
 
   void ReadBotsTxt(std::string_view line) {

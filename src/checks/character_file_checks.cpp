@@ -1,0 +1,251 @@
+#include "checks/character_file_checks.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <map>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "chat/vocabulary.h"
+#include "game/character_reader.h"
+#include "game/game_path.h"
+#include "game/skill_mix.h"
+#include "game/stand_ins.h"
+#include "model/characteristic_catalogue.h"
+#include "support/text.h"
+
+namespace fragsmith {
+namespace {
+
+/// Levels that leave these to the default character are the rule.
+bool IsOptional(int number) {
+  return (number >= 8 && number <= 15) || (number >= 17 && number <= 20) ||
+         number >= 47;
+}
+
+/// The characteristics that are texts.
+bool IsText(int number) {
+  constexpr std::array kTexts = {
+      0, 1, kGameWeaponWeights, kGameChatFile, kGameChatName, kGameItemWeights};
+  return std::find(kTexts.begin(), kTexts.end(), number) != kTexts.end();
+}
+
+/// False for what no known game reads.
+bool IsReadKey(std::string_view key) {
+  return std::none_of(kPerLevelRange.begin(), kPerLevelRange.end(),
+                      [key](int index) {
+                        return !IsReadByGame(index) && BareKey(index) == key;
+                      });
+}
+
+class CharacterFileChecker {
+ public:
+  CharacterFileChecker(const BotFileSet& files, const IncludeLookup& game,
+                       bool has_cause, BotReader& reader)
+      : files_(files),
+        game_(game),
+        has_cause_(has_cause),
+        reader_(reader),
+        file_(*reader.character()) {}
+
+  void Check() {
+    CheckBlocks();
+    CheckLevels();
+    CheckOthersFiles();
+    CheckMixes();
+  }
+
+ private:
+  Complaints& findings() { return reader_.complaints(); }
+
+  void Add(std::string_view id, Severity severity, const std::string& file,
+           int line, std::string text) {
+    findings().Add(id, severity, file, line, std::move(text));
+  }
+
+  /// Of blocks of one level the game takes the first.
+  void CheckBlocks() {
+    std::map<int, int> lines;
+    for (const BlockAt& block : CharacterBlocks(file_, game_)) {
+      const auto [first, is_new] = lines.emplace(block.level, block.line);
+      if (is_new || block.line == 0 ||
+          findings().IsTold({file_.name, first->second}, "no-file-key") ||
+          findings().IsTold({file_.name, block.line}, "no-level")) {
+        continue;
+      }
+      const std::string number = std::to_string(block.level);
+      Add("skill-block-twice", Severity::kWarning, file_.name, block.line,
+          "Skill block " + number + " stands twice, first in line " +
+              std::to_string(first->second) +
+              ": the game takes that one and passes over this. Remove the one "
+              "that is not meant, or correct its number.");
+    }
+  }
+
+  void CheckLevels() {
+    std::vector<std::string> levels;
+    std::string missing;
+    int count = 0;
+    int line = 0;
+    for (const int level : kLevelNumbers) {
+      const CharacterLevel* const loaded = reader_.Level(level);
+      if (loaded == nullptr || loaded->origin != CharacterOrigin::kOwn) {
+        continue;
+      }
+      CheckTexts(level, *loaded);
+      std::string of_level;
+      int of_level_count = 0;
+      for (int number = 0;
+           number < static_cast<int>(kGameCharacteristics.size()); ++number) {
+        const auto found = loaded->block.values.find(number);
+        const bool is_own =
+            found != loaded->block.values.end() && found->second.is_own;
+        if (is_own || IsOptional(number)) continue;
+        if (++of_level_count <= 3) {
+          of_level += (of_level_count > 1 ? ", " : "") + GameKeyName(number);
+        }
+      }
+      if (of_level_count == 0) continue;
+      levels.push_back(std::to_string(level));
+      if (of_level_count > count) {
+        count = of_level_count;
+        missing = of_level;
+        line = loaded->block.line;
+      }
+    }
+    // Of a level that is thrown away it says nothing new.
+    if (count == 0 || has_cause_) return;
+    if (count > 3) missing += " and " + std::to_string(count - 3) + " more";
+    Add("missing-keys", Severity::kHint, file_.name, line,
+        (levels.size() == 1 ? "Skill block " : "The skill blocks ") +
+            Enumeration(levels) +
+            (levels.size() == 1 ? " has no " : " have no ") + missing +
+            ": the game takes what its default character has. Write the lines "
+            "to decide yourself.");
+  }
+
+  /// The game takes 0 for a text where a number belongs.
+  void CheckTexts(int level, const CharacterLevel& loaded) {
+    for (const auto& [number, value] : loaded.block.values) {
+      if (!value.is_own || value.kind != CharacterValue::Kind::kText ||
+          IsText(number) ||
+          static_cast<std::size_t>(number) >= kGameCharacteristics.size()) {
+        continue;
+      }
+      Add("value-not-a-number", Severity::kWarning, file_.name, value.line,
+          GameKeyName(number) + " of skill " + std::to_string(level) +
+              " is the text " + Quoted(value.text) +
+              ", and a number belongs there: the game takes 0. Write the "
+              "number without quotation marks.");
+    }
+  }
+
+  /// A path that was left as it was in the bot that this one was copied from.
+  void CheckOthersFiles() {
+    constexpr std::array<int, 3> kPaths = {kGameItemWeights, kGameWeaponWeights,
+                                           kGameChatFile};
+    if (!files_.character) return;
+    const std::string own = BotOfPath(files_.character->game_path);
+    const auto own_file = [&](int number) {
+      return number == kGameItemWeights     ? &files_.item_weights
+             : number == kGameWeaponWeights ? &files_.weapon_weights
+                                            : &files_.chat;
+    };
+    for (const int level : kLevelNumbers) {
+      const CharacterLevel* const loaded = reader_.Level(level);
+      if (loaded == nullptr) continue;
+      for (const int number : kPaths) {
+        const auto found = loaded->block.values.find(number);
+        if (found == loaded->block.values.end() || !found->second.is_own) {
+          continue;
+        }
+        const std::string other = BotOfPath(found->second.text);
+        const std::optional<GameFile>& file = *own_file(number);
+        if (other == own) CheckKind(number, found->second, file);
+        if (other.empty() || other == own ||
+            findings().IsTold({file_.name, found->second.line}) ||
+            reader_.HasLoneBackslash(found->second.line)) {
+          continue;
+        }
+        std::string text = "Skill " + std::to_string(level) + " takes " +
+                           Quoted(found->second.text) +
+                           ", a file of another bot";
+        text += file ? ", and not " + Quoted(file->game_path) +
+                           ", which is this bot's own. Correct the name in "
+                           "this line."
+                     : ". If that is not meant, write the name of this bot's "
+                       "own file.";
+        Add("others-file", file ? Severity::kWarning : Severity::kHint,
+            file_.name, found->second.line, std::move(text));
+      }
+    }
+  }
+
+  /// A file of this bot that belongs to another key.
+  void CheckKind(int number, const CharacterValue& value,
+                 const std::optional<GameFile>& file) {
+    const auto is_named = [&value](const GameFile& one) {
+      return EqualIgnoringCase(PathLookedFor(value.text, FileHome::kLoose),
+                               one.game_path);
+    };
+    if (!file || is_named(*file)) return;
+    const bool is_of_other_key =
+        std::any_of(BotReader::kMembers.begin(), BotReader::kMembers.end(),
+                    [&](const BotReader::Member member) {
+                      return files_.*member && is_named(*(files_.*member));
+                    });
+    if (!is_of_other_key) return;
+    Add("wrong-file", Severity::kWarning, file_.name, value.line,
+        GameKeyName(number) + " names " + Quoted(value.text) +
+            ", which is another file of this bot. Write " +
+            Quoted(file->game_path) + ".");
+  }
+
+  /// Between two levels the game mixes numbers with a "." only.
+  void CheckMixes() {
+    for (const LevelPair levels : kMixedLevels) {
+      const int low = NumberOf(levels.lower);
+      const int high = NumberOf(levels.upper);
+      const CharacterLevel* const lower = reader_.Level(low);
+      const CharacterLevel* const upper = reader_.Level(high);
+      if (lower == nullptr || upper == nullptr) continue;
+      for (const auto& [number, value] : lower->block.values) {
+        const auto other = upper->block.values.find(number);
+        using Kind = CharacterValue::Kind;
+        if (!value.is_own || other == upper->block.values.end() ||
+            value.kind == Kind::kText || other->second.kind == Kind::kText ||
+            !LeavesMixGap(value.kind == Kind::kWhole,
+                          other->second.kind == Kind::kWhole) ||
+            static_cast<std::size_t>(number) >= kGameCharacteristics.size() ||
+            !IsReadKey(GameKeyName(number))) {
+          continue;
+        }
+        Add("no-mix", SeverityOfMixGap(levels), file_.name, other->second.line,
+            GameKeyName(number) + " is a whole number at skill " +
+                std::to_string(high) + " but has a point at skill " +
+                std::to_string(low) +
+                ", so at the skills between the bot has no value at all and "
+                "the game takes 0. Write a point and a 0 behind the whole "
+                "number.");
+      }
+    }
+  }
+
+  const BotFileSet& files_;
+  const IncludeLookup& game_;
+  bool has_cause_;
+  BotReader& reader_;
+  const GameFile& file_;
+};
+
+}  // namespace
+
+void CheckCharacterFile(const BotFileSet& files, const IncludeLookup& game,
+                        bool has_cause, BotReader& reader) {
+  CharacterFileChecker(files, game, has_cause, reader).Check();
+}
+
+}  // namespace fragsmith
