@@ -331,7 +331,9 @@ bool BotReader::Chat(const CharacterValue& path, const CharacterValue& name) {
     }
     return is_good;
   });
-  if (place->second && path.is_own) CheckChatFile(*file, chat, complaints_);
+  if (place->second && path.is_own) {
+    CheckChatFile(*file, chat, game_, complaints_);
+  }
   return place->second;
 }
 
