@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "game/given_files.h"
+#include "install/program/bot_list.h"
 #include "session/bot_origin.h"
 #include "support/result.h"
 
@@ -35,6 +36,11 @@ std::optional<std::string> BotNameOfAnyFile(const std::filesystem::path& file);
 /// The bots that a path leads to: those of a folder, of the game's folder
 /// above botfiles/bots or of a package, or the one that a file belongs to.
 Result<std::vector<BotLocation>> BotsAt(const std::filesystem::path& path);
+
+/// Of the bots of a package those go that are no more than a description of
+/// another one, which lies elsewhere or is called otherwise.
+void DropDescriptionsOfOthers(const GivenFiles& given,
+                              std::vector<BotListEntry>& bots);
 
 /// Where the files of a bot were last read or written; nothing for one that
 /// has no files.
