@@ -3,12 +3,15 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <iterator>
 #include <string_view>
 #include <system_error>
 #include <utility>
 
 #include "chat/vocabulary.h"
 #include "game/complaints.h"
+#include "game/description_reader.h"
+#include "game/game_path.h"
 #include "model/file_names.h"
 #include "session/bot_file.h"
 #include "session/bot_sources.h"
@@ -23,6 +26,19 @@ constexpr std::array kFiles = {BotFile::kCharacteristics, BotFile::kDescription,
                                BotFile::kChat, BotFile::kItemWeights,
                                BotFile::kWeaponWeights};
 
+/// Whether a description speaks of the character file of a bot of that name.
+bool HasCharacterOf(const GameFile& description, const std::string& name) {
+  const std::string path =
+      "bots/" + name + std::string(FileSuffix(BotFile::kCharacteristics));
+  Complaints untold;
+  const std::vector<DescriptionSet> sets =
+      ReadGameDescription(description, untold);
+  return std::ranges::any_of(sets, [&path](const DescriptionSet& set) {
+    return EqualIgnoringCase(
+        PathLookedFor(set.Text("aifile"), FileHome::kPacked), path);
+  });
+}
+
 BotLocation InFolder(const fs::path& folder, const std::string& name) {
   const fs::path whole = WholePath(folder);
   return {.name = name,
@@ -32,9 +48,9 @@ BotLocation InFolder(const fs::path& folder, const std::string& name) {
 }
 
 std::vector<BotLocation> InPackage(const fs::path& package,
-                                   const BotList& bots) {
+                                   const std::vector<BotListEntry>& bots) {
   std::vector<BotLocation> found;
-  for (const BotListEntry& bot : bots.entries()) {
+  for (const BotListEntry& bot : bots) {
     found.push_back({.name = bot.Name,
                      .folder = {},
                      .package = WholePath(package),
@@ -45,6 +61,31 @@ std::vector<BotLocation> InPackage(const fs::path& package,
 }
 
 }  // namespace
+
+void DropDescriptionsOfOthers(const GivenFiles& given,
+                              std::vector<BotListEntry>& bots) {
+  const auto open = [&given](std::string_view folder, const std::string& name,
+                             BotFile file) {
+    return given.OpenInAnyCase(std::string(folder) + "/" + name +
+                               std::string(FileSuffix(file)));
+  };
+  const auto has_character = [&open](const BotListEntry& bot) {
+    return open(kBotFilesFolder, bot.Name, BotFile::kCharacteristics)
+        .has_value();
+  };
+  std::vector<BotListEntry> with_character;
+  std::ranges::copy_if(bots, std::back_inserter(with_character), has_character);
+  std::erase_if(bots, [&](const BotListEntry& bot) {
+    if (has_character(bot)) return false;
+    const std::optional<GameFile> description =
+        open(kScriptsFolder, bot.Name, BotFile::kDescription);
+    return description &&
+           std::ranges::any_of(
+               with_character, [&description](const BotListEntry& other) {
+                 return HasCharacterOf(*description, other.Name);
+               });
+  });
+}
 
 std::optional<std::string> BotNameOfAnyFile(const fs::path& file) {
   std::optional<std::string> name = GameTextFromPath(file.filename());
@@ -70,9 +111,12 @@ Result<std::vector<BotLocation>> BotsAt(const fs::path& path) {
     }
   } else if (EndsWithIgnoringCase(BytesFromPath(path.filename()), ".pk3")) {
     Notes odd_entries;
-    const Result<BotList> bots = BotsInPackage(path, odd_entries);
-    if (!bots) return Failure(bots.error());
-    found = InPackage(path, *bots);
+    const Result<BotList> list = BotsInPackage(path, odd_entries);
+    if (!list) return Failure(list.error());
+    std::vector<BotListEntry> bots = list->entries();
+    DropDescriptionsOfOthers(GivenFiles::OfPackage(path).value_or(GivenFiles()),
+                             bots);
+    found = InPackage(path, bots);
   } else if (const auto name = BotNameOfAnyFile(path); name && IsFile(path)) {
     const bool is_description = EndsWithIgnoringCase(
         BytesFromPath(path.filename()), FileSuffix(BotFile::kDescription));

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "game/given_files.h"
+#include "install/program/bot_list.h"
 #include "session/bot_origin.h"
 #include "support/result.h"
 
@@ -40,6 +41,11 @@ Result<std::vector<BotLocation>> BotsAt(const std::filesystem::path& path);
 /// files that look like some: where they lie, or what they are called. UTF-8;
 /// empty where nothing is.
 std::string WhyNoBots(const std::filesystem::path& path);
+
+/// Of the bots of a package those go that are no more than a description of
+/// another one, which lies elsewhere or is called otherwise.
+void DropDescriptionsOfOthers(const GivenFiles& given,
+                              std::vector<BotListEntry>& bots);
 
 /// Where the files of a bot were last read or written; nothing for one that
 /// has no files.

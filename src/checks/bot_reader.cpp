@@ -70,8 +70,11 @@ Verdict BotReader::At(double skill) {
   const CharacterLevel& first = *levels.front();
   const CharacterValue* const items =
       PathAt(first, kGameItemWeights, "CHARACTERISTIC_ITEMWEIGHTS");
+  const std::size_t before = complaints_.list().size();
   const CharacterValue* const weapons =
       PathAt(first, kGameWeaponWeights, "CHARACTERISTIC_WEAPONWEIGHTS");
+  const std::optional<Complaint> no_weapons =
+      weapons == nullptr ? complaints_.FirstError(before) : std::nullopt;
   const CharacterValue* const chat =
       PathAt(first, kGameChatFile, "CHARACTERISTIC_CHAT_FILE");
   const CharacterValue* const name =
@@ -79,11 +82,16 @@ Verdict BotReader::At(double skill) {
   // Without a path the game takes the one that it read before. For the first
   // one and the name that is whatever lies in its memory.
   if (items == nullptr || name == nullptr) return Verdict::kRefused;
-  const CharacterValue& of_weapons = weapons != nullptr ? *weapons : *items;
-  const CharacterValue& of_chat = chat != nullptr ? *chat : of_weapons;
+  const CharacterValue of_weapons =
+      weapons != nullptr ? *weapons : InPlaceOf(*items);
+  const CharacterValue of_chat =
+      chat != nullptr ? *chat : InPlaceOf(of_weapons);
   if (!Weights(items->text, false, *items) ||
       !Weights(of_weapons.text, true, of_weapons) || !Chat(of_chat, *name)) {
     return Verdict::kRefused;
+  }
+  if (no_weapons && !weaponless_ && HasNoWeapons(*items)) {
+    weaponless_ = WithoutWeights(*no_weapons);
   }
   for (const CharacterValue* const value : {items, weapons, chat, name}) {
     is_own = is_own && (value == nullptr || value->is_own);
@@ -96,12 +104,40 @@ Verdict BotReader::At(double skill) {
 
 bool BotReader::NamesAnother(const CharacterValue& value) const {
   const std::string other = BotOfPath(value.text);
-  const std::string own =
-      files_.character ? BotOfPath(files_.character->game_path) : std::string();
-  return value.is_own && !other.empty() && other != own;
+  return value.is_own && !other.empty() && other != OwnName();
+}
+
+/// The path that the game takes for a later one that is missing: what it finds
+/// there belongs to another kind of file, and is not told.
+CharacterValue BotReader::InPlaceOf(const CharacterValue& earlier) {
+  CharacterValue path = earlier;
+  path.is_own = false;
+  return path;
+}
+
+/// Whether a file of items has none of the weights of weapons.
+bool BotReader::HasNoWeapons(const CharacterValue& items) {
+  const std::optional<GameFile> file =
+      Find(items.text, KindOfWeights(false), CharacterName(), items.line);
+  if (!file) return false;
+  Complaints untold;
+  return FaultOfKind(*file, ReadGameWeights(*file, game_, untold), true)
+      .has_value();
+}
+
+/// What the bot's files are called by. The description may name a character
+/// file that is called otherwise.
+std::string BotReader::OwnName() const {
+  for (const Member member : kMembers) {
+    std::string name =
+        files_.*member ? BotOfPath((files_.*member)->game_path) : std::string();
+    if (!name.empty()) return name;
+  }
+  return {};
 }
 
 std::string BotReader::CharacterName() const {
+  if (character_) return character_->name;
   if (files_.character) return files_.character->name;
   for (const Member member : kMembers) {
     if (files_.*member) return (files_.*member)->name;
@@ -287,6 +323,13 @@ bool BotReader::Weights(const std::string& path, bool are_weapons,
   });
   place->second = read.is_loaded;
   if (!value.is_own) return read.is_loaded;
+  if (file->game_path.empty()) {
+    const Complaint empty = EmptyPath(are_weapons ? "_w.c" : "_i.c", value);
+    if (are_weapons) weaponless_ = WithoutWeights(empty);
+    Add(empty.id, Severity::kWarning, empty.place.file, empty.place.line,
+        empty.text);
+    return true;
+  }
   const std::optional<Complaint> of_kind = FaultOfKind(
       *file, read, are_weapons, {.file = CharacterName(), .line = value.line});
   if (!read.is_loaded) {
@@ -341,12 +384,16 @@ bool BotReader::Chat(const CharacterValue& path, const CharacterValue& name) {
     Complaints all(files_.is_game_known);
     const bool is_good = ReadGameChat(*file, name.text, game_, all, &chat);
     for (const Complaint& one : all.list()) {
+      // That the bot has no name for its chat was told.
+      if (one.id == "chat-name" && !name.is_own) continue;
       complaints.Add(one.id == "chat-name" ? WithoutChat(path, name, chat, one)
                                            : one);
     }
     return is_good;
   });
-  if (place->second && path.is_own) CheckChatFile(*file, chat, complaints_);
+  if (place->second && path.is_own) {
+    CheckChatFile(*file, chat, game_, complaints_);
+  }
   return place->second;
 }
 

@@ -70,6 +70,11 @@ class BotReader {
   void TellMissingBlocks(const GameFile& file);
   int LineOfSameBlock(const CharacterBlock& block) const;
   std::string MissingPaths(const CharacterLevel& level) const;
+  static CharacterValue InPlaceOf(const CharacterValue& earlier);
+  bool HasNoWeapons(const CharacterValue& items);
+  std::string OwnName() const;
+  Complaint EmptyPath(std::string_view suffix,
+                      const CharacterValue& path) const;
   const CharacterValue* PathAt(const CharacterLevel& level, int number,
                                std::string_view key);
   bool Weights(const std::string& path, bool are_weapons,

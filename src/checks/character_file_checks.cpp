@@ -167,7 +167,8 @@ class CharacterFileChecker {
         if (other == own) CheckKind(number, found->second, file);
         if (other.empty() || other == own ||
             findings().IsTold({file_.name, found->second.line}) ||
-            reader_.HasLoneBackslash(found->second.line)) {
+            reader_.HasLoneBackslash(found->second.line) ||
+            (files_.is_game_known && !game_(found->second.text))) {
           continue;
         }
         std::string text = "Skill " + std::to_string(level) + " takes " +

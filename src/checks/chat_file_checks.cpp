@@ -4,16 +4,19 @@
 #include <array>
 #include <cstddef>
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "chat/chat_catalogue.h"
+#include "chat/chat_line.h"
 #include "chat/vocabulary.h"
 #include "checks/chat_line_checks.h"
 #include "game/chat_message.h"
 #include "game/chat_type_facts.h"
 #include "game/file_faults.h"
+#include "game/word_lists.h"
 #include "support/code_page.h"
 #include "support/text.h"
 
@@ -69,8 +72,9 @@ bool IsMerged(std::string_view statement) {
 
 class ChatFileChecker {
  public:
-  ChatFileChecker(const GameFile& file, Complaints& findings)
-      : file_(file), findings_(findings) {}
+  ChatFileChecker(const GameFile& file, const IncludeLookup& game,
+                  Complaints& findings)
+      : file_(file), game_(game), findings_(findings) {}
 
   /// Of types of one name the last counts.
   void TakeLast(const std::vector<GameChatType>& types) {
@@ -128,7 +132,9 @@ class ChatFileChecker {
            "There is no ; between this text and the one on the next line, so "
            "the bot speaks both as one. Write a ; at the end of each line.");
     }
-    for (const ChatItem& item : ReadChatMessage(statement).items) {
+    const ChatMessage message = ReadChatMessage(statement);
+    if (AdviceForLine(statement).empty()) TellLoneWord(line, message);
+    for (const ChatItem& item : message.items) {
       if (const std::string_view advice = AdviceForLine(statement);
           item.kind == ChatItem::Kind::kWord && !advice.empty()) {
         Warn("chat-curly-quotes", line.span,
@@ -155,16 +161,41 @@ class ChatFileChecker {
     }
   }
 
+  /// A single bare word that neither the editor nor the game knows: the editor
+  /// takes it for a text, so that nothing else tells of it.
+  void TellLoneWord(const GameChatLine& line, const ChatMessage& message) {
+    if (message.items.size() != 1 ||
+        message.items.front().kind != ChatItem::Kind::kWord) {
+      return;
+    }
+    const std::string& word = message.items.front().text;
+    const bool is_text =
+        ChatLineFromFile(kAllChatTypes.front(), word + ';').text == word;
+    // A macro has become something else.
+    if (!is_text || !line.words.ends_with(word + '\n')) return;
+    if (!words_) {
+      words_ = WordLists::Parse(game_("rnd.c").value_or(std::string()));
+    }
+    if (words_->empty() || words_->Find(word) != nullptr) return;
+    Warn("chat-word-unknown", line.span,
+         "Your game has no word list or ready-made line " + Quoted(word) +
+             ": in its place the bot speaks the remains of an earlier line. "
+             "Take the name of one that it has, or put the text in quotation "
+             "marks (\").");
+  }
+
   const GameFile& file_;
+  const IncludeLookup& game_;
   Complaints& findings_;
+  std::optional<WordLists> words_;  ///< Once asked.
   std::map<std::string, const GameChatType*> last_;
 };
 
 }  // namespace
 
 void CheckChatFile(const GameFile& file, const GameChat& chat,
-                   Complaints& findings) {
-  ChatFileChecker checker(file, findings);
+                   const IncludeLookup& game, Complaints& findings) {
+  ChatFileChecker checker(file, game, findings);
   checker.TakeLast(chat.types);
   for (const GameChatType& type : chat.types) checker.Check(type);
 }

@@ -7,9 +7,9 @@
 namespace fragsmith {
 
 /// What stands in a chat file that the game reads, but that is spoken otherwise
-/// than it looks, or never.
+/// than it looks, or never. The word lists are those of the game's rnd.c.
 void CheckChatFile(const GameFile& file, const GameChat& chat,
-                   Complaints& findings);
+                   const IncludeLookup& game, Complaints& findings);
 
 }  // namespace fragsmith
 

@@ -15,9 +15,9 @@ Complaint BotReader::WithoutChat(const CharacterValue& path,
                                  const CharacterValue& name,
                                  const GameChat& chat,
                                  const Complaint& told) const {
+  if (path.text.empty()) return EmptyPath("_t.c", path);
   Complaint moved = told;
-  const std::string own =
-      files_.character ? BotOfPath(files_.character->game_path) : std::string();
+  const std::string own = OwnName();
   if (NamesAnother(path)) {
     moved.place = {.file = CharacterName(), .line = path.line};
     moved.text = "This line names the chat file of another bot, " +
@@ -33,6 +33,22 @@ Complaint BotReader::WithoutChat(const CharacterValue& path,
                  Quoted(chat.other_name) + ". Write that name here.";
   }
   return moved;
+}
+
+/// Of a line with nothing between its quotation marks.
+Complaint BotReader::EmptyPath(std::string_view suffix,
+                               const CharacterValue& path) const {
+  const std::string own = OwnName();
+  std::string text =
+      "There is no path between the quotation marks in this line, and the game "
+      "takes that for an empty file. Write the path of the bot's own file";
+  if (!own.empty()) {
+    text += ", " + Quoted("bots/" + own + std::string(suffix));
+  }
+  return {.id = "path-empty",
+          .severity = Severity::kError,
+          .place = {.file = CharacterName(), .line = path.line},
+          .text = text + "."};
 }
 
 }  // namespace fragsmith

@@ -9,6 +9,7 @@
 #include "chat/vocabulary.h"
 #include "checks/bot_reader.h"
 #include "checks/installation_checks.h"
+#include "game/file_faults.h"
 #include "game/game_path.h"
 #include "support/text.h"
 
@@ -161,6 +162,11 @@ void BotReader::TakeDescription(const DescriptionSet& set) {
         "it away. Without one it does not add the bot. Write aifile and the "
         "path of the character file, such as bots/name_c.c.";
     int line = set.line;
+    // Where the file ends for the game, that is told in place of this.
+    const std::optional<Complaint> fault = FaultOfBytes(file);
+    if (fault && fault->place.line <= set.last_line) {
+      line = std::max(line, fault->place.line);
+    }
     for (const auto& [key, value] : set.values) {
       if (key == "aifile:") {
         line = value.line;

@@ -316,7 +316,9 @@ std::optional<Finding> InPlaceOfGameFiles(
     text += (text.empty() ? "" : " ") + Enumeration(passed_over) +
             (passed_over.size() == 1 ? " is never read" : " are never read") +
             ": the game takes its own, out of a package whose name comes "
-            "later. What the bot needs belongs into a file of another name.";
+            "later. What the bot needs belongs into a file of another name. "
+            "In the player's own folder, such as ~/.q3a/baseq3, this package "
+            "comes before the game's, whatever its name.";
   }
   if (text.empty()) return std::nullopt;
   return Finding{
@@ -351,6 +353,16 @@ std::optional<Finding> PackageInWrongFolder(
                          "', where the game does not look. Move it to '" +
                          Utf8FromPath(wanted) + "'.",
                  .mends = {}};
+}
+
+void TellWhatHides(const BotFileSet& files, const IncludeLookup& given_first,
+                   Finding& hiding, const std::vector<Finding>& findings) {
+  const auto keeps_out = [](const std::vector<Finding>& all) {
+    return std::ranges::any_of(all, &Finding::keeps_out);
+  };
+  if (keeps_out(findings) || !keeps_out(CheckFiles(files, given_first))) return;
+  hiding.severity = Severity::kWarning;
+  hiding.text += " There the game does not add the bot with it.";
 }
 
 void TakeForCause(const BotFileSet& files, const IncludeLookup& with_games_own,

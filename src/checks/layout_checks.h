@@ -48,6 +48,11 @@ std::optional<Finding> PackageInWrongFolder(
     const std::filesystem::path& package,
     const std::filesystem::path& package_folder);
 
+/// What hides nothing where the files lie hides the game's own in the player's
+/// folder: said more gravely where the bot is good in the one alone.
+void TellWhatHides(const BotFileSet& files, const IncludeLookup& given_first,
+                   Finding& hiding, const std::vector<Finding>& findings);
+
 /// Where the bot is good when the game's own files are looked up, those in
 /// their place are what is wrong, and the other errors follow from that.
 void TakeForCause(const BotFileSet& files, const IncludeLookup& with_games_own,

@@ -197,6 +197,7 @@ std::vector<Finding> LocationCheck::InFiles() const {
   if (std::optional<Finding> hiding =
           InPlaceOfGameFiles(given_, location_.name, Package(),
                              game_ == nullptr ? nullptr : &game_->files)) {
+    TellWhatHides(on_disk_.files, WithGivenFirst(), *hiding, findings);
     TakeForCause(on_disk_.files, WithGamesOwn(), *hiding, findings);
     findings.push_back(*std::move(hiding));
   }
@@ -219,6 +220,13 @@ IncludeLookup LocationCheck::WithGamesOwn() const {
                   : game_->files.Read("botfiles/" + std::string(path));
     }
     return bytes ? bytes : LookUp(path);
+  };
+}
+
+IncludeLookup LocationCheck::WithGivenFirst() const {
+  return [this](std::string_view path) {
+    std::optional<GameFile> own = given_.Open("botfiles/" + std::string(path));
+    return own ? std::move(own->bytes) : LookUp(path);
   };
 }
 
@@ -276,8 +284,18 @@ BrokenFiles LocationCheck::BrokenOnes(const Bot& bot) const {
 }
 
 std::vector<Finding> LocationCheck::Check(const BotFileSet& files) const {
-  return CheckFiles(files,
-                    [this](std::string_view path) { return LookUp(path); });
+  std::vector<Finding> findings =
+      CheckFiles(files, [this](std::string_view path) { return LookUp(path); });
+  // A file that lies here is named as it is here, also where it is known by
+  // its path in the game alone.
+  for (Finding& finding : findings) {
+    auto* const place = std::get_if<FilePlace>(&finding.place);
+    if (place == nullptr || !place->file.starts_with("botfiles/")) continue;
+    if (std::optional<GameFile> own = given_.Open(place->file)) {
+      place->file = std::move(own->name);
+    }
+  }
+  return findings;
 }
 
 std::vector<Finding> LocationCheck::OfAll(const Bot& bot) const {

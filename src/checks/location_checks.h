@@ -70,6 +70,9 @@ class LocationCheck {
   void TakeListOfGame();
   /// Looks things up as if no file took the place of the game's own.
   IncludeLookup WithGamesOwn() const;
+  /// Looks things up as in the player's own folder, where all that is given
+  /// comes before the game's.
+  IncludeLookup WithGivenFirst() const;
   std::vector<Finding> Check(const BotFileSet& files) const;
   /// The files as a save of the bot would have them.
   BotFileSet AsSaved(const Bot& bot) const;

@@ -255,6 +255,7 @@ BotLocationOutcome FindInPackage(const fs::path& package,
            given.OpenInAnyCase(std::string(kScriptsFolder) + "/" + bot.Name +
                                std::string(FileSuffix(BotFile::kDescription)));
   });
+  if (options.name.empty()) DropDescriptionsOfOthers(given, bots);
   std::vector<std::string> names;
   names.reserve(bots.size());
   for (const BotListEntry& bot : bots) names.push_back(bot.Name);

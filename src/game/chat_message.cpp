@@ -68,12 +68,9 @@ ChatFit ChatRoom::Add(ChatItem::Kind kind, std::size_t size) {
     return length_ > limits::kMaxEncodedBytes ? ChatFit::kTooLong
                                               : ChatFit::kFits;
   }
-  // What the game expects of a variable or a word list, whatever its name, with
-  // a zero behind it; it then writes as many bytes as the name needs.
-  constexpr std::size_t kExpected = 6;
   // An escape, a letter, and an escape again.
   constexpr std::size_t kMarks = 3;
-  const bool is_refused = length_ + kExpected > limits::kMaxEncodedBytes;
+  const bool is_refused = length_ > limits::kMaxBeforeItem;
   length_ += size + kMarks;
   if (is_refused) return ChatFit::kTooLong;
   return length_ > limits::kMaxEncodedBytes ? ChatFit::kOverflows

@@ -24,7 +24,9 @@ bool Fits(GameSource& source, const GameToken& token, ChatFit fit) {
           "This chat line is too long: the game has room for " +
               std::to_string(limits::kMaxEncodedBytes) +
               " characters, counting 4 for a variable and the name and "
-              "3 more for a word list. Shorten it.");
+              "3 more for a word list, and each of these may begin behind " +
+              std::to_string(limits::kMaxBeforeItem) +
+              " characters at most. Shorten it.");
       return false;
     case ChatFit::kOverflows:
       source.Complain("chat-line-crash", token,

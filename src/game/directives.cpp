@@ -157,6 +157,7 @@ bool GameSource::Include() {
   // One that is missing has cost a look-up as well.
   work_ += kWorkOfInclude;
   std::optional<std::string> bytes = path.empty() ? "" : game_(path);
+  if (!bytes && ComplainOfJoinedName(token)) return false;
   if (!bytes && !findings_.is_game_known()) {
     Report("not-looked-at", Severity::kHint, token,
            "The file \"botfiles/" + ShownText(path) +
@@ -203,10 +204,35 @@ bool GameSource::Include() {
   return true;
 }
 
+/// A text below the line is joined to the name.
+bool GameSource::ComplainOfJoinedName(GameToken name) {
+  if (name.file != 0) return false;
+  const std::string_view text =
+      std::string_view(file_.bytes)
+          .substr(name.span.begin, name.span.end - name.span.begin);
+  const auto lines = std::count(text.begin(), text.end(), '\n');
+  if (lines == 0) return false;
+  name.line -= static_cast<int>(lines);
+  Complain("include-joined", name,
+           "Behind the name of the file to include a text follows, in a line "
+           "below, and the game makes one name of both: " +
+               Quoted(name.text) +
+               ". Move the #include to where no text follows, in a chat file "
+               "out of the chat type.");
+  return true;
+}
+
 bool GameSource::Define() {
   Macro macro;
-  if (!ReadRestOfLine(macro.name) ||
-      macro.name.kind != GameToken::Kind::kName) {
+  const bool has_word = ReadRestOfLine(macro.name);
+  if (has_word && macro.name.kind == GameToken::Kind::kNumber) {
+    Complain("define-without-name", macro.name,
+             "The name behind #define begins with a digit, and the game takes "
+             "it for the number " +
+                 Quoted(macro.name.text) + ". Begin the name with a letter.");
+    return false;
+  }
+  if (!has_word || macro.name.kind != GameToken::Kind::kName) {
     Complain("define-without-name", Here(),
              "A name must stand behind #define, on the same line and without "
              "quotation marks.");

@@ -12,15 +12,16 @@ namespace {
 
 bool IsDigit(char letter) { return letter >= '0' && letter <= '9'; }
 
+bool IsLetter(char letter) {
+  return (letter >= 'a' && letter <= 'z') || (letter >= 'A' && letter <= 'Z');
+}
+
 bool IsHexDigit(char letter) {
   return IsDigit(letter) || (letter >= 'a' && letter <= 'f') ||
          (letter >= 'A' && letter <= 'F');
 }
 
-bool BeginsName(char letter) {
-  return (letter >= 'a' && letter <= 'z') || (letter >= 'A' && letter <= 'Z') ||
-         letter == '_';
-}
+bool BeginsName(char letter) { return IsLetter(letter) || letter == '_'; }
 
 constexpr std::string_view kSingleSigns = "*/%+-~&|^!><.,;:=?(){}[]\\#$";
 
@@ -34,7 +35,7 @@ double Digits(std::string_view digits, int base) {
   for (const char digit : digits) {
     int value = digit - '0';
     if (digit >= 'a') value = digit - 'a' + 10;
-    if (digit >= 'A' && digit <= 'F') value = digit - 'A' + 10;
+    if (digit >= 'A' && digit <= 'Z') value = digit - 'A' + 10;
     number = number * base + value;
   }
   return number;
@@ -115,6 +116,8 @@ GameLexer::Outcome GameLexer::Next(GameToken& token) {
   token = {};
   token.blank_before = SkipBlanks();
   token.span.begin = offset_;
+  // A text may run on over lines.
+  token.lines_crossed = line_ - last_line_;
   Outcome outcome = Outcome::kToken;
   const char first = At();
   if (offset_ >= bytes_.size()) {
@@ -139,7 +142,6 @@ GameLexer::Outcome GameLexer::Next(GameToken& token) {
   }
   token.span.end = offset_;
   token.line = line_;
-  token.lines_crossed = line_ - last_line_;
   if (outcome == Outcome::kToken) last_line_ = line_;
   return outcome;
 }
@@ -202,7 +204,8 @@ bool GameLexer::TakeEscape(std::string& text) {
     ++offset_;
   }
   const std::size_t start = offset_;
-  while (base == 16 ? IsHexDigit(At()) : IsDigit(At())) ++offset_;
+  // The game takes all letters for digits here, also those behind F.
+  while (IsDigit(At()) || (base == 16 && IsLetter(At()))) ++offset_;
   if (base == 10 && offset_ == start) {
     // A line end stays for the string to stumble over.
     if (letter != '\0' && letter != '\n') ++offset_;

@@ -47,6 +47,9 @@ inline constexpr int kMaxWeights = 128;
 /// Bytes of a chat message as the game keeps it, and as it is spoken.
 inline constexpr std::size_t kMaxEncodedBytes = 255;
 inline constexpr std::size_t kMaxSpokenBytes = 149;
+/// A variable or a word list, whatever its name, is refused behind more: the
+/// game expects six bytes of it.
+inline constexpr std::size_t kMaxBeforeItem = kMaxEncodedBytes - 6;
 /// So many are safe, for the screen puts the bot's name before them.
 inline constexpr std::size_t kSafeSpokenBytes = 130;
 /// How often lists in a message are replaced by lines that draw on others.

@@ -135,6 +135,7 @@ class GameSource {
   bool Directive();
   bool Dollar();
   bool Include();
+  bool ComplainOfJoinedName(GameToken name);
   bool Define();
   bool DefineParameters(Macro& macro);
   bool Undefine();

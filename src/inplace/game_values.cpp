@@ -75,8 +75,11 @@ void TakeLevels(const BothReaders& readers, const FileReading& reading,
         const std::optional<int> number = readers.GameNumber(index);
         const ParameterId id =
             is_of_level ? ParameterId(level, index) : ParameterId(index);
-        if (!number || !reading.report.given.contains(id)) continue;
+        if (!number) continue;
         const auto value = block.values.find(*number);
+        // Of a block that the game alone sees all of them are its own.
+        const bool is_seen = value != block.values.end() && is_of_level;
+        if (!is_seen && !reading.report.given.contains(id)) continue;
         // A key that is not there for the game, or a text, gives 0.
         if (value != block.values.end()) {
           found[id] = value->second.number;

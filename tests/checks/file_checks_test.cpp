@@ -141,6 +141,35 @@ TEST(CheckFiles, SaysWhereAndHowGravely) {
        {"x_t.c:11: error chat-line-too-long"}},
       {{"WDDW", "c", "", "", "SKILL 0.7", "SKILL"},
        {"x_c.c:17: error value-missing"}},
+      // A path that is none: the file that the game reads for it is not at
+      // fault.
+      {{"WWWW", "c", "", "", "\"bots/botx_w.c\"", "3.5"},
+       {"x_c.c:9: error number-for-text"}},
+      {{"RRWW", "c", "", "", "\"bots/botx_t.c\"", "1"},
+       {"x_c.c:7: error number-for-text"}},
+      {{"WWWW", "c", "", "", "bots/botx_w.c", ""},
+       {"x_c.c:9: error path-empty"}},
+      {{"WWWW", "c", "", "", "bots/botx_i.c", ""},
+       {"x_c.c:10: warning path-empty"}},
+      {{"RRWW", "c", "", "", "bots/botx_t.c", ""},
+       {"x_c.c:7: error path-empty"}},
+      {{"RRRR",
+        "c",
+        "",
+        "",
+        "bots/botx_w",
+        "bots/none_w",
+        {},
+        {{{"c", "bots/botx_w", "bots/none_w"}},
+         {{"c", "bots/botx_w", "bots/none_w"}}}},
+       {"x_c.c:9: error file-missing"}},
+      {{"RRRR", "t", "", "", "teamplay.h\"", "teamplay.h\"\n\"Hello, \""},
+       {"x_t.c:3: error include-joined"}},
+      // The description ends there for the game.
+      {{"RRRR", "bot", "", "", "model", "/* him\nmodel"},
+       {"x.bot:3: error open-comment"}},
+      {{"RRRR", "bot", "", "", "model", "\\x00model"},
+       {"x.bot:3: error null-character"}},
       {{"WWWW", "w", "", "", "#define W_RAILGUN 60", "#defin W_RAILGUN 60"},
        {"x_w.c:8: error unknown-command"}},
       {{"RRRR", "w", "", "", "#define W_RAILGUN 60", "#define w_railgun 60"},
@@ -380,6 +409,8 @@ TEST(CheckFiles, SaysWhatToDo) {
       {"w", "fw_weap.c", "bots/x_f.c", "does not know what to fight with."},
       {"i", "\"inv.h\"", "\"inw.h\"", "Write \"inv.h\"."},
       {"t", "\"bye\";", "#ifdef NO\n\"bye\";", "Put an #endif where"},
+      {"t", "\"bye\"", "\"%250%\", 0", "behind 249 characters at most"},
+      {"w", "W_RAILGUN", "5W_RAILGUN", "Begin the name with a letter."},
       // Two bots, or two blocks, of which one is lost.
       {"bot", "$$", "{\nname Rook\naifile bots/botx_c.c\n}",
        "does not know \"x\". Write } in front of this line."},
@@ -421,6 +452,31 @@ TEST(CheckFiles, SaysWhatToDo) {
     EXPECT_THAT(told->text, HasSubstr(one.advice));
     EXPECT_EQ(Found(FileSetOf(files, "x")).size(), 1U);
   }
+}
+
+TEST(CheckFiles, LooksBareWordsUpInTheGame) {
+  const IncludeLookup game =
+      [](std::string_view path) -> std::optional<std::string> {
+    if (path == "rnd.c") return "HELLO1 = { \"hi\"; }\nMINE = { \"ho\"; }\n";
+    return StandInGameFile(path);
+  };
+  std::map<std::string, std::string> files;
+  ASSERT_TRUE(MakeEngineCase(
+      {"", "t", "", "", "\"bye\";", "MINE;\nHELLO_MINE;\nOTHER;\nGIVEN;\n"},
+      "x", files));
+  files["t"].insert(0, "#define GIVEN \"ha\"\n");
+  EXPECT_THAT(Found(FileSetOf(files, "x"), game),
+              ElementsAre("x_t.c:13: warning chat-word-unknown",
+                          "x_t.c:14: warning chat-word-unknown"));
+}
+
+TEST(CheckFiles, LeavesTheChatsAloneWhereTheirNameIsMissing) {
+  std::map<std::string, std::string> files;
+  ASSERT_TRUE(MakeEngineCase(
+      {"", "c", "", "", "CHARACTERISTIC_CHAT_NAME \"botx\"", ""}, "x", files));
+  EXPECT_THAT(
+      Found(FileSetOf(files, "x"), WithFallback("ours", StandInGameFile)),
+      ElementsAre("x_c.c:2: error no-file-key"));
 }
 
 TEST(CheckFiles, BlamesTheIncludedFileOfTheBot) {

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -53,6 +54,19 @@ class PackageChecks : public ::testing::Test {
                       std::string(finding.id) + ": " + finding.text);
     }
     return found;
+  }
+
+  /// A game with what the bot asks for.
+  std::optional<InstalledGame> Game() const {
+    folder_.Write(
+        "game/baseq3/pak0.pk3",
+        MakeZip({{"scripts/bots.txt", ""},
+                 {"botfiles/chars.h", *StandInGameFile("chars.h")},
+                 {"botfiles/inv.h", *StandInGameFile("inv.h")},
+                 {"botfiles/fw_weap.c", *StandInGameFile("fw_weap.c")},
+                 {"botfiles/fw_items.c", *StandInGameFile("fw_items.c")},
+                 {"botfiles/teamplay.h", ""}}));
+    return ReadInstalledGame(folder_ / "game");
   }
 
   /// A number of two bytes behind each of the marks takes another value.
@@ -122,6 +136,52 @@ TEST_F(PackageChecks, BlameTheFileThatHidesOneOfTheGame) {
   EXPECT_THAT(Found(Packed()),
               ElementsAre(AllOf(HasSubstr("error in-place-of-game-file"),
                                 HasSubstr("x_c.c, line 5. Remove it."))));
+}
+
+TEST_F(PackageChecks, TellWhatHidesTheGamesInThePlayersFolderAlone) {
+  const auto game = Game();
+  EXPECT_THAT(Found(Packed(), "bot-x.pk3", &*game), IsEmpty());
+  entries_.push_back({"botfiles/chars.h", ""});
+  EXPECT_THAT(
+      Found(Packed(), "bot-x.pk3", &*game),
+      ElementsAre(AllOf(HasSubstr("warning in-place-of-game-file"),
+                        HasSubstr("In the player's own folder"),
+                        HasSubstr("There the game does not add the bot"))));
+}
+
+TEST_F(PackageChecks, FollowTheDescriptionToACharacterOfAnotherName) {
+  for (PackageEntry& entry : entries_) {
+    if (entry.name == "botfiles/bots/x_c.c") entry.name = "botfiles/bots/x.c";
+    if (entry.name == "scripts/x.bot") {
+      entry.bytes = ReplaceAll(entry.bytes, "x_c.c", "x.c");
+    }
+  }
+  const auto game = Game();
+  EXPECT_THAT(Found(Packed(), "bot-x.pk3", &*game), IsEmpty());
+  std::erase_if(entries_, [](const PackageEntry& entry) {
+    return entry.name.ends_with("_t.c");
+  });
+  EXPECT_THAT(Found(Packed(), "bot-x.pk3", &*game),
+              ElementsAre(AllOf(HasSubstr("error file-missing"),
+                                HasSubstr("The game does not add the bot."))));
+}
+
+TEST_F(PackageChecks, TakeADescriptionOfABotForNoOther) {
+  for (const char* const name :
+       {"botfiles/bots/z/x_c.c", "botfiles/bots/y_c.c"}) {
+    std::vector<PackageEntry> entries = entries_;
+    for (PackageEntry& entry : entries) {
+      if (entry.name == "botfiles/bots/x_c.c") entry.name = name;
+      if (entry.name == "scripts/x.bot") {
+        entry.bytes =
+            ReplaceAll(entry.bytes, "bots/x_c.c", std::string(name).substr(9));
+      }
+    }
+    folder_.Write("one.pk3", *FormatPackage(entries));
+    const auto bots = BotsAt(folder_ / "one.pk3");
+    ASSERT_TRUE(bots);
+    EXPECT_EQ(bots->size(), 1U) << name;
+  }
 }
 
 TEST_F(PackageChecks, ReadTheListThatTheGameReads) {

@@ -33,7 +33,7 @@ const std::map<std::string_view, std::set<std::string_view>>& IdsInFiles() {
       {"name-taken", {"name-taken"}},
       {"fun-name-hides-bot",
        {"description-quote", "no-aifile", "fun-name-hides-character",
-        "description-sign"}},
+        "description-sign", "open-comment"}},
       {"fun-name-forbidden-character",
        {"description-sign", "description-more-words"}},
       {"description-too-large", {"description-too-large"}},

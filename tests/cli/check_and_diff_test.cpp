@@ -298,6 +298,15 @@ TEST_F(CheckAndDiff, SaysNothingOfValuesThatItDoesNotKnow) {
   const Outcome broken = Run("check @bots --all");
   EXPECT_EQ(broken.status, 1) << broken.out;
   EXPECT_THAT(broken.out, Not(HasSubstr("at level 4")));
+  // A level that only the game sees has values, and they are the file's.
+  for (const std::string& level :
+       {"skill 0x4", "#if 1\nskill 4\n#else\nskill 9\n#endif\n"}) {
+    folder_.Write("bots/rookie_c.c",
+                  good.substr(0, begin) + level + good.substr(begin + 7));
+    const Outcome odd = Run("check @bots --all");
+    EXPECT_EQ(odd.status, 0) << odd.out;
+    EXPECT_THAT(odd.out, Not(HasSubstr("at level 4"))) << level;
+  }
   // A key that is missing has the default character's value, which is not 0.
   const std::size_t key = good.find("CHARACTERISTIC_VIEW_MAXCHANGE", begin);
   const std::size_t line_end = good.find('\n', key);

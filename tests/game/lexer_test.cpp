@@ -36,6 +36,7 @@ TEST(GameLexer, TakesTokensApart) {
       {R"("a\\b\"\x41\65\n")", "\"a\\b\"AA\n\""},
       {R"("ab\qcd" "e")", "\"ab\""},
       {R"("a\300b")", "\"a\xFF\x62\""},
+      {R"("\xZZ b\x4g")", "\"\xFF bP\""},
       {"\xEF\xBB\xBF a \x01 b \x7F", "a b <unreadable>"},
       {"a /* b", "a"},
       {std::string_view("a\0b", 3), "a"},
@@ -112,6 +113,12 @@ TEST(GameLexer, CountsLinesAndKeepsLimits) {
   EXPECT_EQ(token.lines_crossed, 2);
   EXPECT_EQ(lexer.Next(token), GameLexer::Outcome::kLineEndInString);
   EXPECT_EQ(token.line, 3);
+  // The lines inside a text are none in front of it.
+  lexer = GameLexer("\"a\"\n\"b\" c");
+  lexer.Next(token);
+  EXPECT_EQ(token.lines_crossed, 0);
+  lexer.Next(token);
+  EXPECT_EQ(token.lines_crossed, 0);
 
   using Outcome = GameLexer::Outcome;
   const auto read = [&](const std::string& bytes) {
@@ -174,8 +181,8 @@ TEST(GameSource, FollowsTheGamesPreprocessor) {
       {"#define A 1\n#define A 2\nA", "2 defined-twice@2"},
       {"#define A 1\n#undef A\nA", "A"},
       {"#define A \"b\"\nx \"a\" A \"c\"", "x \"abc\""},
-      // Two texts that are one text in two lines: the macro has none.
-      {"#define A \"b\"\n\"c\" A", "\"bc\" empty-macro@2"},
+      // Two texts that are one text in two lines, and what stands behind it.
+      {"#define A \"b\"\n\"c\" d\nA", "\"bc\" d"},
       {"#if 0\na\n#else\nb\n#endif\nc", "b c"},
       {"#if 1\na\n#else\nb\n#endif\nc", "a c"},
       {"#ifdef X\n#if NO\n#endif\na\n#endif\nb", "b"},
