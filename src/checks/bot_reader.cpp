@@ -121,7 +121,8 @@ bool BotReader::HasNoWeapons(const CharacterValue& items) {
       Find(items.text, KindOfWeights(false), CharacterName(), items.line);
   if (!file) return false;
   Complaints untold;
-  return FaultOfKind(*file, ReadGameWeights(*file, game_, untold), true)
+  return FaultOfKind(*file, ReadGameWeights(*file, game_, untold), true,
+                     {.file = CharacterName(), .line = items.line})
       .has_value();
 }
 
