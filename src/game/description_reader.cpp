@@ -233,6 +233,7 @@ class SetReader {
   void TellEquals(const std::string& key, const std::string& value,
                   TextSpan span) {
     std::string_view before = key;
+    const std::string_view without_last = before.substr(0, key.size() - 1);
     before = before.substr(0, before.find('='));
     if (before.size() < key.size() && IsKnownKey(before)) {
       Complain("description-equals", LossOf(before),
@@ -250,12 +251,11 @@ class SetReader {
                    ". Remove the =: the value stands behind its key, with a "
                    "blank between them.",
                key);
-    } else if (key.ends_with(':') &&
-               IsKnownKey(key.substr(0, key.size() - 1))) {
+    } else if (key.ends_with(':') && IsKnownKey(without_last)) {
       Complain("description-colon", Severity::kWarning,
                "The game does not know the key " + Quoted(key) +
                    " and passes over this line. Remove the colon.",
-               std::string_view(key).substr(0, key.size() - 1));
+               without_last);
     } else {
       return;
     }
