@@ -50,6 +50,7 @@ BotLocation InFolder(const fs::path& folder, const std::string& name) {
 std::vector<BotLocation> InPackage(const fs::path& package,
                                    const std::vector<BotListEntry>& bots) {
   std::vector<BotLocation> found;
+  found.reserve(bots.size());
   for (const BotListEntry& bot : bots) {
     found.push_back({.name = bot.Name,
                      .folder = {},

@@ -207,9 +207,8 @@ bool GameSource::Include() {
 /// A text below the line is joined to the name.
 bool GameSource::ComplainOfJoinedName(GameToken name) {
   if (name.file != 0) return false;
-  const std::string_view text =
-      std::string_view(file_.bytes)
-          .substr(name.span.begin, name.span.end - name.span.begin);
+  std::string_view text = file_.bytes;
+  text = text.substr(name.span.begin, name.span.end - name.span.begin);
   const auto lines = std::count(text.begin(), text.end(), '\n');
   if (lines == 0) return false;
   name.line -= static_cast<int>(lines);
