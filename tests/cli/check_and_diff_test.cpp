@@ -299,7 +299,7 @@ TEST_F(CheckAndDiff, SaysNothingOfValuesThatItDoesNotKnow) {
   EXPECT_EQ(broken.status, 1) << broken.out;
   EXPECT_THAT(broken.out, Not(HasSubstr("at level 4")));
   // A level that only the game sees has values, and they are the file's.
-  for (const std::string& level :
+  for (const char* const level :
        {"skill 0x4", "#if 1\nskill 4\n#else\nskill 9\n#endif\n"}) {
     folder_.Write("bots/rookie_c.c",
                   good.substr(0, begin) + level + good.substr(begin + 7));
