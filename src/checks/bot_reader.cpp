@@ -343,7 +343,7 @@ bool BotReader::Weights(const std::string& path, bool are_weapons,
     if (are_weapons) {
       CheckWeaponNames(*file, read, game_, complaints_);
       // What is lost to an error is told with that.
-      if (!complaints_.HasError(first)) {
+      if (!weaponless_ && !complaints_.HasError(first)) {
         weaponless_ = NoWeaponAtStart(*file, read, files_.is_game_known);
       }
     }
