@@ -26,13 +26,6 @@ bool IsOptional(int number) {
          number >= 47;
 }
 
-/// The characteristics that are texts.
-bool IsText(int number) {
-  constexpr std::array kTexts = {
-      0, 1, kGameWeaponWeights, kGameChatFile, kGameChatName, kGameItemWeights};
-  return std::find(kTexts.begin(), kTexts.end(), number) != kTexts.end();
-}
-
 /// False for what no known game reads.
 bool IsReadKey(std::string_view key) {
   return std::none_of(
@@ -131,7 +124,7 @@ class CharacterFileChecker {
   void CheckTexts(int level, const CharacterLevel& loaded) {
     for (const auto& [number, value] : loaded.block.values) {
       if (!value.is_own || value.kind != CharacterValue::Kind::kText ||
-          IsText(number) ||
+          IsGameText(number) ||
           static_cast<std::size_t>(number) >= kGameCharacteristics.size()) {
         continue;
       }

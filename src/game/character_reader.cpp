@@ -51,14 +51,7 @@ class BlockFaults {
     if (!in_number_ && (value.Is("}") || value.Is("skill"))) {
       return TellNoValue(without_value_.value_or(key));
     }
-    constexpr std::array kTexts = {0,
-                                   1,
-                                   kGameWeaponWeights,
-                                   kGameChatFile,
-                                   kGameChatName,
-                                   kGameItemWeights};
-    const bool is_number_wanted =
-        !std::ranges::count(kTexts, static_cast<int>(key.number));
+    const bool is_number_wanted = !IsGameText(static_cast<int>(key.number));
     std::string_view from = value.text;
     if (value.file == 0) from = source_.bytes().substr(value.span.begin);
     Tell("bad-value", value, BadValueText(value, is_number_wanted, from));
@@ -167,6 +160,13 @@ std::optional<CharacterBlock> ReadDefault(std::optional<int> level,
 }
 
 }  // namespace
+
+bool IsGameText(int number) {
+  // Name and gender are the first two.
+  constexpr std::array kTexts = {
+      0, 1, kGameWeaponWeights, kGameChatFile, kGameChatName, kGameItemWeights};
+  return std::ranges::find(kTexts, number) != kTexts.end();
+}
 
 std::optional<CharacterBlock> ReadCharacterBlock(const GameFile& file,
                                                  std::optional<int> level,

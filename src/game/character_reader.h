@@ -17,6 +17,9 @@ inline constexpr int kGameChatFile = 21;
 inline constexpr int kGameChatName = 22;
 inline constexpr int kGameItemWeights = 40;
 
+/// True for the game's number of a characteristic that is a text.
+bool IsGameText(int number);
+
 /// Where the game has a value from.
 enum class CharacterOrigin {
   kOwn,       ///< The wanted level of the bot's file.
