@@ -45,7 +45,7 @@ constexpr std::array kChecks = {
     Check{"chat-control-character", kError, CheckLineControls, kByFiles},
     Check{"chat-too-long", kError, CheckLineLength, kByFiles},
 
-    Check{"identity-not-read-back", kWarning, CheckReadBack},
+    Check{kNotReadBack, kWarning, CheckReadBack},
     Check{"name-too-long-for-menus", kWarning, CheckNameForMenus},
     Check{"files-shadowed", kWarning, CheckFilesAreShadowed},
     Check{"too-many-bots", kWarning, CheckDescriptionCount},

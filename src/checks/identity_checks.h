@@ -25,6 +25,7 @@ void CheckRailColor(const CheckContext& context, FindingList& findings);
 void CheckArenaLord(const CheckContext& context, FindingList& findings);
 void CheckDescriptionSize(const CheckContext& context, FindingList& findings);
 
+inline constexpr std::string_view kNotReadBack = "identity-not-read-back";
 /// What a load would make of the bot's own files once they are saved.
 void CheckReadBack(const CheckContext& context, FindingList& findings);
 

@@ -6,8 +6,11 @@
 #include <utility>
 
 #include "botfiles/header_comment.h"
+#include "checks/bot_checks.h"
+#include "checks/identity_checks.h"
 #include "cli/bot_source.h"
 #include "cli/command.h"
+#include "cli/terminal.h"
 #include "game/game_lookup.h"
 #include "game/stand_ins.h"
 #include "inplace/described_bots.h"
@@ -71,6 +74,14 @@ Result<void> SpareOthers(const Bot& bot, const SavePlan& plan,
   return {};
 }
 
+/// Names that come back as others when the files are loaded.
+void TellNotReadBack(const Bot& bot, CommandContext& context) {
+  for (const Finding& finding : CheckBot(bot, nullptr)) {
+    if (finding.id != kNotReadBack) continue;
+    context.err << Printable(finding.text) << '\n';
+  }
+}
+
 ExitStatus RunMake(const MakeOptions& options, CommandContext& context) {
   Result<BotDocument> document = ReadDocument(options.document, context);
   if (!document) return Fail(context, document.error());
@@ -116,6 +127,7 @@ ExitStatus RunMake(const MakeOptions& options, CommandContext& context) {
       !may) {
     return Fail(context, may.error());
   }
+  TellNotReadBack(document->bot, context);
   const SavedBot saved =
       SaveFiles(document->bot, plan, author, context.prompts);
   for (const std::filesystem::path& path : saved.written) {

@@ -226,7 +226,7 @@ std::string LevelFact(Level level, int game_number) {
 }
 
 std::string MacroFact(std::string_view name) {
-  return "macro " + std::string(name);
+  return "macro " + std::string(name) + '.';
 }
 
 std::string OwnWeightFact(std::size_t index) {

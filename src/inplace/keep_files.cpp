@@ -19,6 +19,7 @@
 #include "inplace/save_in_place.h"
 #include "inplace/splice.h"
 #include "support/code_page.h"
+#include "support/files.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -174,6 +175,13 @@ Notes Keep(const Bot& bot, const BotHome& home, const IncludeLookup& game,
     const auto refuse = [&notes, &edit = edit](const std::string& why) {
       notes.Add({edit.shown, 0, "The file was written anew. " + why});
     };
+    if (edit.origin.is_on_disk() && !IsFile(edit.origin.path)) {
+      notes.Add({edit.shown, 0,
+                 "The file is not there any more. '" +
+                     Utf8FromPath(plan.files.at(kind).filename()) +
+                     "' was made without what its author wrote."});
+      continue;
+    }
     if (edit.outcome == FileEdit::Outcome::kNotEditable) {
       refuse(edit.reason.what);
       continue;

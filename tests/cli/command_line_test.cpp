@@ -230,6 +230,9 @@ TEST_F(CommandLine, SparesWhatOthersMade) {
                         "1. Choose"));
   EXPECT_EQ(folder_.Read("to/bot-Rookie.pk3"), package);
 
+  EXPECT_THAT(Run("make - --into @odd", Run("new --name Mytype").out).err,
+              HasSubstr("\"Mytype\" does not survive saving and loading"));
+
   // What was made by hand is kept each time, and said.
   EXPECT_THAT(Run("make - --into @to", document).err,
               HasSubstr("rookie_c.c' was not made by Fragsmith. It is kept as "
