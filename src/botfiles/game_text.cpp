@@ -152,6 +152,10 @@ std::string_view FirstToken(std::string_view text) {
   return text.substr(0, static_cast<std::size_t>(end - text.begin()));
 }
 
+bool HasOldLineEnds(std::string_view bytes) {
+  return Contains(bytes, "\r") && !Contains(bytes, "\n");
+}
+
 Value PlainValue(std::string_view token) {
   if (token.empty()) return {};
   const std::optional<double> number = NumberFromText(token);

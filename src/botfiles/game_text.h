@@ -40,6 +40,9 @@ class CommentStripper {
 /// at the end.
 std::string_view TakeWord(std::string_view& code);
 
+/// True where CR alone ends the lines. To the game they are all one.
+bool HasOldLineEnds(std::string_view bytes);
+
 /// A word without its quotes, where it has some.
 std::string_view WithoutQuotes(std::string_view word);
 

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "botfiles/game_text.h"
 #include "game/lexer.h"
 #include "support/text.h"
 
@@ -89,7 +90,7 @@ std::optional<Complaint> FaultOfBytes(const GameFile& file) {
         "in it. Save it as plain text: in Notepad choose ANSI under Encoding.";
     return fault;
   }
-  if (Contains(bytes, "\r") && !Contains(bytes, "\n") &&
+  if (HasOldLineEnds(bytes) &&
       (Contains(bytes, "//") || Contains(bytes, "#"))) {
     fault.id = "old-line-ends";
     fault.text =

@@ -175,6 +175,14 @@ void ReadBotFile(BotFile file, const LoadedPart& part, std::string_view bytes,
                           "game passes over it on PCs; a file made anew has "
                           "none."});
   }
+  if (HasOldLineEnds(bytes)) {
+    loaded.notes.Add(
+        {.file = shown,
+         .line = 1,
+         .text = "The lines end as on old Macintosh computers: for the game "
+                 "the file is all one line. A file made anew has the usual "
+                 "ends."});
+  }
   switch (file) {
     case BotFile::kDescription: {
       const DescriptionReport report =

@@ -139,6 +139,16 @@ TEST_F(LoadBotTest, MissesNoDescriptionThatAnotherOneHas) {
   }
 }
 
+TEST_F(LoadBotTest, TellsOfOldLineEnds) {
+  Save("bot");
+  std::string items = folder_.Read("bot/rookie_i.c");
+  std::erase(items, '\n');
+  folder_.Write("bot/rookie_i.c", items);
+  EXPECT_THAT(Load("rookie", "bot").notes.list(),
+              testing::ElementsAre(testing::Field(
+                  &Note::text, testing::HasSubstr("all one line"))));
+}
+
 TEST_F(LoadBotTest, TellsOfAByteOrderMark) {
   Save("bot");
   for (const char* const name : {"rookie_c.c", "rookie_w.c", "rookie.bot"}) {

@@ -15,18 +15,18 @@ namespace {
 
 /// As the links in the text write a chapter: "why-does-my-bot-not-appear".
 QString LinkOf(const QString& heading) {
-  static const QRegularExpression other(QStringLiteral("[^a-z0-9 -]"));
-  return heading.toLower().remove(other).replace(u' ', u'-');
+  static const QRegularExpression kOther(QStringLiteral("[^a-z0-9 -]"));
+  return heading.toLower().remove(kOther).replace(u' ', u'-');
 }
 
 /// Without its pictures, which show what stands beside the manual anyway.
 QString Text() {
   QFile file(QStringLiteral(":/manual/manual.md"));
   if (!file.open(QIODevice::ReadOnly)) return {};
-  static const QRegularExpression picture(
+  static const QRegularExpression kPicture(
       QStringLiteral("^!\\[[^\\]]*\\]\\([^)]*\\)\\n"),
       QRegularExpression::MultilineOption);
-  return QString::fromUtf8(file.readAll()).remove(picture);
+  return QString::fromUtf8(file.readAll()).remove(kPicture);
 }
 
 }  // namespace

@@ -68,6 +68,7 @@ std::size_t QtPrompts::Choose(const std::string& title, const std::string& text,
                   QString::fromStdString(text), QMessageBox::NoButton,
                   TopWindow());
   std::vector<QAbstractButton*> made;
+  made.reserve(buttons.size());
   for (const std::string& button : buttons) {
     made.push_back(box.addButton(
         QString::fromStdString(button),

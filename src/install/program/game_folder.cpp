@@ -76,7 +76,7 @@ bool HasGameProgram(const fs::path& gameFolder) {
 }
 
 fs::path PackageFolder(const fs::path& gameFolder) {
-  const fs::path exact = gameFolder / kStandardFolder;
+  fs::path exact = gameFolder / kStandardFolder;
   if (gameFolder.empty() || FindFile(exact, kGamePackage)) return exact;
   std::optional<fs::path> standard;
   if (IsFolder(exact)) standard = exact;
