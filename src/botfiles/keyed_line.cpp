@@ -75,10 +75,10 @@ std::string_view ValueTextOf(std::string_view line, int index) {
 ValueReader::ValueReader(std::string file, Bot& bot, ReadReport& report)
     : file_(std::move(file)), bot_(bot), report_(report) {}
 
-void ValueReader::AddNote(std::size_t line, std::string text) {
+void ValueReader::AddNote(std::size_t line, std::string text, NoteKind kind) {
   // More are not kept in any case.
   if (notes_.size() > Notes::kMax) return;
-  notes_.push_back({file_, line, std::move(text)});
+  notes_.push_back({file_, line, std::move(text), kind});
 }
 
 ValueReader::Seen& ValueReader::SeenOf(ParameterId id) {
@@ -163,10 +163,10 @@ void ValueReader::Compare(ParameterId id, const Seen& seen) {
   if (seen.is_told) return;
   const std::string what = Describe(id) + ": ";
   if (seen.line == 0) {
-    AddNote(seen.plain_line, what +
-                                 "not read from this line, where the game "
-                                 "takes " +
-                                 Shown(plain) + ".");
+    AddNote(seen.plain_line,
+            what + "not read from this line, where the game takes " +
+                Shown(plain) + ".",
+            NoteKind::kUnreadLine);
   } else if (!seen.plain) {
     AddNote(seen.line, what + "read as " + Shown(read) + ", but the line " +
                            (seen.is_comment ? "is a comment for the game."

@@ -63,7 +63,8 @@ class ValueReader {
   void TakeAsGame(std::size_t line, ParameterId id, Value value,
                   IsTold is_told = IsTold::kNo);
 
-  void AddNote(std::size_t line, std::string text);
+  void AddNote(std::size_t line, std::string text,
+               NoteKind kind = NoteKind::kOther);
 
   /// Compares, once all lines are taken, and puts the notes in the order of
   /// the lines.

@@ -85,7 +85,16 @@ void LeftOut::AddInclude(std::string_view directive, std::size_t line) {
   const bool is_ours =
       word == "#include" && TakeWord(rest).empty() &&
       std::find(includes_.begin(), includes_.end(), name) != includes_.end();
-  if (!is_ours) return AddText(directive, line);
+  if (!is_ours) {
+    // Weight code of another game stands in the place of ours.
+    constexpr std::string_view kScript = ".c";
+    if (word == "#include" && EndsWithIgnoringCase(name, kScript)) {
+      std::erase_if(missing_includes_, [kScript](const std::string& one) {
+        return one.ends_with(kScript);
+      });
+    }
+    return AddText(directive, line);
+  }
   std::erase(missing_includes_, name);
 }
 

@@ -8,6 +8,8 @@
 #include "cli/terminal.h"
 #include "inplace/bot_edits.h"
 #include "inplace/described_bots.h"
+#include "inplace/edit_in_place.h"
+#include "inplace/file_reading.h"
 #include "session/document_edits.h"
 #include "session/save_bot.h"
 #include "support/code_page.h"
@@ -56,6 +58,26 @@ std::optional<Bot> EditedBotOf(const EditOptions& options,
     return std::nullopt;
   }
   return std::move(edited->bot);
+}
+
+/// The bot as the edit finds it. A value that is set to what a load shows, but
+/// not to what the game has, is a change of the game's.
+Bot BotBefore(const LoadedBot& loaded, const std::vector<ValueAtPath>& values,
+              const Bot& after) {
+  Bot as_game = loaded.bot;
+  for (const auto& [id, value] : loaded.plain_values) as_game.Put(id, value);
+  Notes untold;
+  const Result<EditedBot> edited =
+      EditByDocument(as_game, {}, {}, values, untold);
+  Bot before = loaded.bot;
+  if (!edited) return before;
+  for (const auto& [id, value] : loaded.plain_values) {
+    const bool is_set = FactOf(edited->bot.Parameter(id)) != FactOf(value);
+    const bool is_shown =
+        FactOf(after.Parameter(id)) == FactOf(loaded.bot.Parameter(id));
+    if (is_set && is_shown) before.Put(id, value);
+  }
+  return before;
 }
 
 /// A package that is not the bot's own is left as its author made it.
@@ -144,15 +166,16 @@ ExitStatus RunEdit(const EditOptions& options, CommandContext& context) {
   const LoadedBot& loaded = outcome.bot->loaded;
   std::optional<Bot> after = EditedBotOf(options, values, loaded.bot, context);
   if (!after) return kFailed;
+  const Bot before = BotBefore(loaded, values, *after);
   for (const auto& [kind, fault] : loaded.unread) {
-    if (ChangesIn(kind, loaded.bot, *after).empty()) continue;
+    if (ChangesIn(kind, before, *after).empty()) continue;
     return Fail(context, fault);
   }
   const IncludeLookup look_up =
       GameLookUpFor(options.source, outcome.bot->location, context);
   const Notes kept =
       KeepLinesElsewhere(loaded.files, loaded.bot, *after, look_up);
-  BotEdits edits = EditBotFiles(loaded.files, loaded.bot, *after, look_up);
+  BotEdits edits = EditBotFiles(loaded.files, before, *after, look_up);
   if (!edits.IsEditable()) {
     TellRefusals(edits, context);
     return kFailed;

@@ -91,10 +91,12 @@ Bot AsInFile(const BothReaders& readers, std::string_view bytes,
     take(std::get<ParameterId>(change));
     if (change == FileChange(kModelField)) take(kSkinField);
   }
-  for (const FoundWeight& found : reading.found) {
-    if (!reading.report.given.contains(found.parameter)) {
-      now.Put(found.parameter, found.own.number);
-    }
+  const BotFile kind = readers.file().kind;
+  if (kind != BotFile::kWeaponWeights && kind != BotFile::kItemWeights) {
+    return now;
+  }
+  for (const FoundWeight& found : UnreadWeights(kind, bytes, reading)) {
+    now.Put(found.parameter, found.own.number);
   }
   return now;
 }

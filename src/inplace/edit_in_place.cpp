@@ -10,6 +10,7 @@
 #include "inplace/attempt.h"
 #include "model/characteristic_catalogue.h"
 #include "session/identity_rules.h"
+#include "support/code_page.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -149,6 +150,23 @@ std::optional<std::string> FaultOf(const Attempt& attempt,
   return std::nullopt;
 }
 
+/// Our reader takes a comment behind a number along, and has a text then.
+void NoteComment(const FileReading& reading, std::string_view bytes,
+                 ParameterId id, const Value& value, Plan& plan) {
+  const auto spans = reading.report.spans.find(id);
+  const Value& read = reading.bot.Parameter(id);
+  if (!ToNumber(value) || ToNumber(read) ||
+      spans == reading.report.spans.end()) {
+    return;
+  }
+  plan.notes.push_back(
+      QuotedName(id) + " is now " + FormatValue(value) +
+      " for the game, but a load reads \"" + ShownText(ToText(read)) +
+      "\" from line " +
+      std::to_string(LineNumberAt(bytes, spans->second.back().begin)) +
+      ". Put the comment in a line of its own.");
+}
+
 /// Given in the order of the file, as CommentsIn has them.
 bool TouchesComment(const Attempt& attempt,
                     const std::vector<TextSpan>& comments) {
@@ -278,7 +296,7 @@ Result<std::string> EditInPlace(const BothReaders& readers,
   spellings.insert(readers.file().spellings.begin(),
                    readers.file().spellings.end());
   for (const FileChange& change : changes) {
-    const Plan plan =
+    Plan plan =
         PlanFor({readers, reading, edited, after, chooser, spellings}, change);
     std::string refusal = plan.refusal;
     bool is_done = plan.is_needless;
@@ -299,6 +317,10 @@ Result<std::string> EditInPlace(const BothReaders& readers,
         break;
       }
       if (refusal.empty()) refusal = std::move(*fault);
+    }
+    if (const auto* const id = std::get_if<ParameterId>(&change);
+        id != nullptr && readers.file().kind != BotFile::kDescription) {
+      NoteComment(reading, edited, *id, after.Parameter(*id), plan);
     }
     for (const std::string& note : plan.notes) {
       if (is_done && notes != nullptr) {

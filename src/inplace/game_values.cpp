@@ -25,6 +25,13 @@ bool IsOddNumber(const GameToken& token) {
          token.text.find_first_not_of("0123456789.") != std::string::npos;
 }
 
+/// Other weight code than our files include may have macros of its own.
+bool IsOtherScript(std::string_view name) {
+  return EndsWithIgnoringCase(name, ".c") &&
+         !EqualIgnoringCase(name, "fw_weap.c") &&
+         !EqualIgnoringCase(name, "fw_items.c");
+}
+
 /// Files hold no more than a float does.
 bool IsSameNumber(const Value& value, double number) {
   const std::optional<double> known = ToNumber(value);
@@ -98,13 +105,16 @@ bool NeedsGameReader(std::string_view bytes) {
   GameLexer lexer(bytes);
   GameToken token;
   bool is_command = false;
+  bool is_include = false;
   while (lexer.Next(token) == GameLexer::Outcome::kToken) {
     const bool is_odd =
         (token.kind == GameToken::Kind::kNumber && IsOddNumber(token)) ||
         (token.kind == GameToken::Kind::kString && IsNumericText(token.text)) ||
         token.Is("-") || token.Is("+") ||
+        (is_include && IsOtherScript(token.text)) ||
         (is_command && !token.Is("include") && !token.Is("define"));
     if (is_odd) return true;
+    is_include = is_command && token.Is("include");
     is_command = token.Is("#");
   }
   return false;
@@ -119,7 +129,12 @@ void TakeGameNumbers(BotFile kind, const std::string& shown,
   OddNumbers numbers(loaded);
   TakeLevels(readers, reading, numbers);
   for (const FoundWeight& found : reading.found) {
-    if (reading.report.given.contains(found.parameter)) {
+    const bool is_one_of_many =
+        std::ranges::any_of(found.others, [&](const OwnNumber& other) {
+          return IsSameNumber(loaded.bot.Parameter(found.parameter),
+                              other.number);
+        });
+    if (reading.report.spans.contains(found.parameter) && !is_one_of_many) {
       numbers.Take(found.parameter, found.own.number);
     }
   }

@@ -11,7 +11,8 @@
 namespace fragsmith {
 
 /// Whether a file has something that only the game's own reader understands:
-/// an #if, a number written in a way of its own, a number as text, a sign.
+/// an #if, a number written in a way of its own, a number as text, a sign,
+/// weight code of another game.
 bool NeedsGameReader(std::string_view bytes);
 
 /// Makes of such a file's numbers, just read from it into the bot, those that

@@ -8,13 +8,30 @@
 #include "botfiles/left_out.h"
 #include "botfiles/weight_file.h"
 #include "chat/vocabulary.h"
-#include "inplace/file_reading.h"
+#include "inplace/attempt.h"
 #include "inplace/splice.h"
+#include "model/characteristic_catalogue.h"
 #include "support/code_page.h"
+#include "support/numbers.h"
 #include "support/text.h"
 
 namespace fragsmith {
 namespace {
+
+IndexRange RangeOf(BotFile kind) {
+  return kind == BotFile::kWeaponWeights ? kWeaponWeightRange
+                                         : kItemWeightRange;
+}
+
+/// The number of a plain macro, as the game takes it.
+double GameNumberOf(const OwnMacro& macro, const WeightsRead& weights) {
+  for (const GameWeight& weight : weights.weights) {
+    for (const WeightReturn& way : weight.returns) {
+      if (way.own && way.own->span == macro.value) return way.own->number;
+    }
+  }
+  return NumberFromText(macro.text).value_or(0);
+}
 
 /// Macros of the file that are no weights of the bot.
 void NoteOthers(const std::string& shown, std::string_view bytes,
@@ -32,7 +49,10 @@ void NoteOthers(const std::string& shown, std::string_view bytes,
                                        [&macro](const OwnNumber& number) {
                                          return macro.value.Holds(number.span);
                                        });
-    if (is_weight) continue;
+    const bool is_read = std::ranges::any_of(
+        reading.report.given,
+        [&](ParameterId id) { return MacroOf(reading.weights, id) == &macro; });
+    if (is_weight || is_read) continue;
     names.Add(ShownText(macro.name));
     const std::size_t line = LineNumberAt(bytes, macro.value.begin);
     first_line = count++ == 0 ? line : std::min(first_line, line);
@@ -49,8 +69,7 @@ std::vector<ParameterId> WithoutNumber(BotFile kind,
                                        const FileReading& reading) {
   std::vector<ParameterId> missing;
   bool has_own_way = false;
-  for (const int index : kind == BotFile::kWeaponWeights ? kWeaponWeightRange
-                                                         : kItemWeightRange) {
+  for (const int index : RangeOf(kind)) {
     const ParameterId id(index);
     if (reading.report.given.contains(id)) continue;
     if (IsFound(reading, id)) {
@@ -63,6 +82,34 @@ std::vector<ParameterId> WithoutNumber(BotFile kind,
 }
 
 }  // namespace
+
+const OwnMacro* MacroOf(const WeightsRead& weights, ParameterId id) {
+  constexpr std::string_view kDefine = "#define ";
+  const auto found = std::ranges::find(
+      weights.macros, BareKey(id.index()).substr(kDefine.size()),
+      &OwnMacro::name);
+  return found == weights.macros.end() ? nullptr : &*found;
+}
+
+std::vector<FoundWeight> UnreadWeights(BotFile kind, std::string_view bytes,
+                                       const FileReading& reading) {
+  std::vector<FoundWeight> unread;
+  for (const int index : RangeOf(kind)) {
+    const ParameterId id(index);
+    if (reading.report.spans.contains(id)) continue;
+    const auto found =
+        std::ranges::find(reading.found, id, &FoundWeight::parameter);
+    const OwnMacro* const macro = MacroOf(reading.weights, id);
+    if (found != reading.found.end()) {
+      unread.push_back(*found);
+    } else if (macro != nullptr && IsNumericText(macro->text) &&
+               IsOneLine(bytes, macro->value)) {
+      unread.push_back(
+          {id, {macro->value, GameNumberOf(*macro, reading.weights)}, {}});
+    }
+  }
+  return unread;
+}
 
 std::vector<ParameterId> WeightsWithoutNumber(BotFile kind,
                                               std::string_view bytes,
@@ -88,22 +135,30 @@ void TakeGameWeights(BotFile kind, const std::string& shown,
   const FileReading reading = readers.Read(bytes);
   NameList pairs;
   NameList unsure;
-  for (const FoundWeight& found : reading.found) {
-    if (reading.report.given.contains(found.parameter)) continue;
+  bool has_own_way = false;
+  for (const FoundWeight& found : UnreadWeights(kind, bytes, reading)) {
     loaded.bot.Put(found.parameter, found.own.number);
+    loaded.plain_values.erase(found.parameter);
+    loaded.notes.Remove(shown, NoteKind::kUnreadLine,
+                        LineNumberAt(bytes, found.own.span.begin));
+    has_own_way =
+        has_own_way || !reading.report.given.contains(found.parameter);
     const std::string name = QuotedName(found.parameter);
     pairs.Add(name + " from " + SourceOf(found.own, reading.weights, bytes));
     if (!found.others.empty()) unsure.Add(name);
   }
   if (!pairs.empty()) {
     loaded.notes.Remove(shown, NoteKind::kNoWeights);
-    loaded.notes.Remove(shown, NoteKind::kAlsoInFile);
     loaded.notes.Add({shown, 0,
                       "Weights that the file sets in its own way, as the "
                       "game's weight code takes them: " +
                           pairs.Text() + "."});
   }
-  if (!pairs.empty()) NoteOthers(shown, bytes, reading, loaded.notes);
+  if (has_own_way) {
+    loaded.notes.Remove(shown, NoteKind::kMissingWeights);
+    loaded.notes.Remove(shown, NoteKind::kAlsoInFile);
+    NoteOthers(shown, bytes, reading, loaded.notes);
+  }
   NameList missing;
   for (const ParameterId id : WithoutNumber(kind, reading)) {
     missing.Add(QuotedName(id));

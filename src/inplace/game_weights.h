@@ -7,6 +7,8 @@
 
 #include "game/preprocessor.h"
 #include "game/weight_reader.h"
+#include "game/weight_vocabulary.h"
+#include "inplace/file_reading.h"
 #include "session/load_bot.h"
 
 namespace fragsmith {
@@ -14,6 +16,15 @@ namespace fragsmith {
 /// Where a number of the bot's own file stands: "SGW (line 12)".
 std::string SourceOf(const OwnNumber& own, const WeightsRead& weights,
                      std::string_view bytes);
+
+/// The file's macro by which our files give the weight; null without one.
+const OwnMacro* MacroOf(const WeightsRead& weights, ParameterId id);
+
+/// The weights that our reader finds in no line of the file, and the game does:
+/// under other macros, as numbers, or in a spelling of the line that is its
+/// own.
+std::vector<FoundWeight> UnreadWeights(BotFile kind, std::string_view bytes,
+                                       const FileReading& reading);
 
 /// The weights for which a file, that sets others in its own way, gives the
 /// game's weight code no number, or no single one.

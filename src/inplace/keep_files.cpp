@@ -233,12 +233,14 @@ Notes KeepAuthorsFiles(const Bot& bot, const BotHome& home,
   return Keep(bot, home, game, chooser, Place::kAsPlanned, plan);
 }
 
-Notes KeepFilesUnderNewName(const SaveInPlace& save, SavePlan& plan) {
+Notes KeepFilesUnderNewName(const SaveInPlace& save, SavePlan& plan,
+                            bool& is_cancelled) {
   const BotHome& home = save.home;
   if (home.loaded == nullptr || home.files.empty()) return {};
   SavePlan kept = plan;
-  const Notes notes = Keep(save.bot, home, save.game,
-                           AskForNumber(save.prompts), Place::kElsewhere, kept);
+  const Notes notes =
+      Keep(save.bot, home, save.game, AskForNumber(save.prompts, is_cancelled),
+           Place::kElsewhere, kept);
   const Bot& before = home.saved ? *home.saved : *home.loaded;
   const BotEdits edits =
       EditBotFiles(home.files, before, save.bot, save.game,

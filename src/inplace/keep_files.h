@@ -18,7 +18,9 @@ bool HasFilesToKeep(const Bot& bot, const BotHome& home);
 
 /// The same for a bot whose files on disk are saved under another name or
 /// packed for the game: those that are not of our own making stay as they are.
-Notes KeepFilesUnderNewName(const SaveInPlace& save, SavePlan& plan);
+/// The flag says that the user cancelled.
+Notes KeepFilesUnderNewName(const SaveInPlace& save, SavePlan& plan,
+                            bool& is_cancelled);
 
 /// Gives a plan to write the bot somewhere new the files as their author wrote
 /// them, with what was edited since and under the names that they get there.

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <utility>
 
+#include "botfiles/left_out.h"
 #include "botfiles/value_format.h"
 #include "chat/vocabulary.h"
 #include "inplace/attempt.h"
@@ -19,19 +20,12 @@ namespace {
 
 constexpr std::string_view kDefine = "#define ";
 
-const OwnMacro* FindMacro(const FileReading& reading, std::string_view name) {
-  for (const OwnMacro& macro : reading.weights.macros) {
-    if (macro.name == name) return &macro;
-  }
-  return nullptr;
-}
-
 /// True for the value of our macro for the weight, where no other macro of the
 /// file stands for it: all that the game's code then makes of it goes along.
 bool IsOurMacroAlone(const FileReading& reading, ParameterId id,
                      TextSpan span) {
   const std::string_view name = BareKey(id.index()).substr(kDefine.size());
-  const OwnMacro* const ours = FindMacro(reading, name);
+  const OwnMacro* const ours = MacroOf(reading.weights, id);
   return ours != nullptr && ours->value.Holds(span) &&
          std::none_of(reading.weights.macros.begin(),
                       reading.weights.macros.end(),
@@ -52,6 +46,12 @@ void ExpectWeights(const FileReading& reading, ParameterId id, TextSpan span,
     attempt.expected[WeighedFact(id)] = FactOf(found, attempt.numbers);
   }
   const bool is_ours = IsOurMacroAlone(reading, id, span);
+  // The game reads our macro in a line that our reader knows not.
+  const OwnMacro* const ours = MacroOf(reading.weights, id);
+  if (ours != nullptr && ours->value.Holds(span) &&
+      !reading.report.spans.contains(id) && reading.report.given.contains(id)) {
+    attempt.expected[PlainFact(id)] = FactOf(value);
+  }
   for (const OwnMacro& macro : reading.weights.macros) {
     if (macro.value == span) {
       attempt.expected[MacroFact(macro.name)] = token;
@@ -147,8 +147,7 @@ Plan PlanNewMacro(const PlanContext& context, ParameterId id,
                       "makes it out of several."};
   }
   const auto span_of = [&](int index) {
-    const OwnMacro* const macro =
-        FindMacro(reading, BareKey(index).substr(kDefine.size()));
+    const OwnMacro* const macro = MacroOf(reading.weights, ParameterId(index));
     if (macro != nullptr && !macro->value.empty()) return macro->value;
     return LastSpan(context, ParameterId(index));
   };
@@ -182,9 +181,30 @@ Plan PlanNewMacro(const PlanContext& context, ParameterId id,
   return plan;
 }
 
+/// Of several numbers a load shows the largest, which the edited one need not
+/// be.
+std::vector<std::string> NotesOnRest(const PlanContext& context,
+                                     ParameterId weight,
+                                     const std::vector<OwnNumber>& numbers,
+                                     std::size_t edited) {
+  std::optional<double> largest;
+  for (std::size_t at = 0; at < numbers.size(); ++at) {
+    if (at == edited) continue;
+    largest = std::max(largest.value_or(0), numbers[at].number);
+  }
+  const double value = ToNumber(context.after.Parameter(weight)).value_or(0);
+  if (!largest || *largest <= value) return {};
+  return {QuotedName(weight) +
+          " has other numbers too that stay as they are. "
+          "The next load shows the largest of them, " +
+          ShownNumber(*largest) + ", and not the " + ShownNumber(value) +
+          " that is written now."};
+}
+
 /// Of a weight that our macros do not give, the number or numbers of the file
 /// from which the game has it.
 Plan PlanOneOfMany(const PlanContext& context, const FoundWeight& found) {
+  Plan plan;
   std::vector<OwnNumber> numbers = {found.own};
   numbers.insert(numbers.end(), found.others.begin(), found.others.end());
   if (numbers.size() > 1) {
@@ -204,24 +224,57 @@ Plan PlanOneOfMany(const PlanContext& context, const FoundWeight& found) {
                   "The weight code of the file has several numbers for it (" +
                   all + "), and nobody said which one is meant."};
     }
-    if (*chosen < numbers.size()) numbers = {numbers[*chosen]};
+    if (*chosen < numbers.size()) {
+      plan.notes = NotesOnRest(context, found.parameter, numbers, *chosen);
+      numbers = {numbers[*chosen]};
+    }
   }
   Attempt attempt;
   for (const OwnNumber& number : numbers) {
     AddReplacement(context, found.parameter, number.span, attempt);
   }
-  return {.attempts = {std::move(attempt)}, .refusal = {}};
+  plan.attempts.push_back(std::move(attempt));
+  return plan;
 }
 
 /// Why a macro may not take a new number; empty where it has a plain one.
 std::string OddValueRefusal(const PlanContext& context, const OwnMacro* macro) {
-  if (macro == nullptr || macro->value.empty() || IsNumericText(macro->text)) {
-    return {};
+  if (macro == nullptr || IsNumericText(macro->text)) return {};
+  if (macro->value.empty()) {
+    return "The file gives " + macro->name +
+           " no value. Write a number behind it first, such as 50.";
   }
   const std::string_view text = TextAt(context.bytes, macro->value);
   return "The file gives " + macro->name + " the value \"" + ShownText(text) +
          "\", and only a plain number can be changed. Write one there first, "
          "such as 50.";
+}
+
+/// Beside our macros the file may set those of other weight code, and without
+/// that code nobody knows which of the two the game takes.
+void NoteOtherMacros(const PlanContext& context, ParameterId id,
+                     const OwnMacro* macro, Plan& plan) {
+  const FileReading& reading = context.reading;
+  if (macro == nullptr || !reading.errors.contains("include-missing")) return;
+  const IndexRange range =
+      kWeaponWeightRange.Contains(id) ? kWeaponWeightRange : kItemWeightRange;
+  NameList others;
+  for (const OwnMacro& other : reading.weights.macros) {
+    const bool is_ours =
+        std::any_of(range.begin(), range.end(), [&other](int index) {
+          return BareKey(index).substr(kDefine.size()) == other.name;
+        });
+    if (!is_ours && IsNumericText(other.text)) {
+      others.Add(ShownText(other.name));
+    }
+  }
+  if (others.empty()) return;
+  plan.notes.push_back(
+      macro->name + " is changed alone. The file sets other macros too (" +
+      others.Text() +
+      "), and the game may take the weight from one of them: the weight code "
+      "that the file includes is not there to tell. Give the folder of its "
+      "game.");
 }
 
 }  // namespace
@@ -230,28 +283,24 @@ Plan PlanWeight(const PlanContext& context, ParameterId id) {
   const FileReading& reading = context.reading;
   const Value& value = context.after.Parameter(id);
   const std::string_view name = BareKey(id.index()).substr(kDefine.size());
-  const OwnMacro* const macro = FindMacro(reading, name);
+  const OwnMacro* const macro = MacroOf(reading.weights, id);
   const auto attempt_at = [&](TextSpan span) {
     Attempt attempt;
     AddReplacement(context, id, span, attempt);
     return attempt;
   };
   if (!reading.report.spans.contains(id)) {
-    const auto found = std::find_if(
-        reading.found.begin(), reading.found.end(),
-        [id](const FoundWeight& weight) { return weight.parameter == id; });
-    if (found == reading.found.end() && macro != nullptr &&
-        !macro->value.empty()) {
-      return {.attempts = {},
-              .refusal = "A load does not know line " +
-                         std::to_string(
-                             LineNumberAt(context.bytes, macro->value.begin)) +
-                         ". Write it as \"" + std::string(kDefine) +
-                         macro->name + " " + macro->text + "\" first."};
+    const std::vector<FoundWeight> unread =
+        UnreadWeights(context.readers.file().kind, context.bytes, reading);
+    const auto found = std::ranges::find(unread, id, &FoundWeight::parameter);
+    const std::string refusal = OddValueRefusal(context, macro);
+    if (found == unread.end()) {
+      return macro == nullptr ? PlanNewMacro(context, id, name)
+                              : Plan{.attempts = {}, .refusal = refusal};
     }
-    if (found == reading.found.end()) return PlanNewMacro(context, id, name);
     Plan plan = PlanOneOfMany(context, *found);
-    if (plan.refusal.empty()) plan.refusal = OddValueRefusal(context, macro);
+    if (plan.refusal.empty()) plan.refusal = refusal;
+    NoteOtherMacros(context, id, macro, plan);
     return plan;
   }
   const std::vector<TextSpan> game_spans = GameSpans(reading, id);
@@ -299,6 +348,7 @@ Plan PlanWeight(const PlanContext& context, ParameterId id) {
         TwoPlacesRefusal(context.bytes, macro->value, LastSpan(context, id));
   }
   AddPadded(context, id, plan);
+  NoteOtherMacros(context, id, macro, plan);
   return plan;
 }
 

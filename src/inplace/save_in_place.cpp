@@ -165,9 +165,11 @@ void LeaveOutUnedited(const SaveInPlace& save, const OriginFiles& files,
 
 }  // namespace
 
-NumberChooser AskForNumber(Prompts& prompts) {
-  return [&prompts](ParameterId weight, const std::vector<std::string>& numbers)
+NumberChooser AskForNumber(Prompts& prompts, bool& is_cancelled) {
+  return [&prompts, &is_cancelled](ParameterId weight,
+                                   const std::vector<std::string>& numbers)
              -> std::optional<std::size_t> {
+    if (is_cancelled) return std::nullopt;
     std::vector<std::string> buttons = {"Cancel"};
     buttons.insert(buttons.end(), numbers.begin(), numbers.end());
     buttons.emplace_back("All of them");
@@ -176,7 +178,8 @@ NumberChooser AskForNumber(Prompts& prompts) {
         "The weight code of the bot's file has several numbers for " +
             QuotedName(weight) + ". Which one do you want to change?",
         buttons);
-    if (answer == 0) return std::nullopt;
+    is_cancelled = answer == 0;
+    if (is_cancelled) return std::nullopt;
     return answer - 1;
   };
 }
@@ -186,9 +189,10 @@ InPlacePlan PlanInPlace(const SaveInPlace& save, SavePlan& plan) {
   if (Before(save.home) == nullptr) return result;
   const OriginFiles files = SavedInPlace(save.home, plan);
   LeaveOutUnedited(save, files, plan);
-  BotEdits edits = EditsOf(save, files, AskForNumber(save.prompts));
+  BotEdits edits =
+      EditsOf(save, files, AskForNumber(save.prompts, result.is_cancelled));
   std::vector<BotFile> left;
-  if (!Settle(save, edits, result, left)) return result;
+  if (result.is_cancelled || !Settle(save, edits, result, left)) return result;
   result.notes = NotesOf(edits);
   for (auto& [kind, edit] : edits.files) {
     if (kind == BotFile::kChat) result.spellings = edit.origin.spellings;
@@ -279,9 +283,11 @@ Result<std::optional<InPlacePlan>> SaveIntoOwnPackage(const SaveInPlace& save,
                                                       BotHome& home) {
   InPlacePlan result;
   if (Before(home) == nullptr) return std::optional(result);
-  BotEdits edits = EditsOf(save, home.files, AskForNumber(save.prompts));
+  BotEdits edits = EditsOf(save, home.files,
+                           AskForNumber(save.prompts, result.is_cancelled));
   std::vector<BotFile> left;
-  if (!Settle(save, edits, result, left) || !MayEdit(edits, save.prompts)) {
+  if (result.is_cancelled || !Settle(save, edits, result, left) ||
+      !MayEdit(edits, save.prompts)) {
     return std::optional<InPlacePlan>();
   }
   result.leaves_changes = result.leaves_changes || !edits.homeless.empty();
@@ -319,7 +325,10 @@ namespace {
 Notes AddNewFiles(const SaveInPlace& save, SavePlan plan, BotEdits& edits) {
   for (const auto& [kind, edit] : edits.files) plan.files.erase(kind);
   Notes notes;
-  if (HasNewName(plan, save.home)) notes = KeepFilesUnderNewName(save, plan);
+  if (HasNewName(plan, save.home)) {
+    bool is_cancelled = false;  // Nobody is asked.
+    notes = KeepFilesUnderNewName(save, plan, is_cancelled);
+  }
   TakeOutUnread(plan, save.bot, save.home, save.author);
   const auto settle = [&edits](const FileChange& change) {
     std::erase(edits.homeless, NameOf(change));

@@ -48,8 +48,9 @@ struct InPlacePlan {
   Notes notes;
 };
 
-/// Asks the user which number of a weight is meant.
-NumberChooser AskForNumber(Prompts& prompts);
+/// Asks the user which number of a weight is meant. Once that is cancelled no
+/// more is asked: then nothing is to be saved. The flag outlives the chooser.
+NumberChooser AskForNumber(Prompts& prompts, bool& is_cancelled);
 
 /// Of a plan to save a bot where it came from: takes out the files in which
 /// nothing was edited, gives the others their own bytes with the edits, and

@@ -80,11 +80,12 @@ class PackageReader {
       bytes.error().file = Shown(path);
       return Refuse(Describe(bytes.error()));
     }
-    ReadBotFile(file, wanted_.LoType, *bytes, wanted_.name, Shown(path),
+    const std::string entry = SpellingOf(path).value_or(WithSlashes(path));
+    ReadBotFile(file, wanted_.LoType, *bytes, wanted_.name, Shown(entry),
                 loaded);
     loaded.files.insert_or_assign(
         file, OriginFile{.path = wanted_.package,
-                         .entry = SpellingOf(path).value_or(WithSlashes(path)),
+                         .entry = entry,
                          .fingerprint = FingerprintOf(*bytes)});
     return true;
   }

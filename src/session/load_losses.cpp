@@ -75,9 +75,12 @@ void NoteMissingWeights(const ReadReport& report, IndexRange range,
   NameList missing;
   AddMissing(report.given, range, std::nullopt, missing);
   if (missing.empty()) return;
-  notes.Add({file, 0,
-             "The file does not set these weights, and a save writes 0: " +
-                 missing.Text() + "."});
+  notes.Add({.file = file,
+             .line = 0,
+             .text = "The file does not set these weights, and a save writes "
+                     "0: " +
+                     missing.Text() + ".",
+             .kind = NoteKind::kMissingWeights});
 }
 
 void NoteMissingTypes(const ReadReport& report, const std::string& file,

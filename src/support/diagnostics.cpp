@@ -38,9 +38,10 @@ void Notes::Append(const Notes& other) {
   left_out_ += other.left_out_;
 }
 
-void Notes::Remove(const std::string& file, NoteKind kind) {
+void Notes::Remove(const std::string& file, NoteKind kind, std::size_t line) {
   std::erase_if(list_, [&](const Note& note) {
-    return note.file == file && note.kind == kind;
+    return note.file == file && note.kind == kind &&
+           (line == 0 || note.line == line);
   });
 }
 

@@ -11,8 +11,10 @@ namespace fragsmith {
 /// What a note is about, where more is made of it than a line in a list.
 enum class NoteKind : std::uint8_t {
   kOther,
-  kNoWeights,   ///< A weight file sets none of the bot's weights.
-  kAlsoInFile,  ///< What a bot has no place for, and nothing else.
+  kNoWeights,       ///< A weight file sets none of the bot's weights.
+  kAlsoInFile,      ///< What a bot has no place for, and nothing else.
+  kMissingWeights,  ///< Those that no line of a weight file sets.
+  kUnreadLine,      ///< The game takes a value from it, and our reader none.
 };
 
 /// Something odd that reading came across and went on from. Texts are UTF-8.
@@ -35,8 +37,9 @@ class Notes {
 
   void Add(Note note);
   void Append(const Notes& other);
-  /// Takes back what has proved wrong: the notes of that kind on the file.
-  void Remove(const std::string& file, NoteKind kind);
+  /// Takes back what has proved wrong: the notes of that kind on the file, or
+  /// on one line of it.
+  void Remove(const std::string& file, NoteKind kind, std::size_t line = 0);
 
   const std::vector<Note>& list() const { return list_; }
   std::size_t left_out() const { return left_out_; }

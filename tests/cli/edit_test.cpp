@@ -13,6 +13,7 @@
 namespace fragsmith {
 namespace {
 
+using ::testing::AllOf;
 using ::testing::HasSubstr;
 using ::testing::Not;
 
@@ -194,6 +195,61 @@ TEST_F(EditCommand, NamesFilesInTheDifferenceFromTheirRoot) {
   const Outcome refused = run("weaponWeights.W_GAUNTLET=45");
   EXPECT_EQ(refused.status, 1);
   EXPECT_THAT(refused.err, HasSubstr("names bots/strong_w.c."));
+}
+
+TEST_F(EditCommand, EditsWhatALoadShowsAndTheGameHasOtherwise) {
+  const auto character = [](const std::string& number) {
+    return "#include \"chars.h\"\nskill 1\n{\n"
+           "\tCHARACTERISTIC_VIEW_MAXCHANGE\t\t\t\t" +
+           number + "\n}\n";
+  };
+  folder_.Write("rook_c.c", character("0240"));
+  const std::string path = "levels.1.CHARACTERISTIC_VIEW_MAXCHANGE=";
+  for (const char* const number : {"240", "160"}) {
+    folder_.Write("rook_c.c", character("0240"));
+    const Outcome outcome = Run({"--set", path + number});
+    EXPECT_EQ(outcome.status, 0) << outcome.err;
+    EXPECT_EQ(folder_.Read("rook_c.c"), character(number));
+  }
+  // A line that a load takes for one of another level.
+  const std::string behind =
+      "#include \"chars.h\"\nskill 1\n{\n\tCHARACTERISTIC_ATTACK_SKILL"
+      "\t\t\t\t\t0.5\n/*\nskill 4\n*/\n\tCHARACTERISTIC_CAMPER"
+      "\t\t\t\t\t\t0.05\n}\n";
+  folder_.Write("rook_c.c", behind);
+  EXPECT_EQ(Run({"--set", "levels.1.CHARACTERISTIC_CAMPER=0"}).status, 1);
+  EXPECT_EQ(folder_.Read("rook_c.c"), behind);
+}
+
+TEST_F(EditCommand, TellsNothingFalseOfAFileForTwoGames) {
+  folder_.Write("set/botfiles/bots/rook_c.c", "#include \"chars.h\"\n");
+  folder_.Write("set/botfiles/bots/rook_w.c",
+                "#include \"inv.h\"\n#define SGW 20\n#define W_SHOTGUN 77\n"
+                "#define GTW 10\n#define CGW 1\n#include \"own.c\"\n");
+  folder_.Write("set/botfiles/own.c",
+                "weight \"Shotgun\" { return SGW; }\n"
+                "weight \"Gauntlet\" { return GTW; }\n");
+  const auto told = [&](const std::string& set) {
+    std::istringstream in;
+    std::ostringstream out;
+    std::ostringstream err;
+    RunCommandLine({"edit", (folder_ / "set").string(), "rook", "--dry-run",
+                    "--set", "weaponWeights." + set, "--program-folder",
+                    (folder_ / "program").string()},
+                   in, out, err);
+    return out.str() + err.str();
+  };
+  EXPECT_THAT(told("W_GAUNTLET=45"),
+              AllOf(HasSubstr("+#define GTW 45\n"),
+                    HasSubstr("\"Gauntlet usage\" from GTW (line 4)"),
+                    HasSubstr("another line: \"Shotgun usage\" (20)."),
+                    HasSubstr("no place for (1): CGW."),
+                    Not(HasSubstr("does not include")),
+                    Not(HasSubstr("a save writes 0"))));
+  // A load shows 77, but the game has it not.
+  EXPECT_THAT(told("W_SHOTGUN=77"),
+              HasSubstr("The game takes the value from line 2 of the file, and "
+                        "a load takes that of line 3."));
 }
 
 TEST_F(EditCommand, WritesThroughALink) {

@@ -274,9 +274,8 @@ TEST(EditInPlaceTest, SaysInPlainWordsWhatTheFilesCannotHold) {
   const LoadedFile commented(
       BotFile::kWeaponWeights,
       odd + "weight \"Railgun\" { return W_RAILGUN; }\n");
-  EXPECT_THAT(commented.Difference(commented.Edited(kRailgun, 60.0)),
-              EndsWith("Write it as key and number there first, without "
-                       "comments between them."));
+  EXPECT_EQ(commented.Difference(commented.Edited(kRailgun, 60.0)),
+            "-#define/**/W_RAILGUN/*50*/50\n+#define/**/W_RAILGUN/*50*/60\n");
   const LoadedFile braces(BotFile::kChat,
                           "chat \"rook\"\n{\n\ttype \"game_enter\" {}\n}\n");
   EXPECT_THAT(braces.Difference(braces.Edited(TypeAt(0), {"in"})),

@@ -191,14 +191,18 @@ TEST_F(SaveInPlaceTest, AsksWhichOfSeveralNumbersIsMeant) {
                         "2): 40), and nobody said which one is meant."));
   EXPECT_THAT(prompts_.log, IsEmpty());
 
-  // Neither an answer to this question nor to the one behind it.
+  // To cancel this one is to cancel the save.
   EXPECT_TRUE(Save().is_cancelled);
   EXPECT_THAT(prompts_.log,
               ElementsAre(HasSubstr("several numbers for \"Shotgun usage\". "
-                                    "Which one do you want to change?"),
-                          HasSubstr("cannot be changed in place")));
+                                    "Which one do you want to change?")));
   prompts_.choices = {2};
-  EXPECT_FALSE(Save().leaves_changes);
+  const InPlacePlan in_place = Save();
+  EXPECT_FALSE(in_place.leaves_changes);
+  ASSERT_THAT(in_place.notes.list(), SizeIs(1));
+  EXPECT_THAT(in_place.notes.list().front().text,
+              HasSubstr("The next load shows the largest of them, 90, and not "
+                        "the 60 that is written now."));
   EXPECT_THAT(folder_.Read("botfiles/bots/rook_w.c"),
               HasSubstr("NEAR 60\n#define FAR 90\n"));
   folder_.Write("botfiles/bots/rook_w.c", kTwo);

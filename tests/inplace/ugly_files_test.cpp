@@ -8,6 +8,8 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <tuple>
+#include <utility>
 #include <vector>
 
 #include "chat/chat_catalogue.h"
@@ -19,9 +21,12 @@
 namespace fragsmith {
 namespace {
 
+using ::testing::AllOf;
 using ::testing::ElementsAre;
+using ::testing::EndsWith;
 using ::testing::HasSubstr;
 using ::testing::Key;
+using ::testing::Not;
 
 constexpr ParameterId kAttack1{Level::k1, kAttackSkillIndex};
 constexpr ParameterId kAttack4{Level::k4, kAttackSkillIndex};
@@ -179,9 +184,10 @@ TEST(UglyFilesTest, RefusesAWeightThatTheGameTakesFromElsewhere) {
       {AllWeapons("#define W_RAILGUN \\\n190\n") + kInclude,
        "Line 7 goes on in the next one, and a load reads no further than the "
        "line. Join the lines first."},
-      {AllWeapons("  #  define W_RAILGUN 190\n") + kInclude,
-       "A load does not know line 7. Write it as \"#define W_RAILGUN 190\" "
-       "first."},
+      {AllWeapons("#define\tW_RAILGUN\n") + kInclude,
+       "The file gives W_RAILGUN no value. Write a number behind it first"},
+      {AllWeapons("#define\tW_RAILGUN\tHIGH\n") + kInclude,
+       "The file gives W_RAILGUN the value \"HIGH\""},
       {AllWeapons("") + kInclude + kRail50,
        "This #include stands above the #define of W_RAILGUN"},
       {AllWeapons(kRail50 + "#undef W_RAILGUN\n") + kInclude,
@@ -200,6 +206,76 @@ TEST(UglyFilesTest, RefusesAWeightThatTheGameTakesFromElsewhere) {
                 HasSubstr(one.refusal))
         << one.bytes;
   }
+}
+
+TEST(UglyFilesTest, EditsALineThatTheGameAloneReads) {
+  const std::string own = "weight \"Railgun\" { return W_RAILGUN; }\n";
+  for (const auto& [line, shown, edited_line] :
+       std::vector<std::tuple<std::string, double, std::string>>{
+           {"#define\tW_RAILGUN\t280\n", 280, "#define\tW_RAILGUN\t155\n"},
+           {"#define  W_RAILGUN 280\n", 280, "#define  W_RAILGUN 155\n"},
+           {"  #  define W_RAILGUN 280 // x\n", 280,
+            "  #  define W_RAILGUN 155 // x\n"},
+           {"#define\tW_RAILGUN 0240\n", 160, "#define\tW_RAILGUN 155\n"}}) {
+    for (const std::string& end : {kInclude, own}) {
+      const LoadedFile file(BotFile::kWeaponWeights, AllWeapons(line) + end);
+      EXPECT_EQ(file.before().Parameter(kRailgun), Value(shown)) << line;
+      for (const Note& note : file.notes().list()) {
+        EXPECT_THAT(note.text, Not(HasSubstr("not read from this line")));
+      }
+      const auto edited = file.Edited(kRailgun, 155.0);
+      EXPECT_EQ(file.Difference(edited), "-" + line + "+" + edited_line);
+      ASSERT_TRUE(edited);
+      const LoadedFile again(BotFile::kWeaponWeights, *edited);
+      EXPECT_EQ(again.before().Parameter(kRailgun), Value(155.0));
+    }
+  }
+}
+
+TEST(UglyFilesTest, TellsThatOtherMacrosMayStandForTheWeight) {
+  const std::string macros = AllWeapons(kRail50) + "#define RGW 50\n";
+  const auto notes_of = [](const std::string& bytes, IncludeLookup game) {
+    const LoadedFile file(BotFile::kWeaponWeights, bytes, "rook",
+                          std::move(game));
+    Bot after = file.before();
+    after.Put(kRailgun, 70.0);
+    Notes notes;
+    const auto edited = file.Edited(after, &notes);
+    EXPECT_TRUE(edited) << edited.error().what;
+    std::string text = edited.value_or(std::string()) + "|";
+    for (const Note& note : notes.list()) text += note.text;
+    return text;
+  };
+  const std::string include = "#include \"own.c\"\n";
+  EXPECT_THAT(notes_of(macros + include, StandInGameFile),
+              HasSubstr("W_RAILGUN is changed alone. The file sets other "
+                        "macros too (RGW), "));
+  // With the weight code both change, and of the plain file nothing is told.
+  const std::string both =
+      notes_of(macros + include,
+               With({{"own.c", "weight \"Railgun\" { return RGW; }\n"}}));
+  EXPECT_THAT(both, AllOf(HasSubstr("#define RGW 70\n"), HasSubstr(kRail70),
+                          EndsWith("|")));
+  EXPECT_THAT(notes_of(AllWeapons(kRail50) + include, StandInGameFile),
+              EndsWith("|"));
+}
+
+TEST(UglyFilesTest, TellsThatALoadTakesACommentAlong) {
+  const std::string line = "\tCHARACTERISTIC_ATTACK_SKILL 0.35 // x";
+  const LoadedFile file(BotFile::kCharacteristics,
+                        "#include \"chars.h\"\nskill 1\n{\n" + line + "\n}\n");
+  Bot after = file.before();
+  after.Put(kAttack1, 0.2);
+  Notes notes;
+  const auto edited = file.Edited(after, &notes);
+  ASSERT_TRUE(edited) << edited.error().what;
+  const LoadedFile again(BotFile::kCharacteristics, *edited);
+  EXPECT_EQ(again.before().Parameter(kAttack1), Value(std::string("0.2 // x")));
+  ASSERT_EQ(notes.list().size(), 1);
+  EXPECT_THAT(notes.list().front().text,
+              HasSubstr("is now 0.2 for the game, but a load reads \"0.2 // "
+                        "x\" from line 4. Put the comment in a line of its "
+                        "own."));
 }
 
 TEST(UglyFilesTest, EditsTheWeightThatTheGameTakes) {

@@ -75,8 +75,10 @@ BotSaver::Outcome BotSaver::SaveTo(const SaveTarget& target, Extras extras) {
   SavePlan plan = PlanOf(current_.bot(), target);
   Notes notes;
   if (extras.keeps_files && HasFilesToKeep(current_.bot(), home())) {
+    bool is_cancelled = false;
     notes = KeepAuthorsFiles(current_.bot(), home(), Game(),
-                             AskForNumber(state_.prompts), plan);
+                             AskForNumber(state_.prompts, is_cancelled), plan);
+    if (is_cancelled) return {};
   }
   if (extras.game_macros) {
     WriteGameMacros(OtherMacrosFor(home().files, Game()), current_.bot(),
@@ -112,7 +114,11 @@ std::optional<BotSaver::Outcome> BotSaver::SaveAgain() {
   const InPlacePlan in_place = PlanInPlace(save, *plan);
   if (in_place.is_cancelled) return Outcome{};
   Notes not_kept;
-  if (HasNewName(*plan, home())) not_kept = KeepFilesUnderNewName(save, *plan);
+  if (HasNewName(*plan, home())) {
+    bool is_cancelled = false;
+    not_kept = KeepFilesUnderNewName(save, *plan, is_cancelled);
+    if (is_cancelled) return Outcome{};
+  }
   const Unread unread = AskAboutUnread(*plan);
   if (unread == Unread::kCancelled) return Outcome{};
   const bool leaves_changes =

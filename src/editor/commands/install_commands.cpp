@@ -71,8 +71,14 @@ void InstallCommands::Install() {
   SavePlan kept =
       PlanOf(bot, {.folder = *folder,
                    .options = {.uses_layout = true, .makes_package = true}});
+  bool is_cancelled = false;
   const Notes not_kept = KeepFilesUnderNewName(
-      {bot, *current_.origin().home, author, game_files, state_.prompts}, kept);
+      {bot, *current_.origin().home, author, game_files, state_.prompts}, kept,
+      is_cancelled);
+  if (is_cancelled) {
+    emit StatusText(tr("Nothing was installed."));
+    return;
+  }
   MacrosByFile macros = OtherMacrosFor({}, game_files);
   std::erase_if(macros, [&kept](const auto& one) {
     return kept.contents.contains(one.first);
