@@ -152,7 +152,11 @@ std::optional<std::string> FaultOf(const Attempt& attempt,
 
 /// Our reader takes a comment behind a number along, and has a text then.
 void NoteComment(const FileReading& reading, std::string_view bytes,
-                 ParameterId id, const Value& value, Plan& plan) {
+                 const FileChange& change, const Bot& after, Plan& plan) {
+  const auto* const changed = std::get_if<ParameterId>(&change);
+  if (changed == nullptr) return;
+  const ParameterId id = *changed;
+  const Value& value = after.Parameter(id);
   const auto spans = reading.report.spans.find(id);
   const Value& read = reading.bot.Parameter(id);
   if (!ToNumber(value) || ToNumber(read) ||
@@ -165,6 +169,11 @@ void NoteComment(const FileReading& reading, std::string_view bytes,
       "\" from line " +
       std::to_string(LineNumberAt(bytes, spans->second.back().begin)) +
       ". Put the comment in a line of its own.");
+}
+
+void TakeNotes(const Plan& plan, const std::string& shown, Notes* notes) {
+  if (notes == nullptr) return;
+  for (const std::string& note : plan.notes) notes->Add({shown, 0, note});
 }
 
 /// Given in the order of the file, as CommentsIn has them.
@@ -318,16 +327,13 @@ Result<std::string> EditInPlace(const BothReaders& readers,
       }
       if (refusal.empty()) refusal = std::move(*fault);
     }
-    if (const auto* const id = std::get_if<ParameterId>(&change);
-        id != nullptr && readers.file().kind != BotFile::kDescription) {
-      NoteComment(reading, edited, *id, after.Parameter(*id), plan);
-    }
-    for (const std::string& note : plan.notes) {
-      if (is_done && notes != nullptr) {
-        notes->Add({readers.file().shown, 0, note});
+    if (is_done) {
+      if (readers.file().kind != BotFile::kDescription) {
+        NoteComment(reading, edited, change, after, plan);
       }
+      TakeNotes(plan, readers.file().shown, notes);
+      continue;
     }
-    if (is_done) continue;
     if (refusal.empty()) refusal = kNoNeighbours;
     if (const auto* const id = std::get_if<ParameterId>(&change);
         id != nullptr && refusal == kNotLoaded) {
