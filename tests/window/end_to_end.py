@@ -245,7 +245,7 @@ def main():
         editor.window(TITLE)
         until("the bot out of its package",
               lambda: text(editor.find("Name", "text")) == "Endtoend")
-        for path in (home / "made").glob("*/**/*"):
+        for path in (home / "made").rglob("*"):
             if path.is_file():
                 path.unlink()
         key("ctrl+shift+s")
