@@ -335,7 +335,8 @@ ReadReport ReadCharacteristicFile(std::string_view bytes,
     bot.Put(kVersionMajorField, 0.0);
     bot.Put(kVersionMinorField, 0.0);
   }
-  return CharacterReader(file_name, identity, bot).Read(WithPlainBlanks(bytes));
+  return CharacterReader(file_name, identity, bot)
+      .Read(WithPlainBlanks(bytes, TextsInLine::kOne));
 }
 
 }  // namespace fragsmith

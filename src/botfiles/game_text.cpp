@@ -38,7 +38,7 @@ std::size_t OddBlankLength(std::string_view text, char before) {
 
 }  // namespace
 
-std::string WithPlainBlanks(std::string_view bytes) {
+std::string WithPlainBlanks(std::string_view bytes, TextsInLine texts) {
   std::string plain(bytes);
   std::size_t at = 0;
   const auto pass = [&](std::string_view end, std::size_t from) {
@@ -51,6 +51,10 @@ std::string WithPlainBlanks(std::string_view bytes) {
       pass("\n", at);
     } else if (rest.starts_with("/*")) {
       pass("*/", at + 2);
+    } else if (rest[0] == '"' && texts == TextsInLine::kOne) {
+      const std::size_t end = std::min(rest.find('\n'), rest.size());
+      const std::size_t last = rest.rfind('"', end);
+      at += last == 0 ? end : last + 1;
     } else if (rest[0] == '"') {
       // No text goes beyond its line.
       for (++at; at < bytes.size() && bytes[at] != '"' && bytes[at] != '\n';

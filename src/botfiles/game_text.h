@@ -1,6 +1,7 @@
 #ifndef FRAGSMITH_BOTFILES_GAME_TEXT_H_
 #define FRAGSMITH_BOTFILES_GAME_TEXT_H_
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -13,7 +14,11 @@ std::string_view WithoutByteOrderMark(std::string_view bytes);
 
 /// The bytes with ordinary blanks for the no-break spaces and the like that the
 /// game passes over and nobody sees, outside of comments and texts in quotes.
-std::string WithPlainBlanks(std::string_view bytes);
+///
+/// A line may have several texts, or one, in which quotation marks may stand:
+/// a value that was kept as a text is written so.
+enum class TextsInLine : std::uint8_t { kSeveral, kOne };
+std::string WithPlainBlanks(std::string_view bytes, TextsInLine texts);
 
 /// Takes the comments out of lines as the game does: "//" to the end of the
 /// line and "/* */", also over several lines; neither inside quotes. A byte

@@ -167,12 +167,14 @@ std::string WriteItemWeightFile(const Bot& bot, const Author& author,
 
 ReadReport ReadWeaponWeightFile(std::string_view bytes,
                                 const std::string& file_name, Bot& bot) {
-  return WeightReader(file_name, kWeaponFile, bot).Read(WithPlainBlanks(bytes));
+  return WeightReader(file_name, kWeaponFile, bot)
+      .Read(WithPlainBlanks(bytes, TextsInLine::kOne));
 }
 
 ReadReport ReadItemWeightFile(std::string_view bytes,
                               const std::string& file_name, Bot& bot) {
-  return WeightReader(file_name, kItemFile, bot).Read(WithPlainBlanks(bytes));
+  return WeightReader(file_name, kItemFile, bot)
+      .Read(WithPlainBlanks(bytes, TextsInLine::kOne));
 }
 
 }  // namespace fragsmith

@@ -309,7 +309,7 @@ std::string WriteChatFile(const Bot& bot, const Author& author) {
 
 ReadReport ReadChatFile(std::string_view file_bytes,
                         const std::string& file_name, Bot& bot) {
-  const std::string bytes = WithPlainBlanks(file_bytes);
+  const std::string bytes = WithPlainBlanks(file_bytes, TextsInLine::kSeveral);
   ChatReader reader(file_name, HeaderLineCount(bytes), bot);
   LineReader lines(bytes);
   while (const std::optional<std::string_view> line = lines.Next()) {
