@@ -5,6 +5,7 @@
 #include "botfiles/description_file.h"
 #include "botfiles/value_format.h"
 #include "fuzz/oracle.h"
+#include "support/game_blank.h"
 #include "support/numbers.h"
 #include "support/text.h"
 
@@ -30,7 +31,7 @@ bool HasKey(const Bot& bot) {
 /// ";" at its end belongs to it.
 bool IsWord(const std::string& text) {
   return !text.empty() && text != "{" && text != "}" &&
-         text.find_first_of(" \"") == std::string::npos &&
+         std::ranges::none_of(text, IsGameBlank) && !Contains(text, "\"") &&
          !text.ends_with(';') && !Contains(text, "//") && !Contains(text, "/*");
 }
 
