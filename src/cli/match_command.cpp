@@ -316,10 +316,7 @@ void AddMatchCommand(CLI::App& app, CommandContext& context) {
       ->check(CLI::Range(1.0, 5.0))
       ->delimiter(',')
       ->allow_extra_args(false);
-  command
-      .add_option("--minutes", options->minutes,
-                  "Of game time for each match; 5 without it")
-      ->check(CLI::Range(1, kMaxMatchMinutes));
+  AddMatchMinutes(command, options->minutes);
   constexpr int kMaxGames = 10'000;
   command
       .add_option("--games", options->games,
@@ -331,12 +328,7 @@ void AddMatchCommand(CLI::App& app, CommandContext& context) {
                    "Play until it is clear, by sequential tests, whether one "
                    "bot is better or they differ by less than 5 points in a "
                    "hundred");
-  constexpr int kMaxJobs = 256;
-  command
-      .add_option("--jobs", options->jobs,
-                  "How many matches at once; as many as there are cores "
-                  "without it")
-      ->check(CLI::Range(1, kMaxJobs));
+  AddMatchJobs(command, options->jobs);
   AddEngineOptions(command, options->engine);
   command.add_flag("--json", options->as_json, "Print JSON");
   command.add_flag("--events", options->with_events,

@@ -54,4 +54,20 @@ void MatchPlayer::Clear() {
   shown_.clear();
 }
 
+void AddMatchMinutes(CLI::App& command, int& minutes) {
+  command
+      .add_option("--minutes", minutes,
+                  "Of game time for each match; 5 without it")
+      ->check(CLI::Range(1, kMaxMatchMinutes));
+}
+
+void AddMatchJobs(CLI::App& command, int& jobs) {
+  constexpr int kMaxJobs = 256;
+  command
+      .add_option("--jobs", jobs,
+                  "How many matches at once; as many as there are cores "
+                  "without it")
+      ->check(CLI::Range(1, kMaxJobs));
+}
+
 }  // namespace fragsmith

@@ -37,6 +37,10 @@ class MatchPlayer : public MatchRunListener {
   std::string shown_;
 };
 
+/// The options of how long a match is and of how many are played at once.
+void AddMatchMinutes(CLI::App& command, int& minutes);
+void AddMatchJobs(CLI::App& command, int& jobs);
+
 }  // namespace fragsmith
 
 #endif  // FRAGSMITH_CLI_MATCH_PLAYER_H_

@@ -185,21 +185,13 @@ void AddTuneCommand(CLI::App& app, CommandContext& context) {
       ->check(CLI::Range(kMinMargin, kMaxMargin));
   command.add_option("--skill", options->skill, "Of both; 4 without it")
       ->check(CLI::Range(1.0, 5.0));
-  command
-      .add_option("--minutes", options->minutes,
-                  "Of game time for each match; 5 without it")
-      ->check(CLI::Range(1, kMaxMatchMinutes));
+  AddMatchMinutes(command, options->minutes);
   constexpr int kMaxGames = 100'000;
   command
       .add_option("--games", options->games,
                   "How many matches at most; 1000 without it")
       ->check(CLI::Range(1, kMaxGames));
-  constexpr int kMaxJobs = 256;
-  command
-      .add_option("--jobs", options->jobs,
-                  "How many matches at once; as many as there are cores "
-                  "without it")
-      ->check(CLI::Range(1, kMaxJobs));
+  AddMatchJobs(command, options->jobs);
   AddEngineOptions(command, options->engine);
   command
       .add_option("--output", options->output,

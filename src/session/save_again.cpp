@@ -74,7 +74,7 @@ const OriginFile* FindKnown(const BotHome& home, BotFile file,
   return nullptr;
 }
 
-/// The same for a package that was made from the bot, or out of which it came.
+/// The same for a package that was made from the bot.
 const OriginFile* FindKnownPackage(const BotHome& home, const fs::path& path) {
   if (home.package && home.package->path == path) return &*home.package;
   for (const BotHome::Earlier& earlier : home.earlier) {
