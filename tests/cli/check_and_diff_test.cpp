@@ -12,6 +12,7 @@
 
 #include "cli/command_line.h"
 #include "install/program/settings_file.h"
+#include "support/files.h"
 #include "tests/support/package_maker.h"
 #include "tests/support/test_folder.h"
 
@@ -248,7 +249,9 @@ TEST_F(CheckAndDiff, NamesFilesAndLinesAsTheyAreOnDisk) {
     const auto line =
         1 + std::count(bytes.begin(),
                        bytes.begin() + static_cast<std::ptrdiff_t>(end), '\n');
-    return "bots/" + file + ":" + std::to_string(line) + ": ";
+    std::filesystem::path path = std::filesystem::path("bots") / file;
+    return BytesFromPath(path.make_preferred()) + ":" + std::to_string(line) +
+           ": ";
   };
   const std::string out = Run("check @bots --all").out;
   EXPECT_THAT(out,
