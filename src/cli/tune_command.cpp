@@ -30,10 +30,10 @@ struct TuneOptions {
   std::string opponent;
   EngineOptions engine;
   double share = 50;
-  double margin = 5;
+  double margin = kTuneMargin;
   double skill = 4;
   int minutes = 5;
-  int games = 1000;
+  int games = kMaxTuneMatches;
   int jobs = DefaultJobs();
   std::string output;
 };
@@ -51,14 +51,6 @@ void PrintEnds(std::ostream& out) {
   out << '\n';
 }
 
-void PrintStep(const TuneStep& step, std::ostream& out) {
-  constexpr int kDigits = 3;
-  out << "strength " << Fixed(step.strength, kDigits) << ": "
-      << Shown(step.Share(), kPercent, 0, " %") << " in " << step.matches.size()
-      << " matches\n"
-      << std::flush;
-}
-
 /// Plays the matches of one strength.
 MatchRunEnd PlayStep(const TuneOptions& options, const MatchServer& server,
                      const MatchPlan& plan, int games, Tuner& tuner,
@@ -71,32 +63,15 @@ MatchRunEnd PlayStep(const TuneOptions& options, const MatchServer& server,
   return RunMatches({.server = server, .jobs = options.jobs}, player);
 }
 
-std::string EndText(const Tuner& tuner, double wished) {
-  const std::string share = Fixed(wished, 0) + " %";
-  switch (tuner.state()) {
-    case TuneState::kPlaying:
-      return "The matches did not suffice to settle it.";
-    case TuneState::kFound:
-      return "The bot takes " + share + ", within the margin.";
-    case TuneState::kOutOfReach:
-      return "Between the two ends, the bot does not come to " + share + ".";
-    case TuneState::kTooFine:
-      return "The bot does not come nearer to " + share +
-             ": what it takes leaps where its values hardly differ.";
-  }
-  return {};
-}
-
 ExitStatus TellTuned(const TuneOptions& options, const Tuner& tuner,
                      const Bot& bot, CommandContext& context) {
   const TuneStep& last = tuner.steps().back();
   std::size_t matches = 0;
   for (const TuneStep& step : tuner.steps()) matches += step.matches.size();
   context.out << '\n'
-              << EndText(tuner, options.share) << " It took "
-              << Shown(last.Share(), kPercent, 0, " %")
-              << " at the last strength; " << matches
-              << " matches were played.\n\n";
+              << TuneInWords(tuner, options.share / kPercent) << " It took "
+              << ShownShare(last.Share()) << " at the last strength; "
+              << matches << " matches were played.\n\n";
   const Bot tuned = WithStrength(bot, last.strength);
   for (const BotDifference& difference : CompareBots(bot, tuned)) {
     context.out << difference.title << ": " << Printable(difference.left)
@@ -132,7 +107,7 @@ ExitStatus RunTune(const TuneOptions& options, CommandContext& context) {
   PrintEnds(context.out);
   Tuner tuner(options.share / kPercent, options.margin / kPercent);
   int left = options.games;
-  while (tuner.state() == TuneState::kPlaying && left > 0) {
+  while (tuner.state() == TuneState::kOpen && left > 0) {
     MatchBotOutcome moved =
         MatchBotOfModel(WithStrength(bot, tuner.strength()), context);
     if (!moved.bot) return moved.refusal;
@@ -145,7 +120,7 @@ ExitStatus RunTune(const TuneOptions& options, CommandContext& context) {
         PlayStep(options, server, plan, left, tuner, context);
     const TuneStep& played = tuner.steps()[step];
     if (played.matches.empty()) return kFailed;
-    PrintStep(played, context.out);
+    context.out << StepInWords(played) << '\n' << std::flush;
     left -= static_cast<int>(played.matches.size());
     if (end == MatchRunEnd::kFailed || end == MatchRunEnd::kBrokenOff) break;
   }
@@ -171,12 +146,10 @@ void AddTuneCommand(CLI::App& app, CommandContext& context) {
       .add_option("OPPONENT", options->opponent,
                   "The same, or a bot of the installed game")
       ->required();
-  constexpr double kMinShare = 10;
-  constexpr double kMaxShare = 90;
   command
       .add_option("--share", options->share,
                   "The wished share in a hundred, 10 to 90; 50 without it")
-      ->check(CLI::Range(kMinShare, kMaxShare));
+      ->check(CLI::Range(double{kMinWishedShare}, double{kMaxWishedShare}));
   constexpr double kMinMargin = 2;
   constexpr double kMaxMargin = 9;
   command

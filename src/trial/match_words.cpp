@@ -91,4 +91,29 @@ ComparisonWords CompareInWords(const MatchReport& report, std::size_t pairing,
                  comparison.share);
 }
 
+std::string StepInWords(const TuneStep& step) {
+  constexpr int kDigits = 3;
+  const std::string strength =
+      "strength " + Fixed(step.strength, kDigits) + ": ";
+  if (step.matches.empty()) return strength + "no match yet";
+  return strength + ShownShare(step.Share()) + " in " +
+         MatchesText(step.matches.size());
+}
+
+std::string TuneInWords(const Tuner& tuner, double wished_share) {
+  const std::string share = Fixed(wished_share * kPercent, 0) + " %";
+  switch (tuner.state()) {
+    case TuneState::kOpen:
+      return "The matches did not suffice to settle it.";
+    case TuneState::kFound:
+      return "The bot takes " + share + ", within the margin.";
+    case TuneState::kOutOfReach:
+      return "Between the two ends, the bot does not come to " + share + ".";
+    case TuneState::kTooFine:
+      return "The bot does not come nearer to " + share +
+             ": what it takes leaps where its values hardly differ.";
+  }
+  return {};
+}
+
 }  // namespace fragsmith

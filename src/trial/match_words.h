@@ -7,6 +7,7 @@
 
 #include "trial/match_figures.h"
 #include "trial/match_report.h"
+#include "trial/tune.h"
 
 namespace fragsmith {
 
@@ -35,6 +36,12 @@ struct ComparisonWords {
 /// the names. A test that the report has for it decides.
 ComparisonWords CompareInWords(const MatchReport& report, std::size_t pairing,
                                const std::vector<std::string>& names);
+
+/// "strength 0.250: 43 % (37 to 49) in 12 matches".
+std::string StepInWords(const TuneStep& step);
+
+/// How the search for the wished share, 0 to 1, stands.
+std::string TuneInWords(const Tuner& tuner, double wished_share);
 
 }  // namespace fragsmith
 

@@ -75,7 +75,7 @@ Tuner::Tuner(double wished_share, double margin) {
 }
 
 bool Tuner::Take(const MatchTally& match) {
-  if (state_ != TuneState::kPlaying) return false;
+  if (state_ != TuneState::kOpen) return false;
   TuneStep& step = steps_.back();
   step.matches.push_back(match);
   test_->Take(match);

@@ -31,7 +31,7 @@ const std::vector<StrengthEnds>& AllStrengthEnds();
 Bot WithStrength(const Bot& bot, double strength);
 
 enum class TuneState : std::uint8_t {
-  kPlaying,
+  kOpen,        ///< More matches are needed.
   kFound,       ///< The share is the wished one, within the margin.
   kOutOfReach,  ///< Not even the end takes it, or is so weak.
   kTooFine,     ///< The share leaps where the values hardly differ.
@@ -45,6 +45,15 @@ struct TuneStep {
 
   Estimate Share() const { return Compare(matches, 0, 1).share; }
 };
+
+/// The shares in a hundred that may be wished for: nearer to all or nothing
+/// hardly any number of matches tells one from another.
+inline constexpr int kMinWishedShare = 10;
+inline constexpr int kMaxWishedShare = 90;
+/// How near to the wished share is near enough, unless somebody says otherwise,
+/// in a hundred; and how many matches are played for it at most.
+inline constexpr int kTuneMargin = 5;
+inline constexpr int kMaxTuneMatches = 1000;
 
 /// Looks for the strength: first the bot as it is, then the end on the side
 /// that is wanted, then half way between. Each step is a sequential test.
@@ -72,7 +81,7 @@ class Tuner {
   double weaker_ = -1;
   double stronger_ = 1;
   bool has_ends_ = false;
-  TuneState state_ = TuneState::kPlaying;
+  TuneState state_ = TuneState::kOpen;
   std::vector<TuneStep> steps_;
 };
 

@@ -16,6 +16,8 @@
 
 #include "chat/chat_catalogue.h"
 #include "editor/toolkit/page_table.h"
+#include "game/weapon_order.h"
+#include "model/characteristic_catalogue.h"
 #include "support/files.h"
 #include "tests/editor/font_scale.h"
 #include "tests/editor/window_fixture.h"
@@ -26,6 +28,7 @@ namespace {
 namespace fs = std::filesystem;
 using ::testing::AllOf;
 using ::testing::HasSubstr;
+using ::testing::Not;
 
 constexpr int kPatience = 20'000;
 
@@ -242,6 +245,88 @@ TEST_F(MatchWindow, PlaysUntilItIsSureAndKeepsTheRuns) {
   OpenMatches();
   EXPECT_EQ(In<QSpinBox>("spnGames").value(), 1);
   EXPECT_EQ(In<QLineEdit>("txtMap").text(), QStringLiteral("q3dm1, q3dm6"));
+}
+
+TEST_F(MatchWindow, ShowsRunsInOnePictureAndFindingsBesideTheMatches) {
+  window_->current().Edit({}, [](Bot& bot) { bot.Put(kGauntletUsage, 500.0); });
+  UseServer(Log("Bot") + End());
+  In<QSpinBox>("spnGames").setValue(1);
+  Press("cmdStart");
+  ASSERT_TRUE(WaitForEnd());
+  // It killed with rockets.
+  const auto& evidence = In<MatchFindings>("lstEvidence");
+  ASSERT_EQ(evidence.topLevelItemCount(), 2);
+  EXPECT_THAT(Cells(evidence.topLevelItem(1)),
+              HasSubstr("contradict|The 2 lines were heard 1 time in 1 match.|"
+                        "There are lines for"));
+  EXPECT_THAT(Cells(evidence.topLevelItem(0)),
+              HasSubstr("contradict|1 of its 1 kills were with other weapons.|"
+                        "No weapon has a larger weight"));
+  auto& lists = In<QTabWidget>("tabLists");
+  EXPECT_TRUE(lists.isTabVisible(2));
+  EXPECT_FALSE(lists.isTabVisible(3)) << "no strength was looked for";
+  emit In<MatchFindings>("lstEvidence")
+      .itemActivated(evidence.topLevelItem(0), 0);
+  EXPECT_EQ(Find<QTabWidget>("tbsBotPara")->currentIndex(),
+            PageOfParameter(kGauntletUsage.index()));
+
+  window_->current().Edit({}, [](Bot& bot) {
+    bot.Put(kMachinegunUsage, 600.0);
+    for (int index : kChanceRange) bot.Put(ParameterId(index), 0.5);
+  });
+  UseServer(Log("sarge") + End());
+  In<QComboBox>("cmbOpponent").setCurrentText(QStringLiteral("sarge"));
+  Press("cmdStart");
+  ASSERT_TRUE(WaitForEnd());
+  EXPECT_FALSE(lists.isTabVisible(2));
+  const auto said = [this] {
+    return In<SharePlot>("picShare").accessibleDescription().toStdString();
+  };
+  EXPECT_THAT(said(), Not(HasSubstr("as it was loaded")));
+  In<QTreeWidget>("lstRuns").selectAll();
+  EXPECT_THAT(said(), AllOf(HasSubstr("Rookie - sarge. After 1 match: 91 %"),
+                            HasSubstr("Rookie - Bot as it was loaded. After")));
+}
+
+TEST_F(MatchWindow, LooksForAStrengthAndGivesItAsAStep) {
+  const ParameterId attack(Level::k4, kAttackSkillIndex);
+  window_->current().Edit({}, [&](Bot& bot) { bot.Put(attack, 0.5); });
+  UseServer(Log("sarge") + End());
+  In<QComboBox>("cmbOpponent").setCurrentText(QStringLiteral("sarge"));
+  In<QSpinBox>("spnShare").setValue(50);
+  Press("cmdTune");
+  EXPECT_FALSE(In<QPushButton>("cmdTune").isEnabled());
+  EXPECT_FALSE(In<QPushButton>("cmdTakeStrength").isEnabled());
+  ASSERT_TRUE(WaitForEnd());
+  ExpectNothingLeft();
+  // This server lets it win, however weak it is.
+  EXPECT_THAT(Verdict(), AllOf(HasSubstr("Between the two ends, the bot does "
+                                         "not come to 50 %."),
+                               HasSubstr("Now strength -1.000: 91 %")));
+  auto& strength = In<QTreeWidget>("lstStrength");
+  const auto rows = strength.findItems(QStringLiteral("Attack skill, level 4"),
+                                       Qt::MatchExactly);
+  ASSERT_EQ(rows.size(), 1);
+  EXPECT_EQ(Cells(rows.front()), "Attack skill, level 4|0.01|0.5|0.01|1.00");
+  EXPECT_EQ(window_->current().bot().Text(attack), "0.5");
+  Press("cmdTakeStrength");
+  EXPECT_EQ(window_->current().bot().Text(attack), "0.01");
+  EXPECT_EQ(window_->current().bot().Name(), "Rookie");
+  window_->current().steps().undo();
+  EXPECT_EQ(window_->current().bot().Text(attack), "0.5");
+
+  // With what it takes as it is, it stays as it is.
+  In<QSpinBox>("spnShare").setValue(90);
+  Press("cmdTune");
+  ASSERT_TRUE(WaitForEnd());
+  EXPECT_THAT(Verdict(), HasSubstr("The bot takes 90 %, within the margin."));
+
+  window_->current().SetChanged(false);
+  Choose("mnuNewAverage");
+  const std::string other = window_->current().bot().Text(attack);
+  Press("cmdTakeStrength");
+  EXPECT_THAT(Hint(), HasSubstr("Another bot is in the window now."));
+  EXPECT_EQ(window_->current().bot().Text(attack), other);
 }
 
 TEST_F(MatchWindow, EndsAllServersHoweverItEnds) {

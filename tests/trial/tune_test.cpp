@@ -51,7 +51,7 @@ MatchTally MatchAt(double strength, double share_at_zero, double slope,
 TuneState Tune(Tuner& tuner, double share_at_zero, double slope,
                const RandomSource& random) {
   for (int match = 0; match < 5000; ++match) {
-    if (tuner.state() != TuneState::kPlaying) break;
+    if (tuner.state() != TuneState::kOpen) break;
     tuner.Take(MatchAt(tuner.strength(), share_at_zero, slope, random));
   }
   return tuner.state();
@@ -79,7 +79,7 @@ TEST(Tuner, SaysWhenThereIsNone) {
   EXPECT_FALSE(far.Take(MatchAt(0, 0.5, 0, random)));
   // A leap at a strength of 0.3: from nothing to all.
   Tuner leap(0.5, 0.05);
-  while (leap.state() == TuneState::kPlaying) {
+  while (leap.state() == TuneState::kOpen) {
     leap.Take(MatchAt(0, leap.strength() > 0.3 ? 0.95 : 0.05, 0, random));
   }
   EXPECT_EQ(leap.state(), TuneState::kTooFine);

@@ -2,7 +2,9 @@
 
 #include <QPainter>
 #include <algorithm>
+#include <array>
 #include <cstddef>
+#include <utility>
 
 #include "trial/match_words.h"
 
@@ -18,16 +20,22 @@ SharePlot::SharePlot(QWidget* parent) : QWidget(parent) {
   setAccessibleName(QStringLiteral("Share of the points by matches"));
 }
 
-void SharePlot::ShowShares(const std::vector<Estimate>& shares, int matches) {
-  shares_ = shares;
-  matches_ = std::max({matches, static_cast<int>(shares.size()), 2});
-  QString words;
-  if (!shares.empty()) {
-    words = QString::fromStdString("After " + MatchesText(shares.size()) +
-                                   ": " + ShownShare(shares.back()));
+void SharePlot::ShowShares(std::vector<ShareLine> lines, int matches) {
+  lines_ = std::move(lines);
+  matches_ = std::max(matches, 2);
+  QStringList words;
+  for (const ShareLine& line : lines_) {
+    matches_ = std::max(matches_, static_cast<int>(line.shares.size()));
+    if (line.shares.empty()) continue;
+    const QString said =
+        QString::fromStdString("After " + MatchesText(line.shares.size()) +
+                               ": " + ShownShare(line.shares.back()));
+    words << (lines_.size() == 1 ? said
+                                 : line.title + QStringLiteral(". ") + said);
   }
-  setAccessibleDescription(words);
-  setToolTip(words);
+  setAccessibleDescription(words.join(u'\n'));
+  setToolTip(
+      words.join(u'\n').toHtmlEscaped().replace(u'\n', QStringLiteral("<br>")));
   update();
 }
 
@@ -81,30 +89,65 @@ void SharePlot::paintEvent(QPaintEvent* /*event*/) {
                      QString::number(match));
   }
 
+  // The run itself lies above the others.
+  for (std::size_t number = lines_.size(); number-- > 0;) {
+    PaintLine(painter, area, number);
+  }
+}
+
+/// The first one has the color of the selection; the others are told apart by
+/// their strokes as well.
+QColor SharePlot::ColorOf(std::size_t number) const {
+  if (number == 0) return palette().color(QPalette::Highlight);
+  constexpr std::array<QRgb, 4> kColors = {0xffc2570c, 0xff1f8a4c, 0xff8e44ad,
+                                           0xffb8860b};
+  return QColor(kColors.at((number - 1) % kColors.size()));
+}
+
+void SharePlot::PaintLine(QPainter& painter, const QRectF& area,
+                          std::size_t number) {
+  const std::vector<Estimate>& shares = lines_[number].shares;
+  if (shares.empty()) return;
+  const auto y_of = [&area](double share) {
+    return area.bottom() - std::clamp(share, 0.0, 1.0) * area.height();
+  };
   QPolygonF middle;
   QPolygonF above;
   QPolygonF below;
-  for (std::size_t at = 0; at < shares_.size(); ++at) {
-    const double x = x_of(static_cast<double>(at) + 1);
-    middle << QPointF(x, y_of(shares_[at].value));
-    if (shares_[at].interval) {
-      above << QPointF(x, y_of(shares_[at].interval->high));
-      below.prepend(QPointF(x, y_of(shares_[at].interval->low)));
+  for (std::size_t at = 0; at < shares.size(); ++at) {
+    const double x =
+        area.left() + static_cast<double>(at) / (matches_ - 1) * area.width();
+    middle << QPointF(x, y_of(shares[at].value));
+    if (shares[at].interval) {
+      above << QPointF(x, y_of(shares[at].interval->high));
+      below.prepend(QPointF(x, y_of(shares[at].interval->low)));
     }
   }
-  const QColor color = palette().color(QPalette::Highlight);
-  QColor band = color;
-  band.setAlphaF(0.25F);
-  painter.setPen(Qt::NoPen);
-  painter.setBrush(band);
-  painter.drawPolygon(above + below);
+  const QColor color = ColorOf(number);
+  const double line = fontMetrics().lineSpacing();
+  if (number == 0) {
+    QColor band = color;
+    band.setAlphaF(0.25F);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(band);
+    painter.drawPolygon(above + below);
+  }
   painter.setBrush(Qt::NoBrush);
-  painter.setPen(QPen(color, 2));
+  painter.setPen(QPen(color, 2, number == 0 ? Qt::SolidLine : Qt::DashLine));
   painter.drawPolyline(middle);
   painter.setBrush(color);
-  if (!middle.isEmpty()) {
-    painter.drawEllipse(middle.back(), line / 5.0, line / 5.0);
-  }
+  painter.drawEllipse(middle.back(), line / 5, line / 5);
+  if (lines_.size() == 1) return;
+  // Its title at the end of the line, on the side where there is room.
+  painter.setPen(palette().color(QPalette::WindowText));
+  const double room = std::max(area.width() / 2, 8 * line);
+  const bool is_left = middle.back().x() > area.center().x();
+  const QRectF box(is_left ? middle.back().x() - room : middle.back().x(),
+                   middle.back().y() - 1.2 * line, room, line);
+  painter.drawText(
+      box, is_left ? Qt::AlignRight : Qt::AlignLeft,
+      fontMetrics().elidedText(lines_[number].title, Qt::ElideRight,
+                               static_cast<int>(room)));
 }
 
 }  // namespace fragsmith

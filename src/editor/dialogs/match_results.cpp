@@ -2,7 +2,6 @@
 
 #include <QHBoxLayout>
 #include <QHeaderView>
-#include <QTabWidget>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <cmath>
@@ -46,6 +45,11 @@ QString SituationsOf(const OwnLine& line) {
   return captions.join(QStringLiteral(", "));
 }
 
+QString TitleOf(const MatchSession& session) {
+  return QString::fromStdString(session.names.at(0) + " - " +
+                                session.names.at(1));
+}
+
 }  // namespace
 
 MatchResults::MatchResults(QWidget* parent)
@@ -58,7 +62,9 @@ MatchResults::MatchResults(QWidget* parent)
                      {tr("Times"), tr("Line"), tr("Situation")}, this)),
       took_(MakeList("lstTook", tr("What it took"),
                      {tr("Times"), tr("Item"), tr("Every so many seconds")},
-                     this)) {
+                     this)),
+      evidence_(new MatchFindings(this)),
+      strength_(new StrengthList(this)) {
   setObjectName(QStringLiteral("pnlResults"));
   verdict_->setObjectName(QStringLiteral("lblVerdict"));
   verdict_->setWordWrap(true);
@@ -97,10 +103,17 @@ MatchResults::MatchResults(QWidget* parent)
 }
 
 QWidget* MatchResults::MakeLists() {
-  auto* const tabs = new QTabWidget(this);
-  tabs->setObjectName(QStringLiteral("tabLists"));
-  tabs->addTab(said_, tr("What it s&aid"));
-  tabs->addTab(took_, tr("&What it took"));
+  lists_ = new QTabWidget(this);
+  lists_->setObjectName(QStringLiteral("tabLists"));
+  lists_->addTab(said_, tr("What it s&aid"));
+  lists_->addTab(took_, tr("What it &took"));
+  lists_->addTab(evidence_, tr("&Findings"));
+  lists_->addTab(strength_, tr("St&rength"));
+  evidence_->setToolTip(
+      tr("What was found in the bot, where the matches confirm or contradict "
+         "it; double click or Enter leads to it"));
+  connect(evidence_, &MatchFindings::PlaceWanted, this,
+          &MatchResults::PlaceWanted);
   said_->header()->setStretchLastSection(false);
   said_->header()->setSectionResizeMode(kTimes, QHeaderView::ResizeToContents);
   said_->header()->setSectionResizeMode(kLine, QHeaderView::Stretch);
@@ -110,10 +123,11 @@ QWidget* MatchResults::MakeLists() {
   connect(said_, &QTreeWidget::itemActivated, this,
           [this](const QTreeWidgetItem* item) { GoToLine(*item); });
   took_->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
-  return tabs;
+  return lists_;
 }
 
-void MatchResults::ShowSession(MatchSession& session) {
+void MatchResults::ShowSession(MatchSession& session,
+                               const std::vector<const MatchSession*>& others) {
   const bool is_same = shown_ == &session;
   shown_ = &session;
   QString verdict = QString::fromStdString(VerdictOf(session));
@@ -121,8 +135,12 @@ void MatchResults::ShowSession(MatchSession& session) {
     verdict += u'\n' + QString::fromStdString(session.remark);
   }
   verdict_->setText(verdict);
-  share_->ShowShares(session.shares,
-                     session.is_until_sure() ? 0 : session.games);
+  std::vector<ShareLine> lines = {{TitleOf(session), session.shares}};
+  for (const MatchSession* const other : others) {
+    lines.push_back({TitleOf(*other), other->shares});
+  }
+  const bool is_open_end = session.is_until_sure() || session.search;
+  share_->ShowShares(std::move(lines), is_open_end ? 0 : session.games);
   const MatchReport& report = session.report;
   const BotSums sums = SumsOf(report, 0);
   kills_->ShowKills(session.bot, sums.kills, SumsOf(report, 1).kills,
@@ -134,6 +152,15 @@ void MatchResults::ShowSession(MatchSession& session) {
   }
   ShowSaid(session, sums.said);
   ShowTook(report);
+  const std::vector<MatchEvidence> evidence =
+      EvidenceOf(session.findings, report, session.said);
+  evidence_->ShowEvidence(session.findings, evidence);
+  lists_->setTabVisible(lists_->indexOf(evidence_), !evidence.empty());
+  lists_->setTabVisible(lists_->indexOf(strength_), session.search.has_value());
+  if (session.search) {
+    strength_->ShowStrength(session.bot, session.search->tuner.strength());
+    if (!is_same) lists_->setCurrentWidget(strength_);
+  }
 }
 
 void MatchResults::ShowFigures(const MatchReport& report,

@@ -2,6 +2,7 @@
 #define FRAGSMITH_EDITOR_DIALOGS_MATCH_RESULTS_H_
 
 #include <QLabel>
+#include <QTabWidget>
 #include <QTableWidget>
 #include <QTreeWidget>
 #include <QWidget>
@@ -9,6 +10,8 @@
 
 #include "editor/controls/kill_bars.h"
 #include "editor/controls/share_plot.h"
+#include "editor/dialogs/match_findings.h"
+#include "editor/dialogs/strength_list.h"
 #include "editor/state/match_runner.h"
 #include "model/bot_place.h"
 
@@ -22,9 +25,11 @@ class MatchResults : public QWidget {
  public:
   explicit MatchResults(QWidget* parent = nullptr);
 
-  /// Shows a run, or what is new in the one that is shown. Rows stay where
-  /// they are while the same run goes on.
-  void ShowSession(MatchSession& session);
+  /// Shows a run, or what is new in the one that is shown, and how the shares
+  /// of others settled beside its own. Rows stay where they are while the same
+  /// run goes on.
+  void ShowSession(MatchSession& session,
+                   const std::vector<const MatchSession*>& others);
 
   /// For the room of a picture.
   static constexpr int kMargin = 8;
@@ -32,6 +37,8 @@ class MatchResults : public QWidget {
  signals:
   /// One of the bot's lines is wanted, by its place in the bot that played.
   void LineWanted(const fragsmith::ChatPlace& place, const std::string& text);
+  /// What a finding is about is wanted.
+  void PlaceWanted(const fragsmith::BotPlace& place);
 
  private:
   QWidget* MakeLists();
@@ -48,6 +55,9 @@ class MatchResults : public QWidget {
   QTableWidget* bots_;
   QTreeWidget* said_;
   QTreeWidget* took_;
+  MatchFindings* evidence_;
+  StrengthList* strength_;
+  QTabWidget* lists_ = nullptr;
 };
 
 }  // namespace fragsmith

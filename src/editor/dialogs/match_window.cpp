@@ -3,61 +3,25 @@
 #include <QBuffer>
 #include <QDialogButtonBox>
 #include <QFileDialog>
-#include <QFormLayout>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QMenu>
 #include <QScreen>
-#include <QSettings>
 #include <QSplitter>
 #include <QVBoxLayout>
 #include <algorithm>
-#include <initializer_list>
-#include <set>
 #include <utility>
 
-#include "editor/state/window_state.h"
 #include "editor/toolkit/game_text_conversion.h"
-#include "editor/toolkit/wheel_guard.h"
 #include "session/save_bot.h"
 #include "support/files.h"
-#include "trial/game_trial.h"
 
 namespace fragsmith {
 namespace {
 
-constexpr int kFirstMinutes = 5;
-constexpr int kMaxMinutes = 60;
-constexpr int kFirstGames = 10;
-constexpr int kMaxGames = 1000;
-constexpr int kMaxJobs = 64;
-
-// The choices stand in a group of their own in the file of the window; the
-// engine is first taken from that of the trial.
-constexpr const char* kGroup = "match";
-constexpr const char* kTrialGroup = "try";
-constexpr const char* kOpponent = "opponent";
-constexpr const char* kMinutes = "minutes";
-constexpr const char* kGames = "games";
-constexpr const char* kUntilSure = "untilSure";
-constexpr const char* kJobs = "jobs";
-
-constexpr const char* kAsLoaded = "The bot as it was loaded";
-constexpr const char* kAsSaved = "The bot as it was last saved";
-
 enum RunColumn { kBot, kAgainst, kShare, kMatches, kSkillAndMap, kRunColumns };
-
-QSpinBox* MakeNumber(const char* name, const QString& accessible_name, int most,
-                     int value, QWidget* parent) {
-  auto* const box = new QSpinBox(parent);
-  box->setObjectName(QLatin1String(name));
-  box->setAccessibleName(accessible_name);
-  box->setRange(1, most);
-  box->setValue(value);
-  return box;
-}
 
 Error Trouble(std::string what, std::string advice) {
   return {.what = std::move(what),
@@ -68,7 +32,7 @@ Error Trouble(std::string what, std::string advice) {
 
 }  // namespace
 
-frmMatch::frmMatch(CurrentBot& current, const BotChecker& checker,
+frmMatch::frmMatch(CurrentBot& current, BotChecker& checker,
                    ProgramState& state, std::function<bool()> store,
                    QWidget* parent)
     : QDialog(parent),
@@ -77,19 +41,12 @@ frmMatch::frmMatch(CurrentBot& current, const BotChecker& checker,
       state_(state),
       store_(std::move(store)),
       runner_(nullptr),
-      opponent_(new QComboBox(this)),
-      engine_(new EngineFields(EngineChoice::kServersAlone, state, *this)),
-      skill_(new SkillBox(this)),
-      minutes_(MakeNumber("spnMinutes", tr("Minutes of a match"), kMaxMinutes,
-                          kFirstMinutes, this)),
-      games_(
-          MakeNumber("spnGames", tr("Matches"), kMaxGames, kFirstGames, this)),
-      until_sure_(new QCheckBox(tr("Unti&l it is sure"), this)),
-      jobs_(MakeNumber("spnJobs", tr("Matches side by side"), kMaxJobs,
-                       std::min(DefaultJobs(), kMaxJobs), this)),
+      choices_(new MatchChoices(state, this)),
       runs_(new QTreeWidget(this)),
       results_(new MatchResults(this)),
       start_(new QPushButton(this)),
+      tune_(new QPushButton(tr("&Make it as strong"), this)),
+      take_(new QPushButton(tr("Take the stren&gth"), this)),
       export_(new QPushButton(tr("E&xport"), this)),
       progress_(new HintLine(2, this)) {
   setObjectName(QStringLiteral("frmMatch"));
@@ -100,8 +57,8 @@ frmMatch::frmMatch(CurrentBot& current, const BotChecker& checker,
   auto* const left = new QWidget(sides);
   auto* const left_column = new QVBoxLayout(left);
   left_column->setContentsMargins(0, 0, 0, 0);
-  left_column->addWidget(MakeChoices());
-  left_column->addWidget(start_);
+  left_column->addWidget(choices_);
+  left_column->addLayout(MakeStartRow());
   left_column->addSpacing(8);
   left_column->addWidget(MakeRuns(), 1);
   sides->addWidget(left);
@@ -133,46 +90,32 @@ frmMatch::frmMatch(CurrentBot& current, const BotChecker& checker,
     ShowNews();
   });
   connect(results_, &MatchResults::LineWanted, this, &frmMatch::GoToLine);
+  connect(results_, &MatchResults::PlaceWanted, this, &frmMatch::GoTo);
   FillOpponents();
-  LoadChoices();
+  choices_->Load();
   SetRunning(false);
 }
 
-QWidget* frmMatch::MakeChoices() {
-  auto* const box = new QWidget(this);
-  auto* const fields = new QFormLayout(box);
-  fields->setContentsMargins(0, 0, 0, 0);
-  fields->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
-  opponent_->setObjectName(QStringLiteral("cmbOpponent"));
-  opponent_->setAccessibleName(tr("Against"));
-  opponent_->setToolTip(
-      tr("How this bot was, or the name of a bot of the installed game"));
-  opponent_->setEditable(true);
-  opponent_->setInsertPolicy(QComboBox::NoInsert);
-  opponent_->setMinimumContentsLength(20);
-  opponent_->setSizeAdjustPolicy(
-      QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  IgnoreWheelWithoutFocus(*opponent_);
-  fields->addRow(tr("Aga&inst:"), opponent_);
-  fields->addRow(tr("S&kill:"), skill_);
-  fields->addRow(tr("Min&utes:"), minutes_);
-  minutes_->setToolTip(tr("Of game time: five pass in some seconds"));
-  fields->addRow(tr("Matc&hes:"), games_);
-  until_sure_->setObjectName(QStringLiteral("chkUntilSure"));
-  until_sure_->setToolTip(
-      tr("Plays until it is clear which of the two is better, or that they "
-         "differ by less than 5 points in a hundred, %1 matches at most")
-          .arg(kMostUntilSure));
-  connect(until_sure_, &QCheckBox::toggled, games_, &QWidget::setDisabled);
-  fields->addRow(QString(), until_sure_);
-  fields->addRow(tr("Side &by side:"), jobs_);
-  engine_->AddTo(*fields);
-  engine_->map().setToolTip(tr("Several with commas between them take turns"));
+QLayout* frmMatch::MakeStartRow() {
+  auto* const row = new QHBoxLayout;
   start_->setObjectName(QStringLiteral("cmdStart"));
-  // Enter in a list leads to its row, and begins nothing.
-  start_->setAutoDefault(false);
   connect(start_, &QPushButton::clicked, this, &frmMatch::StartOrStop);
-  return box;
+  tune_->setObjectName(QStringLiteral("cmdTune"));
+  tune_->setToolTip(
+      tr("Moves the levels between a weak and a strong end until the bot takes "
+         "the wished share. Nothing changes before you take the result."));
+  connect(tune_, &QPushButton::clicked, this, [this] { Start(true); });
+  take_->setObjectName(QStringLiteral("cmdTakeStrength"));
+  take_->setToolTip(
+      tr("Gives the bot the values of the list \"Strength\", as one step that "
+         "can be undone"));
+  connect(take_, &QPushButton::clicked, this, &frmMatch::TakeStrength);
+  for (QPushButton* const button : {start_, tune_}) {
+    // Enter in a list leads to its row, and begins nothing.
+    button->setAutoDefault(false);
+    row->addWidget(button, 1);
+  }
+  return row;
 }
 
 QWidget* frmMatch::MakeRuns() {
@@ -189,10 +132,14 @@ QWidget* frmMatch::MakeRuns() {
       {tr("Bot"), tr("Against"), tr("Share"), tr("Matches"), tr("Skill, map")});
   runs_->setRootIsDecorated(false);
   runs_->setAllColumnsShowFocus(true);
+  runs_->setSelectionMode(QAbstractItemView::ExtendedSelection);
+  runs_->setToolTip(tr("Those that are selected stand in one picture"));
   runs_->setMinimumHeight(6 * fontMetrics().lineSpacing());
   runs_->header()->setStretchLastSection(false);
   runs_->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
   connect(runs_, &QTreeWidget::currentItemChanged, this,
+          &frmMatch::ShowSelected);
+  connect(runs_, &QTreeWidget::itemSelectionChanged, this,
           &frmMatch::ShowSelected);
   return box;
 }
@@ -223,6 +170,8 @@ QWidget* frmMatch::MakeButtonRow() {
       });
   export_->setMenu(menu);
   buttons->addButton(export_, QDialogButtonBox::ActionRole);
+  take_->setAutoDefault(false);
+  buttons->addButton(take_, QDialogButtonBox::ActionRole);
   auto* const close = new QPushButton(tr("&Close"), this);
   close->setObjectName(QStringLiteral("cmdClose"));
   close->setAutoDefault(false);
@@ -232,60 +181,8 @@ QWidget* frmMatch::MakeButtonRow() {
 }
 
 void frmMatch::FillOpponents() {
-  const QString chosen = opponent_->currentText();
-  opponent_->clear();
-  opponent_->addItem(QLatin1String(kAsLoaded));
-  if (current_.origin().home->saved) {
-    opponent_->addItem(QLatin1String(kAsSaved));
-  }
-  opponent_->insertSeparator(opponent_->count());
-  std::set<std::string> names;
-  if (checker_.game() != nullptr) {
-    for (const auto& [name, bot] : checker_.game()->known_bots) {
-      names.insert(name);
-    }
-  }
-  for (const std::string& name : names) opponent_->addItem(ToQString(name));
-  if (!chosen.isEmpty()) opponent_->setCurrentText(chosen);
-}
-
-void frmMatch::LoadChoices() {
-  QSettings file(WindowStateFile(state_.folders.program), QSettings::IniFormat);
-  file.beginGroup(QLatin1String(kGroup));
-  if (!engine_->Load(file)) {
-    file.endGroup();
-    file.beginGroup(QLatin1String(kTrialGroup));
-    if (!engine_->Load(file) || !IsDedicatedServer(engine_->Engine())) {
-      engine_->Suggest();
-    }
-    return;
-  }
-  const auto number = [&file](const char* key, QSpinBox& box) {
-    box.setValue(file.value(QLatin1String(key), box.value()).toInt());
-  };
-  opponent_->setCurrentText(
-      file.value(QLatin1String(kOpponent), opponent_->currentText())
-          .toString());
-  skill_->Load(file);
-  number(kMinutes, *minutes_);
-  number(kGames, *games_);
-  number(kJobs, *jobs_);
-  until_sure_->setChecked(file.value(QLatin1String(kUntilSure)).toBool());
-}
-
-void frmMatch::SaveChoices() const {
-  QSettings file(WindowStateFile(state_.folders.program), QSettings::IniFormat);
-  file.beginGroup(QLatin1String(kGroup));
-  engine_->Save(file);
-  const auto save = [&file](const char* key, const QVariant& value) {
-    file.setValue(QLatin1String(key), value);
-  };
-  save(kOpponent, opponent_->currentText());
-  skill_->Save(file);
-  save(kMinutes, minutes_->value());
-  save(kGames, games_->value());
-  save(kJobs, jobs_->value());
-  save(kUntilSure, until_sure_->isChecked());
+  choices_->FillOpponents(current_.origin().home->saved != nullptr,
+                          checker_.game());
 }
 
 void frmMatch::Present() {
@@ -296,44 +193,46 @@ void frmMatch::Present() {
 }
 
 void frmMatch::done(int result) {
-  SaveChoices();
+  choices_->Save();
   runner_.Stop();
   QDialog::done(result);
 }
 
 frmMatch::Opponent frmMatch::ChosenOpponent() const {
-  const QString text = opponent_->currentText().trimmed();
+  using Kind = MatchChoices::OpponentKind;
   const auto as_it_was = [](const Bot& bot, const char* when) {
     return Opponent{Utf8FromGameText(bot.Name()) + when, &bot};
   };
-  if (text == QLatin1String(kAsLoaded)) {
+  const Kind kind = choices_->Opponent();
+  const Bot* const saved = current_.origin().home->saved.get();
+  if (kind == Kind::kAsLoaded) {
     return as_it_was(current_.loaded(), " as it was loaded");
   }
-  const Bot* const saved = current_.origin().home->saved.get();
-  if (text == QLatin1String(kAsSaved) && saved != nullptr) {
+  if (kind == Kind::kAsSaved && saved != nullptr) {
     return as_it_was(*saved, " as it was saved");
   }
-  return {text.toStdString()};
+  return {choices_->OpponentName()};
 }
 
 void frmMatch::StartOrStop() {
   if (runner_.IsRunning()) return runner_.Stop();
-  Start();
+  Start(false);
 }
 
-Result<std::unique_ptr<MatchSession>> frmMatch::MakeSession() {
-  if (engine_->Engine().empty()) {
+Result<std::unique_ptr<MatchSession>> frmMatch::MakeSession(bool search) {
+  if (choices_->Server().engine.empty()) {
     return Failure(Trouble("There is no dedicated server to play on.",
                            "Install one, such as ioq3ded, and choose it as "
                            "the engine."));
   }
-  if (engine_->Map().empty()) {
-    engine_->map().setFocus();
+  std::vector<std::string> maps = choices_->Maps();
+  if (maps.empty()) {
+    choices_->FocusMap();
     return Failure(Trouble("There is no map to play on.", "Enter its name."));
   }
   const Opponent opponent = ChosenOpponent();
   if (opponent.name.empty()) {
-    opponent_->setFocus();
+    choices_->FocusOpponent();
     return Failure(
         Trouble("There is nobody to play against.", "Choose an opponent."));
   }
@@ -341,37 +240,57 @@ Result<std::unique_ptr<MatchSession>> frmMatch::MakeSession() {
   const GameData* const game = checker_.game();
   auto session = std::make_unique<MatchSession>(
       current_.bot(), game == nullptr ? kNoWords : game->words);
+  checker_.CheckNow();
+  session->findings = checker_.findings();
+  session->home = current_.origin().home;
   session->names = {Utf8FromGameText(session->bot.Name()), opponent.name};
   if (opponent.bot != nullptr && *opponent.bot == session->bot) {
     session->remark = "Nothing is different: it plays against itself.";
   }
-  session->games = until_sure_->isChecked() ? kMostUntilSure : games_->value();
+  const Author author = AuthorOf(state_.settings);
+  const int skill = choices_->Skill();
+  const auto of_bot = [author, skill](const Bot& bot) {
+    Result<MatchBot> read = MatchBotOf(bot, author);
+    if (read) read->skill = skill;
+    return read;
+  };
   MatchReport& report = session->report;
   report.sources = session->names;
-  if (until_sure_->isChecked()) {
+  report.plan.minutes = choices_->Minutes();
+  report.plan.maps = std::move(maps);
+  Result<MatchBot> own = of_bot(session->bot);
+  if (!own) return Failure(own.error());
+  Result<MatchBot> other =
+      opponent.bot != nullptr
+          ? of_bot(*opponent.bot)
+          : MatchBot{
+                .name = GameTextFromUtf8(opponent.name).value_or(opponent.name),
+                .skill = static_cast<double>(skill)};
+  if (!other) return Failure(other.error());
+  report.plan.bots = {std::move(*own), std::move(*other)};
+  if (search) {
+    constexpr double kPercent = 100;
+    const double share = choices_->WishedShare();
+    session->games = kMaxTuneMatches;
+    session->search = {.wished_share = share,
+                       .bot_at =
+                           [of_bot, bot = session->bot](double strength) {
+                             return of_bot(WithStrength(bot, strength));
+                           },
+                       .tuner = Tuner(share, kTuneMargin / kPercent)};
+  } else if (choices_->IsUntilSure()) {
+    session->games = kMostUntilSure;
     report.tests.emplace_back(0, 1, SequentialTest::Question());
-  }
-  report.plan.minutes = minutes_->value();
-  QString maps = QString::fromStdString(engine_->Map());
-  report.plan.maps = MapsIn(maps.remove(u' ').toStdString());
-  const Author author = AuthorOf(state_.settings);
-  for (const Bot* const bot :
-       {static_cast<const Bot*>(&session->bot), opponent.bot}) {
-    Result<MatchBot> read =
-        bot == nullptr ? MatchBot{.name = GameTextFromUtf8(opponent.name)
-                                              .value_or(opponent.name)}
-                       : MatchBotOf(*bot, author);
-    if (!read) return Failure(read.error());
-    read->skill = skill_->Skill();
-    report.plan.bots.push_back(std::move(*read));
+  } else {
+    session->games = choices_->Games();
   }
   return session;
 }
 
-void frmMatch::Start() {
+void frmMatch::Start(bool search) {
   if (!store_()) return;
-  SaveChoices();
-  Result<std::unique_ptr<MatchSession>> made = MakeSession();
+  choices_->Save();
+  Result<std::unique_ptr<MatchSession>> made = MakeSession(search);
   if (!made) {
     return progress_->Say(QString::fromStdString(Describe(made.error())));
   }
@@ -380,25 +299,16 @@ void frmMatch::Start() {
   auto* const row = new QTreeWidgetItem(runs_);
   ShowRun(*row, session);
   SetRunning(true);
-  runner_.Start(session,
-                {.engine = engine_->Engine(),
-                 .data = engine_->Data(),
-                 .game = engine_->Game()},
-                jobs_->value());
+  runner_.Start(session, choices_->Server(), choices_->Jobs());
   runs_->setCurrentItem(row);
   ShowProgress();
 }
 
 void frmMatch::SetRunning(bool is_running) {
   start_->setText(is_running ? tr("S&top") : tr("&Start"));
-  for (QWidget* const field : std::initializer_list<QWidget*>{
-           opponent_, skill_, minutes_, until_sure_, jobs_}) {
-    field->setEnabled(!is_running);
-  }
-  games_->setEnabled(!is_running && !until_sure_->isChecked());
-  engine_->SetEnabled(!is_running);
-  export_->setEnabled(Selected() != nullptr &&
-                      !Selected()->report.played.empty());
+  tune_->setEnabled(!is_running);
+  choices_->SetRunning(is_running);
+  ShowSelected();
   if (!is_running) progress_->Say({});
 }
 
@@ -407,7 +317,9 @@ void frmMatch::ShowProgress() {
   const MatchSession& session = *sessions_.back();
   progress_->Say(tr("%1 of %2%3 matches played, %4 running, minute %5")
                      .arg(session.report.played.size())
-                     .arg(session.is_until_sure() ? tr("at most ") : QString())
+                     .arg(session.is_until_sure() || session.search
+                              ? tr("at most ")
+                              : QString())
                      .arg(session.games)
                      .arg(runner_.in_play())
                      .arg(runner_.minute()));
@@ -446,7 +358,41 @@ void frmMatch::ShowSelected() {
   MatchSession* const session = Selected();
   shown_->setCurrentIndex(session == nullptr ? 0 : 1);
   export_->setEnabled(session != nullptr && !session->report.played.empty());
-  if (session != nullptr) results_->ShowSession(*session);
+  take_->setVisible(session != nullptr && session->search);
+  take_->setEnabled(session != nullptr && session->end.has_value());
+  if (session == nullptr) return;
+  std::vector<const MatchSession*> others;
+  for (QTreeWidgetItem* const item : runs_->selectedItems()) {
+    const MatchSession& other = SessionOf(*item);
+    if (&other != session) others.push_back(&other);
+  }
+  results_->ShowSession(*session, others);
+}
+
+const MatchSession& frmMatch::SessionOf(QTreeWidgetItem& row) const {
+  const int number = runs_->indexOfTopLevelItem(&row);
+  return *sessions_.at(static_cast<std::size_t>(number));
+}
+
+void frmMatch::TakeStrength() {
+  const MatchSession& session = *Selected();
+  if (session.home != current_.origin().home) {
+    return progress_->Say(
+        tr("Another bot is in the window now. Load %1 to give it its strength.")
+            .arg(QString::fromStdString(session.names.front())));
+  }
+  if (!store_()) return;
+  const Bot moved = WithStrength(session.bot, session.search->tuner.strength());
+  current_.Edit({.text = tr("Strength"), .place = WholeBot{}, .merges = false},
+                [&moved](Bot& bot) {
+                  for (const StrengthEnds& ends : AllStrengthEnds()) {
+                    for (const Level level : kLevels) {
+                      const ParameterId id(level, ends.index);
+                      bot.Put(id, moved.Parameter(id));
+                    }
+                  }
+                });
+  progress_->Say(tr("The bot has that strength now; Undo takes it back."));
 }
 
 MatchSession* frmMatch::Selected() const {

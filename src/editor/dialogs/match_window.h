@@ -1,11 +1,8 @@
 #ifndef FRAGSMITH_EDITOR_DIALOGS_MATCH_WINDOW_H_
 #define FRAGSMITH_EDITOR_DIALOGS_MATCH_WINDOW_H_
 
-#include <QCheckBox>
-#include <QComboBox>
 #include <QDialog>
 #include <QPushButton>
-#include <QSpinBox>
 #include <QStackedWidget>
 #include <QTreeWidget>
 #include <functional>
@@ -14,9 +11,8 @@
 #include <vector>
 
 #include "editor/dialogs/dialog_parts.h"
-#include "editor/dialogs/engine_fields.h"
+#include "editor/dialogs/match_choices.h"
 #include "editor/dialogs/match_results.h"
-#include "editor/dialogs/skill_box.h"
 #include "editor/state/bot_checker.h"
 #include "editor/state/current_bot.h"
 #include "editor/state/match_runner.h"
@@ -26,16 +22,17 @@
 namespace fragsmith {
 
 /// Lets the current bot play matches in fast time, against how it was or
-/// against one of the game's, beside the main window, which stays usable. The
-/// runs of the session are kept and stand beside each other; no server outlives
-/// the window's closing.
+/// against one of the game's, beside the main window, which stays usable, or
+/// looks for the strength at which it takes a wished share. The runs of the
+/// session are kept and stand beside each other; no server outlives the
+/// window's closing.
 class frmMatch : public QDialog {
   Q_OBJECT
 
  public:
   /// All but the parent outlive it. `store` puts what is being typed into the
   /// bot; it says false where that cannot be.
-  frmMatch(CurrentBot& current, const BotChecker& checker, ProgramState& state,
+  frmMatch(CurrentBot& current, BotChecker& checker, ProgramState& state,
            std::function<bool()> store, QWidget* parent);
 
   /// Shows it, or brings it to the front.
@@ -54,46 +51,44 @@ class frmMatch : public QDialog {
     const Bot* bot = nullptr;  ///< Null for one of the installed game.
   };
 
-  QWidget* MakeChoices();
+  QLayout* MakeStartRow();
   QWidget* MakeRuns();
   QWidget* MakeButtonRow();
   void FillOpponents();
-  void LoadChoices();
-  void SaveChoices() const;
 
   Opponent ChosenOpponent() const;
   void StartOrStop();
-  void Start();
+  /// With `search` for the strength at which the bot takes the wished share.
+  void Start(bool search);
   /// What is to be played; the reason when nothing can be.
-  Result<std::unique_ptr<MatchSession>> MakeSession();
+  Result<std::unique_ptr<MatchSession>> MakeSession(bool search);
   void SetRunning(bool is_running);
   void ShowProgress();
   void ShowNews();
   static void ShowRun(QTreeWidgetItem& row, const MatchSession& session);
   void ShowSelected();
   MatchSession* Selected() const;
+  const MatchSession& SessionOf(QTreeWidgetItem& row) const;
+  /// Gives the bot the strength that the shown search has come to.
+  void TakeStrength();
   void GoToLine(const ChatPlace& place, const std::string& text);
   void Export(const QString& title, const QString& ending,
               const std::function<std::string()>& bytes);
 
   CurrentBot& current_;
-  const BotChecker& checker_;
+  BotChecker& checker_;
   ProgramState& state_;
   std::function<bool()> store_;
   std::vector<std::unique_ptr<MatchSession>> sessions_;
   MatchRunner runner_;  ///< Goes before the sessions do.
 
-  QComboBox* opponent_;
-  EngineFields* engine_;
-  SkillBox* skill_;
-  QSpinBox* minutes_;
-  QSpinBox* games_;
-  QCheckBox* until_sure_;
-  QSpinBox* jobs_;
+  MatchChoices* choices_;
   QTreeWidget* runs_;
   MatchResults* results_;
   QStackedWidget* shown_ = nullptr;  ///< The results, or what to do first.
   QPushButton* start_;
+  QPushButton* tune_;
+  QPushButton* take_;
   QPushButton* export_;
   HintLine* progress_;
 };

@@ -9,9 +9,33 @@ namespace {
 
 constexpr int kStepMilliseconds = 20;
 
+std::size_t MatchesPlayed(const Tuner& tuner) {
+  std::size_t matches = 0;
+  for (const TuneStep& step : tuner.steps()) matches += step.matches.size();
+  return matches;
+}
+
+std::string VerdictOf(const StrengthSearch& search, bool has_ended) {
+  const Tuner& tuner = search.tuner;
+  const std::size_t matches = MatchesPlayed(tuner);
+  std::string text;
+  if (has_ended) {
+    text = matches == 0 ? "No match was played to its end."
+                        : TuneInWords(tuner, search.wished_share);
+  } else {
+    constexpr double kPercent = 100;
+    text = "Looking for the strength that takes " +
+           Fixed(search.wished_share * kPercent, 0) + " %.";
+  }
+  text += " Now " + StepInWords(tuner.steps().back());
+  return text + "; " + MatchesText(matches) + " in all.";
+}
+
 }  // namespace
 
 std::string VerdictOf(const MatchSession& session) {
+  if (session.search)
+    return VerdictOf(*session.search, session.end.has_value());
   const std::size_t played = session.report.played.size();
   if (played == 0) {
     return session.end ? "No match was played to its end."
@@ -38,12 +62,16 @@ MatchRunner::MatchRunner(QObject* parent) : QObject(parent) {
 
 void MatchRunner::Start(MatchSession& session, MatchServer server, int jobs) {
   session_ = &session;
+  settings_ = {.server = std::move(server), .jobs = jobs};
+  Begin();
+  timer_.start();
+}
+
+void MatchRunner::Begin() {
   in_play_ = 0;
   minute_ = 1;
   MatchRunListener& listener = *this;
-  run_.emplace(MatchRunSettings{.server = std::move(server), .jobs = jobs},
-               listener);
-  timer_.start();
+  run_.emplace(settings_, listener);
 }
 
 void MatchRunner::Stop() {
@@ -51,15 +79,33 @@ void MatchRunner::Stop() {
 }
 
 void MatchRunner::Step() {
-  const std::size_t played = session_->report.played.size();
+  const std::vector<PlayedMatch>& all = session_->report.played;
+  const std::size_t played = all.size();
   const auto moved = std::pair(in_play_, minute_);
   run_->Step();
-  if (session_->report.played.size() != played) emit Played();
+  if (all.size() != played) emit Played();
   if (std::pair(in_play_, minute_) != moved) emit Moved();
   if (run_ && run_->end()) End(*run_->end());
 }
 
+bool MatchRunner::BeginNextStrength() {
+  if (!session_->search) return false;
+  const StrengthSearch& search = *session_->search;
+  if (search.tuner.state() != TuneState::kOpen) return false;
+  Result<MatchBot> moved = search.bot_at(search.tuner.strength());
+  if (!moved) {
+    session_->remark = Describe(moved.error());
+    return false;
+  }
+  session_->report.plan.bots.front() = std::move(*moved);
+  session_->report.played.clear();
+  session_->shares.clear();
+  Begin();
+  return true;
+}
+
 void MatchRunner::End(MatchRunEnd end) {
+  if (end == MatchRunEnd::kAnswered && BeginNextStrength()) return;
   timer_.stop();
   run_.reset();
   session_->end = end;
@@ -67,7 +113,15 @@ void MatchRunner::End(MatchRunEnd end) {
 }
 
 std::optional<Match> MatchRunner::MatchAt(int number) {
-  if (number >= session_->games) return std::nullopt;
+  std::size_t before = 0;
+  if (session_->search) {
+    before = MatchesPlayed(session_->search->tuner) -
+             session_->search->tuner.steps().back().matches.size();
+  }
+  if (static_cast<std::size_t>(number) + before >=
+      static_cast<std::size_t>(session_->games)) {
+    return std::nullopt;
+  }
   return MatchOf(session_->report.plan, number);
 }
 
@@ -76,6 +130,7 @@ bool MatchRunner::Take(int /*number*/, PlayedMatch played) {
   const MatchTally tally = TallyOf(played);
   report.played.push_back(std::move(played));
   session_->shares.push_back(Compare(TalliesOf(report), 0, 1).share);
+  if (session_->search) return session_->search->tuner.Take(tally);
   for (SequentialTest& test : report.tests) test.Take(tally);
   return report.tests.empty() ||
          report.tests.front().settled() == Settled::kNot;

@@ -3,18 +3,31 @@
 
 #include <QObject>
 #include <QTimer>
+#include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
+#include "checks/finding.h"
 #include "editor/toolkit/program_end.h"
 #include "model/bot.h"
+#include "session/bot_origin.h"
 #include "trial/match_report.h"
 #include "trial/match_run.h"
 #include "trial/match_words.h"
 #include "trial/said_lines.h"
+#include "trial/tune.h"
 
 namespace fragsmith {
+
+/// The search for the strength at which the bot takes a wished share.
+struct StrengthSearch {
+  double wished_share;  ///< 0 to 1.
+  /// The bot of that strength, for the game.
+  std::function<Result<MatchBot>(double strength)> bot_at;
+  Tuner tuner;
+};
 
 /// A run of matches between a bot of the window and another one, as far as it
 /// has come.
@@ -26,7 +39,13 @@ struct MatchSession {
   SaidLines said;
   /// What people call the two bots.
   std::vector<std::string> names;
+  /// Whose bot it is, however it was edited since.
+  std::shared_ptr<BotHome> home;
+  /// What was found in the bot when the run began.
+  std::vector<Finding> findings = {};
+  /// Where it searches, the report is that of the strength that is played now.
   MatchReport report;
+  std::optional<StrengthSearch> search = {};
   int games = 0;  ///< How many there are to be, or may be at most.
   /// The bot's share of the points of the two after each match.
   std::vector<Estimate> shares;
@@ -72,9 +91,14 @@ class MatchRunner : public QObject, private MatchRunListener {
                    bool is_played_again) override;
   bool Watch(const MatchesInPlay& in_play) override;
   void Step();
+  void Begin();
   void End(MatchRunEnd end);
+  /// Goes on with the strength that the search asks for next; false where
+  /// there is none.
+  bool BeginNextStrength();
 
   QTimer timer_;
+  MatchRunSettings settings_;
   std::optional<MatchRun> run_;
   AtProgramEnd at_program_end_{[this] { run_.reset(); }};
   MatchSession* session_ = nullptr;
