@@ -12,7 +12,7 @@ import time
 import warnings
 import zipfile
 
-from screen import Editor, key, text, until, write, xdotool
+from screen import Editor, key, names, text, until, write, xdotool
 
 # The bus has two sets of names for the same calls.
 warnings.simplefilter("ignore", DeprecationWarning)
@@ -53,6 +53,7 @@ CHATS = {
     "random_misc": ["Strike while the {FOOD} is hot."],
 }
 # What the other bots of the list are called, and by whom they are packed.
+SERVER = "/usr/games/openarena-server"
 OTHERS = ["Anvil", "Bellows", "Clinker", "Rivet", "Tongs"]
 
 
@@ -109,6 +110,8 @@ def cinder(cli):
         weapons[name] = 60 + place * 37 % 190
     weapons.update(W_GAUNTLET=10, W_ROCKETLAUNCHER=320, W_RAILGUN=260)
     document["chats"].update(CHATS)
+    # Replies are the game's own words.
+    document["chatCharacteristics"]["CHARACTERISTIC_CHAT_REPLY"] = 0
     return document
 
 
@@ -169,9 +172,10 @@ def resize():
     time.sleep(0.3)
 
 
-def start(program, ground, *arguments):
+def start(program, ground, *arguments, kept=""):
+    """Starts the editor with what it has kept of its windows."""
     os.environ["XDG_CONFIG_HOME"] = str(HOME / ground)
-    (HOME / "own" / "fgs.window").unlink(missing_ok=True)
+    (HOME / "own" / "fgs.window").write_text(kept)
     editor = Editor(program, *arguments)
     resize()
     return editor
@@ -180,6 +184,31 @@ def start(program, ground, *arguments):
 def end(editor):
     key("ctrl+q")
     editor.end()
+
+
+def play(program, folder, arguments, bot):
+    """Pictures of a run in the real game, and of the search for a strength."""
+    editor = start(program, "light", *arguments, bot,
+                   kept=f"[match]\nengine={SERVER}\nmap=oa_dm1\ngame=baseoa\n")
+    key(*["ctrl+Tab"] * 3)
+    editor.focus("Rocket launcher usage", "slider")
+    key("Home")
+    key("F6")
+    editor.window("Play it out")
+    key("alt+s")
+    editor.find("Stop", "push button")
+    # Ten matches take longer than anything else here.
+    while not any("Start" in names(button)
+                  for button in editor.controls("push button")):
+        time.sleep(1)
+    # What the game itself let it say is not for a manual.
+    key("alt+t")
+    take("match", folder, "Play it out")
+    key("Escape")
+    editor.window(TITLE + "*")
+    key("ctrl+z")
+    editor.window(TITLE)
+    end(editor)
 
 
 def main():
@@ -242,6 +271,9 @@ def main():
     key("Return")
     editor.window(TITLE)
     end(editor)
+
+    if pathlib.Path(SERVER).exists():
+        play(program, folder, arguments, bot)
 
     editor = start(program, "dark", *arguments, bot)
     editor.focus("Attack skill, level 1", "slider")
