@@ -7,7 +7,7 @@ source "$(dirname "${BASH_SOURCE[0]}")/set_up.sh"
 begin_with_a_server "$@"
 "$cli" new --preset all-rounder --name Rounder \
   --program-folder "$scratch/program" >"$scratch/rounder.json"
-common=(--program-folder "$scratch/program" --minutes 3
+common=(--program-folder "$scratch/program" --minutes 2
   --engine /usr/games/openarena-server)
 # By itself it takes about half of the points from one like it.
 wished=30 margin=9
