@@ -230,7 +230,8 @@ void BotFromPackage(benchmark::State& state) {
   for ([[maybe_unused]] auto _ : state) {
     loaded = LoadBotFromPackage(
         {.package = disk.package, .name = "rookie", .withScript = true}, Bot(),
-        {.folder = WZUNZIP_FOLDER}, temporary, {models, bots, prompts, TheAuthor()});
+        {.folder = WZUNZIP_FOLDER}, temporary,
+        {models, bots, prompts, TheAuthor()});
   }
   CheckLoaded(loaded ? *loaded : LoadedBot(), prompts, state);
 }

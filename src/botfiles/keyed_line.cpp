@@ -118,7 +118,9 @@ void ValueReader::Take(const KeyedLine& line, ParameterId id, IsTold is_told) {
   }
   seen.line = line.number;
   seen.is_shortened = IsShortened(text, bot_.Parameter(id));
-  seen.is_comment = !Contains(line.code, BareKey(id.index()));
+  // Most lines have no comment that could have been taken off.
+  seen.is_comment = line.code.size() < line.text.size() &&
+                    !Contains(line.code, BareKey(id.index()));
   seen.is_told = seen.is_told || is_told == IsTold::kYes;
 }
 
@@ -137,7 +139,7 @@ void ValueReader::TakeAsGame(std::size_t line, ParameterId id, Value value,
 
 void ValueReader::Finish() {
   for (const auto& [id, seen] : seen_) {
-    report_.given.insert(id);
+    report_.given.insert(report_.given.end(), id);
     Compare(id, seen);
   }
   TellOverwritten();

@@ -14,6 +14,14 @@
 namespace fragsmith {
 namespace {
 
+constexpr bool HasNoBrace(const WordList& list) {
+  return !list.Variable.starts_with('{');
+}
+static_assert(std::count_if(kWordLists.begin(), kWordLists.end(), HasNoBrace) ==
+              1);
+constexpr std::string_view kPlainVariable =
+    std::find_if(kWordLists.begin(), kWordLists.end(), HasNoBrace)->Variable;
+
 bool IsNumber(std::string_view text) {
   return !text.empty() &&
          text.find_first_not_of("0123456789") == std::string_view::npos;
@@ -322,6 +330,9 @@ std::string ChatLineToFile(ChatTypeId type, std::string_view line) {
       first_letters.set(static_cast<unsigned char>(line[at]));
     }
   }
+  const bool may_hold_any =
+      first_letters.any() || Contains(line, kPlainVariable);
+  if (!may_hold_any) return '"' + open.text + "\";";
   const auto holds = [&](std::string_view variable) {
     const bool may_stand =
         !variable.starts_with('{') ||

@@ -36,8 +36,8 @@ class FileReplacement {
   Result<void> CommitUnflushed();
 
  private:
-  FileReplacement(std::filesystem::path target,
-                  std::filesystem::path temporary, system::NewFile file);
+  FileReplacement(std::filesystem::path target, std::filesystem::path temporary,
+                  system::NewFile file);
 
   std::filesystem::path target_;
   std::filesystem::path temporary_;
