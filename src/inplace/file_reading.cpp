@@ -75,22 +75,25 @@ std::string FieldFact(ParameterId id, const Value& value) {
   return FactOf(has_number ? Value(text.substr(0, comment)) : value);
 }
 
-/// True for a text that is the plain one, in quotes or not, with a comment
-/// behind it: a load takes that along, and tells so.
-bool IsWithComment(ParameterId id, std::string_view text,
-                   std::string_view plain) {
+/// True for a text that is the plain one, in quotes or not, with what a load
+/// takes along and tells of: a comment behind it, or the "1" of the key color1
+/// in front.
+bool IsWithMore(ParameterId id, std::string_view text, std::string_view plain) {
   const auto is_comment = [](std::string_view rest) {
     return rest.starts_with("//") || rest.starts_with("/*");
   };
   // The "/" of a skin may be the comment's own.
   if (id == kSkinField && is_comment('/' + std::string(text))) return true;
   text = TrimBlanks(text);
+  const bool is_of_color1 = id == kRailColorField && text.starts_with('1');
+  if (is_of_color1) text = TrimBlanks(text.substr(1));
   // Of the quotation marks it may have taken away the first alone.
   if (text.starts_with('"')) text.remove_prefix(1);
   if (!ToLower(text).starts_with(ToLower(plain))) return false;
   text.remove_prefix(plain.size());
   if (text.starts_with('"')) text.remove_prefix(1);
-  return is_comment(TrimBlanks(text));
+  text = TrimBlanks(text);
+  return is_comment(text) || (is_of_color1 && text.empty());
 }
 
 void AddOurFacts(BotFile kind, FileReading& reading) {
@@ -99,10 +102,9 @@ void AddOurFacts(BotFile kind, FileReading& reading) {
     const Value& value = reading.bot.Parameter(id);
     const auto plain = reading.report.plain_values.find(id);
     const bool is_odd = plain != reading.report.plain_values.end();
-    const bool has_comment =
-        is_odd && kind == BotFile::kDescription &&
-        IsWithComment(id, ToText(value), ToText(plain->second));
-    facts[RuleFact(id)] = FieldFact(id, has_comment ? plain->second : value);
+    const bool has_more = is_odd && kind == BotFile::kDescription &&
+                          IsWithMore(id, ToText(value), ToText(plain->second));
+    facts[RuleFact(id)] = FieldFact(id, has_more ? plain->second : value);
     facts[PlainFact(id)] = FieldFact(id, is_odd ? plain->second : value);
   }
   for (const ReadReport::Name& name : reading.report.names) {
