@@ -96,14 +96,31 @@ bool IsWithMore(ParameterId id, std::string_view text, std::string_view plain) {
   return is_comment(text) || (is_of_color1 && text.empty());
 }
 
+/// True for a text of which a comment is the beginning and the plain number the
+/// end: a load goes by columns, and tells what it takes.
+bool IsBehindComment(std::string_view text, const Value& plain) {
+  constexpr std::string_view kEnd = "*/";
+  std::size_t end = text.find(kEnd);
+  if (end == std::string_view::npos) return false;
+  while (end != std::string_view::npos) {
+    text = TrimBlanksAndTabs(text.substr(end + kEnd.size()));
+    end = text.starts_with("/*") ? text.find(kEnd) : std::string_view::npos;
+  }
+  text = text.substr(0, std::min(text.find("//"), text.find("/*")));
+  const std::optional<double> number = NumberFromText(text);
+  return number && number == ToNumber(plain);
+}
+
 void AddOurFacts(BotFile kind, FileReading& reading) {
   Facts& facts = reading.facts;
   for (const ParameterId id : ParametersOf(kind)) {
     const Value& value = reading.bot.Parameter(id);
     const auto plain = reading.report.plain_values.find(id);
     const bool is_odd = plain != reading.report.plain_values.end();
-    const bool has_more = is_odd && kind == BotFile::kDescription &&
-                          IsWithMore(id, ToText(value), ToText(plain->second));
+    const bool has_more =
+        is_odd && (kind == BotFile::kDescription
+                       ? IsWithMore(id, ToText(value), ToText(plain->second))
+                       : IsBehindComment(ToText(value), plain->second));
     facts[RuleFact(id)] = FieldFact(id, has_more ? plain->second : value);
     facts[PlainFact(id)] = FieldFact(id, is_odd ? plain->second : value);
   }

@@ -393,6 +393,26 @@ TEST(EditInPlaceTest, KeepsTheCommentBehindAField) {
             "+#define W_RAILGUN\t\t\t\t70 // why\n");
 }
 
+TEST(EditInPlaceTest, KeepsTheCommentBetweenKeyAndValue) {
+  for (const std::string comment :
+       {" /*x*/ ", "\t\t\t\t/*x*/", " /* 1 *//*2*/ "}) {
+    for (const std::string end : {"\n", " // why\n"}) {
+      const std::string define = "#define W_RAILGUN" + comment;
+      const LoadedFile weights(
+          BotFile::kWeaponWeights,
+          define + "280" + end + "#include \"fw_weap.c\"\n");
+      EXPECT_EQ(weights.Difference(weights.Edited(kRailgun, 70.0)),
+                "-" + define + "280" + end + "+" + define + "70" + end);
+      const std::string key = "CHARACTERISTIC_ATTACK_SKILL" + comment;
+      const LoadedFile character(
+          BotFile::kCharacteristics,
+          "#include \"chars.h\"\nskill 4\n{\n" + key + "0.5" + end + "}\n");
+      EXPECT_EQ(character.Difference(character.Edited(kAttack4, 0.25)),
+                "-" + key + "0.5" + end + "+" + key + "0.25" + end);
+    }
+  }
+}
+
 const std::string kUglyDescriptions =
     "// all of them\r\n"
     "{\n"
