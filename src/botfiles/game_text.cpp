@@ -27,7 +27,7 @@ constexpr std::array<bool, 256> kBeginsOddBlank = [] {
   for (std::size_t code = 1; code < ' '; ++code) {
     begins.at(code) = code != '\t' && code != '\r' && code != '\n';
   }
-  for (const std::size_t code : {0xA0, 0xC2, 0xE2, 0xE3})
+  for (const std::size_t code : {0xA0U, 0xC2U, 0xE2U, 0xE3U})
     begins.at(code) = true;
   return begins;
 }();
