@@ -10,6 +10,7 @@
 #include "game/limits.h"
 #include "inplace/attempt.h"
 #include "session/identity_rules.h"
+#include "support/code_page.h"
 #include "support/game_blank.h"
 #include "support/text.h"
 
@@ -86,7 +87,9 @@ class DescriptionPlan {
             "The game reads color1, of which a load here takes the 1 for a "
             "part of the value, as before.");
       }
-      if (plan.refusal.empty()) {
+      if (plan.refusal.empty() && field_ == kNameField) {
+        plan.refusal = SharedFilesRefusal();
+      } else if (plan.refusal.empty()) {
         plan.refusal = OtherLineRefusal(key, !text);
       }
       if (text) {
@@ -161,6 +164,21 @@ class DescriptionPlan {
                (is_removal ? "" : ", or put it further up,") + " first.";
       }
       if (!is_removal) break;
+    }
+    return {};
+  }
+
+  /// Why the name of one of several bots with the same files has to stay.
+  std::string SharedFilesRefusal() const {
+    const std::string_view file = set_.Text("aifile");
+    for (const DescriptionSet& other : context_.reading.descriptions) {
+      if (&other == &set_ || !EqualIgnoringCase(other.Text("aifile"), file)) {
+        continue;
+      }
+      return "\"" + ShownText(other.Text("name")) +
+             "\" has the same files, and without the old name a load takes "
+             "that one's description for this bot's. Give it files of its own "
+             "first.";
     }
     return {};
   }

@@ -442,6 +442,14 @@ TEST(EditInPlaceTest, TouchesThisBotsBlockOfADescriptionAlone) {
             "-\tname   \"Rook\"\r\n+\tname   \"Tower\"\r\n");
 }
 
+TEST(EditInPlaceTest, KeepsTheNameOfOneOfSeveralWithTheSameFiles) {
+  const LoadedFile file(BotFile::kDescription,
+                        "{\nname Other\nmodel major\naifile bots/rook_c.c\n}\n"
+                        "{\nname Rook\nmodel sarge\naifile bots/rook_c.c\n}\n");
+  EXPECT_THAT(file.Difference(file.Edited(kNameField, "Tower")),
+              HasSubstr("\"Other\" has the same files, and without the old"));
+}
+
 TEST(EditInPlaceTest, ReplacesAndTakesOutFieldsOfADescription) {
   const LoadedFile file(BotFile::kDescription,
                         "{\nname rook\nmodel sarge\nfunname \"A B\"\n"
