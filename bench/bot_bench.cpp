@@ -87,9 +87,11 @@ const BotOnDisk& InMemory() {
 
 using Place = const BotOnDisk& (*)();
 
+/// The bot is read as it was written, and nobody has to be told anything.
 void CheckLoaded(const LoadedBot& loaded, const SilentPrompts& prompts,
                  benchmark::State& state) {
-  if (loaded.files.size() != 5 || !loaded.notes.empty() ||
+  if (loaded.bot.ChatLines(kAllChatTypes.back()).size() != 3 ||
+      loaded.bot.Name() != "Rookie" || !loaded.notes.empty() ||
       prompts.shown() > 0) {
     state.SkipWithError("the bot was not read whole");
   }
@@ -105,7 +107,7 @@ void BotRead(benchmark::State& state) {
   LoadedBot loaded;
   for ([[maybe_unused]] auto _ : state) {
     loaded = LoadBotFromFolder("rookie", disk.folder.path(), {},
-                               {models, bots, prompts});
+                               {models, bots, prompts, TheAuthor()});
   }
   CheckLoaded(loaded, prompts, state);
 }
@@ -228,7 +230,8 @@ void BotFromPackage(benchmark::State& state) {
   for ([[maybe_unused]] auto _ : state) {
     loaded = LoadBotFromPackage(
         {.package = disk.package, .name = "rookie", .withScript = true}, Bot(),
-        {.folder = WZUNZIP_FOLDER}, temporary, {models, bots, prompts});
+        {.folder = WZUNZIP_FOLDER}, temporary,
+        {models, bots, prompts, TheAuthor()});
   }
   CheckLoaded(loaded ? *loaded : LoadedBot(), prompts, state);
 }

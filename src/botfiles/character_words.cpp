@@ -1,10 +1,15 @@
 #include "botfiles/character_words.h"
 
+#include <algorithm>
+#include <array>
+#include <charconv>
 #include <cmath>
+#include <system_error>
 #include <utility>
 
 #include "botfiles/game_text.h"
 #include "model/characteristic_catalogue.h"
+#include "model/game_characteristics.h"
 #include "support/numbers.h"
 #include "support/text.h"
 
@@ -21,6 +26,35 @@ std::optional<int> KeyNamed(std::string_view word) {
     if (BareKey(index) == word) return index;
   }
   return std::nullopt;
+}
+
+/// The catalogue's index of the characteristics that the game knows by number;
+/// -1 for one that the catalogue has not.
+constexpr auto kIndexOfNumber = [] {
+  std::array<int, kGameCharacteristics.size()> indexes{};
+  indexes.fill(-1);
+  for (int index = 0; index < kCatalogueSize; ++index) {
+    if (!BareKey(index).starts_with(kKeyStart)) continue;
+    const auto* const found =
+        std::find(kGameCharacteristics.begin(), kGameCharacteristics.end(),
+                  BareKey(index).substr(kKeyStart.size()));
+    indexes.at(static_cast<std::size_t>(found - kGameCharacteristics.begin())) =
+        index;
+  }
+  return indexes;
+}();
+
+/// The game takes a whole number for the key, octal behind a 0.
+std::optional<int> KeyNumbered(std::string_view word) {
+  std::size_t number = 0;
+  const char* const end = word.data() + word.size();
+  const int base = word.size() > 1 && word.front() == '0' ? 8 : 10;
+  const auto read = std::from_chars(word.data(), end, number, base);
+  if (read.ec != std::errc() || read.ptr != end ||
+      number >= kIndexOfNumber.size() || kIndexOfNumber.at(number) < 0) {
+    return std::nullopt;
+  }
+  return kIndexOfNumber.at(number);
 }
 
 bool IsBrace(std::string_view word) { return word == "{" || word == "}"; }
@@ -59,6 +93,7 @@ void CharacterWords::TakeWordOf(std::string_view word) {
   if (open_key_) {
     if (!IsNext(word)) {
       open_key_->is_bare = !word.starts_with('"') && !IsNumericText(word);
+      open_key_->word = word;
       return EndKey(PlainValue(word));
     }
     EndKey({});
@@ -72,6 +107,9 @@ void CharacterWords::TakeWordOf(std::string_view word) {
     block_.line = line_;
   } else if (const std::optional<int> key = KeyNamed(word)) {
     open_key_ = Found{.key = *key, .line = line_, .block = block_};
+  } else if (const std::optional<int> number = KeyNumbered(word)) {
+    open_key_ = Found{
+        .key = *number, .line = line_, .is_numbered = true, .block = block_};
   } else if (!IsBrace(word)) {
     left_out_.AddName(word, line_);
     skips_value_ = true;
@@ -89,6 +127,13 @@ void CharacterWords::TakeLevel(std::string_view word) {
 }
 
 void CharacterWords::EndKey(Value value) {
+  // A number with nothing behind it is rather left from another value.
+  const bool is_empty = std::holds_alternative<std::monostate>(value);
+  if (open_key_->is_numbered && is_empty) {
+    left_out_.AddName(number_, open_key_->line);
+    open_key_.reset();
+    return;
+  }
   open_key_->value = std::move(value);
   found_.push_back(*std::exchange(open_key_, std::nullopt));
 }

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <optional>
 #include <set>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -27,8 +28,10 @@ class CharacterWords {
     int key = 0;
     std::size_t line = 0;  ///< Of the key.
     Value value = {};
-    bool is_bare = false;  ///< A text without quotes.
-    Block block = {};      ///< Of the key.
+    std::string_view word = {};  ///< Of the value; holds until the next line.
+    bool is_bare = false;        ///< A text without quotes.
+    bool is_numbered = false;    ///< The key is the game's bare number for it.
+    Block block = {};            ///< Of the key.
   };
 
   /// What is no part of a bot goes to the one that collects such.
@@ -55,6 +58,7 @@ class CharacterWords {
   std::set<int> levels_;
   bool expects_level_ = false;
   std::optional<Found> open_key_;
+  std::string number_;  ///< Of that key, as it is written.
   /// The value behind an unknown key has no other meaning.
   bool skips_value_ = false;
 };

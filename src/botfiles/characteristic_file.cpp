@@ -200,11 +200,9 @@ class CharacterReader {
       // The game first: a line may begin a block for both.
       const auto& found = words_.TakeLine(code, keyed.number);
       TakeByRules(keyed);
-      for (const CharacterWords::Found& value : found) TakeAsGame(value);
+      for (const CharacterWords::Found& value : found) TakeFound(value);
     }
-    for (const CharacterWords::Found& value : words_.Finish()) {
-      TakeAsGame(value);
-    }
+    for (const CharacterWords::Found& value : words_.Finish()) TakeFound(value);
     if (!bare_.empty()) {
       reader_.AddNote(first_bare_,
                       "Without quotes around these texts the game does not "
@@ -223,17 +221,29 @@ class CharacterReader {
     if (IsPassedOver(line.text)) return;
     const std::optional<int> key = KeyIn(line.text);
     if (!key) return;
-    if (*key <= kGenderField.index()) {
-      if (identity_ == ReadIdentity::kYes)
-        reader_.Take(line, ParameterId(*key));
-    } else if (!kPerLevelRange.Contains(*key)) {
-      reader_.Take(line, ParameterId(*key));
-    } else if (const auto level = KnownLevel(level_)) {
-      const IsTold is_told = TellOtherLevel(words_.block());
-      reader_.Take(line, {*level, *key}, is_told);
-    } else if (!is_skip_noted_) {
+    if (const std::optional<ParameterId> id = PlaceOf(*key, line.number)) {
+      reader_.Take(line, *id, ToldOf(*id));
+    }
+  }
+
+  /// A key that is the game's number for it says as plainly what is meant.
+  void TakeNumbered(const CharacterWords::Found& found) {
+    if (found.key >= kChatFileField.index()) return;
+    if (const auto id = PlaceOf(found.key, found.line)) {
+      reader_.TakeText(found.line, *id, found.word, ToldOf(*id));
+    }
+  }
+
+  /// Where a bot has the value of a key; nothing for one that is passed over.
+  std::optional<ParameterId> PlaceOf(int key, std::size_t line) {
+    if (key <= kGenderField.index() && identity_ == ReadIdentity::kNo) {
+      return std::nullopt;
+    }
+    if (!kPerLevelRange.Contains(key)) return ParameterId(key);
+    if (const auto level = KnownLevel(level_)) return {{*level, key}};
+    if (!is_skip_noted_) {
       reader_.AddNote(
-          line.number,
+          line,
           level_ ? "A bot holds " + std::string(kLevelsInWords) +
                        " only: the values of " + LevelText(level_) +
                        " are passed over."
@@ -241,6 +251,11 @@ class CharacterReader {
                    "and are passed over.");
       is_skip_noted_ = true;
     }
+    return std::nullopt;
+  }
+
+  IsTold ToldOf(ParameterId id) {
+    return id.level() ? TellOtherLevel(words_.block()) : IsTold::kNo;
   }
 
   bool OpensLevel(const KeyedLine& line) {
@@ -257,6 +272,11 @@ class CharacterReader {
     level_line_ = line.number;
     is_skip_noted_ = false;
     return true;
+  }
+
+  void TakeFound(const CharacterWords::Found& found) {
+    if (found.is_numbered) TakeNumbered(found);
+    TakeAsGame(found);
   }
 
   void TakeAsGame(const CharacterWords::Found& found) {

@@ -21,6 +21,21 @@ std::string_view WithoutByteOrderMark(std::string_view bytes) {
 
 namespace {
 
+/// By byte: whether an odd blank may begin with it.
+constexpr std::array<bool, 256> kBeginsOddBlank = [] {
+  std::array<bool, 256> begins{};
+  for (std::size_t code = 1; code < ' '; ++code) {
+    begins.at(code) = code != '\t' && code != '\r' && code != '\n';
+  }
+  for (const std::size_t code : {0xA0U, 0xC2U, 0xE2U, 0xE3U})
+    begins.at(code) = true;
+  return begins;
+}();
+
+bool BeginsOddBlank(char letter) {
+  return kBeginsOddBlank[static_cast<unsigned char>(letter)];
+}
+
 /// How many bytes at the front look like a blank, and are one to the game, but
 /// are none of those that people type.
 std::size_t OddBlankLength(std::string_view text, char before) {
@@ -32,14 +47,14 @@ std::size_t OddBlankLength(std::string_view text, char before) {
   }
   // Behind another such byte it may be a part of a letter in UTF-8.
   if (text[0] == '\xA0') return (before & 0x80) == 0 ? 1 : 0;
-  const bool is_control = text[0] > '\0' && text[0] < ' ';
-  return is_control && !Contains("\t\r\n", text.substr(0, 1)) ? 1 : 0;
+  return text[0] < ' ' && BeginsOddBlank(text[0]) ? 1 : 0;
 }
 
 }  // namespace
 
 std::string WithPlainBlanks(std::string_view bytes, TextsInLine texts) {
   std::string plain(bytes);
+  if (std::none_of(bytes.begin(), bytes.end(), BeginsOddBlank)) return plain;
   std::size_t at = 0;
   const auto pass = [&](std::string_view end, std::size_t from) {
     const std::size_t found = bytes.find(end, from);

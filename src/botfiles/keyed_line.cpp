@@ -95,6 +95,14 @@ void ValueReader::Take(const KeyedLine& line, ParameterId id, IsTold is_told) {
   const auto column = static_cast<std::size_t>(text.data() - line.text.data());
   report_.spans[id].push_back(
       {line.start + column, line.start + column + text.size()});
+  TakeText(line.number, id, text, is_told);
+  // Most lines have no comment that could have been taken off.
+  SeenOf(id).is_comment = line.code.size() < line.text.size() &&
+                          !Contains(line.code, BareKey(id.index()));
+}
+
+void ValueReader::TakeText(std::size_t line, ParameterId id,
+                           std::string_view text, IsTold is_told) {
   // A key with nothing behind it leaves the id empty.
   Value value;
   if (!TrimBlanksAndTabs(text).empty()) value = CleanValue(text);
@@ -102,9 +110,9 @@ void ValueReader::Take(const KeyedLine& line, ParameterId id, IsTold is_told) {
     const std::string whole = ToText(value);
     value = WithoutBlanks(value);
     if (whole != ToText(value)) {
-      AddNote(line.number, Describe(id) + ": " + Shown(whole) +
-                               " cannot have blanks here; it is read as " +
-                               Shown(value) + ".");
+      AddNote(line, Describe(id) + ": " + Shown(whole) +
+                        " cannot have blanks here; it is read as " +
+                        Shown(value) + ".");
     }
   }
 
@@ -116,9 +124,9 @@ void ValueReader::Take(const KeyedLine& line, ParameterId id, IsTold is_told) {
     overwritten_[id] = Describe(id) + ": " + Shown(old) + " gives way to " +
                        Shown(bot_.Parameter(id));
   }
-  seen.line = line.number;
+  seen.line = line;
   seen.is_shortened = IsShortened(text, bot_.Parameter(id));
-  seen.is_comment = !Contains(line.code, BareKey(id.index()));
+  seen.is_comment = false;
   seen.is_told = seen.is_told || is_told == IsTold::kYes;
 }
 
@@ -137,7 +145,7 @@ void ValueReader::TakeAsGame(std::size_t line, ParameterId id, Value value,
 
 void ValueReader::Finish() {
   for (const auto& [id, seen] : seen_) {
-    report_.given.insert(id);
+    report_.given.insert(report_.given.end(), id);
     Compare(id, seen);
   }
   TellOverwritten();

@@ -58,6 +58,10 @@ class ValueReader {
   void Take(const KeyedLine& line, ParameterId id,
             IsTold is_told = IsTold::kNo);
 
+  /// Takes a value that stands in the line by another key than ours.
+  void TakeText(std::size_t line, ParameterId id, std::string_view text,
+                IsTold is_told = IsTold::kNo);
+
   /// The value that the game takes for the parameter, and the line of its
   /// key. A later one takes the place of an earlier one.
   void TakeAsGame(std::size_t line, ParameterId id, Value value,

@@ -206,9 +206,10 @@ class ChatReader {
       return AddOddity({"An empty chat line", ": a save leaves it out."});
     }
     const std::string saved = ChatLineToFile(type_, text);
+    if (saved == code) return;
     const bool says_the_same =
         Contains(code, "\"") && Condensed(saved) == Condensed(code);
-    if (saved != code && !says_the_same) {
+    if (!says_the_same) {
       AddOddity({ShownText(saved),
                  ": how a save writes a line that stands "
                  "otherwise in the file."});

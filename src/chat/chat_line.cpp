@@ -1,6 +1,7 @@
 #include "chat/chat_line.h"
 
 #include <algorithm>
+#include <bitset>
 #include <cstddef>
 #include <optional>
 #include <utility>
@@ -12,6 +13,14 @@
 
 namespace fragsmith {
 namespace {
+
+constexpr bool HasNoBrace(const WordList& list) {
+  return !list.Variable.starts_with('{');
+}
+static_assert(std::count_if(kWordLists.begin(), kWordLists.end(), HasNoBrace) ==
+              1);
+constexpr std::string_view kPlainVariable =
+    std::find_if(kWordLists.begin(), kWordLists.end(), HasNoBrace)->Variable;
 
 bool IsNumber(std::string_view text) {
   return !text.empty() &&
@@ -313,11 +322,22 @@ std::string ChatLineToFile(ChatTypeId type, std::string_view line) {
     return text + ';';
   }
   OpenLine open = {std::string(line)};
-  // Most lines are plain text; nothing that is put in has a brace.
-  const bool has_brace = Contains(line, "{");
-  const auto holds = [has_brace, &open](std::string_view variable) {
-    return (has_brace || !variable.starts_with('{')) &&
-           Contains(open.text, variable);
+  // Of most variables their first letter tells that they are not there;
+  // nothing that is put in has a brace.
+  std::bitset<256> first_letters;
+  for (std::size_t at = 1; at < line.size(); ++at) {
+    if (line[at - 1] == '{') {
+      first_letters.set(static_cast<unsigned char>(line[at]));
+    }
+  }
+  const bool may_hold_any =
+      first_letters.any() || Contains(line, kPlainVariable);
+  if (!may_hold_any) return '"' + open.text + "\";";
+  const auto holds = [&](std::string_view variable) {
+    const bool may_stand =
+        !variable.starts_with('{') ||
+        first_letters.test(static_cast<unsigned char>(variable[1]));
+    return may_stand && Contains(open.text, variable);
   };
   for (const WordList& list : kWordLists) {
     if (!holds(list.Variable)) continue;

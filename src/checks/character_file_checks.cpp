@@ -13,8 +13,8 @@
 #include "game/character_reader.h"
 #include "game/game_path.h"
 #include "game/skill_mix.h"
-#include "game/stand_ins.h"
 #include "model/characteristic_catalogue.h"
+#include "model/game_characteristics.h"
 #include "support/text.h"
 
 namespace fragsmith {

@@ -12,6 +12,7 @@
 #include "checks/bot_reader.h"
 #include "checks/weight_kind.h"
 #include "game/file_faults.h"
+#include "model/game_characteristics.h"
 #include "model/level.h"
 #include "support/text.h"
 

@@ -8,8 +8,8 @@
 
 #include "chat/vocabulary.h"
 #include "game/character_reader.h"
-#include "game/stand_ins.h"
 #include "model/characteristic_catalogue.h"
+#include "model/game_characteristics.h"
 #include "support/text.h"
 
 namespace fragsmith {

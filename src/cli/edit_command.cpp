@@ -33,10 +33,16 @@ std::optional<ValueAtPath> ValueIn(const std::string& text) {
   return ValueAtPath{text.substr(0, sign), text.substr(sign + 1)};
 }
 
-/// The bot as it is to be; nothing, told, where that cannot be.
-std::optional<Bot> EditedBotOf(const EditOptions& options,
-                               const std::vector<ValueAtPath>& values,
-                               const Bot& bot, CommandContext& context) {
+/// The bot as it is to be, but for what was refused and told.
+struct WishedBot {
+  Bot bot;
+  bool is_whole = true;
+};
+
+/// Nothing, told, where there can be none.
+std::optional<WishedBot> EditedBotOf(const EditOptions& options,
+                                     const std::vector<ValueAtPath>& values,
+                                     const Bot& bot, CommandContext& context) {
   std::string json;
   if (!options.document.empty()) {
     Result<std::string> bytes = ReadDocumentBytes(options.document, context);
@@ -57,7 +63,8 @@ std::optional<Bot> EditedBotOf(const EditOptions& options,
   if (CheckAllIn(edited->texts, edited->bot, context.prompts)) {
     return std::nullopt;
   }
-  return std::move(edited->bot);
+  for (const Error& error : edited->refused) Fail(context, error);
+  return WishedBot{std::move(edited->bot), edited->refused.empty()};
 }
 
 /// The bot as the edit finds it. A value that is set to what a load shows, but
@@ -105,6 +112,7 @@ std::optional<Error> FaultOfPackage(const SourceBot& source, const Bot& after) {
 
 void TellRefusals(const BotEdits& edits, CommandContext& context) {
   for (const auto& [kind, edit] : edits.files) {
+    for (const Error& refused : edit.refused) Fail(context, refused);
     if (edit.outcome != FileEdit::Outcome::kNotEditable) continue;
     Fail(context, edit.reason);
     if (edit.losses.empty()) continue;
@@ -164,25 +172,31 @@ ExitStatus RunEdit(const EditOptions& options, CommandContext& context) {
       ReadBotSource(options.source, lists.models, lists.bots, context);
   if (!outcome.bot) return outcome.refusal;
   const LoadedBot& loaded = outcome.bot->loaded;
-  std::optional<Bot> after = EditedBotOf(options, values, loaded.bot, context);
-  if (!after) return kFailed;
-  const Bot before = BotBefore(loaded, values, *after);
+  std::optional<WishedBot> wished =
+      EditedBotOf(options, values, loaded.bot, context);
+  if (!wished) return kFailed;
+  Bot& after = wished->bot;
+  const Bot before = BotBefore(loaded, values, after);
   for (const auto& [kind, fault] : loaded.unread) {
-    if (ChangesIn(kind, before, *after).empty()) continue;
+    if (ChangesIn(kind, before, after).empty()) continue;
     return Fail(context, fault);
   }
   const IncludeLookup look_up =
       GameLookUpFor(options.source, outcome.bot->location, context);
   const Notes kept =
-      KeepLinesElsewhere(loaded.files, loaded.bot, *after, look_up);
-  BotEdits edits = EditBotFiles(loaded.files, before, *after, look_up);
-  if (!edits.IsEditable()) {
-    TellRefusals(edits, context);
-    return kFailed;
-  }
+      KeepLinesElsewhere(loaded.files, loaded.bot, after, look_up);
+  // A document of another bot may well hold what this one's files cannot.
+  const bool takes_part = !options.document.empty();
+  BotEdits edits =
+      EditBotFiles(loaded.files, before, after, look_up, {}, {},
+                   takes_part ? RestOfFile::kIsEdited : RestOfFile::kIsRefused);
+  TellRefusals(edits, context);
+  if (!edits.IsEditable() && !takes_part) return kFailed;
+  const ExitStatus status =
+      edits.IsWhole() && wished->is_whole ? kDone : kFailed;
   PrintNotes(context, kept);
-  if (!edits.HasEdits()) return kDone;
-  if (const auto fault = FaultOfPackage(*outcome.bot, *after)) {
+  if (!edits.HasEdits()) return status;
+  if (const auto fault = FaultOfPackage(*outcome.bot, after)) {
     return Fail(context, *fault);
   }
   for (const auto& [kind, edit] : edits.files) {
@@ -190,10 +204,10 @@ ExitStatus RunEdit(const EditOptions& options, CommandContext& context) {
       PrintNotes(context, edit.notes);
     }
   }
-  PrintNotes(context, NotesOnName(edits, loaded.bot, *after));
+  PrintNotes(context, NotesOnName(edits, loaded.bot, after));
   if (options.is_dry_run) {
     context.out << DiffOf(edits);
-    return kDone;
+    return status;
   }
   const Result<void> written = WriteEdits(edits);
   if (!written) return Fail(context, written.error());
@@ -205,7 +219,7 @@ ExitStatus RunEdit(const EditOptions& options, CommandContext& context) {
     }
     context.out << '\n';
   }
-  return kDone;
+  return status;
 }
 
 }  // namespace

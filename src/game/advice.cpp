@@ -9,7 +9,7 @@
 
 #include "chat/vocabulary.h"
 #include "game/complaints.h"
-#include "game/stand_ins.h"
+#include "model/game_characteristics.h"
 #include "support/numbers.h"
 #include "support/text.h"
 

@@ -1,6 +1,7 @@
 #include "game/stand_ins.h"
 
 #include "model/characteristic_catalogue.h"
+#include "model/game_characteristics.h"
 #include "support/text.h"
 
 namespace fragsmith {

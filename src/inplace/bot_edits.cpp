@@ -38,7 +38,7 @@ constexpr std::array kKinds = {BotFile::kCharacteristics,
 /// Given the file's bytes as they are now.
 void Edit(const BothReaders& readers, Result<std::string> old,
           const Bot& before, const Bot& after, const NumberChooser& chooser,
-          FileEdit& edit) {
+          RestOfFile rest, FileEdit& edit) {
   const auto refuse = [&edit](Error reason) {
     edit.outcome = FileEdit::Outcome::kNotEditable;
     edit.reason = std::move(reason);
@@ -51,8 +51,9 @@ void Edit(const BothReaders& readers, Result<std::string> old,
   const bool is_changed =
       !ChangesIn(readers.file().kind, before, after).empty();
   if (is_changed) {
-    Result<std::string> edited = EditInPlace(readers, edit.old_bytes, before,
-                                             after, chooser, &edit.notes);
+    Result<std::string> edited = EditInPlace(
+        readers, edit.old_bytes, before, after, chooser, &edit.notes,
+        rest == RestOfFile::kIsEdited ? &edit.refused : nullptr);
     if (!edited) {
       refuse(edited.error());
     } else if (*edited != edit.old_bytes) {
@@ -260,6 +261,12 @@ bool BotEdits::IsEditable() const {
          });
 }
 
+bool BotEdits::IsWhole() const {
+  return IsEditable() && std::ranges::all_of(files, [](const auto& file) {
+           return file.second.refused.empty();
+         });
+}
+
 bool BotEdits::HasEdits() const {
   return std::any_of(files.begin(), files.end(), [](const auto& file) {
     return file.second.outcome == FileEdit::Outcome::kEdited;
@@ -268,7 +275,8 @@ bool BotEdits::HasEdits() const {
 
 BotEdits EditBotFiles(const OriginFiles& files, const Bot& before,
                       const Bot& after, const IncludeLookup& game,
-                      const NumberChooser& chooser, const BrokenFiles& broken) {
+                      const NumberChooser& chooser, const BrokenFiles& broken,
+                      RestOfFile rest) {
   BotEdits edits;
   const auto add_homeless = [&edits](const std::string& name) {
     const auto& known = edits.homeless;
@@ -303,7 +311,7 @@ BotEdits EditBotFiles(const OriginFiles& files, const Bot& before,
         ReadersOf(files, kind, bytes.value_or(std::string()), before, game);
     const Bot now = is_changed ? AsInFile(readers, *bytes, before) : before;
     const std::vector<FileChange> changes = ChangesIn(kind, now, after);
-    Edit(readers, std::move(bytes), now, after, chooser, edit);
+    Edit(readers, std::move(bytes), now, after, chooser, rest, edit);
     const std::string other =
         changes.empty() ? std::string() : NamedInstead(files, kind);
     if (edit.outcome == FileEdit::Outcome::kEdited) {

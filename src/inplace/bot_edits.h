@@ -29,6 +29,7 @@ struct FileEdit {
   std::string old_bytes;  ///< As it is now, where anything was edited.
   std::string bytes;
   Error reason;
+  std::vector<Error> refused;  ///< Values that stay as they are, where asked.
   Notes notes;  ///< What the edit does not reach, or reaches too.
   /// What a file written anew would lose or change, in sentences.
   std::vector<std::string> losses;
@@ -44,9 +45,14 @@ struct BotEdits {
   std::vector<std::string> homeless;
 
   bool IsEditable() const;
+  /// True where no value was passed over either.
+  bool IsWhole() const;
   /// True where a file has to be written.
   bool HasEdits() const;
 };
+
+/// What becomes of the rest of a file in which a value cannot be edited.
+enum class RestOfFile { kIsRefused, kIsEdited };
 
 /// Edits the files that a bot came from, in memory. The first bot is what they
 /// say, the second what they are to say. A file that cannot be read is not
@@ -55,7 +61,8 @@ struct BotEdits {
 BotEdits EditBotFiles(const OriginFiles& files, const Bot& before,
                       const Bot& after, const IncludeLookup& game,
                       const NumberChooser& chooser = {},
-                      const BrokenFiles& broken = {});
+                      const BrokenFiles& broken = {},
+                      RestOfFile rest = RestOfFile::kIsRefused);
 
 /// For one who gives the lines of a chat type as a whole: those of the old list
 /// that the game has in the block of another type, and that an edit cannot take

@@ -294,7 +294,7 @@ std::vector<ParameterId> ChangesInNoFile(const Bot& before, const Bot& after) {
 Result<std::string> EditInPlace(const BothReaders& readers,
                                 std::string_view bytes, const Bot& before,
                                 const Bot& after, const NumberChooser& chooser,
-                                Notes* notes) {
+                                Notes* notes, std::vector<Error>* refused) {
   std::string edited(bytes);
   const std::vector<FileChange> changes =
       ChangesIn(readers.file().kind, before, after);
@@ -340,11 +340,13 @@ Result<std::string> EditInPlace(const BothReaders& readers,
       std::string better = RefusedDigits(after.Parameter(*id));
       if (!better.empty()) refusal = std::move(better);
     }
-    return Failure(
-        {.what = NameOf(change) + " cannot be changed in place. " + refusal,
-         .file = readers.file().shown,
-         .line = 0,
-         .advice = {}});
+    Error error = {
+        .what = NameOf(change) + " cannot be changed in place. " + refusal,
+        .file = readers.file().shown,
+        .line = 0,
+        .advice = {}};
+    if (refused == nullptr) return Failure(std::move(error));
+    refused->push_back(std::move(error));
   }
   if (notes != nullptr && LooksLikeUtf8(bytes) && !LooksLikeUtf8(edited)) {
     notes->Add(

@@ -43,12 +43,14 @@ using NumberChooser = std::function<std::optional<std::size_t>(
 /// what they were. A chat line that has to stay in another block of the file
 /// keeps its place there among the lines of its type. Where all that cannot be
 /// had the file is not editable in place, and the error says why. Notes tell of
-/// what could have been meant otherwise.
+/// what could have been meant otherwise. Where a list of what was refused is
+/// given, that goes there and all else is edited.
 Result<std::string> EditInPlace(const BothReaders& readers,
                                 std::string_view bytes, const Bot& before,
                                 const Bot& after,
                                 const NumberChooser& chooser = {},
-                                Notes* notes = nullptr);
+                                Notes* notes = nullptr,
+                                std::vector<Error>* refused = nullptr);
 
 }  // namespace fragsmith
 

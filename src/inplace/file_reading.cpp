@@ -15,6 +15,7 @@
 #include "game/skill_mix.h"
 #include "game/stand_ins.h"
 #include "game/weight_reader.h"
+#include "inplace/our_facts.h"
 #include "model/characteristic_catalogue.h"
 #include "support/code_page.h"
 #include "support/numbers.h"
@@ -32,87 +33,6 @@ IncludeLookup Remembering(IncludeLookup game) {
     if (found != known->end()) return found->second;
     return known->emplace(path, game(path)).first->second;
   };
-}
-
-/// The parameters that a file of the kind may hold.
-std::vector<ParameterId> ParametersOf(BotFile kind) {
-  std::vector<ParameterId> ids;
-  const auto add = [&ids](IndexRange range) {
-    for (const int index : range) ids.emplace_back(index);
-  };
-  switch (kind) {
-    case BotFile::kDescription:
-      return {kFunNameField, kRailColorField, kModelField, kSkinField,
-              kArenaLordField};
-    case BotFile::kCharacteristics:
-      ids = {kNameField, kGenderField};
-      add(kChatRange);
-      for (const Level level : kLevels) {
-        for (const int index : kPerLevelRange) ids.emplace_back(level, index);
-      }
-      break;
-    case BotFile::kItemWeights:
-      add(kItemWeightRange);
-      break;
-    case BotFile::kWeaponWeights:
-      add(kWeaponWeightRange);
-      break;
-    case BotFile::kChat:
-      break;
-  }
-  return ids;
-}
-
-std::string FieldFact(ParameterId id, const Value& value) {
-  // Case is the catalogue's to choose.
-  const bool is_model = id == kModelField || id == kSkinField;
-  if (is_model) return ToLower(ToText(value));
-  // A load takes a comment behind a number along, and tells so.
-  const std::string text = ToText(value);
-  const std::size_t comment = std::min(text.find("//"), text.find("/*"));
-  const bool has_number =
-      comment != std::string::npos && IsNumericText(text.substr(0, comment));
-  return FactOf(has_number ? Value(text.substr(0, comment)) : value);
-}
-
-/// True for a text that is the plain one, in quotes or not, with a comment
-/// behind it: a load takes that along, and tells so.
-bool IsWithComment(ParameterId id, std::string_view text,
-                   std::string_view plain) {
-  const auto is_comment = [](std::string_view rest) {
-    return rest.starts_with("//") || rest.starts_with("/*");
-  };
-  // The "/" of a skin may be the comment's own.
-  if (id == kSkinField && is_comment('/' + std::string(text))) return true;
-  text = TrimBlanks(text);
-  // Of the quotation marks it may have taken away the first alone.
-  if (text.starts_with('"')) text.remove_prefix(1);
-  if (!ToLower(text).starts_with(ToLower(plain))) return false;
-  text.remove_prefix(plain.size());
-  if (text.starts_with('"')) text.remove_prefix(1);
-  return is_comment(TrimBlanks(text));
-}
-
-void AddOurFacts(BotFile kind, FileReading& reading) {
-  Facts& facts = reading.facts;
-  for (const ParameterId id : ParametersOf(kind)) {
-    const Value& value = reading.bot.Parameter(id);
-    const auto plain = reading.report.plain_values.find(id);
-    const bool is_odd = plain != reading.report.plain_values.end();
-    const bool has_comment =
-        is_odd && kind == BotFile::kDescription &&
-        IsWithComment(id, ToText(value), ToText(plain->second));
-    facts[RuleFact(id)] = FieldFact(id, has_comment ? plain->second : value);
-    facts[PlainFact(id)] = FieldFact(id, is_odd ? plain->second : value);
-  }
-  for (const ReadReport::Name& name : reading.report.names) {
-    if (name.field == kNameField) continue;
-    facts["name " + name.key] += name.text + '\n';
-  }
-  if (kind != BotFile::kChat) return;
-  for (const ChatTypeId type : kAllChatTypes) {
-    facts[RuleFact(type)] = FactOf(reading.bot.ChatLines(type));
-  }
 }
 
 /// Values that the game has at two levels, and between them not.

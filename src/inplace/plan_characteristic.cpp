@@ -222,7 +222,15 @@ class CharacteristicPlan {
 
   Splice Replacement(TextSpan span) const {
     if (!is_removal_) return {span, InStyleOf(context_.bytes, span, value_)};
-    // The key goes as well.
+    // The key goes as well, which may be the game's number for it.
+    const std::string_view before = context_.bytes.substr(0, span.begin);
+    const std::size_t end = before.find_last_not_of(" \t") + 1;
+    const std::size_t digits =
+        before.substr(0, end).find_last_not_of("0123456789") + 1;
+    if (digits < end) {
+      span.begin = digits;
+      return Removal(context_.bytes, span);
+    }
     const std::string_view key = BareKey(id_.index());
     const std::size_t at = context_.bytes.rfind(key, span.begin);
     if (at != std::string_view::npos) span.begin = at;

@@ -10,6 +10,7 @@
 #include "game/limits.h"
 #include "inplace/attempt.h"
 #include "session/identity_rules.h"
+#include "support/code_page.h"
 #include "support/game_blank.h"
 #include "support/text.h"
 
@@ -20,6 +21,9 @@ namespace {
 constexpr std::array<std::string_view, 7> kPaddedKeys = {
     "name\t\t",   "model\t\t", "funname\t",  "color\t\t",
     "color1\t\t", "aifile\t",  "arenaLord\t"};
+
+/// The key of the rail colour for the game.
+constexpr std::string_view kReadColor = "color1";
 
 constexpr std::string_view kDefaultSkin = "default";
 
@@ -78,6 +82,16 @@ class DescriptionPlan {
             " stays. A load here takes it for a part of the text, as before; "
             "the game does not.");
       }
+      if (text && key == kReadColor) {
+        plan.notes.emplace_back(
+            "The game reads color1, of which a load here takes the 1 for a "
+            "part of the value, as before.");
+      }
+      if (plan.refusal.empty() && field_ == kNameField) {
+        plan.refusal = SharedFilesRefusal();
+      } else if (plan.refusal.empty()) {
+        plan.refusal = OtherLineRefusal(key, !text);
+      }
       if (text) {
         attempt.splices = {WithoutBlanks(old->second.span, *text)};
         plan.attempts.push_back(std::move(attempt));
@@ -86,6 +100,9 @@ class DescriptionPlan {
     }
     if (!text) return {.attempts = {}, .refusal = {}, .is_needless = true};
     Plan plan = {.attempts = {}, .refusal = RefusedSign(*text)};
+    if (plan.refusal.empty()) {
+      plan.refusal = OtherLineRefusal(key, false);
+    }
     for (Splice& splice : NewLines(key, *text)) {
       attempt.splices = {std::move(splice)};
       plan.attempts.push_back(attempt);
@@ -109,6 +126,63 @@ class DescriptionPlan {
     return {};
   }
 
+  /// Why a load does not have the value of the key from its line: it takes
+  /// what stands behind the word in any line, up to the line's end. Empty where
+  /// nothing is in the way.
+  std::string OtherLineRefusal(const std::string& key, bool is_removal) const {
+    const auto own = set_.values.find(key);
+    const bool is_there = own != set_.values.end() && !own->second.span.empty();
+    TextSpan line;
+    if (is_there) {
+      line = LineAround(context_.bytes, own->second.span.begin).text;
+    }
+    const bool shares_line =
+        is_there &&
+        (Contains(TextAt(context_.bytes, {own->second.span.end, line.end}),
+                  "}") ||
+         std::ranges::any_of(set_.values, [&](const auto& other) {
+           return other.first != key && Overlap(other.second.span, line);
+         }));
+    if (shares_line) {
+      return "More than this value stands in its line, and a load takes all up "
+             "to the line's end for it. Put each key and each brace into a "
+             "line of its own first.";
+    }
+    if (!is_there && IsOneLine(context_.bytes, set_.span)) {
+      return "The description stands in one line. Put each key and each brace "
+             "into a line of its own first.";
+    }
+    const auto spans = context_.reading.report.spans.find(field_);
+    if (spans == context_.reading.report.spans.end()) return {};
+    for (auto read = spans->second.rbegin(); read != spans->second.rend();
+         ++read) {
+      if (!is_there || !Overlap(*read, line)) {
+        return "A load takes it from line " +
+               std::to_string(LineNumberAt(context_.bytes, read->begin)) +
+               (is_removal ? " then" : "") +
+               ", where its key stands in another word. Take that line out" +
+               (is_removal ? "" : ", or put it further up,") + " first.";
+      }
+      if (!is_removal) break;
+    }
+    return {};
+  }
+
+  /// Why the name of one of several bots with the same files has to stay.
+  std::string SharedFilesRefusal() const {
+    const std::string_view file = set_.Text("aifile");
+    for (const DescriptionSet& other : context_.reading.descriptions) {
+      if (&other == &set_ || !EqualIgnoringCase(other.Text("aifile"), file)) {
+        continue;
+      }
+      return "\"" + ShownText(other.Text("name")) +
+             "\" has the same files, and without the old name a load takes "
+             "that one's description for this bot's. Give it files of its own "
+             "first.";
+    }
+    return {};
+  }
+
   std::string Key() const {
     switch (field_.index()) {
       case kNameField.index():
@@ -117,7 +191,8 @@ class DescriptionPlan {
         return "funname";
       case kRailColorField.index():
         // The game looks for the one, our writer writes the other.
-        return set_.values.contains("color1") ? "color1" : "color";
+        return std::string(set_.values.contains(kReadColor) ? kReadColor
+                                                            : "color");
       case kArenaLordField.index():
         return "arenalord";
       default:
@@ -232,6 +307,12 @@ class DescriptionPlan {
       } else {
         neighbours.behind.push_back(span);
       }
+    }
+    // Of the two a load takes the later line.
+    const auto spiral = set_.values.find("color2");
+    if (field_ == kRailColorField && spiral != set_.values.end() &&
+        !spiral->second.span.empty()) {
+      neighbours.before.insert(neighbours.before.begin(), spiral->second.span);
     }
     return Insertions(context_.bytes, neighbours, padded,
                       NeedsQuotes(text) ? '"' + text + '"' : text);

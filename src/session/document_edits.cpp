@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "model/characteristic_catalogue.h"
 #include "session/bot_difference.h"
@@ -79,10 +80,21 @@ bool IsPlainNumber(const Json& value) {
          std::ranges::count(text, '.') <= 1;
 }
 
+void CheckNumber(const Json& value, const std::string& path) {
+  if (IsPlainNumber(value)) {
+    RefuseField(path, "this number has more digits than can be held.",
+                "Write a smaller one.");
+  }
+  if (!IsNumber(value)) {
+    RefuseField(path, "a number is wanted here.",
+                "Write it with digits and a point, such as 0.5.");
+  }
+}
+
 /// What is new in a group of numbers must be one: the game has no use for a
-/// text, and an empty one would be 0.
-void CheckNumbers(const Json& old, const Json& wanted,
-                  const std::string& path) {
+/// text, and an empty one would be 0. What is refused gets its old value back.
+void CheckNumbers(const Json& old, Json& wanted, const std::string& path,
+                  std::vector<Error>& refused) {
   if (!wanted.is_object() || !old.is_object()) return;
   for (const auto& [key, value] : wanted.items()) {
     const auto known = old.find(key);
@@ -90,15 +102,26 @@ void CheckNumbers(const Json& old, const Json& wanted,
     if (known == old.end() || *known == value) continue;
     const std::string inner = std::string(path).append(".").append(key);
     if (known->is_object()) {
-      CheckNumbers(*known, value, inner);
-    } else if (IsPlainNumber(value)) {
-      RefuseField(inner, "this number has more digits than can be held.",
-                  "Write a smaller one.");
-    } else if (!IsNumber(value)) {
-      RefuseField(inner, "a number is wanted here.",
-                  "Write it with digits and a point, such as 0.5.");
+      CheckNumbers(*known, value, inner, refused);
+      continue;
+    }
+    try {
+      CheckNumber(value, inner);
+    } catch (const JsonFault& fault) {
+      refused.push_back(fault.error);
+      value = *known;
     }
   }
+}
+
+std::vector<Error> CheckAllNumbers(const Json& old, Json& wanted) {
+  std::vector<Error> refused;
+  for (const char* const group : kNumberGroups) {
+    if (wanted.contains(group)) {
+      CheckNumbers(old.at(group), wanted[group], group, refused);
+    }
+  }
+  return refused;
 }
 
 /// In a patch a null would take the key out, and the bot would get what a new
@@ -183,14 +206,14 @@ Result<EditedBot> EditByDocument(const Bot& bot, std::string_view json,
     RefuseNulls(patch, {});
     Json wanted = own;
     wanted.merge_patch(patch);
+    EditedBot edited = {bot, {}, CheckAllNumbers(own, wanted)};
+    for (Error& error : edited.refused) error.file = file;
     for (const ValueAtPath& value : values) {
       Json& place = AtPath(wanted, value.path);
       place = ValueFor(place, value, IsTextField(value.path));
     }
-    for (const char* const group : kNumberGroups) {
-      if (wanted.contains(group)) {
-        CheckNumbers(own.at(group), wanted[group], group);
-      }
+    if (const auto refused = CheckAllNumbers(own, wanted); !refused.empty()) {
+      throw JsonFault{refused.front()};
     }
     if (wanted.contains("arenaLord")) {
       CheckArenaLord(own.at("arenaLord"), wanted["arenaLord"]);
@@ -198,7 +221,6 @@ Result<EditedBot> EditByDocument(const Bot& bot, std::string_view json,
     if (wanted.contains("chats")) {
       CheckChatLines(own.at("chats"), wanted["chats"]);
     }
-    EditedBot edited = {bot, {}};
     TakeDifference(BotDocumentFromJson(own, unknown),
                    BotDocumentFromJson(std::move(wanted), unknown), edited);
     return edited;

@@ -24,6 +24,8 @@ struct ValueAtPath {
 struct EditedBot {
   Bot bot;
   IdentityTexts texts;
+  /// Values of the document that are none for the bot, which keeps its own.
+  std::vector<Error> refused;
 };
 
 /// Gives the bot the values of a document, which may leave keys out, and then

@@ -9,7 +9,6 @@
 #include <utility>
 
 #include "support/files.h"
-#include "support/system/file_replacement_system.h"
 
 namespace fragsmith {
 namespace fs = std::filesystem;
@@ -66,15 +65,21 @@ void RemoveLeftOvers(const fs::path& folder) {
 
 }  // namespace
 
-FileReplacement::FileReplacement(fs::path target, fs::path temporary)
-    : target_(std::move(target)), temporary_(std::move(temporary)) {}
+FileReplacement::FileReplacement(fs::path target, fs::path temporary,
+                                 system::NewFile file)
+    : target_(std::move(target)),
+      temporary_(std::move(temporary)),
+      file_(std::move(file)) {}
 
 FileReplacement::FileReplacement(FileReplacement&& other) noexcept
     : target_(std::move(other.target_)),
-      temporary_(std::exchange(other.temporary_, {})) {}
+      temporary_(std::exchange(other.temporary_, {})),
+      file_(std::move(other.file_)) {}
 
 FileReplacement::~FileReplacement() {
   if (temporary_.empty()) return;
+  // Not every system removes a file that is open.
+  (void)file_.Close();
   std::error_code ignored;
   fs::remove(temporary_, ignored);
 }
@@ -85,27 +90,32 @@ Result<FileReplacement> FileReplacement::Begin(const fs::path& target) {
   std::error_code reason;
   for (int attempt = 0; attempt < kTries; ++attempt) {
     fs::path temporary = TemporaryName(target);
-    reason = system::CreateNewFile(temporary, target);
-    if (!reason) return FileReplacement(target, std::move(temporary));
+    system::NewFile file;
+    reason = file.Make(temporary, target);
+    if (!reason) {
+      return FileReplacement(target, std::move(temporary), std::move(file));
+    }
     if (reason != std::errc::file_exists) break;
   }
   return Failure(CannotWrite(target, reason));
 }
 
 Result<void> FileReplacement::Write(std::string_view bytes) {
-  const std::error_code reason = system::WriteWholeFile(temporary_, bytes);
+  const std::error_code reason = file_.Append(bytes);
   if (reason) return Failure(CannotWrite(target_, reason));
   return {};
 }
 
 Result<void> FileReplacement::Commit() {
-  const std::error_code reason = system::FlushToDisk(temporary_);
+  const std::error_code reason = file_.FlushToDisk();
   if (reason) return Failure(CannotWrite(target_, reason));
   return CommitUnflushed();
 }
 
 Result<void> FileReplacement::CommitUnflushed() {
-  const std::error_code reason = system::RenameOver(temporary_, target_);
+  std::error_code reason = file_.Close();
+  if (reason) return Failure(CannotWrite(target_, reason));
+  reason = system::RenameOver(temporary_, target_);
   if (reason && system::IsInUse(reason) && !IsFolder(target_)) {
     return Failure({.what = "The file cannot be replaced: another program "
                             "holds it open, or it is write-protected.",

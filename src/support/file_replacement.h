@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "support/result.h"
+#include "support/system/file_replacement_system.h"
 
 namespace fragsmith {
 
@@ -24,7 +25,7 @@ class FileReplacement {
   FileReplacement& operator=(const FileReplacement&) = delete;
   ~FileReplacement();
 
-  /// Puts the bytes into the temporary file.
+  /// Puts the bytes behind those that the temporary file has.
   Result<void> Write(std::string_view bytes);
 
   /// Flushes the temporary file to the disk and renames it over the target.
@@ -35,11 +36,12 @@ class FileReplacement {
   Result<void> CommitUnflushed();
 
  private:
-  FileReplacement(std::filesystem::path target,
-                  std::filesystem::path temporary);
+  FileReplacement(std::filesystem::path target, std::filesystem::path temporary,
+                  system::NewFile file);
 
   std::filesystem::path target_;
   std::filesystem::path temporary_;
+  system::NewFile file_;
 };
 
 }  // namespace fragsmith

@@ -14,16 +14,54 @@ namespace {
 
 bool IsDigit(char letter) { return letter >= '0' && letter <= '9'; }
 
+/// The powers of ten that stand behind the point of exact decimals.
+constexpr std::array<double, 7> kPowersOfTen = {1,   1e1, 1e2, 1e3,
+                                                1e4, 1e5, 1e6};
+
+/// A short text of digits, with a few behind its point: the whole number and
+/// the power of ten are exact then, and their quotient is rounded but once.
+std::optional<double> ReadShort(std::string_view text) {
+  constexpr std::size_t kExactDigits = 15;
+  if (text.size() > kExactDigits) return std::nullopt;
+  double digits = 0;
+  std::size_t behind = 0;
+  bool has_point = false;
+  for (const char letter : text) {
+    if (IsDigit(letter)) {
+      digits = digits * 10 + (letter - '0');
+      behind += has_point ? 1 : 0;
+    } else if (letter == '.' && !has_point) {
+      has_point = true;
+    } else {
+      return std::nullopt;
+    }
+  }
+  if (behind >= kPowersOfTen.size()) return std::nullopt;
+  return digits / kPowersOfTen.at(behind);
+}
+
+/// The number in thousandths, where few digits are all that it has: rounded to
+/// those that a float carries, nothing but zeros follows.
+std::optional<int> Thousandths(double number) {
+  constexpr double kBelow = 1000;
+  if (!(number > 0 && number < kBelow)) return std::nullopt;
+  const double thousandths = std::nearbyint(number * 1000);
+  const double decimal = thousandths / 1000;
+  if (number != decimal &&
+      number != static_cast<double>(static_cast<float>(decimal))) {
+    return std::nullopt;
+  }
+  return static_cast<int>(thousandths);
+}
+
 /// Reads digits with at most one "."; a missing part before or behind it is
 /// allowed by the caller's check.
 std::optional<double> ReadDecimal(const char* first, const char* last) {
+  // Most numbers of a bot are short.
+  const std::optional<double> short_one =
+      ReadShort({first, static_cast<std::size_t>(last - first)});
+  if (short_one) return short_one;
   double number = 0;
-  // Most numbers of a bot are whole and short: each step is exact then.
-  constexpr std::ptrdiff_t kExactDigits = 15;
-  if (last - first <= kExactDigits && std::all_of(first, last, IsDigit)) {
-    for (; first != last; ++first) number = number * 10 + (*first - '0');
-    return number;
-  }
   const auto read =
       std::from_chars(first, last, number, std::chars_format::fixed);
   if (read.ec == std::errc() && std::isfinite(number)) return number;
@@ -75,6 +113,14 @@ std::string PlainDecimal(double number, int significant_digits) {
       significant_digits >= kFloatDigits) {
     return std::to_string(static_cast<int>(number));
   }
+  if (significant_digits == kFloatDigits) {
+    if (const std::optional<int> thousandths = Thousandths(number)) {
+      std::string text = std::to_string(*thousandths + 1000000);
+      text.erase(text.find_last_not_of('0') + 1);
+      std::string whole = std::to_string(*thousandths / 1000);
+      return whole + '.' + text.substr(4);
+    }
+  }
   // Rounding is done by the scientific form; the second step only moves the
   // point, since the rounded decimal is printed with all of its digits.
   std::array<char, 64> scientific{};
@@ -116,6 +162,9 @@ std::string PlainDecimal(double number, int significant_digits) {
 }
 
 double ShortDecimal(float number) {
+  if (const std::optional<int> thousandths = Thousandths(number)) {
+    return *thousandths / 1000.0;
+  }
   std::array<char, 32> text{};
   const auto end = std::to_chars(
       text.data(), text.data() + text.size(), static_cast<double>(number),

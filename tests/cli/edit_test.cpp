@@ -169,6 +169,28 @@ TEST_F(EditCommand, RefusesWhatWouldBecomeZero) {
   EXPECT_THAT(folder_.Read("rook.bot"), HasSubstr("arenaLord 0\n"));
 }
 
+TEST_F(EditCommand, WritesWhatItCanOfADocument) {
+  const Outcome part = Run(
+      {"--from", "-"},
+      R"({"funName": "Joe", "weaponWeights": {"W_RAILGUN": 9, "W_BFG10K": "x",
+          "W_GAUNTLET": 45}, "chats": {"kill_rail": ["other"]}})");
+  EXPECT_EQ(part.status, 1);
+  EXPECT_THAT(part.err,
+              AllOf(HasSubstr("Field weaponWeights.W_BFG10K: a number is"),
+                    HasSubstr("\"Railgun usage\" cannot be changed in place."),
+                    HasSubstr("\"Funname\" stands in none")));
+  std::string weights = kWeights;
+  weights.replace(weights.find("20"), 2, "45");
+  EXPECT_EQ(folder_.Read("rook_w.c"), weights);
+  EXPECT_THAT(folder_.Read("rook_t.c"), HasSubstr("\t\t\"other\";\n"));
+  // What is typed is all done or nothing.
+  EXPECT_EQ(Run({"--set", "weaponWeights.W_RAILGUN=9", "--set",
+                 "weaponWeights.W_GAUNTLET=20"})
+                .status,
+            1);
+  EXPECT_EQ(folder_.Read("rook_w.c"), weights);
+}
+
 TEST_F(EditCommand, NamesFilesInTheDifferenceFromTheirRoot) {
   folder_.Write("set/botfiles/bots/rook_c.c",
                 "#include \"chars.h\"\nskill 4\n{\n"

@@ -207,18 +207,22 @@ TEST_F(ProcessTest, EndsTheServerAndItsFilesWhenInterrupted) {
                        "sh -c 'trap \"\" TERM; echo $$ >>pids; sleep 60' &\n"
                        "echo $$ >>pids; wait\n");
   const std::string trial = "try x.json --engine ioq3ded --seconds 500";
-  const std::string match = "match x.json x.json --engine ioq3ded";
-  for (const auto& [command, signal, status] :
-       {std::tuple(trial, "INT", 130), std::tuple(trial, "TERM", 143),
-        std::tuple(trial, "HUP", 129), std::tuple(trial, "PIPE", 141),
-        std::tuple(match, "INT", 130), std::tuple(match, "TERM", 143)}) {
+  // Two side by side, whatever processors there are.
+  const std::string match = "match x.json x.json --engine ioq3ded --jobs 2";
+  for (const auto& [command, processes, signal, status] :
+       {std::tuple(trial, "2", "INT", 130), std::tuple(trial, "2", "TERM", 143),
+        std::tuple(trial, "2", "HUP", 129), std::tuple(trial, "2", "PIPE", 141),
+        std::tuple(match, "4", "INT", 130),
+        std::tuple(match, "4", "TERM", 143)}) {
     SCOPED_TRACE(signal);
     const Outcome outcome =
         Run("rm -f pids; export TMPDIR=$PWD/t; env --default-signal=INT $cli"
             " " +
             command +
             " &"
-            " for i in $(seq 2000); do [ \"$(wc -l <pids)\" = 2 ] && break;"
+            " for i in $(seq 2000); do [ \"$(wc -l <pids)\" = " +
+            std::string(processes) +
+            " ] && break;"
             "   sleep 0.01; done 2>/dev/null;"
             " kill -" +
             std::string(signal) +

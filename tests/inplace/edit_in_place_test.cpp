@@ -393,6 +393,26 @@ TEST(EditInPlaceTest, KeepsTheCommentBehindAField) {
             "+#define W_RAILGUN\t\t\t\t70 // why\n");
 }
 
+TEST(EditInPlaceTest, KeepsTheCommentBetweenKeyAndValue) {
+  for (const std::string comment :
+       {" /*x*/ ", "\t\t\t\t/*x*/", " /* 1 *//*2*/ "}) {
+    for (const std::string end : {"\n", " // why\n"}) {
+      const std::string define = "#define W_RAILGUN" + comment;
+      const LoadedFile weights(
+          BotFile::kWeaponWeights,
+          define + "280" + end + "#include \"fw_weap.c\"\n");
+      EXPECT_EQ(weights.Difference(weights.Edited(kRailgun, 70.0)),
+                "-" + define + "280" + end + "+" + define + "70" + end);
+      const std::string key = "CHARACTERISTIC_ATTACK_SKILL" + comment;
+      const LoadedFile character(
+          BotFile::kCharacteristics,
+          "#include \"chars.h\"\nskill 4\n{\n" + key + "0.5" + end + "}\n");
+      EXPECT_EQ(character.Difference(character.Edited(kAttack4, 0.25)),
+                "-" + key + "0.5" + end + "+" + key + "0.25" + end);
+    }
+  }
+}
+
 const std::string kUglyDescriptions =
     "// all of them\r\n"
     "{\n"
@@ -420,6 +440,14 @@ TEST(EditInPlaceTest, TouchesThisBotsBlockOfADescriptionAlone) {
   bot.Put(kNameField, "Tower");
   EXPECT_EQ(file.Difference(file.Edited(bot)),
             "-\tname   \"Rook\"\r\n+\tname   \"Tower\"\r\n");
+}
+
+TEST(EditInPlaceTest, KeepsTheNameOfOneOfSeveralWithTheSameFiles) {
+  const LoadedFile file(BotFile::kDescription,
+                        "{\nname Other\nmodel major\naifile bots/rook_c.c\n}\n"
+                        "{\nname Rook\nmodel sarge\naifile bots/rook_c.c\n}\n");
+  EXPECT_THAT(file.Difference(file.Edited(kNameField, "Tower")),
+              HasSubstr("\"Other\" has the same files, and without the old"));
 }
 
 TEST(EditInPlaceTest, ReplacesAndTakesOutFieldsOfADescription) {
@@ -452,9 +480,46 @@ TEST(EditInPlaceTest, RefusesADescriptionWhoseLinesHoldMore) {
         std::string("{\nname Rook\nmodel sarge\naifile bots/rook_c.c\n}{name "
                     "Rook2 model x/y aifile bots/rook_c.c}\n")}) {
     const LoadedFile file(BotFile::kDescription, text);
-    EXPECT_FALSE(file.Edited(kSkinField, "Red")) << text;
-    EXPECT_FALSE(file.Edited(kModelField, "Major")) << text;
+    for (const ParameterId half : {kSkinField, kModelField}) {
+      EXPECT_THAT(file.Difference(file.Edited(half, "Other")),
+                  HasSubstr("into a line of its own first."))
+          << text;
+    }
   }
+}
+
+TEST(EditInPlaceTest, SaysThatADescriptionStandsInOneLine) {
+  const LoadedFile file(BotFile::kDescription,
+                        "{ name rook model sarge aifile bots/rook_c.c }\n");
+  EXPECT_THAT(file.Difference(file.Edited(kFunNameField, "Joe")),
+              HasSubstr("The description stands in one line."));
+}
+
+TEST(EditInPlaceTest, EditsTheColorThatTheGameReads) {
+  const auto edited = [](const std::string& lines, Value color) {
+    const LoadedFile file(BotFile::kDescription,
+                          "{\nname rook\nmodel sarge\nfunname Joe\n" + lines +
+                              "aifile bots/rook_c.c\n}\n");
+    return file.Difference(file.Edited(kRailColorField, std::move(color)));
+  };
+  for (const std::string line : {"color1 5", "Color1\t5", "color1\t\t\"5\""}) {
+    std::string later = line;
+    later.replace(later.find('5'), 1, "7");
+    for (const std::string comment : {"", " // why"}) {
+      EXPECT_EQ(edited(line + comment + "\n", 7.0),
+                "-" + line + comment + "\n+" + later + comment + "\n");
+    }
+    EXPECT_EQ(edited("color2 3\n" + line + "\n", 7.0),
+              "-" + line + "\n+" + later + "\n");
+    EXPECT_EQ(edited(line + "\n", "None"), "-" + line + "\n");
+  }
+  EXPECT_THAT(edited("color2 3\ncolor1 5\n", "None"),
+              HasSubstr("A load takes it from line 5 then, where its key"));
+  EXPECT_EQ(edited("color2 3\n", 7.0), "+color  7\n");
+  EXPECT_THAT(edited("color1 5\ncolor2 3\n", 7.0),
+              HasSubstr("A load takes it from line 6, where its key"));
+  EXPECT_THAT(edited("color1 5 color2 3\n", 7.0),
+              HasSubstr("More than this value stands in its line"));
 }
 
 const std::string kUglyChat =

@@ -109,6 +109,37 @@ TEST(UglyFilesTest, RefusesWhatALevelOfAnIncludedFileHasToo) {
   EXPECT_TRUE(unknown.Edited(kAttack1, 1.0));
 }
 
+TEST(UglyFilesTest, KnowsCharacteristicsByTheirBareNumbers) {
+  std::string bytes = "#include \"chars.h\"\n";
+  for (const int level : {1, 2, 4, 5}) {
+    bytes += "skill " + std::to_string(level) +
+             " {\n  0 \"Rook\"\n  1 \"female\"\n\t28\t0.5 // how often\n"
+             "  44 0.0" +
+             std::to_string(level) + "\n  48 0.3\n  19 0.4 }\n";
+  }
+  const LoadedFile file(BotFile::kCharacteristics, bytes);
+  EXPECT_EQ(file.before().Name(), "Rook");
+  EXPECT_EQ(file.before().Text(ParameterId(36)), "0.5");
+  EXPECT_EQ(file.before().Text({Level::k4, 15}), "0.04");
+  EXPECT_EQ(file.Difference(file.Edited({Level::k4, 15}, 0.25)),
+            "-  44 0.04\n+  44 0.25\n");
+  EXPECT_EQ(file.Difference(file.Edited(ParameterId(36), 0.75)),
+            "-\t28\t0.5 // how often\n+\t28\t0.75 // how often\n"
+            "-\t28\t0.5 // how often\n+\t28\t0.75 // how often\n"
+            "-\t28\t0.5 // how often\n+\t28\t0.75 // how often\n");
+  // Without a value the number goes as well, and no other line.
+  EXPECT_EQ(file.Difference(file.Edited({Level::k1, 28}, 0.0)),
+            "-  19 0.4 }\n+   }\n");
+  EXPECT_EQ(file.Difference(file.Edited({Level::k5, 17}, 0.5)),
+            "+  CHARACTERISTIC_ALERTNESS 0.5\n");
+
+  // One that is no characteristic of a bot here, or has nothing behind it.
+  const LoadedFile strays(
+      BotFile::kCharacteristics,
+      "skill 4\n{\nCHARACTERISTIC_VIEW_MAXCHANGE\t\t\t\t360 5\n}\n");
+  EXPECT_EQ(strays.before().Text({Level::k4, kViewMaxChangeIndex}), "360 5");
+}
+
 TEST(UglyFilesTest, RefusesALevelThatTheGameDoesNotRead) {
   const LoadedFile twice(BotFile::kCharacteristics,
                          "#include \"chars.h\"\nskill 1\n{\n" +

@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+
 namespace fragsmith {
 namespace {
 
@@ -42,6 +46,24 @@ TEST(Numbers, PrintAsPlainDecimals) {
   EXPECT_EQ(PlainDecimal(5e-324, 15).size(), 2U + 323 + 15);
   EXPECT_EQ(ShortDecimal(0.1F), 0.1);
   EXPECT_EQ(ShortDecimal(1.1800001F), 1.18);
+}
+
+/// All that the sliders give, against the C library.
+TEST(Numbers, PrintThousandthsAsTheyStand) {
+  std::array<char, 32> text{};
+  for (int thousandths = 1; thousandths < 1000000;
+       thousandths += thousandths < 10000 ? 1 : 7) {
+    std::snprintf(text.data(), text.size(), "%d.%03d", thousandths / 1000,
+                  thousandths % 1000);
+    const double number = std::strtod(text.data(), nullptr);
+    ASSERT_EQ(NumberFromText(text.data()), number);
+    const auto rounded = static_cast<float>(number);
+    ASSERT_EQ(ShortDecimal(rounded), number) << text.data();
+    std::snprintf(text.data(), text.size(), "%.7g",
+                  static_cast<double>(rounded));
+    // Nothing that small is printed with an exponent.
+    ASSERT_EQ(PlainDecimal(rounded, kFloatDigits), text.data());
+  }
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #ifndef FRAGSMITH_SUPPORT_SYSTEM_FILE_REPLACEMENT_SYSTEM_H_
 #define FRAGSMITH_SUPPORT_SYSTEM_FILE_REPLACEMENT_SYSTEM_H_
 
+#include <cstdint>
 #include <filesystem>
 #include <string_view>
 #include <system_error>
@@ -9,15 +10,32 @@
 /// library; one source file per family of systems.
 namespace fragsmith::system {
 
-/// Makes an empty file that did not exist before (never through a link), with
-/// the permissions of the model file where that exists.
-std::error_code CreateNewFile(const std::filesystem::path& path,
-                              const std::filesystem::path& model);
+/// A file that is made, filled and closed; closed, too, when it is dropped.
+class NewFile {
+ public:
+  NewFile() = default;
+  NewFile(NewFile&& other) noexcept;
+  NewFile& operator=(NewFile&& other) = delete;
+  NewFile(const NewFile&) = delete;
+  NewFile& operator=(const NewFile&) = delete;
+  ~NewFile() { (void)Close(); }
 
-std::error_code WriteWholeFile(const std::filesystem::path& path,
-                               std::string_view bytes);
+  /// Makes an empty file that did not exist before (never through a link),
+  /// with the permissions of the model file where that exists.
+  std::error_code Make(const std::filesystem::path& path,
+                       const std::filesystem::path& model);
 
-std::error_code FlushToDisk(const std::filesystem::path& path);
+  std::error_code Append(std::string_view bytes) const;
+
+  std::error_code FlushToDisk() const;
+
+  /// Some file systems report only here that bytes could not be written.
+  std::error_code Close();
+
+ private:
+  static constexpr std::intptr_t kNone = -1;
+  std::intptr_t handle_ = kNone;
+};
 
 std::error_code RenameOver(const std::filesystem::path& from,
                            const std::filesystem::path& to);

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <utility>
 
 #include "support/system/file_replacement_system.h"
 
@@ -14,43 +15,31 @@ std::error_code LastError() {
   return {static_cast<int>(::GetLastError()), std::system_category()};
 }
 
-/// An open file that is closed at the end of its scope.
-class Handle {
- public:
-  Handle(const std::filesystem::path& path, DWORD access, DWORD disposition)
-      : handle_(::CreateFileW(path.c_str(), access, 0, nullptr, disposition,
-                              FILE_ATTRIBUTE_NORMAL, nullptr)) {}
-  Handle(const Handle&) = delete;
-  Handle& operator=(const Handle&) = delete;
-  ~Handle() {
-    if (is_open()) ::CloseHandle(handle_);
-  }
-
-  bool is_open() const { return handle_ != INVALID_HANDLE_VALUE; }
-  HANDLE get() const { return handle_; }
-
- private:
-  HANDLE handle_;
-};
+HANDLE AsHandle(std::intptr_t handle) {
+  return reinterpret_cast<HANDLE>(handle);
+}
 
 }  // namespace
 
-std::error_code CreateNewFile(const std::filesystem::path& path,
+NewFile::NewFile(NewFile&& other) noexcept
+    : handle_(std::exchange(other.handle_, kNone)) {}
+
+std::error_code NewFile::Make(const std::filesystem::path& path,
                               const std::filesystem::path& /*model*/) {
-  const Handle file(path, GENERIC_WRITE, CREATE_NEW);
-  if (!file.is_open()) return LastError();
+  const HANDLE file = ::CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr,
+                                    CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr);
+  if (file == INVALID_HANDLE_VALUE) return LastError();
+  handle_ = reinterpret_cast<std::intptr_t>(file);
   return {};
 }
 
-std::error_code WriteWholeFile(const std::filesystem::path& path,
-                               std::string_view bytes) {
-  const Handle file(path, GENERIC_WRITE, TRUNCATE_EXISTING);
-  if (!file.is_open()) return LastError();
+std::error_code NewFile::Append(std::string_view bytes) const {
   while (!bytes.empty()) {
     const auto piece =
         static_cast<DWORD>(std::min(bytes.size(), std::size_t{1} << 30U));
     DWORD written = 0;
-    if (::WriteFile(file.get(), bytes.data(), piece, &written, nullptr) == 0) {
+    if (::WriteFile(AsHandle(handle_), bytes.data(), piece, &written,
+                    nullptr) == 0) {
       return LastError();
     }
     bytes.remove_prefix(written);
@@ -58,10 +47,16 @@ std::error_code WriteWholeFile(const std::filesystem::path& path,
   return {};
 }
 
-std::error_code FlushToDisk(const std::filesystem::path& path) {
-  const Handle file(path, GENERIC_WRITE, OPEN_EXISTING);
-  if (!file.is_open()) return LastError();
-  if (::FlushFileBuffers(file.get()) == 0) return LastError();
+std::error_code NewFile::FlushToDisk() const {
+  if (::FlushFileBuffers(AsHandle(handle_)) == 0) return LastError();
+  return {};
+}
+
+std::error_code NewFile::Close() {
+  if (handle_ == kNone) return {};
+  if (::CloseHandle(AsHandle(std::exchange(handle_, kNone))) == 0) {
+    return LastError();
+  }
   return {};
 }
 
