@@ -424,10 +424,12 @@ void frmMain::MakeBotFiles() {
 }
 
 void frmMain::ShowOptions() {
-  frmOptions dialog(state_.prompts, this,
-                    [this](const std::filesystem::path& folder) {
-                      return state_.FirstFolder(folder);
-                    });
+  frmOptions dialog(
+      state_.prompts, this,
+      [this](const std::filesystem::path& folder) {
+        return state_.FirstFolder(folder);
+      },
+      commands_->Places());
   for (int index = 0; index < kOptionCount; ++index) {
     dialog.SetOptionValue(index, GetOptionValue(state_.settings, index));
   }
