@@ -4,6 +4,13 @@
 
 namespace fragsmith {
 
+int FittingGroup(ChatTypeId type) {
+  constexpr ChatTypeId kKillByRail{20};
+  constexpr int kKillsWithRailgun = 20;
+  return type == kKillByRail ? kKillsWithRailgun
+                             : ChatTypeAt(type).random_group;
+}
+
 std::string GroupMember(int group, std::string_view number) {
   std::string member(ChatGroupAt(group).Marker);
   member += number;

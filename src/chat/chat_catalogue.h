@@ -195,6 +195,10 @@ inline const ChatPointer& ChatPointerAt(int pointer) {
   return kChatPointers.at(static_cast<std::size_t>(pointer));
 }
 
+/// The group whose lines are made for the situation: the one that random lines
+/// are drawn from, but for a kill by rail.
+int FittingGroup(ChatTypeId type);
+
 /// A member of a group in editor form: "{{DEATHLAVA2}}".
 std::string GroupMember(int group, std::string_view number);
 

@@ -55,10 +55,13 @@ int AddEmptyChatLine(Bot& bot, ChatTypeId type) {
   return Append(bot, type, {});
 }
 
-void SwapChatLines(Bot& bot, ChatTypeId type, int line, int other) {
-  const std::string text = bot.ChatLine(type, line);
-  bot.SetChatLine(type, line, bot.ChatLine(type, other));
-  bot.SetChatLine(type, other, text);
+void MoveChatLine(Bot& bot, ChatTypeId type, int line, int place) {
+  std::string text = bot.ChatLine(type, line);
+  const int step = line < place ? 1 : -1;
+  for (; line != place; line += step) {
+    bot.SetChatLine(type, line, bot.ChatLine(type, line + step));
+  }
+  bot.SetChatLine(type, place, std::move(text));
 }
 
 void DoubleChatLine(Bot& bot, ChatTypeId type, int line, int behind) {

@@ -32,8 +32,8 @@ int AddGroupMember(Bot& bot, ChatTypeId type, int selected_line, int group,
 /// "New line": an empty last line. Gives its number.
 int AddEmptyChatLine(Bot& bot, ChatTypeId type);
 
-/// Two lines change places.
-void SwapChatLines(Bot& bot, ChatTypeId type, int line, int other);
+/// Moves a line to the place of another; those between make room.
+void MoveChatLine(Bot& bot, ChatTypeId type, int line, int place);
 
 /// Puts a copy of the line in a place behind it.
 void DoubleChatLine(Bot& bot, ChatTypeId type, int line, int behind);

@@ -147,6 +147,9 @@ void frmMain::BuildPages() {
 void frmMain::Connect() {
   connect(identity_, &IdentityPanel::StatusText, this, &frmMain::Say);
   connect(typed_text_, &TypedText::StatusText, this, &frmMain::Say);
+  connect(models_, &ModelSelector::ChooseWanted, this, [this] {
+    if (typed_text_->Store()) model_list_->ChooseFace();
+  });
   connect(chat_page_, &ChatPage::StatusText, this, &frmMain::Say);
   connect(commands_, &BotCommands::StatusText, this, &frmMain::Say);
   connect(help_, &HelpCommands::StatusText, this, &frmMain::Say);
@@ -421,10 +424,12 @@ void frmMain::MakeBotFiles() {
 }
 
 void frmMain::ShowOptions() {
-  frmOptions dialog(state_.prompts, this,
-                    [this](const std::filesystem::path& folder) {
-                      return state_.FirstFolder(folder);
-                    });
+  frmOptions dialog(
+      state_.prompts, this,
+      [this](const std::filesystem::path& folder) {
+        return state_.FirstFolder(folder);
+      },
+      commands_->Places());
   for (int index = 0; index < kOptionCount; ++index) {
     dialog.SetOptionValue(index, GetOptionValue(state_.settings, index));
   }

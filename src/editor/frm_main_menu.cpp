@@ -19,7 +19,8 @@ void frmMain::BuildMenu() {
          if (typed_text_->StoreAll()) game_->TryInGame();
        }},
       {QStringLiteral("mnuPlayOut"), [this] { ShowMatches(); }},
-      {QStringLiteral("mnuCheckFiles"), [this] { game_->CheckFiles(); }},
+      {QStringLiteral("mnuCheckFiles"),
+       [this] { game_->CheckFiles(commands_->Places()); }},
       {QStringLiteral("mnuInstall"), [this] { InstallIntoGame(); }},
       {QStringLiteral("mnuCompareAverage"),
        [this] {

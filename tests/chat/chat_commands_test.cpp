@@ -53,6 +53,20 @@ TEST(ChatCommands, PutMembersWhereTheSelectionIs) {
       ElementsAre("{{TAUNT3}}", "{{TAUNT4}}", "{{GUYTALK2}}", "{{TAUNT5}}"));
 }
 
+TEST(ChatCommands, MoveALinePastOthers) {
+  Bot bot;
+  int line = 0;
+  for (const char* const text : {"a", "b", "c", "d"}) {
+    bot.SetChatLine(TypeAt(5), line++, text);
+  }
+  MoveChatLine(bot, TypeAt(5), 0, 2);
+  EXPECT_THAT(bot.ChatLines(TypeAt(5)), ElementsAre("b", "c", "a", "d"));
+  MoveChatLine(bot, TypeAt(5), 3, 0);
+  EXPECT_THAT(bot.ChatLines(TypeAt(5)), ElementsAre("d", "b", "c", "a"));
+  MoveChatLine(bot, TypeAt(5), 1, 1);
+  EXPECT_THAT(bot.ChatLines(TypeAt(5)), ElementsAre("d", "b", "c", "a"));
+}
+
 TEST(ChatCommands, InsertVariablesAtTheCursor) {
   EXPECT_EQ(InsertVariable({"Hello", 2}, "{GOOD}"),
             (LineText{"He{GOOD}llo", 2}));

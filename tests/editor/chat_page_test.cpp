@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QCheckBox>
 #include <QClipboard>
@@ -346,6 +347,160 @@ TEST_F(ChatPageTest, TellsOfLinesAndOfWhatIsNotFilled) {
   EXPECT_THAT(status_.back().toStdString(), HasSubstr("does not fill"));
 }
 
+TEST_F(ChatPageTest, DragsALineToAnotherPlaceAsOneStep) {
+  Show({{"a", "b", "c", "d"}});
+  SelectLine(1);
+  // What the list does where a line is dropped.
+  QListWidget* const lines = List("lstChatLines");
+  EXPECT_EQ(lines->dragDropMode(), QAbstractItemView::InternalMove);
+  EXPECT_FALSE(lines->item(0)->flags() & Qt::ItemIsDropEnabled);
+  lines->model()->moveRow({}, 1, {}, 4);
+  EXPECT_THAT(Lines(), ElementsAre("a", "c", "d", "b"));
+  EXPECT_EQ(Line(), 3);
+  EXPECT_EQ(BoxText(), "b");
+  Type("!");
+  lines->model()->moveRow({}, 3, {}, 0);
+  EXPECT_THAT(Lines(), ElementsAre("b!", "a", "c", "d"));
+  current_.steps().undo();
+  current_.steps().undo();
+  EXPECT_THAT(Stored(kGameEntry), ElementsAre("a", "c", "d", "b"));
+  current_.steps().undo();
+  EXPECT_THAT(Stored(kGameEntry), ElementsAre("a", "b", "c", "d"));
+}
+
+TEST_F(ChatPageTest, CompletesAVariableThatIsTyped) {
+  Show({{"Hi "}});
+  SelectType(kPummel);
+  Click("cmdNewLine");
+  const auto popup = [] {
+    return qobject_cast<QAbstractItemView*>(QApplication::activePopupWidget());
+  };
+  const auto press = [&popup](Qt::Key key) {
+    ASSERT_NE(popup(), nullptr);
+    QTest::keyClick(popup(), key);
+  };
+  const auto row_of = [&popup](const char* variable) {
+    return popup()->model()->match(popup()->model()->index(0, 0),
+                                   Qt::DisplayRole, QLatin1String(variable), 1,
+                                   Qt::MatchExactly);
+  };
+  Type("Ha, {");
+  ASSERT_NE(popup(), nullptr);
+  EXPECT_EQ(popup()->currentIndex().data(), QStringLiteral("{TARGET}"));
+  // What the situation does not fill is told of and cannot be taken.
+  for (const char* const useless : {"{WEAPONUSED}", "{LEVELTITLE}"}) {
+    const QModelIndexList rows = row_of(useless);
+    ASSERT_EQ(rows.size(), 1) << useless;
+    EXPECT_FALSE(rows.front().flags() & Qt::ItemIsEnabled);
+    EXPECT_FALSE(
+        rows.front().data(Qt::AccessibleDescriptionRole).toString().isEmpty());
+  }
+  press(Qt::Key_L);
+  press(Qt::Key_E);
+  press(Qt::Key_Return);
+  EXPECT_EQ(popup(), nullptr);
+  EXPECT_EQ(BoxText(), "Ha, {le");
+  for (int letter = 0; letter < 3; ++letter) {
+    QTest::keyClick(Box(), Qt::Key_Backspace);
+  }
+  Type("{");
+  press(Qt::Key_T);
+  press(Qt::Key_A);
+  EXPECT_EQ(popup()->model()->rowCount(), 1);
+  press(Qt::Key_Tab);
+  EXPECT_EQ(BoxText(), "Ha, {TARGET}");
+  EXPECT_TRUE(Box()->hasFocus());
+  EXPECT_EQ(Box()->cursorPosition(), 12);
+  current_.steps().undo();
+  page_.ShowAgain();
+  EXPECT_EQ(BoxText(), "Ha, {ta");
+
+  // Escape goes on without, until the next brace.
+  Box()->setFocus();
+  Box()->end(false);
+  Type("} {");
+  press(Qt::Key_Escape);
+  EXPECT_EQ(popup(), nullptr);
+  Type("a");
+  EXPECT_EQ(popup(), nullptr);
+  Type("} {prof");
+  EXPECT_EQ(popup()->model()->rowCount(), 1);
+  press(Qt::Key_Enter);
+  EXPECT_EQ(BoxText(), "Ha, {ta} {a} PROFESSION");
+  // Two begin a ready-made line.
+  Type("{{");
+  EXPECT_EQ(popup(), nullptr);
+}
+
+TEST_F(ChatPageTest, TakesAVariableByTheMouseAlone) {
+  Show({{"Hi "}});
+  Box()->setFocus();
+  Box()->end(false);
+  Type("{");
+  auto* const popup =
+      qobject_cast<QAbstractItemView*>(QApplication::activePopupWidget());
+  ASSERT_NE(popup, nullptr);
+  QTest::mouseClick(popup->viewport(), Qt::LeftButton, {},
+                    popup->visualRect(popup->model()->index(2, 0)).center());
+  EXPECT_EQ(BoxText(), "Hi {ANYBOTNAME}");
+  EXPECT_FALSE(popup->isVisible());
+}
+
+TEST_F(ChatPageTest, ShowsTheReadyMadeLinesOfTheOccasion) {
+  const auto remark = [this](int row) {
+    return List("lstPreDefNumber")
+        ->item(row)
+        ->data(Qt::AccessibleDescriptionRole)
+        .toString()
+        .toStdString();
+  };
+  EXPECT_EQ(List("lstPreDef")->currentRow(), 0);
+  EXPECT_EQ(remark(0), "");
+  GameData game;
+  game.words = WordLists::Parse(
+      "DEATH_RAIL0 = {0, \" shot well.\"; \"Nice.\"; }\n"
+      "KILL_RAIL1 = {\"Zap, \", 0, \"!\"; }\n");
+  page_.SetGame(&game);
+  constexpr ChatTypeId kDeathByRail{16};
+  constexpr ChatTypeId kKillByRail{20};
+  SelectType(kDeathByRail);
+  EXPECT_EQ(List("lstPreDef")->currentRow(), 15);
+  EXPECT_EQ(remark(0), "marla shot well.");
+  EXPECT_EQ(remark(1), "(not in this game)");
+  SelectType(kKillByRail);
+  EXPECT_EQ(List("lstPreDef")->currentItem()->text(),
+            QStringLiteral("Kills with railgun"));
+  EXPECT_EQ(remark(1), "Zap, marla!");
+  List("lstPreDefNumber")->setCurrentRow(1);
+  // Only another occasion changes what was chosen.
+  Click("cmdNewLine");
+  Click("cmdAddList");
+  EXPECT_EQ(List("lstPreDefNumber")->currentRow(), 1);
+  EXPECT_THAT(Lines(), ElementsAre("", "{{KILLRAIL1}}"));
+  page_.SetGame(nullptr);
+  EXPECT_EQ(remark(1), "");
+}
+
+TEST_F(ChatPageTest, MovesNothingWhereTheHelpIsLonger) {
+  const auto* const spoken = page_.findChild<QWidget*>("picSpoken");
+  for (const int width : {700, 1000}) {
+    page_.resize(width, 430);
+    SelectType(kGameEntry);
+    // The room for the help is made once its width is known.
+    QTest::qWait(50);
+    const QRect place = spoken->geometry();
+    const QRect box = Box()->geometry();
+    for (const ChatTypeId type : kAllChatTypes) {
+      SelectType(type);
+      Click("cmdNewLine");
+      Type(QString(260, u'w'));
+      QCoreApplication::processEvents();
+      EXPECT_EQ(spoken->geometry(), place) << IndexOf(type);
+      EXPECT_EQ(Box()->geometry(), box) << IndexOf(type);
+    }
+  }
+}
+
 TEST_F(ChatPageTest, TakesDeleteAsRemovalInTheListAlone) {
   Show({{"abc", "d"}});
   Box()->setFocus();
@@ -486,7 +641,7 @@ TEST_F(ChatPageTest, IsUsableByKeyboardAndScreenReader) {
   for (const auto* button : page_.findChildren<QAbstractButton*>()) {
     take_mnemonic(button->text());
   }
-  EXPECT_EQ(keys.size(), 11U);
+  EXPECT_EQ(keys.size(), 10U);
 
   QStringList order;
   List("lstChatGroups")->setFocus();

@@ -5,8 +5,10 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
 #include <QSignalSpy>
 #include <QTest>
+#include <QToolButton>
 #include <cstddef>
 #include <filesystem>
 #include <optional>
@@ -159,6 +161,38 @@ TEST_F(DirViewTest, TellsOfADriveThatCannotBeRead) {
   EXPECT_EQ(view_.Folder(), folder_ / "Zoo");
   EXPECT_EQ(drives_.currentIndex(), 2) << "the nearest drive above";
   EXPECT_EQ(prompts_.messages.size(), 1U);
+}
+
+TEST_F(DirViewTest, ShowsDrivesWhereThereAreSeveral) {
+  view_.show();
+  view_.SetDrives({folder_.path()});
+  EXPECT_FALSE(drives_.isVisible());
+  view_.SetDrives({folder_.path(), folder_ / "Zoo"});
+  EXPECT_TRUE(drives_.isVisible());
+}
+
+TEST_F(DirViewTest, LeadsToThePlacesThatAreThere) {
+  const auto button = [this](const char* name) {
+    return view_.findChild<QToolButton*>(QLatin1String(name));
+  };
+  EXPECT_EQ(button("cmdPlaceGame"), nullptr);
+  EXPECT_EQ(button("cmdPlaceRecent"), nullptr);
+  view_.SetPlaces({.game = folder_ / "Zoo",
+                   .working = folder_ / "gone",
+                   .recent = {folder_ / "bots/deep_c.c", folder_ / "gone",
+                              folder_.path()}});
+  EXPECT_EQ(button("cmdPlaceWorking"), nullptr);
+  view_.show();
+  button("cmdPlaceGame")->setFocus();
+  QTest::keyClick(button("cmdPlaceGame"), Qt::Key_Space);
+  EXPECT_EQ(view_.Folder(), folder_ / "Zoo");
+  EXPECT_EQ(Rows(folders_), (Strings{"..", ".hidden"}));
+  const QList<QAction*> recent = button("cmdPlaceRecent")->menu()->actions();
+  ASSERT_EQ(recent.size(), 2);
+  recent.front()->trigger();
+  EXPECT_EQ(view_.Folder(), folder_ / "bots/deep_c.c");
+  EXPECT_EQ(Rows(files_), Strings{"inner_c.c"});
+  EXPECT_NE(button("cmdPlaceHome"), nullptr);
 }
 
 TEST_F(DirViewTest, HidesTheFilesWhereAFolderIsWanted) {

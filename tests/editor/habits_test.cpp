@@ -322,6 +322,11 @@ TEST(RecentBots, AreFewWhateverTheFileHas) {
   }
   const QStringList kept = RecentBots(texts).ToStrings();
   EXPECT_EQ(kept, texts.mid(2, 9));
+  EXPECT_EQ(
+      RecentBots({QStringLiteral("/a/x_c.c|"), QStringLiteral("/b/y.pk3|Y"),
+                  QStringLiteral("/a/z_c.c|")})
+          .Folders(),
+      (std::vector<std::filesystem::path>{"/a", "/b"}));
 }
 
 TEST_F(Habits, OpensWhatIsDroppedAndRemembersIt) {

@@ -113,6 +113,7 @@ std::optional<OpenChoice> BotCommands::AskForFiles(OpenKind kind,
   frmOpen dialog({.kind = kind,
                   .folder = last_folder_,
                   .options = options_,
+                  .places = Places(),
                   .bots = &bots,
                   .bot_name = ToQString(current_.bot().Name()),
                   .offers_files = offer.keeps_files,
@@ -124,6 +125,12 @@ std::optional<OpenChoice> BotCommands::AskForFiles(OpenKind kind,
   options_ = choice.options;
   if (!is_accepted) return std::nullopt;
   return choice;
+}
+
+FolderPlaces BotCommands::Places() const {
+  return {.game = PathFromBytes(state_.settings.Q3Baseq3),
+          .working = state_.FirstFolder(state_.folder_state.CurrentFolder),
+          .recent = recent_.Folders()};
 }
 
 bool BotCommands::TakeDraft(const Draft& draft) {

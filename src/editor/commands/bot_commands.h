@@ -16,6 +16,7 @@
 #include "editor/state/current_bot.h"
 #include "editor/state/program_state.h"
 #include "editor/state/recent_bots.h"
+#include "editor/toolkit/folder_places.h"
 #include "game/bot_kinds.h"
 #include "game/game_data.h"
 #include "session/draft.h"
@@ -84,6 +85,9 @@ class BotCommands : public QObject {
   void ForgetLastFolder() { last_folder_.clear(); }
 
   RecentBots& recent() { return recent_; }
+
+  /// Where the boxes of folders lead to.
+  FolderPlaces Places() const;
 
  signals:
   /// A new bot is there.

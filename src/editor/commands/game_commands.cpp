@@ -24,7 +24,7 @@ void GameCommands::TryInGame() {
       .exec();
 }
 
-void GameCommands::CheckFiles() {
+void GameCommands::CheckFiles(const FolderPlaces& places) {
   const std::optional<BotLocation> loaded = LocationOf(*current_.origin().home);
   if (loaded && *loaded != last_loaded_) {
     last_loaded_ = *loaded;
@@ -34,7 +34,8 @@ void GameCommands::CheckFiles() {
   if (last_folder_.empty()) {
     last_folder_ = state_.FirstFolder(state_.folder_state.CurrentFolder);
   }
-  frmCheck dialog(last_folder_, checker_.installed(), state_.prompts, &window_);
+  frmCheck dialog(last_folder_, places, checker_.installed(), state_.prompts,
+                  &window_);
   dialog.exec();
   last_folder_ = dialog.Folder();
 }

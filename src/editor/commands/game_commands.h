@@ -8,6 +8,7 @@
 #include "editor/state/bot_checker.h"
 #include "editor/state/current_bot.h"
 #include "editor/state/program_state.h"
+#include "editor/toolkit/folder_places.h"
 
 namespace fragsmith {
 
@@ -22,7 +23,7 @@ class GameCommands : public QObject {
 
   /// The boxes have been checked.
   void TryInGame();
-  void CheckFiles();
+  void CheckFiles(const FolderPlaces& places);
 
  private:
   CurrentBot& current_;

@@ -4,6 +4,7 @@
 #include <string>
 #include <utility>
 
+#include "editor/dialogs/faces_dialog.h"
 #include "editor/dialogs/model_dialog.h"
 #include "editor/dialogs/search_progress.h"
 #include "editor/toolkit/game_text_conversion.h"
@@ -56,6 +57,11 @@ QString ModelListCommands::DropGoneAddOns() {
              "Not in the game any more, and dropped from the lists of models "
              "and bots: %1.")
       .arg(names.join(QStringLiteral(", ")));
+}
+
+void ModelListCommands::ChooseFace() {
+  frmFaces dialog(state_.lists.models, faces_, models_.Selection(), &window_);
+  if (dialog.exec() == QDialog::Accepted) models_.Choose(dialog.Chosen());
 }
 
 void ModelListCommands::AddModel() {

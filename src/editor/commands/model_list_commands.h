@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "editor/panels/model_selector.h"
+#include "editor/state/face_store.h"
 #include "editor/state/program_state.h"
 #include "install/program/base_scan.h"
 
@@ -13,12 +14,12 @@ namespace fragsmith {
 
 class frmModelDialog;
 
-/// The commands that change the lists of models and bots: they scan the game,
-/// and add models and skins of the user's own and remove them.
+/// The commands around the lists of models and bots: they scan the game, add
+/// models and skins of the user's own and remove them, and let one be chosen.
 class ModelListCommands {
  public:
   ModelListCommands(ProgramState& state, ModelSelector& models, QWidget& window)
-      : state_(state), models_(models), window_(window) {}
+      : state_(state), models_(models), window_(window), faces_(state) {}
 
   struct Scan {
     ScanSummary summary;
@@ -32,6 +33,9 @@ class ModelListCommands {
   /// empty for none.
   QString DropGoneAddOns();
 
+  /// Lets the user choose the bot's model and skin by their faces.
+  void ChooseFace();
+
   void AddModel();
   void AddSkin();
   void RemoveModel();
@@ -44,6 +48,7 @@ class ModelListCommands {
   ProgramState& state_;
   ModelSelector& models_;
   QWidget& window_;
+  FaceStore faces_;
 };
 
 }  // namespace fragsmith

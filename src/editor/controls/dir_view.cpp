@@ -11,6 +11,7 @@
 #include <QStyle>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <array>
 #include <iterator>
 #include <system_error>
 #include <utility>
@@ -27,13 +28,36 @@ QString ShownPath(const fs::path& path) {
   return QDir::toNativeSeparators(QString::fromStdString(Utf8FromPath(path)));
 }
 
+bool IsWithin(const fs::path& folder, const fs::path& drive) {
+  const fs::path rest = folder.lexically_relative(drive);
+  return !rest.empty() && *rest.begin() != "..";
+}
+
+/// Where drives have no letters, most volumes are parts of the one tree; the
+/// others are mounted in these folders, some of them in one for the user.
+bool IsDrive([[maybe_unused]] const fs::path& root) {
+#ifdef Q_OS_WIN
+  return true;
+#else
+  constexpr std::ptrdiff_t kMostParts = 2;
+  constexpr std::array kFolders = {"/media", "/mnt", "/run/media", "/Volumes"};
+  const auto holds = [&root](const char* folder) {
+    const fs::path rest = root.lexically_relative(folder);
+    return IsWithin(root, folder) &&
+           std::distance(rest.begin(), rest.end()) <= kMostParts;
+  };
+  return !root.has_relative_path() ||
+         std::any_of(kFolders.begin(), kFolders.end(), holds);
+#endif
+}
+
 std::vector<fs::path> MountedVolumes() {
   std::vector<fs::path> volumes;
   for (const QStorageInfo& volume : QStorageInfo::mountedVolumes()) {
     const fs::path root = PathFromBytes(volume.rootPath().toStdString());
     // A single file can be a mount point too. A drive without a disk in it
     // is listed: choosing it tells.
-    if (!IsFile(root)) volumes.push_back(root);
+    if (!IsFile(root) && IsDrive(root)) volumes.push_back(root);
   }
   std::sort(volumes.begin(), volumes.end());
   volumes.erase(std::unique(volumes.begin(), volumes.end()), volumes.end());
@@ -76,16 +100,13 @@ fs::path NearestFolder(const fs::path& wanted) {
   return folder;
 }
 
-bool IsWithin(const fs::path& folder, const fs::path& drive) {
-  const fs::path rest = folder.lexically_relative(drive);
-  return !rest.empty() && *rest.begin() != "..";
-}
-
 }  // namespace
 
 DirView::DirView(Prompts& prompts, QWidget* parent)
     : QWidget(parent),
       prompts_(prompts),
+      places_(new PlacesBar(this)),
+      drives_caption_(new QLabel(QStringLiteral("&Drive:"), this)),
       drives_box_(new QComboBox(this)),
       path_box_(new QLineEdit(this)),
       folders_caption_(new QLabel(this)),
@@ -104,6 +125,7 @@ DirView::DirView(Prompts& prompts, QWidget* parent)
   files_list_->setAccessibleName(QStringLiteral("Files"));
   BuildLayout();
 
+  connect(places_, &PlacesBar::Chosen, this, &DirView::SetFolder);
   connect(drives_box_, &QComboBox::activated, this, &DirView::ChooseDrive);
   connect(path_box_, &QLineEdit::editingFinished, this,
           &DirView::TakeTypedPath);
@@ -125,8 +147,7 @@ void DirView::BuildLayout() {
   drives_box_->setSizeAdjustPolicy(
       QComboBox::AdjustToMinimumContentsLengthWithIcon);
   drives_box_->setMinimumContentsLength(12);
-  auto* const drive_caption = new QLabel(QStringLiteral("&Drive:"), this);
-  drive_caption->setBuddy(drives_box_);
+  drives_caption_->setBuddy(drives_box_);
   auto* const path_caption = new QLabel(QStringLiteral("&Path:"), this);
   path_caption->setBuddy(path_box_);
   folders_caption_->setBuddy(folders_list_);
@@ -147,13 +168,14 @@ void DirView::BuildLayout() {
 
   auto* const grid = new QGridLayout(this);
   grid->setContentsMargins(0, 0, 0, 0);
-  grid->addWidget(drive_caption, 0, 0);
-  grid->addWidget(drives_box_, 0, 1);
-  grid->addWidget(path_caption, 1, 0);
-  grid->addWidget(path_box_, 1, 1);
-  grid->addLayout(lists, 2, 0, 1, 2);
+  grid->addWidget(places_, 0, 0, 1, 2);
+  grid->addWidget(drives_caption_, 1, 0);
+  grid->addWidget(drives_box_, 1, 1);
+  grid->addWidget(path_caption, 2, 0);
+  grid->addWidget(path_box_, 2, 1);
+  grid->addLayout(lists, 3, 0, 1, 2);
   grid->setColumnStretch(1, 1);
-  grid->setRowStretch(2, 1);
+  grid->setRowStretch(3, 1);
 }
 
 void DirView::SetFilter(const QString& suffix) {
@@ -212,6 +234,9 @@ void DirView::SetDrives(std::vector<fs::path> drives) {
     drives_box_->addItem(style()->standardIcon(QStyle::SP_DriveHDIcon),
                          ShownPath(drive));
   }
+  const bool is_choice = drives_.size() > 1;
+  drives_caption_->setVisible(is_choice);
+  drives_box_->setVisible(is_choice);
   ShowDrive();
 }
 

@@ -9,6 +9,8 @@
 #include <string>
 #include <vector>
 
+#include "editor/controls/places_bar.h"
+#include "editor/toolkit/folder_places.h"
 #include "support/prompts.h"
 
 class QComboBox;
@@ -18,7 +20,8 @@ class QListWidget;
 
 namespace fragsmith {
 
-/// The folder browser of the dialogs: the drives (`drvDrive`), the path
+/// The folder browser of the dialogs: places to go to, the drives (`drvDrive`,
+/// where there are several), the path
 /// (`txtFolder`, where another one or a file can be typed), the folders in it
 /// (`dirFolder`) and those of its files that a filter lets through
 /// (`filFile`). A folder is entered by double click or Enter; Backspace and
@@ -52,6 +55,8 @@ class DirView : public QWidget {
   /// Without files the view is there to choose a folder.
   void SetFilesVisible(bool are_visible);
 
+  void SetPlaces(const FolderPlaces& places) { places_->SetPlaces(places); }
+
   /// The drives to choose from: the mounted volumes unless others are given.
   void SetDrives(std::vector<std::filesystem::path> drives);
 
@@ -83,6 +88,8 @@ class DirView : public QWidget {
   void ShowDrive();
 
   Prompts& prompts_;
+  PlacesBar* places_;
+  QLabel* drives_caption_;
   QComboBox* drives_box_;
   QLineEdit* path_box_;
   QLabel* folders_caption_;

@@ -1,5 +1,6 @@
 #include "editor/controls/icon_box.h"
 
+#include <QMouseEvent>
 #include <QPainter>
 
 namespace fragsmith {
@@ -26,6 +27,12 @@ QSize IconBox::sizeHint() const {
   // It stands beside two fields.
   const int side = fontMetrics().height() * 6 + 2 * frameWidth();
   return {side, side};
+}
+
+void IconBox::mouseReleaseEvent(QMouseEvent* event) {
+  const bool is_click = event->button() == Qt::LeftButton &&
+                        rect().contains(event->position().toPoint());
+  if (is_click) emit Clicked();
 }
 
 void IconBox::paintEvent(QPaintEvent* event) {

@@ -54,8 +54,8 @@ std::vector<BotLocation> BotsOfPackagesIn(const fs::path& folder) {
 
 }  // namespace
 
-frmCheck::frmCheck(const fs::path& folder, const InstalledGame* game,
-                   Prompts& prompts, QWidget* parent)
+frmCheck::frmCheck(const fs::path& folder, const FolderPlaces& places,
+                   const InstalledGame* game, Prompts& prompts, QWidget* parent)
     : QDialog(parent),
       game_(game),
       browser_(new DirView(prompts, this)),
@@ -92,6 +92,7 @@ frmCheck::frmCheck(const fs::path& folder, const InstalledGame* game,
   connect(browser_, &DirView::FolderShown, this, &frmCheck::FindBots);
   connect(browser_, &DirView::FileChosen, this, &frmCheck::FindBots);
   connect(bot_, &QComboBox::activated, this, &frmCheck::CheckSoon);
+  browser_->SetPlaces(places);
   browser_->SetFolder(folder);
   browser_->findChild<QListWidget*>(QStringLiteral("filFile"))->setFocus();
 }

@@ -24,8 +24,9 @@ class frmCheck : public QDialog {
  public:
   /// Begins in the folder. The game outlives the dialog; null where none is
   /// known.
-  frmCheck(const std::filesystem::path& folder, const InstalledGame* game,
-           Prompts& prompts, QWidget* parent = nullptr);
+  frmCheck(const std::filesystem::path& folder, const FolderPlaces& places,
+           const InstalledGame* game, Prompts& prompts,
+           QWidget* parent = nullptr);
 
   const std::filesystem::path& Folder() const { return browser_->Folder(); }
 

@@ -73,6 +73,7 @@ frmOpen::frmOpen(const OpenRequest& request, Prompts& prompts, QWidget* parent)
     lists->addWidget(MakeBotList(request.bots), 2);
     layout->addLayout(MakeOptions(request));
   }
+  browser_->SetPlaces(request.places);
   browser_->SetFolder(request.folder);
   if (IsLoad()) {
     // When saving, a file is no answer, and a double click on one does nothing.

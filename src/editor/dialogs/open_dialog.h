@@ -13,6 +13,7 @@
 
 #include "editor/controls/dir_view.h"
 #include "editor/dialogs/bot_list_box.h"
+#include "editor/toolkit/folder_places.h"
 #include "install/program/bot_list.h"
 #include "support/prompts.h"
 
@@ -49,6 +50,7 @@ struct OpenRequest {
   OpenKind kind = OpenKind::kLoadBot;
   std::filesystem::path folder;  ///< Where the browser begins.
   OpenOptions options;
+  FolderPlaces places;
   /// Not owned, read while the dialog is made; not needed for a folder.
   const BotList* bots = nullptr;
   QString bot_name;  ///< For the title of kSave.

@@ -61,10 +61,11 @@ bool IsEditable(int index) {
 }  // namespace
 
 frmOptions::frmOptions(Prompts& prompts, QWidget* parent,
-                       FirstFolder first_folder)
+                       FirstFolder first_folder, FolderPlaces places)
     : QDialog(parent),
       prompts_(prompts),
       first_folder_(std::move(first_folder)),
+      places_(std::move(places)),
       counter_(new QLabel(QStringLiteral("000"), this)),
       pages_(new QTabWidget(this)),
       hint_(new HintLine(3, this)),
@@ -182,8 +183,8 @@ void frmOptions::OpenBrowser(int index) {
   std::filesystem::path folder = PathFromBytes(GetOptionValue(index));
   if (!IsFolder(folder)) folder = QDir::rootPath().toStdU16String();
   if (first_folder_) folder = first_folder_(folder);
-  auto* const browser =
-      new frmOpen({.kind = kind, .folder = folder}, prompts_, this);
+  auto* const browser = new frmOpen(
+      {.kind = kind, .folder = folder, .places = places_}, prompts_, this);
   browser->setAttribute(Qt::WA_DeleteOnClose);
   connect(browser, &QDialog::accepted, this, [this, browser, kind] {
     SetFolderFromBrowser(browser->Choice().folder, static_cast<int>(kind));

@@ -13,6 +13,7 @@
 #include <string_view>
 
 #include "editor/dialogs/dialog_parts.h"
+#include "editor/toolkit/folder_places.h"
 #include "install/program/settings_file.h"
 #include "support/prompts.h"
 
@@ -30,7 +31,7 @@ class frmOptions : public QDialog {
       std::function<std::filesystem::path(const std::filesystem::path&)>;
 
   explicit frmOptions(Prompts& prompts, QWidget* parent = nullptr,
-                      FirstFolder first_folder = {});
+                      FirstFolder first_folder = {}, FolderPlaces places = {});
 
   /// Index 6, the counter, is only shown; others than 0 to 6 are ignored.
   void SetOptionValue(int index, std::string_view value);
@@ -60,6 +61,7 @@ class frmOptions : public QDialog {
 
   Prompts& prompts_;
   FirstFolder first_folder_;
+  FolderPlaces places_;  ///< On offer in the browser.
   std::array<Field, kEditableOptionCount> fields_;
   QLabel* counter_;
   QTabWidget* pages_;

@@ -4,9 +4,14 @@
 #include <QStringList>
 #include <algorithm>
 #include <cmath>
+#include <iterator>
+#include <set>
+#include <string_view>
+#include <utility>
 
 #include "chat/chat_catalogue.h"
 #include "chat/vocabulary.h"
+#include "editor/toolkit/game_text_conversion.h"
 #include "editor/toolkit/page_table.h"
 #include "game/chat_type_facts.h"
 
@@ -16,6 +21,25 @@ namespace {
 QString WhatPointerHolds(ChatTypeId type, int pointer) {
   const int variable = QString::fromUtf8(ChatPointerAt(pointer).Item()).toInt();
   return QString::fromUtf8(FillText(FillOf(type, variable)));
+}
+
+QString Tr(const char* text) {
+  return QCoreApplication::translate("ChatPage", text);
+}
+
+/// "pizza, gruel, soup ..."
+QString SomeOf(const GameWordList& list) {
+  constexpr std::size_t kWords = 4;
+  QStringList words;
+  for (const ChatMessage& line : list.lines) {
+    const bool is_plain = line.items.size() == 1 &&
+                          line.items.front().kind == ChatItem::Kind::kText;
+    if (!is_plain) continue;
+    if (words.size() == kWords)
+      return words.join(QStringLiteral(", ")) + Tr(" ...");
+    words << ToQString(line.items.front().text).trimmed();
+  }
+  return words.join(QStringLiteral(", "));
 }
 
 }  // namespace
@@ -44,11 +68,52 @@ QString WhyNotFilled(ChatTypeId type, const QString& variable) {
     if (QString::fromUtf8(entry.Variable) != variable) continue;
     const ChatFill fill = FillOf(type, QString::fromUtf8(entry.Item()).toInt());
     if (fill != ChatFill::kNothing && fill != ChatFill::kInvalid) return {};
-    return QCoreApplication::translate(
-               "ChatPage", "The game does not fill %1 here: it speaks %2.")
+    return Tr("The game does not fill %1 here: it speaks %2.")
         .arg(variable, QString::fromUtf8(FillText(fill)));
   }
   return {};
+}
+
+std::vector<ChatVariable> VariablesFor(ChatTypeId type,
+                                       const WordLists* words) {
+  std::vector<ChatVariable> useful;
+  std::vector<ChatVariable> useless;
+  const auto own = ChatTypeAt(type).Pointers();
+  std::set<std::string_view> known;
+  for (const int pointer : own) {
+    const ChatPointer& entry = ChatPointerAt(pointer);
+    known.insert(entry.Variable);
+    ChatVariable variable = {.variable = QString::fromUtf8(entry.Variable),
+                             .meaning = WhatPointerHolds(type, pointer)};
+    variable.is_of_use = WhyNotFilled(type, variable.variable).isEmpty();
+    if (variable.is_of_use) {
+      useful.push_back(std::move(variable));
+    } else {
+      variable.meaning =
+          Tr("not filled here: the game speaks %1").arg(variable.meaning);
+      useless.push_back(std::move(variable));
+    }
+  }
+  for (const ChatPointer& entry : kChatPointers) {
+    if (!known.insert(entry.Variable).second) continue;
+    useless.push_back({.variable = QString::fromUtf8(entry.Variable),
+                       .meaning = Tr("belongs to other occasions"),
+                       .is_of_use = false});
+  }
+  for (const WordList& entry : kWordLists) {
+    const GameWordList* const list =
+        words != nullptr ? words->Find(entry.Key) : nullptr;
+    const bool is_missing = words != nullptr && list == nullptr;
+    const QString caption = QString::fromUtf8(entry.Caption);
+    (is_missing ? useless : useful)
+        .push_back({.variable = QString::fromUtf8(entry.Variable),
+                    .meaning = is_missing        ? Tr("not in this game")
+                               : list == nullptr ? Tr("some %1").arg(caption)
+                                                 : SomeOf(*list),
+                    .is_of_use = !is_missing});
+  }
+  std::move(useless.begin(), useless.end(), std::back_inserter(useful));
+  return useful;
 }
 
 QString ChanceOfLine(const Bot& bot, ChatTypeId type) {
@@ -60,16 +125,14 @@ QString ChanceOfLine(const Bot& bot, ChatTypeId type) {
                 facts.chance_factor
           : 0;
   if (!facts.is_heard || chance <= 0 || !IsDrawn(bot, type)) {
-    return QCoreApplication::translate("ChatPage", "never");
+    return Tr("never");
   }
   constexpr ParameterId kRandomChats{42};
   if (*facts.chance == kRandomChats) {
     // What is asked for again and again has a rate.
-    return QCoreApplication::translate("ChatPage", "every %1 s")
-        .arg(std::lround(1 / chance));
+    return Tr("every %1 s").arg(std::lround(1 / chance));
   }
-  return QCoreApplication::translate("ChatPage", "%1 %")
-      .arg(std::lround(chance * 100));
+  return Tr("%1 %").arg(std::lround(chance * 100));
 }
 
 QString ChatVariables(ChatTypeId type) {

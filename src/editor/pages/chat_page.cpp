@@ -10,6 +10,7 @@
 
 #include "chat/chat_catalogue.h"
 #include "chat/chat_commands.h"
+#include "editor/pages/chat_help.h"
 #include "editor/pages/chat_type_rows.h"
 #include "editor/toolkit/game_text_conversion.h"
 #include "editor/toolkit/page_table.h"
@@ -53,13 +54,25 @@ void ChatPage::ShowType() {
     lines_->clear();
     if (type) {
       for (const std::string& line : current_.bot().ChatLines(*type)) {
-        lines_->addItem(ToQString(line));
+        AddRow(ToQString(line));
       }
     }
   }
-  pointers_->ShowType(type);
   MarkLines();
   SelectLine(lines_->count() > 0 ? 0 : -1);
+}
+
+void ChatPage::ShowOffers() {
+  pointers_->ShowType(Type());
+  if (!Type()) return;
+  completion_->Offer(VariablesFor(*Type(), game_words_));
+  ready_made_->ShowType(*Type());
+}
+
+void ChatPage::AddRow(const QString& line) {
+  auto* const row = new QListWidgetItem(line, lines_);
+  // Lines are dropped between others, not on them.
+  row->setFlags(row->flags() & ~Qt::ItemIsDropEnabled);
 }
 
 void ChatPage::SelectLine(int line) {
@@ -104,6 +117,10 @@ void ChatPage::ShowSpoken() {
 void ChatPage::SetGame(const GameData* game) {
   Complete();
   spoken_->SetGame(game);
+  game_words_ =
+      game != nullptr && !game->words.empty() ? &game->words : nullptr;
+  ready_made_->SetWords(game_words_);
+  if (Type()) completion_->Offer(VariablesFor(*Type(), game_words_));
 }
 
 void ChatPage::showEvent(QShowEvent* event) {
@@ -167,32 +184,19 @@ EditName ChatPage::NameOf(const char* text, std::optional<int> line) const {
   return name;
 }
 
-void ChatPage::ShowMemberNumbers() {
-  numbers_->clear();
-  const int group = groups_->currentRow();
-  if (group < 0) return;
-  for (const int number : MemberNumbers(group)) {
-    numbers_->addItem(QString::number(number));
-  }
-  numbers_->setCurrentRow(0);
-}
-
-void ChatPage::AddSelectedList() {
-  const int group = groups_->currentRow();
-  const QListWidgetItem* const number = numbers_->currentItem();
-  if (!Type() || group < 0 || number == nullptr) return;
+void ChatPage::AddSelectedList(int group, int number) {
+  if (!Type()) return;
   const int selected = Line();
   int line = 0;
   current_.EditChats(NameOf("Add selected list"), [&](Bot& bot) {
-    line =
-        AddGroupMember(bot, *Type(), selected, group, number->text().toInt());
+    line = AddGroupMember(bot, *Type(), selected, group, number);
   });
   const QString text = ToQString(current_.bot().ChatLine(*Type(), line));
   if (line < lines_->count()) {
     lines_->item(line)->setText(text);
   } else {
     const QSignalBlocker silence(lines_);
-    lines_->addItem(text);
+    AddRow(text);
   }
   lines_->scrollToItem(lines_->item(line));
   if (selected < 0 || selected == line) SelectLine(line);
@@ -212,7 +216,7 @@ void ChatPage::AddLine() {
                      [&](Bot& bot) { line = AddEmptyChatLine(bot, *Type()); });
   {
     const QSignalBlocker silence(lines_);
-    lines_->addItem(QString());
+    AddRow(QString());
   }
   SelectLine(line);
   box_->setFocus(Qt::OtherFocusReason);
@@ -266,6 +270,17 @@ void ChatPage::Insert(const QString& variable) {
   is_inserting_ = false;
   box_->setFocus(Qt::OtherFocusReason);
   box_->setCursorPosition(static_cast<int>(line.cursor));
+}
+
+void ChatPage::InsertTyped(int from, const QString& variable) {
+  QString text = box_->text();
+  text.replace(from, box_->cursorPosition() - from, variable);
+  const std::optional<std::string> game_text = ToGameText(text);
+  if (Line() < 0 || box_->isReadOnly() || !game_text) return;
+  is_inserting_ = true;
+  ReplaceText(*game_text);
+  is_inserting_ = false;
+  box_->setCursorPosition(from + static_cast<int>(variable.size()));
 }
 
 void ChatPage::ReplaceText(const std::string& game_text) {

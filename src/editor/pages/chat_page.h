@@ -12,8 +12,10 @@
 #include "chat/synonym_list.h"
 #include "editor/controls/caption_mark.h"
 #include "editor/pages/pointer_buttons.h"
+#include "editor/pages/ready_made_picker.h"
 #include "editor/pages/scrolling_page.h"
 #include "editor/pages/spoken_preview.h"
+#include "editor/pages/variable_completion.h"
 #include "editor/state/current_bot.h"
 #include "support/prompts.h"
 #include "support/random.h"
@@ -71,7 +73,6 @@ class ChatPage : public ScrollingPage {
  private:
   void MakeTypes(QGridLayout& grid);
   void MakeLines(QGridLayout& grid);
-  void MakeReadyLines(QGridLayout& grid);
   void MakeWords(QGridLayout& grid);
   void MakeSynonyms(QGridLayout& grid);
 
@@ -86,14 +87,16 @@ class ChatPage : public ScrollingPage {
                   std::optional<int> line = std::nullopt) const;
 
   void ShowType();
+  /// What goes with a type whatever its lines are.
+  void ShowOffers();
+  void AddRow(const QString& line);
   void SelectLine(int line);
   void ShowLine();
   void StoreLine();
   void ShowSpoken();
   void MarkLines();
-  void ShowMemberNumbers();
 
-  void AddSelectedList();
+  void AddSelectedList(int group, int number);
   void AddWord();
   void AddLine();
   void RemoveLine();
@@ -103,6 +106,7 @@ class ChatPage : public ScrollingPage {
   void TellThatSynonymsAreMissing();
 
   void Insert(const QString& variable);
+  void InsertTyped(int from, const QString& variable);
   /// Puts a text into the line box as one edit that can be taken back.
   void ReplaceText(const std::string& game_text);
 
@@ -110,6 +114,7 @@ class ChatPage : public ScrollingPage {
   const SynonymList& synonyms_;
   RandomSource random_;
   Prompts& prompts_;
+  const WordLists* game_words_ = nullptr;  ///< Null where none are known.
 
   QListWidget* types_ = nullptr;
   MarkedDelegate* type_marks_ = nullptr;
@@ -118,8 +123,8 @@ class ChatPage : public ScrollingPage {
   QLineEdit* box_ = nullptr;
   PointerButtons* pointers_ = nullptr;
   QPushButton* remove_line_ = nullptr;
-  QListWidget* groups_ = nullptr;
-  QListWidget* numbers_ = nullptr;
+  ReadyMadePicker* ready_made_ = nullptr;
+  VariableCompletion* completion_ = nullptr;
   QListWidget* words_ = nullptr;
   QPushButton* add_word_ = nullptr;
   QPushButton* check_ = nullptr;

@@ -28,22 +28,26 @@ QWidget* ChatPage::MakeContent() {
   // Made in the order of the Tab key.
   MakeTypes(*grid);
   MakeLines(*grid);
-  MakeReadyLines(*grid);
+  ready_made_ = new ReadyMadePicker(*grid, 2, this);
+  connect(ready_made_, &ReadyMadePicker::Chosen, this,
+          &ChatPage::AddSelectedList);
   MakeWords(*grid);
   MakeSynonyms(*grid);
   spoken_ = new SpokenPreview(random_);
-  grid->addWidget(spoken_, 5, 0, 1, 5);
-  grid->setRowStretch(1, 1);
-  grid->setColumnStretch(1, 1);
+  grid->addWidget(spoken_, 6, 0, 1, 4);
+  grid->setRowStretch(1, 3);
+  grid->setRowStretch(2, 2);
+  grid->setColumnStretch(1, 3);
+  grid->setColumnStretch(2, 1);
+  grid->setColumnStretch(3, 1);
   types_->setCurrentRow(0);
-  groups_->setCurrentRow(0);
   words_->setCurrentRow(0);
   return content;
 }
 
 void ChatPage::MakeTypes(QGridLayout& grid) {
   types_ = MakeList(QStringLiteral("lstChatGroups"),
-                    QStringLiteral("Chat gr&oups"), grid, 0, 4);
+                    QStringLiteral("Chat gr&oups"), grid, 0, 5);
   type_marks_ = new TypeDelegate(types_);
   types_->setItemDelegate(type_marks_);
   FillTypes(*types_);
@@ -54,12 +58,15 @@ void ChatPage::MakeTypes(QGridLayout& grid) {
   connect(&current_, &CurrentBot::ParameterEdited, types_, tell);
   connect(&current_, &CurrentBot::Stepped, types_, tell);
   tell();
-  connect(types_, &QListWidget::currentRowChanged, this, &ChatPage::ShowType);
+  connect(types_, &QListWidget::currentRowChanged, this, [this] {
+    ShowOffers();
+    ShowType();
+  });
 }
 
 void ChatPage::MakeLines(QGridLayout& grid) {
   lines_ = MakeList(QStringLiteral("lstChatLines"),
-                    QStringLiteral("Chat group te&xts"), grid, 1, 1);
+                    QStringLiteral("Chat group te&xts"), grid, 1, 2);
   line_marks_ = new LineDelegate(lines_);
   lines_->setItemDelegate(line_marks_);
   connect(lines_, &QListWidget::currentRowChanged, this, &ChatPage::ShowLine);
@@ -76,7 +83,10 @@ void ChatPage::MakeLines(QGridLayout& grid) {
           &ChatPage::CheckSynonymsByItself);
   connect(box_, &QLineEdit::inputRejected, this,
           [this] { emit StatusText(QLatin1String(kRefusedCharacter)); });
-  grid.addWidget(box_, 2, 1);
+  grid.addWidget(box_, 3, 1);
+  completion_ = new VariableCompletion(*box_);
+  connect(completion_, &VariableCompletion::Taken, this,
+          &ChatPage::InsertTyped);
 
   pointers_ = new PointerButtons;
   const auto choose = [this](const QString& variable) {
@@ -85,7 +95,7 @@ void ChatPage::MakeLines(QGridLayout& grid) {
     if (!reason.isEmpty()) emit StatusText(reason);
   };
   connect(pointers_, &PointerButtons::Chosen, this, choose);
-  grid.addWidget(pointers_, 3, 1, 1, 4);
+  grid.addWidget(pointers_, 4, 1, 1, 3);
 
   auto* const buttons = new QHBoxLayout;
   QPushButton* const new_line =
@@ -115,45 +125,25 @@ void ChatPage::MakeLines(QGridLayout& grid) {
     SelectLine(line + step);
   };
   connect(order, &LineOrder::Moved, this,
-          [edit](int step) { edit("Move line", step, SwapChatLines); });
+          [edit](int step) { edit("Move line", step, MoveChatLine); });
+  // The list shows it already, and is in the middle of it.
+  connect(order, &LineOrder::Dragged, this, [this](int line, int place) {
+    current_.EditChats(NameOf("Move line"), [&](Bot& bot) {
+      MoveChatLine(bot, *Type(), line, place);
+    });
+    MarkLines();
+  });
   connect(order, &LineOrder::Doubled, this,
           [edit] { edit("Duplicate line", 1, DoubleChatLine); });
   // Beside the caption, where it asks for no width of its own.
   grid.addWidget(order, 0, 1, Qt::AlignRight | Qt::AlignBottom);
   buttons->addStretch(1);
-  grid.addLayout(buttons, 4, 1);
-}
-
-void ChatPage::MakeReadyLines(QGridLayout& grid) {
-  groups_ = MakeList(QStringLiteral("lstPreDef"),
-                     QStringLiteral("Pre-def chat &lists:"), grid, 2, 1);
-  for (const ChatGroup& group : kChatGroups) {
-    AddEntry(*groups_, group.Caption,
-             QStringLiteral("Ready-made lines of the game, under the name %1. "
-                            "Which there are depends on its data.")
-                 .arg(QString::fromUtf8(group.Name)));
-  }
-  FitWidth(*groups_);
-  connect(groups_, &QListWidget::currentRowChanged, this,
-          &ChatPage::ShowMemberNumbers);
-  numbers_ = new QListWidget;
-  numbers_->setObjectName(QStringLiteral("lstPreDefNumber"));
-  numbers_->setAccessibleName(QStringLiteral("Number in the chat list"));
-  numbers_->setFixedWidth(numbers_->fontMetrics().averageCharWidth() * 8);
-  grid.addWidget(numbers_, 1, 3);
-  OnChoice(*groups_, this, [this] { AddSelectedList(); });
-  OnChoice(*numbers_, this, [this] { AddSelectedList(); });
-  QPushButton* const add = MakeButton(
-      QStringLiteral("cmdAddList"), QStringLiteral("Add &selected list"),
-      QStringLiteral("Puts the ready-made line into the selected line when "
-                     "that is empty, otherwise into a new one."));
-  connect(add, &QPushButton::clicked, this, &ChatPage::AddSelectedList);
-  grid.addWidget(add, 2, 2, 1, 2);
+  grid.addLayout(buttons, 5, 1);
 }
 
 void ChatPage::MakeWords(QGridLayout& grid) {
   words_ = MakeList(QStringLiteral("lstWords"),
-                    QStringLiteral("Pre-def &word lists:"), grid, 4, 1);
+                    QStringLiteral("Pre-def &word lists:"), grid, 3, 1);
   for (const WordList& words : kWordLists) {
     AddEntry(*words_, words.Caption,
              QStringLiteral("%1 becomes a random word of the game's list %2. "
@@ -169,7 +159,7 @@ void ChatPage::MakeWords(QGridLayout& grid) {
                      "With the cursor at the very start it takes the place "
                      "of the whole text."));
   connect(add_word_, &QPushButton::clicked, this, &ChatPage::AddWord);
-  grid.addWidget(add_word_, 2, 4);
+  grid.addWidget(add_word_, 3, 3);
 }
 
 void ChatPage::MakeSynonyms(QGridLayout& grid) {
@@ -189,7 +179,7 @@ void ChatPage::MakeSynonyms(QGridLayout& grid) {
   row->addWidget(check_);
   row->addWidget(checks_by_itself_);
   row->addStretch(1);
-  grid.addLayout(row, 4, 2, 1, 3);
+  grid.addLayout(row, 5, 2, 1, 2);
 }
 
 }  // namespace fragsmith

@@ -17,6 +17,14 @@ LineOrder::LineOrder(QListWidget& lines, QWidget* parent)
   connect(up_, &QToolButton::clicked, this, [this] { emit Moved(-1); });
   connect(down_, &QToolButton::clicked, this, [this] { emit Moved(1); });
   connect(double_, &QToolButton::clicked, this, &LineOrder::Doubled);
+  lines.setDragDropMode(QAbstractItemView::InternalMove);
+  lines.setDefaultDropAction(Qt::MoveAction);
+  connect(lines.model(), &QAbstractItemModel::rowsMoved, this,
+          [this](const QModelIndex& /*from*/, int line, int /*last*/,
+                 const QModelIndex& /*to*/, int before) {
+            ShowWhatCanBeDone();
+            emit Dragged(line, before > line ? before - 1 : before);
+          });
   // The list's own signals are silent while the page fills it.
   connect(lines.selectionModel(), &QItemSelectionModel::currentChanged, this,
           &LineOrder::ShowWhatCanBeDone);

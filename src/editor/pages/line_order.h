@@ -8,7 +8,7 @@ namespace fragsmith {
 
 /// Buttons that move the selected line of a list up and down and double it.
 /// Their keys work in the list and do what they say, so the Tab key passes
-/// them.
+/// them. The mouse drags the lines.
 class LineOrder : public QWidget {
   Q_OBJECT
 
@@ -19,6 +19,8 @@ class LineOrder : public QWidget {
   /// By -1 or 1; there is such a place.
   void Moved(int step);
   void Doubled();
+  /// The list has moved one of its lines to another place.
+  void Dragged(int line, int place);
 
  private:
   QToolButton* AddButton(const char* name, Qt::ArrowType arrow,

@@ -1,5 +1,6 @@
 #include "editor/pages/spoken_preview.h"
 
+#include <QEvent>
 #include <QGridLayout>
 #include <QPushButton>
 #include <QStyle>
@@ -32,6 +33,23 @@ QString Counter(const QString& name, std::size_t count, std::size_t limit) {
   return text;
 }
 
+/// When the type is spoken, how likely where its characteristic has that value,
+/// and what its variables become.
+QString TellOf(ChatTypeId type, double characteristic) {
+  const ChatTypeFacts& facts = FactsOfChatType(type);
+  QString text = QString::fromUtf8(WhenText(facts));
+  if (facts.is_heard && facts.chance) {
+    const double chance =
+        std::clamp(characteristic, 0.0, 1.0) * facts.chance_factor;
+    text += SpokenPreview::tr(" Chance: %1 % (%2).")
+                .arg(QString::number(chance * 100, 'f', 0),
+                     QString::fromUtf8(ParameterName(*facts.chance)));
+  }
+  const QString variables = ChatVariables(type);
+  if (!variables.isEmpty()) text += u'\n' + variables + u'.';
+  return text;
+}
+
 }  // namespace
 
 SpokenPreview::SpokenPreview(RandomSource random, QWidget* parent)
@@ -49,13 +67,15 @@ SpokenPreview::SpokenPreview(RandomSource random, QWidget* parent)
   text_->StandOnGameGround();
   lengths_->setObjectName(QStringLiteral("lblLengths"));
   lengths_->setTextFormat(Qt::RichText);
+  QFont bold = lengths_->font();
+  bold.setBold(true);
+  lengths_->setMinimumWidth(QFontMetrics(bold).horizontalAdvance(
+      tr("encoded: 000 of 255, nearly full ")));
   when_->setObjectName(QStringLiteral("lblWhen"));
   when_->setTextFormat(Qt::PlainText);
   when_->setWordWrap(true);
-  // Room for the longest, so that nothing above it moves.
-  constexpr int kLines = 4;
-  when_->setMinimumHeight(kLines * when_->fontMetrics().lineSpacing());
   when_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+  when_->installEventFilter(this);
   auto* const another = new QPushButton(tr("Say another"), this);
   another->setObjectName(QStringLiteral("cmdSayAnother"));
   another->setToolTip(
@@ -68,9 +88,23 @@ SpokenPreview::SpokenPreview(RandomSource random, QWidget* parent)
   grid->addWidget(text_, 0, 1);
   grid->addWidget(another, 0, 2);
   grid->addWidget(when_, 1, 0, 1, 2);
-  grid->addWidget(lengths_, 1, 2, Qt::AlignRight | Qt::AlignTop);
+  grid->addWidget(lengths_, 1, 2, Qt::AlignTop);
   grid->setColumnStretch(1, 1);
   SetGame(nullptr);
+}
+
+bool SpokenPreview::eventFilter(QObject* watched, QEvent* event) {
+  // Room for the longest, so that nothing above it moves.
+  if (watched == when_ && event->type() == QEvent::Resize) {
+    int height = 0;
+    for (const ChatTypeId type : kAllChatTypes) {
+      const QRect text = when_->fontMetrics().boundingRect(
+          QRect(0, 0, when_->width(), 0), Qt::TextWordWrap, TellOf(type, 1));
+      height = std::max(height, text.height());
+    }
+    when_->setMinimumHeight(height);
+  }
+  return QWidget::eventFilter(watched, event);
 }
 
 void SpokenPreview::SetGame(const GameData* game) {
@@ -108,27 +142,16 @@ void SpokenPreview::SayAnother() {
   lengths_->setText(
       Counter(QStringLiteral("encoded"), spoken.encoded_length,
               limits::kMaxEncodedBytes) +
-      QStringLiteral("&nbsp;&nbsp; ") +
+      QStringLiteral("<br>") +
       Counter(QStringLiteral("spoken"),
               std::max(spoken.spoken_length, spoken.longest_length),
               limits::kMaxSpokenBytes));
 }
 
 void SpokenPreview::ShowWhen(const Bot& bot) {
-  const ChatTypeFacts& facts = FactsOfChatType(type_);
-  QString text = QString::fromUtf8(WhenText(facts));
-  if (facts.is_heard && facts.chance) {
-    const double chance =
-        std::clamp(ToNumber(bot.Parameter(*facts.chance)).value_or(0), 0.0,
-                   1.0) *
-        facts.chance_factor;
-    text += tr(" Chance: %1 % (%2).")
-                .arg(QString::number(chance * 100, 'f', 0),
-                     QString::fromUtf8(ParameterName(*facts.chance)));
-  }
-  const QString variables = ChatVariables(type_);
-  if (!variables.isEmpty()) text += u'\n' + variables + u'.';
-  when_->setText(text);
+  const std::optional<ParameterId> chance = FactsOfChatType(type_).chance;
+  when_->setText(
+      TellOf(type_, chance ? ToNumber(bot.Parameter(*chance)).value_or(0) : 0));
 }
 
 }  // namespace fragsmith

@@ -26,6 +26,9 @@ class SpokenPreview : public QWidget {
   /// The line (8-bit, editor form) of a chat type.
   void ShowLine(const Bot& bot, ChatTypeId type, const std::string& line);
 
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  private:
   void SayAnother();
   void ShowWhen(const Bot& bot);

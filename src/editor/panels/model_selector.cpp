@@ -1,10 +1,13 @@
 #include "editor/panels/model_selector.h"
 
 #include <QCoreApplication>
+#include <QHBoxLayout>
+#include <QPushButton>
 #include <QVBoxLayout>
 #include <utility>
 
 #include "editor/controls/captioned_field.h"
+#include "editor/state/face_store.h"
 #include "editor/toolkit/game_text_conversion.h"
 #include "editor/toolkit/wheel_guard.h"
 #include "install/program/game_folder.h"
@@ -27,23 +30,6 @@ QComboBox* MakeList(const QString& name, const QString& accessible_name,
   return list;
 }
 
-QString IconDescription(IconKind kind) {
-  switch (kind) {
-    case IconKind::kNotInUse:
-      return QStringLiteral(
-          "Icons are off: set the game and WinZip folders in Program/Options");
-    case IconKind::kNoPackage:
-      return QStringLiteral("The package of this skin is not in the game");
-    case IconKind::kNotFound:
-      return QStringLiteral("The icon of this skin was not found");
-    case IconKind::kUserDefined:
-      return QStringLiteral("A skin that you entered yourself");
-    case IconKind::kIcon:
-      break;
-  }
-  return QStringLiteral("The icon of this skin");
-}
-
 }  // namespace
 
 ModelSelector::ModelSelector(CurrentBot& current, ProgramState& state,
@@ -56,7 +42,14 @@ ModelSelector::ModelSelector(CurrentBot& current, ProgramState& state,
   model_caption_ = model_field->caption();
   model_caption_->setObjectName(QStringLiteral("fraModel"));
   auto* const skin_field = new CaptionedField({}, skins_, this);
-  skin_field->AddControl(skins_);
+  auto* const choose = new QPushButton(tr("Choose..."), this);
+  choose->setObjectName(QStringLiteral("cmdChooseFace"));
+  choose->setAccessibleName(tr("Choose a model and skin by its face"));
+  choose->setToolTip(tr("Shows the faces of all models and skins."));
+  auto* const skin_row = new QHBoxLayout;
+  skin_row->addWidget(skins_, 1);
+  skin_row->addWidget(choose);
+  skin_field->AddControls(skin_row);
   skin_caption_ = skin_field->caption();
   skin_caption_->setObjectName(QStringLiteral("fraSkin"));
   icon_ = new IconBox(this);
@@ -75,6 +68,8 @@ ModelSelector::ModelSelector(CurrentBot& current, ProgramState& state,
 
   connect(models_, &QComboBox::activated, this, &ModelSelector::ModelChosen);
   connect(skins_, &QComboBox::activated, this, &ModelSelector::SkinChosen);
+  connect(choose, &QPushButton::clicked, this, &ModelSelector::ChooseWanted);
+  connect(icon_, &IconBox::Clicked, this, &ModelSelector::ChooseWanted);
 }
 
 CatalogueSelection ModelSelector::Selection() const {
@@ -140,7 +135,11 @@ void ModelSelector::StoreSelection() {
 }
 
 void ModelSelector::ModelChosen(int index) {
-  Select(static_cast<std::size_t>(index), 0);
+  Choose({.modelIndex = static_cast<std::size_t>(index), .skinIndex = 0});
+}
+
+void ModelSelector::Choose(const CatalogueSelection& place) {
+  Select(place.modelIndex, place.skinIndex);
   StoreSelection();
   ShowChosenIcon();
 }
@@ -235,7 +234,7 @@ bool ModelSelector::IsMissing() const {
 }
 
 void ModelSelector::ShowIcon(const IconResult& icon) {
-  const QString description = IconDescription(icon.kind);
+  const QString description = DescribeIcon(icon.kind);
   icon_text_->setText(icon.kind == IconKind::kIcon ? QString() : description);
   icon_text_->setVisible(icon.kind != IconKind::kIcon);
   if (icon.kind == IconKind::kIcon) {

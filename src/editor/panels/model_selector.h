@@ -48,9 +48,16 @@ class ModelSelector : public QWidget {
   /// The places that are selected.
   CatalogueSelection Selection() const;
 
+  /// Gives the bot the model and skin of these places, as one edit.
+  void Choose(const CatalogueSelection& place);
+
   /// After the check of the folders or a scan: shows the icon, or why there is
   /// none.
   void RefreshIcon();
+
+ signals:
+  /// By their faces.
+  void ChooseWanted();
 
  private:
   /// The icon's file, its package, and the folders of game and unzip tool.

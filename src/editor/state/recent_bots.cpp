@@ -48,6 +48,17 @@ const std::vector<RecentBot>& RecentBots::Present() {
   return bots_;
 }
 
+std::vector<std::filesystem::path> RecentBots::Folders() const {
+  std::vector<std::filesystem::path> folders;
+  for (const RecentBot& bot : bots_) {
+    const std::filesystem::path folder = bot.path.parent_path();
+    if (std::find(folders.begin(), folders.end(), folder) == folders.end()) {
+      folders.push_back(folder);
+    }
+  }
+  return folders;
+}
+
 QStringList RecentBots::ToStrings() const {
   QStringList texts;
   for (const RecentBot& bot : bots_) {

@@ -30,6 +30,9 @@ class RecentBots {
   /// Drops what is gone first.
   const std::vector<RecentBot>& Present();
 
+  /// The folders that they lie in, each once.
+  std::vector<std::filesystem::path> Folders() const;
+
   /// For a settings file; any bytes of a path survive.
   QStringList ToStrings() const;
 

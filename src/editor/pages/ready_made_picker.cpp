@@ -1,0 +1,100 @@
+#include "editor/pages/ready_made_picker.h"
+
+#include <QPushButton>
+#include <string>
+
+#include "chat/chat_catalogue.h"
+#include "editor/pages/chat_page_parts.h"
+#include "editor/pages/remark_delegate.h"
+#include "editor/toolkit/game_text_conversion.h"
+#include "editor/toolkit/tool_tip.h"
+#include "game/spoken_line.h"
+
+namespace fragsmith {
+
+ReadyMadePicker::ReadyMadePicker(QGridLayout& grid, int column, QObject* parent)
+    : QObject(parent) {
+  groups_ = MakeList(QStringLiteral("lstPreDef"),
+                     QStringLiteral("Pre-def chat &lists:"), grid, column, 1);
+  for (const ChatGroup& group : kChatGroups) {
+    AddEntry(*groups_, group.Caption,
+             QStringLiteral("Ready-made lines of the game, under the name %1. "
+                            "Which there are depends on its data.")
+                 .arg(QString::fromUtf8(group.Name)));
+  }
+  FitWidth(*groups_);
+  numbers_ = new QListWidget;
+  numbers_->setObjectName(QStringLiteral("lstPreDefNumber"));
+  numbers_->setAccessibleName(QStringLiteral("Number in the chat list"));
+  numbers_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  numbers_->setItemDelegate(new RemarkDelegate(QStringLiteral("00"), numbers_));
+  constexpr int kLeastRows = 3;
+  numbers_->setMinimumHeight(numbers_->fontMetrics().lineSpacing() *
+                             kLeastRows);
+  // As high as there is room for, and no page scrolls for it.
+  for (QListWidget* const list : {groups_, numbers_}) {
+    list->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
+  }
+  // Below the words as well: the lines are long.
+  grid.addWidget(numbers_, 2, column, 1, 2);
+  connect(groups_, &QListWidget::currentRowChanged, this,
+          &ReadyMadePicker::ShowNumbers);
+  OnChoice(*groups_, this, [this] { Choose(); });
+  OnChoice(*numbers_, this, [this] { Choose(); });
+  QPushButton* const add = MakeButton(
+      QStringLiteral("cmdAddList"), QStringLiteral("Add &selected list"),
+      QStringLiteral("Puts the ready-made line into the selected line when "
+                     "that is empty, otherwise into a new one."));
+  connect(add, &QPushButton::clicked, this, &ReadyMadePicker::Choose);
+  grid.addWidget(add, 3, column);
+  groups_->setCurrentRow(0);
+}
+
+void ReadyMadePicker::ShowType(ChatTypeId type) {
+  type_ = type;
+  groups_->setCurrentRow(FittingGroup(type));
+  // The same group says other things elsewhere.
+  ShowRemarks();
+}
+
+void ReadyMadePicker::SetWords(const WordLists* words) {
+  words_ = words;
+  ShowRemarks();
+}
+
+void ReadyMadePicker::ShowNumbers() {
+  numbers_->clear();
+  const int group = groups_->currentRow();
+  if (group < 0) return;
+  for (const int number : MemberNumbers(group)) {
+    numbers_->addItem(QString::number(number));
+  }
+  numbers_->setCurrentRow(0);
+  ShowRemarks();
+}
+
+void ReadyMadePicker::ShowRemarks() {
+  for (int row = 0; row < numbers_->count(); ++row) {
+    QListWidgetItem& item = *numbers_->item(row);
+    QString remark;
+    if (words_ != nullptr) {
+      // The first of its lines, so that it reads the same each time.
+      const SpokenLine line = SpeakLine(
+          type_, GroupMember(groups_->currentRow(), item.text().toStdString()),
+          {}, *words_, [] { return 0.0; });
+      remark = line.unknown_lists.empty() ? ToQString(line.text)
+                                          : tr("(not in this game)");
+    }
+    item.setData(kRemarkRole, remark);
+    item.setData(Qt::AccessibleDescriptionRole, remark);
+    item.setToolTip(remark.isEmpty() ? QString() : WrappedToolTip({}, remark));
+  }
+}
+
+void ReadyMadePicker::Choose() {
+  const QListWidgetItem* const number = numbers_->currentItem();
+  if (groups_->currentRow() < 0 || number == nullptr) return;
+  emit Chosen(groups_->currentRow(), number->text().toInt());
+}
+
+}  // namespace fragsmith
