@@ -91,18 +91,13 @@ std::string Renamed(std::string_view bytes, const Renames& renames,
   return Spliced(bytes, std::move(splices));
 }
 
-bool HasNewFacts(const std::string& fact) {
-  constexpr std::string_view kKeys[] = {"name ", "set "};
-  return std::any_of(
-      std::begin(kKeys), std::end(kKeys),
-      [&fact](std::string_view key) { return fact.starts_with(key); });
-}
-
 /// Facts that do not tell under which names the bot's files lie.
 Facts OtherFacts(const FileReading& reading) {
   Facts facts = reading.facts;
-  std::erase_if(facts,
-                [](const auto& fact) { return HasNewFacts(fact.first); });
+  std::erase_if(facts, [](const auto& fact) {
+    const FactKind kind = fact.first.kind;
+    return kind == FactKind::kName || kind == FactKind::kDescription;
+  });
   for (const auto& [level, block] : reading.levels) {
     for (const int number :
          {kGameWeaponWeights, kGameItemWeights, kGameChatFile, kGameChatName}) {
