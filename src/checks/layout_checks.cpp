@@ -84,11 +84,10 @@ std::string TextOf(const EntryFault& fault, const std::string& names,
              "very large ones. Make the package anew. The game does not add "
              "the bot.";
     case Kind::kUnreadable: {
-      const bool has_password = Contains(fault.method, "password");
       std::string text = names + (is_one ? " is packed " : " are packed ");
       text += fault.method;
       text += ", and the game can unpack no such file. Make the package anew, ";
-      text += has_password
+      text += fault.is_locked
                   ? "without a password."
                   : "by the method Deflate, which is the usual one of a .zip.";
       return text;
