@@ -162,7 +162,7 @@ QWidget* frmMatch::MakeChoices() {
   until_sure_->setToolTip(
       tr("Plays until it is clear which of the two is better, or that they "
          "differ by less than 5 points in a hundred, %1 matches at most")
-          .arg(kMostUntilSure));
+          .arg(kMaxUntilSure));
   connect(until_sure_, &QCheckBox::toggled, games_, &QWidget::setDisabled);
   fields->addRow(QString(), until_sure_);
   fields->addRow(tr("Side &by side:"), jobs_);
@@ -345,7 +345,7 @@ Result<std::unique_ptr<MatchSession>> frmMatch::MakeSession() {
   if (opponent.bot != nullptr && *opponent.bot == session->bot) {
     session->remark = "Nothing is different: it plays against itself.";
   }
-  session->games = until_sure_->isChecked() ? kMostUntilSure : games_->value();
+  session->games = until_sure_->isChecked() ? kMaxUntilSure : games_->value();
   MatchReport& report = session->report;
   report.sources = session->names;
   if (until_sure_->isChecked()) {
