@@ -24,6 +24,7 @@
 #include "inplace/game_weights.h"
 #include "install/packages/package.h"
 #include "model/characteristic_catalogue.h"
+#include "model/file_names.h"
 #include "session/load_bot.h"
 #include "session/save_bot.h"
 #include "support/code_page.h"
@@ -49,10 +50,8 @@ bool GivesMacros(const std::optional<GameFile>& file,
 }
 
 bool IsToldByFiles(std::string_view id) {
-  return std::any_of(BotChecks().begin(), BotChecks().end(),
-                     [id](const Check& check) {
-                       return check.id == id && check.is_told_by_files;
-                     });
+  const Check* const check = FindCheck(id);
+  return check != nullptr && check->is_told_by_files;
 }
 
 bool IsError(const Finding& finding) {
@@ -146,10 +145,11 @@ Bot LocationCheck::Read() const {
       ReadBotFile(row.file, WholeBot{}, file->bytes, location_.name, file->name,
                   loaded);
       loaded.files.insert_or_assign(
-          row.file, OriginFile{.path = location_.package,
-                               .entry = (is_description ? "" : "botfiles/") +
-                                        file->game_path,
-                               .fingerprint = FingerprintOf(file->bytes)});
+          row.file,
+          OriginFile{.path = location_.package,
+                     .entry = is_description ? file->game_path
+                                             : InBotFiles(file->game_path),
+                     .fingerprint = FingerprintOf(file->bytes)});
     };
     // The description stands first there, and is read last.
     std::for_each(std::next(kBotFileMembers.begin()), kBotFileMembers.end(),
@@ -214,10 +214,9 @@ std::vector<Finding> LocationCheck::InFiles() const {
 IncludeLookup LocationCheck::WithGamesOwn() const {
   return [this](std::string_view path) {
     std::optional<std::string> bytes;
-    if (!path.starts_with("bots/")) {
-      bytes = game_ == nullptr
-                  ? StandInGameFile(path)
-                  : game_->files.Read("botfiles/" + std::string(path));
+    if (!path.starts_with(kBotsPath)) {
+      bytes = game_ == nullptr ? StandInGameFile(path)
+                               : game_->files.Read(InBotFiles(path));
     }
     return bytes ? bytes : LookUp(path);
   };
@@ -225,7 +224,7 @@ IncludeLookup LocationCheck::WithGamesOwn() const {
 
 IncludeLookup LocationCheck::WithGivenFirst() const {
   return [this](std::string_view path) {
-    std::optional<GameFile> own = given_.Open("botfiles/" + std::string(path));
+    std::optional<GameFile> own = given_.Open(InBotFiles(path));
     return own ? std::move(own->bytes) : LookUp(path);
   };
 }
@@ -236,10 +235,11 @@ BotFileSet LocationCheck::AsSaved(const Bot& bot) const {
     const std::string name =
         GameTextFromPath(FileNameOf(row.file, bot)).value_or("");
     const bool is_description = row.file == BotFile::kDescription;
-    as_saved.*row.member =
-        GameFile{.name = name,
-                 .game_path = (is_description ? "scripts/" : "bots/") + name,
-                 .bytes = BytesOf(row.file, bot, {})};
+    as_saved.*row.member = GameFile{
+        .name = name,
+        .game_path =
+            std::string(is_description ? kScriptsPath : kBotsPath) + name,
+        .bytes = BytesOf(row.file, bot, {})};
   }
   return as_saved;
 }
@@ -267,7 +267,8 @@ BrokenFiles LocationCheck::BrokenOnes(const Bot& bot) const {
     if (!file) continue;
     const auto found = std::ranges::find_if(findings, [&](const Finding& one) {
       const auto* const place = std::get_if<FilePlace>(&one.place);
-      return IsError(one) && place != nullptr && place->file == file->name;
+      return IsError(one) && place != nullptr && place->kind == row.file &&
+             place->game_path.empty();
     });
     if (found == findings.end()) continue;
     BotFileSet with_one_anew = on_disk_.files;
@@ -290,9 +291,11 @@ std::vector<Finding> LocationCheck::Check(const BotFileSet& files) const {
   // its path in the game alone.
   for (Finding& finding : findings) {
     auto* const place = std::get_if<FilePlace>(&finding.place);
-    if (place == nullptr || !place->file.starts_with("botfiles/")) continue;
-    if (std::optional<GameFile> own = given_.Open(place->file)) {
+    if (place == nullptr || place->game_path.empty()) continue;
+    if (std::optional<GameFile> own =
+            given_.Open(InBotFiles(place->game_path))) {
       place->file = std::move(own->name);
+      place->game_path.clear();
     }
   }
   return findings;
@@ -349,7 +352,7 @@ std::vector<Finding> LocationCheck::InMemory(const Bot& bot,
   if (!is_as_in_files) return findings;
   // A new package of the bot would have another name than where it lies.
   std::erase_if(findings, [this](const Finding& finding) {
-    return finding.id == "files-shadowed" ||
+    return finding.id == kFilesShadowed ||
            (on_disk_.is_in_bot_list && finding.id == "name-taken");
   });
   const GamePackage* const shadowing =
@@ -357,7 +360,7 @@ std::vector<Finding> LocationCheck::InMemory(const Bot& bot,
           ? nullptr
           : ShadowingPackage(game_->data, location_.name, Package());
   if (shadowing != nullptr) {
-    findings.push_back({.id = "files-shadowed",
+    findings.push_back({.id = kFilesShadowed,
                         .severity = Severity::kWarning,
                         .place = kNameField,
                         .text = ShadowedText(shadowing->name, Package()->name),
@@ -403,7 +406,7 @@ bool LocationCheck::GivesGameMacros() const {
 }
 
 std::optional<std::string> LocationCheck::LookUp(std::string_view path) const {
-  const std::string in_game = "botfiles/" + std::string(path);
+  const std::string in_game = InBotFiles(path);
   std::optional<GameFile> own = given_.Open(in_game);
   const bool is_own = own && (game_ == nullptr ||
                               !GameFileWins(game_->files, Package(), in_game));

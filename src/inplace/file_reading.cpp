@@ -16,6 +16,7 @@
 #include "game/stand_ins.h"
 #include "game/weight_reader.h"
 #include "model/characteristic_catalogue.h"
+#include "model/file_names.h"
 #include "support/code_page.h"
 #include "support/numbers.h"
 #include "support/text.h"
@@ -334,7 +335,7 @@ std::optional<int> BothReaders::GameNumber(int index) const {
 
 GameFile BothReaders::AsGameFile(std::string_view bytes) const {
   const std::string name = file_.called + std::string(FileSuffix(file_.kind));
-  return {file_.shown, "bots/" + name, std::string(bytes)};
+  return {file_.shown, InBots(name), std::string(bytes)};
 }
 
 void BothReaders::ReadAsWeDo(std::string_view bytes,

@@ -18,6 +18,7 @@
 #include "inplace/file_reading.h"
 #include "inplace/save_in_place.h"
 #include "inplace/splice.h"
+#include "model/file_names.h"
 #include "support/code_page.h"
 #include "support/files.h"
 #include "support/text.h"
@@ -62,7 +63,7 @@ Renames RenamesIn(const Kept& kept, const FileReading& reading) {
       if (field == kChatNameField) {
         add_name(value->second.text);
       } else {
-        add(value->second.text, "bots/" + text);
+        add(value->second.text, InBots(text));
       }
     }
   }
@@ -124,7 +125,7 @@ std::optional<std::string> DescriptionOf(const Kept& kept,
   const TextSpan span = character->second.span;
   const bool is_part = !kept.is_in_place && reading.descriptions.size() > 1;
   const TextSpan part = is_part ? own->span : TextSpan{0, kept.bytes.size()};
-  const std::string path = "bots/" + kept.bot.Text(kCharacteristicFileField);
+  const std::string path = InBots(kept.bot.Text(kCharacteristicFileField));
   const bool is_quoted = kept.bytes[span.begin] == '"';
   std::string text = kept.bytes.substr(part.begin, span.begin - part.begin) +
                      (is_quoted ? '"' + path + '"' : path) +

@@ -62,8 +62,7 @@ QString ChanceOfLine(const Bot& bot, ChatTypeId type) {
   if (!facts.is_heard || chance <= 0 || !IsDrawn(bot, type)) {
     return QCoreApplication::translate("ChatPage", "never");
   }
-  constexpr ParameterId kRandomChats{42};
-  if (*facts.chance == kRandomChats) {
+  if (*facts.chance == kRandomChatRate) {
     // What is asked for again and again has a rate.
     return QCoreApplication::translate("ChatPage", "every %1 s")
         .arg(std::lround(1 / chance));
