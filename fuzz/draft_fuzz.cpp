@@ -13,7 +13,7 @@ void FuzzOne(std::string_view bytes) {
   Expect(again.has_value() && later.empty(), "our own draft is a good one");
   // The fun name loses a pair of quotes each time that it has one.
   Draft unquoted = *draft;
-  (void)unquoted.bot.SetParameter(kFunNameField, again->bot.FunName());
+  unquoted.bot.Put(kFunNameField, again->bot.FunName());
   ExpectEqual(WriteDraft(unquoted), WriteDraft(*again), "the draft is stable");
 }
 

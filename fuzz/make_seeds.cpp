@@ -36,19 +36,19 @@ using Seeds = std::map<std::string, std::vector<std::string>>;
 Bot MakeOddBot() {
   Bot bot = CreateZeroBot();
   // What a bot refuses is not among these.
-  (void)bot.SetParameter(kNameField, "Odd");
-  (void)bot.SetParameter(kFunNameField, "\"^1O d^2d\"");
-  (void)bot.SetParameter(kRailColorField, 4.0);
-  (void)bot.SetParameter(kModelField, "TankJr");
-  (void)bot.SetParameter(kSkinField, "Red");
-  (void)bot.SetParameter(kArenaLordField, 1.0);
+  bot.Put(kNameField, "Odd");
+  bot.Put(kFunNameField, "\"^1O d^2d\"");
+  bot.Put(kRailColorField, 4.0);
+  bot.Put(kModelField, "TankJr");
+  bot.Put(kSkinField, "Red");
+  bot.Put(kArenaLordField, 1.0);
   int step = 0;
   for (const Level level : kLevels) {
     for (const int index : kPerLevelRange) {
       const std::vector<Value> values = {0.5F,   -2.5F,   250.0, -1.0,
                                          "word", Value(), " 7 ", "0.1234"};
       const auto place = static_cast<std::size_t>(step++) % values.size();
-      (void)bot.SetParameter(ParameterId(level, index), values[place]);
+      bot.Put(ParameterId(level, index), values[place]);
     }
   }
   for (int group = 0; group < static_cast<int>(kChatGroups.size()); ++group) {

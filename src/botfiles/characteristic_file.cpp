@@ -10,11 +10,13 @@
 #include <system_error>
 #include <utility>
 
+#include "botfiles/block_keys.h"
 #include "botfiles/character_words.h"
 #include "botfiles/keyed_line.h"
 #include "botfiles/left_out.h"
 #include "botfiles/value_format.h"
 #include "model/characteristic_catalogue.h"
+#include "model/file_names.h"
 #include "support/numbers.h"
 #include "support/text.h"
 
@@ -34,33 +36,9 @@ class BlockWriter {
     text_ += '{';
     EndLine();
 
-    SingleEntry(kNameField);
-    SingleEntry(kGenderField);
-    Entry(kAttackSkillIndex, LevelValue(kAttackSkillIndex));
-    FileEntry(kWeaponFileField);
-    LevelEntries({3, 6});
-    Entry(kReactionTimeIndex, WithDoublePrecision(kReactionTimeIndex));
-    EndLine();
-    FileEntry(kChatFileField);
-    SingleEntry(kChatNameField);
-    for (const int index : kChatRange) {
-      SingleEntry(ParameterId(index));
-    }
-    EndLine();
-    LevelEntries({8, 11});
-    EndLine();
-    FileEntry(kItemFileField);
-    LevelEntries({12, 15});
-    EndLine();
-    LevelEntries({16, 17});
-    EndLine();
-    for (int index = kOptionalRange.first; index < kFireThrottleIndex;
-         ++index) {
-      if (IsAboveZero(LevelValue(index))) Entry(index, LevelValue(index));
-    }
-    if (IsAboveZero(LevelValue(kFireThrottleIndex))) {
-      EndLine();
-      Entry(kFireThrottleIndex, LevelValue(kFireThrottleIndex));
+    for (const BlockKeys& part : kBlockKeys) {
+      for (const int index : part.keys) WriteKey(index);
+      if (part.ends_part) EndLine();
     }
     text_ += '}';
     EndLine();
@@ -87,12 +65,22 @@ class BlockWriter {
     EndLine();
   }
 
-  void SingleEntry(ParameterId id) { Entry(id.index(), bot_.Parameter(id)); }
-
-  void FileEntry(ParameterId id) { Entry(id.index(), "bots/" + bot_.Text(id)); }
-
-  void LevelEntries(IndexRange range) {
-    for (const int index : range) Entry(index, LevelValue(index));
+  void WriteKey(int index) {
+    const ParameterId id(index);
+    if (kOptionalRange.Contains(index)) {
+      if (!IsAboveZero(LevelValue(index))) return;
+      if (index == kFireThrottleIndex) EndLine();
+    }
+    if (index == kReactionTimeIndex) {
+      Entry(index, WithDoublePrecision(index));
+    } else if (kPerLevelRange.Contains(index)) {
+      Entry(index, LevelValue(index));
+    } else if (id == kChatFileField || id == kWeaponFileField ||
+               id == kItemFileField) {
+      Entry(index, InBots(bot_.Text(id)));
+    } else {
+      Entry(index, bot_.Parameter(id));
+    }
   }
 
   const Bot& bot_;

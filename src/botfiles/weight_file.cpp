@@ -16,7 +16,7 @@ namespace {
 
 constexpr IndexRange kWeaponGroups[] = {kWeaponWeightRange};
 constexpr IndexRange kItemGroups[] = {
-    {54, 55}, {56, 63}, {64, 71}, {72, 79}, {80, 80}};
+    {54, 55}, kPickupRange, kOwnedPickupRange, {72, 79}, {80, 80}};
 
 /// What the two files differ in.
 struct WeightFile {

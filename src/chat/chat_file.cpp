@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "botfiles/game_text.h"
+#include "botfiles/keyed_line.h"
 #include "botfiles/left_out.h"
 #include "chat/chat_catalogue.h"
 #include "chat/chat_line.h"
@@ -30,11 +31,6 @@ std::optional<ChatTypeId> TypeIn(std::string_view line) {
   const std::string lower = ToLower(line);
   if (lower != line) return TypeIn(lower);
   return std::nullopt;
-}
-
-bool IsPassedOver(std::string_view line) {
-  return line.empty() || line.starts_with("//") || line.starts_with("#i") ||
-         line.starts_with('}') || line.starts_with('{');
 }
 
 /// True for a line that begins a block although the one before is open.

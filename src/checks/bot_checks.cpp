@@ -26,6 +26,7 @@ constexpr Severity kHint = Severity::kHint;
 
 /// The reader of the files tells it with file and line.
 constexpr bool kByFiles = true;
+constexpr bool kOfChats = true;
 
 constexpr std::array kChecks = {
     Check{"name-unusable", kError, CheckUnusableName},
@@ -40,14 +41,15 @@ constexpr std::array kChecks = {
     Check{"level-mix-gap", kError, CheckLevelMix, kByFiles},
     Check{"weight-not-a-number", kError, CheckTextForWeight, kByFiles},
     Check{"no-weapon-at-start", kError, CheckWeaponAtStart, kByFiles},
-    Check{"chat-quote", kError, CheckLineQuotes, kByFiles},
-    Check{"chat-backslash", kError, CheckLineBackslashes, kByFiles},
-    Check{"chat-control-character", kError, CheckLineControls, kByFiles},
-    Check{"chat-too-long", kError, CheckLineLength, kByFiles},
+    Check{"chat-quote", kError, CheckLineQuotes, kByFiles, kOfChats},
+    Check{"chat-backslash", kError, CheckLineBackslashes, kByFiles, kOfChats},
+    Check{"chat-control-character", kError, CheckLineControls, kByFiles,
+          kOfChats},
+    Check{"chat-too-long", kError, CheckLineLength, kByFiles, kOfChats},
 
     Check{kNotReadBack, kWarning, CheckReadBack},
     Check{"name-too-long-for-menus", kWarning, CheckNameForMenus},
-    Check{"files-shadowed", kWarning, CheckFilesAreShadowed},
+    Check{kFilesShadowed, kWarning, CheckFilesAreShadowed},
     Check{"too-many-bots", kWarning, CheckDescriptionCount},
     Check{"model-not-installed", kWarning, CheckModelIsInstalled},
     Check{"model-unreadable", kWarning, CheckModelText},
@@ -67,19 +69,26 @@ constexpr std::array kChecks = {
     Check{"gauntlet-fighter", kWarning, CheckGauntletFighter},
     Check{"no-item-wanted", kWarning, CheckNoItems},
     Check{"weights-of-other-macros", kWarning, CheckOtherMacros},
-    Check{"chat-cut-on-screen", kWarning, CheckLineOnScreen},
-    Check{"chat-characters-changed", kWarning, CheckLineCharacters},
-    Check{"chat-list-missing", kWarning, CheckLineWords},
-    Check{"chat-variable-empty", kWarning, CheckLineVariables},
-    Check{"chat-variable-unknown", kWarning, CheckLineBraces, kByFiles},
+    Check{"chat-cut-on-screen", kWarning, CheckLineOnScreen, !kByFiles,
+          kOfChats},
+    Check{"chat-characters-changed", kWarning, CheckLineCharacters, !kByFiles,
+          kOfChats},
+    Check{"chat-list-missing", kWarning, CheckLineWords, !kByFiles, kOfChats},
+    Check{"chat-variable-empty", kWarning, CheckLineVariables, !kByFiles,
+          kOfChats},
+    Check{"chat-variable-unknown", kWarning, CheckLineBraces, kByFiles,
+          kOfChats},
 
     Check{"arena-lord-not-read", kHint, CheckArenaLord},
     Check{"view-change-clamped", kHint, CheckViewChange},
     Check{"value-not-read", kHint, CheckUnreadValue},
-    Check{"chat-never-heard", kHint, CheckTypeIsNeverHeard},
-    Check{"chat-without-chance", kHint, CheckLinesWithoutChance},
-    Check{"chat-without-lines", kHint, CheckChanceWithoutLines},
-    Check{"chat-enemy-suicide", kHint, CheckEnemySuicide},
+    Check{"chat-never-heard", kHint, CheckTypeIsNeverHeard, !kByFiles,
+          kOfChats},
+    Check{"chat-without-chance", kHint, CheckLinesWithoutChance, !kByFiles,
+          kOfChats},
+    Check{"chat-without-lines", kHint, CheckChanceWithoutLines, !kByFiles,
+          kOfChats},
+    Check{"chat-enemy-suicide", kHint, CheckEnemySuicide, !kByFiles, kOfChats},
     Check{"default-character-decides", kHint, CheckDefaultCharacter},
     Check{"firing-speed-without-pauses", kHint, CheckFireThrottle},
     Check{"weapon-not-fetched", kHint, CheckWeaponNotFetched},
@@ -107,6 +116,11 @@ CheckContext MakeContext(const Bot& bot, const GameData* game) {
 }  // namespace
 
 std::span<const Check> BotChecks() { return kChecks; }
+
+const Check* FindCheck(std::string_view id) {
+  const auto found = std::ranges::find(kChecks, id, &Check::id);
+  return found == kChecks.end() ? nullptr : &*found;
+}
 
 std::vector<Finding> CheckBot(const Bot& bot, const GameData* game) {
   // Saving puts quotes on.

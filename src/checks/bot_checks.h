@@ -16,6 +16,9 @@ namespace fragsmith {
 /// All checks of a bot, in the order in which their findings come.
 std::span<const Check> BotChecks();
 
+/// The check whose findings have this id; null for a finding of files alone.
+const Check* FindCheck(std::string_view id);
+
 /// What the game will make of the bot once it is saved. Without a game's data
 /// a hint says what was not looked at. Quick enough to follow every edit.
 std::vector<Finding> CheckBot(const Bot& bot, const GameData* game);

@@ -28,8 +28,7 @@ constexpr std::array kFiles = {BotFile::kCharacteristics, BotFile::kDescription,
 
 /// Whether a description speaks of the character file of a bot of that name.
 bool HasCharacterOf(const GameFile& description, const std::string& name) {
-  const std::string path =
-      "bots/" + name + std::string(FileSuffix(BotFile::kCharacteristics));
+  const std::string path = CharacterPath(name);
   Complaints untold;
   const std::vector<DescriptionSet> sets =
       ReadGameDescription(description, untold);
@@ -110,7 +109,8 @@ Result<std::vector<BotLocation>> BotsAt(const fs::path& path) {
       }
       if (!found.empty()) break;
     }
-  } else if (EndsWithIgnoringCase(BytesFromPath(path.filename()), ".pk3")) {
+  } else if (EndsWithIgnoringCase(BytesFromPath(path.filename()),
+                                  kPackageEnd)) {
     Notes odd_entries;
     const Result<BotList> list = BotsInPackage(path, odd_entries);
     if (!list) return Failure(list.error());

@@ -122,14 +122,16 @@ void AddNamesTaken(const std::string& bytes, const std::string& shown,
 }
 
 Finding LooseFilesHint(const BotOnDisk& bot) {
-  std::string name;
+  FilePlace place;
   for (const BotFileMember& row : kBotFileMembers) {
     const std::optional<GameFile>& file = bot.files.*row.member;
-    if (name.empty() && file) name = file->name;
+    if (place.kind || !file) continue;
+    place.file = file->name;
+    place.kind = row.file;
   }
   return {.id = "loose-files",
           .severity = Severity::kHint,
-          .place = FilePlace{.file = std::move(name)},
+          .place = std::move(place),
           .text =
               "These files lie in a folder. A game that you start and play "
               "yourself passes over such files unless it was started with "

@@ -1,30 +1,14 @@
 #ifndef FRAGSMITH_CHECKS_BOT_ON_DISK_H_
 #define FRAGSMITH_CHECKS_BOT_ON_DISK_H_
 
-#include <array>
 #include <optional>
 #include <string>
 
 #include "checks/file_checks.h"
 #include "checks/finding.h"
 #include "game/given_files.h"
-#include "session/bot_file.h"
 
 namespace fragsmith {
-
-/// Which of a bot's files stands where in a set.
-struct BotFileMember {
-  BotFile file;
-  std::optional<GameFile> BotFileSet::*member;
-};
-
-inline constexpr std::array<BotFileMember, 5> kBotFileMembers = {{
-    {BotFile::kDescription, &BotFileSet::description},
-    {BotFile::kCharacteristics, &BotFileSet::character},
-    {BotFile::kWeaponWeights, &BotFileSet::weapon_weights},
-    {BotFile::kItemWeights, &BotFileSet::item_weights},
-    {BotFile::kChat, &BotFileSet::chat},
-}};
 
 /// The files of a bot with their bytes. Those that cannot be read are missing.
 struct BotOnDisk {

@@ -13,6 +13,7 @@
 #include "game/game_path.h"
 #include "game/limits.h"
 #include "game/plain_letters.h"
+#include "model/file_names.h"
 #include "support/code_page.h"
 #include "support/text.h"
 
@@ -21,8 +22,21 @@ namespace {
 
 constexpr Severity kError = Severity::kError;
 
-std::string_view KindOfWeights(bool are_weapons) {
-  return are_weapons ? "weapon weight" : "item weight";
+/// What findings call a kind of file.
+std::string NameOf(BotFile kind) {
+  switch (kind) {
+    case BotFile::kDescription:
+      return "description";
+    case BotFile::kCharacteristics:
+      return "character";
+    case BotFile::kChat:
+      return "chat";
+    case BotFile::kItemWeights:
+      return "item weight";
+    case BotFile::kWeaponWeights:
+      return "weapon weight";
+  }
+  return {};
 }
 
 /// A fault that has cost a file all its weights of weapons.
@@ -53,7 +67,22 @@ BotReader::BotReader(const BotFileSet& files, const IncludeLookup& game)
       }),
       complaints_(files.is_game_known),
       untold_(files.is_game_known) {
+  for (const BotFileMember& row : kBotFileMembers) {
+    const std::optional<GameFile>& file = files_.*row.member;
+    if (file) places_.insert({file->name, {.kind = row.file}});
+  }
+  const std::string path(kDefaultCharacter);
+  places_.insert({InBotFiles(path),
+                  {.kind = BotFile::kCharacteristics, .game_path = path}});
   ReadDescription();
+}
+
+FilePlace BotReader::WholePlace(FilePlace place) const {
+  if (const auto found = places_.find(place.file); found != places_.end()) {
+    place.kind = found->second.kind;
+    place.game_path = found->second.game_path;
+  }
+  return place;
 }
 
 Verdict BotReader::At(double skill) {
@@ -118,7 +147,7 @@ CharacterValue BotReader::InPlaceOf(const CharacterValue& earlier) {
 /// Whether a file of items has none of the weights of weapons.
 bool BotReader::HasNoWeapons(const CharacterValue& items) {
   const std::optional<GameFile> file =
-      Find(items.text, KindOfWeights(false), CharacterName(), items.line);
+      Find(items.text, BotFile::kItemWeights, CharacterName(), items.line);
   if (!file) return false;
   Complaints untold;
   return FaultOfKind(*file, ReadGameWeights(*file, game_, untold), true,
@@ -129,9 +158,9 @@ bool BotReader::HasNoWeapons(const CharacterValue& items) {
 /// What the bot's files are called by. The description may name a character
 /// file that is called otherwise.
 std::string BotReader::OwnName() const {
-  for (const Member member : kMembers) {
-    std::string name =
-        files_.*member ? BotOfPath((files_.*member)->game_path) : std::string();
+  for (const BotFileMember& row : kBotFileMembers) {
+    const std::optional<GameFile>& file = files_.*row.member;
+    std::string name = file ? BotOfPath(file->game_path) : std::string();
     if (!name.empty()) return name;
   }
   return {};
@@ -140,8 +169,8 @@ std::string BotReader::OwnName() const {
 std::string BotReader::CharacterName() const {
   if (character_) return character_->name;
   if (files_.character) return files_.character->name;
-  for (const Member member : kMembers) {
-    if (files_.*member) return (files_.*member)->name;
+  for (const BotFileMember& row : kBotFileMembers) {
+    if (files_.*row.member) return (files_.*row.member)->name;
   }
   return {};
 }
@@ -165,9 +194,9 @@ bool BotReader::EndsAtAccent(std::string_view path, const std::string& place,
 
 template <typename Condition>
 const GameFile* BotReader::FindOwn(const Condition& condition) const {
-  for (const Member member : kMembers) {
-    const std::optional<GameFile>& file = files_.*member;
-    if (member != &BotFileSet::description && file && condition(*file)) {
+  for (const BotFileMember& row : kBotFileMembers) {
+    const std::optional<GameFile>& file = files_.*row.member;
+    if (row.file != BotFile::kDescription && file && condition(*file)) {
       return &*file;
     }
   }
@@ -191,40 +220,39 @@ const GameFile* BotReader::OwnInAnyCase(std::string_view path) const {
 
 /// A file by the path that a file of the bot gives in a line (0 where that is
 /// not known); nothing when the game cannot open it.
-std::optional<GameFile> BotReader::Find(std::string_view path,
-                                        std::string_view what,
+std::optional<GameFile> BotReader::Find(std::string_view path, BotFile kind,
                                         const std::string& place, int line) {
   std::string asked(path);
   std::replace(asked.begin(), asked.end(), '\\', '/');
-  const std::string shown = "botfiles/" + ShownText(asked);
+  const std::string shown = InBotFiles(ShownText(asked));
   if (NormalGamePath(asked).empty()) return GameFile{shown, "", ""};
   if (asked.size() > limits::kMaxPath) {
     Add("path-too-long", kError, place, line,
-        "The path " + Quoted(asked) + " of the " + std::string(what) +
+        "The path " + Quoted(asked) + " of the " + NameOf(kind) +
             " file is too long: the game can open " +
-            std::to_string(limits::kMaxPath + (sizeof("botfiles/") - 1)) +
+            std::to_string(limits::kMaxPath + kBotFilesPath.size()) +
             " characters, botfiles/ "
             "included. Give the bot a shorter name.");
     return std::nullopt;
   }
   if (const GameFile* const own = OwnFile(asked)) {
-    opened_.push_back("botfiles/" + own->game_path);
+    opened_.push_back(InBotFiles(own->game_path));
     return *own;
   }
   std::optional<std::string> bytes = game_(asked);
   if (!bytes) {
-    TellMissing(asked, what, place, line);
+    TellMissing(asked, kind, place, line);
     return std::nullopt;
   }
-  opened_.push_back("botfiles/" + asked);
+  opened_.push_back(InBotFiles(asked));
+  places_.insert({shown, {.kind = kind, .game_path = asked}});
   return GameFile{shown, asked, std::move(*bytes)};
 }
 
 /// How a path that is nearly that of a file of the bot is to be written; empty
 /// for any other.
 std::string BotReader::AdviceForPath(std::string_view path) const {
-  constexpr std::string_view kBotfiles = "botfiles/";
-  if (ToLower(path).starts_with(kBotfiles)) {
+  if (ToLower(path).starts_with(kBotFilesPath)) {
     return "It begins in botfiles by itself: leave botfiles/ out.";
   }
   if (Contains(path, "..")) {
@@ -234,60 +262,59 @@ std::string BotReader::AdviceForPath(std::string_view path) const {
   return OwnFile(whole) != nullptr ? "Write " + Quoted(whole) + "." : "";
 }
 
-/// By the words with which findings call its kind; null where it has none.
-const GameFile* BotReader::OwnOfKind(std::string_view what) const {
-  const std::optional<GameFile>* own = nullptr;
-  if (what == "character") own = &files_.character;
-  if (what == "chat") own = &files_.chat;
-  if (what == KindOfWeights(true)) own = &files_.weapon_weights;
-  if (what == KindOfWeights(false)) own = &files_.item_weights;
-  return own != nullptr && *own ? &**own : nullptr;
-}
-
-void BotReader::TellMissing(const std::string& path, std::string_view what,
+void BotReader::TellMissing(const std::string& path, BotFile kind,
                             const std::string& place, int line) {
   const std::string shown =
-      "The " + std::string(what) + " file " + Quoted("botfiles/" + path);
+      "The " + NameOf(kind) + " file " + Quoted(InBotFiles(path));
+  const auto tell = [&](std::string_view id, Severity severity,
+                        std::string text) {
+    complaints_.Add({.id = id,
+                     .severity = severity,
+                     .place = {.file = place, .line = line},
+                     .text = std::move(text),
+                     .missing = path});
+  };
   const GameFile* const other_case = OwnInAnyCase(path);
   const std::string on_disk = PathLookedFor(path, FileHome::kLoose);
   if (EndsAtAccent(path, place, line)) {
     Add("path-accent", kError, place, line,
-        "The game reads the path of the " + std::string(what) +
-            " file only up to " + Quoted(path) +
+        "The game reads the path of the " + NameOf(kind) + " file only up to " +
+            Quoted(path) +
             ", where a letter with an accent follows. Call the bot and its "
             "files by letters without accents.");
   } else if (HasLoneBackslash(line)) {
     Add("path-backslash", kError, place, line,
-        "The path of the " + std::string(what) +
+        "The path of the " + NameOf(kind) +
             " file has a \\ in this line, and the game takes that and the "
             "letter behind it for one sign. Write / in its place.");
   } else if (other_case != nullptr) {
     Add("path-case", kError, place, line,
-        "The bot names its " + std::string(what) + " file " + Quoted(path) +
+        "The bot names its " + NameOf(kind) + " file " + Quoted(path) +
             ", but it is called " + Quoted(other_case->game_path) +
             ". Capitals count for files in a folder on Linux. Spell both "
             "alike.");
   } else if (files_.home == FileHome::kPacked && OwnFile(on_disk) != nullptr) {
     Add("path-in-package", kError, place, line,
-        "The path " + Quoted(path) + " of the " + std::string(what) +
+        "The path " + Quoted(path) + " of the " + NameOf(kind) +
             " file works for files in a folder only. For a package write " +
             Quoted(on_disk) + ".");
   } else if (const std::string advice = AdviceForPath(path); !advice.empty()) {
-    Add("file-missing", kError, place, line,
-        "The game does not find the " + std::string(what) + " file " +
-            Quoted(path) + ". " + advice);
+    tell("file-missing", kError,
+         "The game does not find the " + NameOf(kind) + " file " +
+             Quoted(path) + ". " + advice);
   } else if (!files_.is_game_known) {
-    Add("not-looked-at", Severity::kHint, place, line,
-        shown +
-            " is not the bot's own. Whether the game has it was not looked "
-            "at, as no game folder is set.");
+    tell("not-looked-at", Severity::kHint,
+         shown +
+             " is not the bot's own. Whether the game has it was not looked "
+             "at, as no game folder is set.");
   } else {
-    const GameFile* const own = OwnOfKind(what);
-    Add("file-missing", kError, place, line,
-        shown + " does not exist. Correct the path or add the file" +
-            (own == nullptr
-                 ? "."
-                 : "; the bot's own is " + Quoted(own->game_path) + "."));
+    const auto* const row =
+        std::ranges::find(kBotFileMembers, kind, &BotFileMember::file);
+    const std::optional<GameFile>& own = files_.*row->member;
+    tell("file-missing", kError,
+         shown + " does not exist. Correct the path or add the file" +
+             (!own ? "."
+                   : "; the bot's own is " + Quoted(own->game_path) + "."));
   }
 }
 
@@ -307,11 +334,12 @@ bool BotReader::ReadOne(const GameFile& file, bool is_told,
 
 bool BotReader::Weights(const std::string& path, bool are_weapons,
                         const CharacterValue& value) {
-  auto [place, is_new] =
-      loaded_.try_emplace({are_weapons ? "weapons" : "items", path});
+  const BotFile kind =
+      are_weapons ? BotFile::kWeaponWeights : BotFile::kItemWeights;
+  auto [place, is_new] = loaded_.try_emplace({kind, path, {}});
   if (!is_new) return place->second;
   const std::optional<GameFile> file =
-      Find(path, KindOfWeights(are_weapons), CharacterName(), value.line);
+      Find(path, kind, CharacterName(), value.line);
   if (!file) {
     place->second = !files_.is_game_known && OwnInAnyCase(path) == nullptr;
     return place->second;
@@ -325,7 +353,7 @@ bool BotReader::Weights(const std::string& path, bool are_weapons,
   place->second = read.is_loaded;
   if (!value.is_own) return read.is_loaded;
   if (file->game_path.empty()) {
-    const Complaint empty = EmptyPath(are_weapons ? "_w.c" : "_i.c", value);
+    const Complaint empty = EmptyPath(kind, value);
     if (are_weapons) weaponless_ = WithoutWeights(empty);
     Add(empty.id, Severity::kWarning, empty.place.file, empty.place.line,
         empty.text);
@@ -372,10 +400,11 @@ bool BotReader::Weights(const std::string& path, bool are_weapons,
 }
 
 bool BotReader::Chat(const CharacterValue& path, const CharacterValue& name) {
-  auto [place, is_new] = loaded_.try_emplace({name.text, path.text});
+  auto [place, is_new] =
+      loaded_.try_emplace({BotFile::kChat, path.text, name.text});
   if (!is_new) return place->second;
   const std::optional<GameFile> file =
-      Find(path.text, "chat", CharacterName(), path.line);
+      Find(path.text, BotFile::kChat, CharacterName(), path.line);
   if (!file) {
     place->second = !files_.is_game_known && OwnInAnyCase(path.text) == nullptr;
     return place->second;

@@ -1,12 +1,12 @@
 #ifndef FRAGSMITH_CHECKS_BOT_READER_H_
 #define FRAGSMITH_CHECKS_BOT_READER_H_
 
-#include <array>
 #include <functional>
 #include <map>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -24,12 +24,6 @@ namespace fragsmith {
 /// file follows from it.
 class BotReader {
  public:
-  using Member = std::optional<GameFile> BotFileSet::*;
-  static constexpr std::array<Member, 5> kMembers = {
-      &BotFileSet::description, &BotFileSet::character,
-      &BotFileSet::weapon_weights, &BotFileSet::item_weights,
-      &BotFileSet::chat};
-
   /// Files and look-up must outlive the reader.
   BotReader(const BotFileSet& files, const IncludeLookup& game);
 
@@ -58,6 +52,9 @@ class BotReader {
   /// Whether a line of the character file has a "\" that is no escaped one.
   bool HasLoneBackslash(int line) const;
 
+  /// The place of a complaint, with what is known of its file.
+  FilePlace WholePlace(FilePlace place) const;
+
   /// How findings name the character file, or else what there is of the bot.
   std::string CharacterName() const;
 
@@ -73,8 +70,7 @@ class BotReader {
   static CharacterValue InPlaceOf(const CharacterValue& earlier);
   bool HasNoWeapons(const CharacterValue& items);
   std::string OwnName() const;
-  Complaint EmptyPath(std::string_view suffix,
-                      const CharacterValue& path) const;
+  Complaint EmptyPath(BotFile kind, const CharacterValue& path) const;
   const CharacterValue* PathAt(const CharacterLevel& level, int number,
                                std::string_view key);
   bool Weights(const std::string& path, bool are_weapons,
@@ -83,10 +79,9 @@ class BotReader {
   Complaint WithoutChat(const CharacterValue& path, const CharacterValue& name,
                         const GameChat& chat, const Complaint& told) const;
 
-  std::optional<GameFile> Find(std::string_view path, std::string_view what,
+  std::optional<GameFile> Find(std::string_view path, BotFile kind,
                                const std::string& place, int line);
-  const GameFile* OwnOfKind(std::string_view what) const;
-  void TellMissing(const std::string& path, std::string_view what,
+  void TellMissing(const std::string& path, BotFile kind,
                    const std::string& place, int line);
   /// Whether the path in this line of the description is all that the game
   /// reads of a longer one.
@@ -118,8 +113,12 @@ class BotReader {
   std::optional<Complaint> weaponless_;
   std::optional<Complaint> itemless_;
   std::map<int, std::optional<CharacterLevel>> levels_;
-  /// By what is wanted of it and path: whether a file loads.
-  std::map<std::pair<std::string, std::string>, bool> loaded_;
+  /// Whether a file loads, by what it is read as, path, and of a chat file the
+  /// name of the chat.
+  std::map<std::tuple<BotFile, std::string, std::string>, bool> loaded_;
+  /// By how findings name them: the bot's files, and what it has in their
+  /// place.
+  std::map<std::string, FilePlace, std::less<>> places_;
 };
 
 /// The bot that a description is about: the one with the character file of that

@@ -187,10 +187,10 @@ class CharacterFileChecker {
     };
     if (!file || is_named(*file)) return;
     const bool is_of_other_key =
-        std::any_of(BotReader::kMembers.begin(), BotReader::kMembers.end(),
-                    [&](const BotReader::Member member) {
-                      return files_.*member && is_named(*(files_.*member));
-                    });
+        std::ranges::any_of(kBotFileMembers, [&](const BotFileMember& row) {
+          const std::optional<GameFile>& own = files_.*row.member;
+          return own && is_named(*own);
+        });
     if (!is_of_other_key) return;
     Add("wrong-file", Severity::kWarning, file_.name, value.line,
         GameKeyName(number) + " names " + Quoted(value.text) +

@@ -179,7 +179,7 @@ class ChatFileChecker {
     if (words_->empty() || words_->Find(word) != nullptr) return;
     Warn("chat-word-unknown", line.span,
          "Your game has no word list or ready-made line " + Quoted(word) +
-             ": in its place the bot speaks the remains of an earlier line. "
+             std::string(kRemainsSpoken) +
              "Take the name of one that it has, or put the text in quotation "
              "marks (\").");
   }

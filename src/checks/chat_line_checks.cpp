@@ -10,6 +10,7 @@
 
 #include "chat/chat_catalogue.h"
 #include "chat/vocabulary.h"
+#include "checks/chat_file_checks.h"
 #include "game/chat_type_facts.h"
 #include "game/lexer.h"
 #include "game/limits.h"
@@ -319,9 +320,8 @@ void CheckLineWords(const CheckContext& context, FindingList& findings) {
       text += is_member ? "ready-made line " + ShownText(*line.text)
                         : "word list " + ShownList(item.text);
       findings.Add(PlaceOf(line),
-                   text +
-                       ": in its place the bot speaks the remains of an "
-                       "earlier line. Use another one or write a text.",
+                   text + std::string(kRemainsSpoken) +
+                       "Use another one or write a text.",
                    ByOtherLine(context, line));
       return;
     }

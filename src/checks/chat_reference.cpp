@@ -5,6 +5,7 @@
 #include "chat/vocabulary.h"
 #include "checks/bot_reader.h"
 #include "game/game_path.h"
+#include "model/file_names.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -15,7 +16,7 @@ Complaint BotReader::WithoutChat(const CharacterValue& path,
                                  const CharacterValue& name,
                                  const GameChat& chat,
                                  const Complaint& told) const {
-  if (path.text.empty()) return EmptyPath("_t.c", path);
+  if (path.text.empty()) return EmptyPath(BotFile::kChat, path);
   Complaint moved = told;
   const std::string own = OwnName();
   if (NamesAnother(path)) {
@@ -36,14 +37,13 @@ Complaint BotReader::WithoutChat(const CharacterValue& path,
 }
 
 /// Of a line with nothing between its quotation marks.
-Complaint BotReader::EmptyPath(std::string_view suffix,
-                               const CharacterValue& path) const {
+Complaint BotReader::EmptyPath(BotFile kind, const CharacterValue& path) const {
   const std::string own = OwnName();
   std::string text =
       "There is no path between the quotation marks in this line, and the game "
       "takes that for an empty file. Write the path of the bot's own file";
   if (!own.empty()) {
-    text += ", " + Quoted("bots/" + own + std::string(suffix));
+    text += ", " + Quoted(InBots(own) + std::string(FileSuffix(kind)));
   }
   return {.id = "path-empty",
           .severity = Severity::kError,

@@ -66,6 +66,8 @@ struct Check {
   CheckFunction function;
   /// The reader of the files on disk tells the same with file and line.
   bool is_told_by_files = false;
+  /// Of what the chat file gives: nothing of it is known where that is broken.
+  bool is_of_chats = false;
 };
 
 /// The same mend as one that is safe.

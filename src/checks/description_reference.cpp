@@ -11,6 +11,7 @@
 #include "checks/installation_checks.h"
 #include "game/file_faults.h"
 #include "game/game_path.h"
+#include "model/file_names.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -64,14 +65,15 @@ void BotReader::ReadDescription() {
           "lie in the folder scripts itself.");
     }
     if (!own_path.empty()) {
-      character_ = Find(own_path, "character", CharacterName(), 0);
+      character_ =
+          Find(own_path, BotFile::kCharacteristics, CharacterName(), 0);
     }
     return;
   }
   const GameFile& file = *files_.description;
-  opened_.push_back(file.game_path.starts_with("scripts/")
+  opened_.push_back(file.game_path.starts_with(kScriptsPath)
                         ? file.game_path
-                        : "scripts/" + file.game_path);
+                        : std::string(kScriptsPath) + file.game_path);
   std::vector<DescriptionSet> sets;
   ReadOne(file, true, [&](Complaints& complaints) {
     Complaints all(files_.is_game_known);
@@ -117,10 +119,10 @@ void BotReader::ReadDescription() {
   if (is_defined_) {
     const std::string_view path = description_->Text("aifile");
     if (path.empty()) return;
-    character_ =
-        Find(path, "character", file.name, description_->Line("aifile"));
+    character_ = Find(path, BotFile::kCharacteristics, file.name,
+                      description_->Line("aifile"));
   } else if (!own_path.empty()) {
-    character_ = Find(own_path, "character", file.name, 0);
+    character_ = Find(own_path, BotFile::kCharacteristics, file.name, 0);
   }
 }
 
@@ -204,8 +206,9 @@ void BotReader::TakeDescription(const DescriptionSet& set) {
     } else {
       Add("description-not-read", Severity::kHint, file.name, set.Line("name"),
           "The game has a bot " + Quoted(set.Text("name")) + " already, in " +
-              winner.shown_path +
-              ", and takes the fun name and the model from there. That bot "
+              winner.shown_path + ", and takes " + QuotedName(kFunNameField) +
+              " and " + QuotedName(kModelField) +
+              " from there. That bot "
               "plays with your files.");
     }
   }
@@ -213,8 +216,9 @@ void BotReader::TakeDescription(const DescriptionSet& set) {
   if (set.is_open) return;
   if (set.HidesCharacter()) {
     Add("fun-name-hides-character", kError, file.name, set.Line("funname"),
-        "The fun name is so long that the game forgets the path of the "
-        "character file. Shorten it.");
+        QuotedName(kFunNameField) +
+            " is so long that the game forgets the path of the "
+            "character file. Shorten it.");
     is_defined_ = true;
     description_->values.erase("aifile");
     return;

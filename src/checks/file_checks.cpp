@@ -236,21 +236,22 @@ class FileChecker {
       std::erase(list, cause.complaint);
       result.push_back({.id = cause.complaint.id,
                         .severity = Severity::kError,
-                        .place = cause.complaint.place,
+                        .place = reader_.WholePlace(cause.complaint.place),
                         .text = cause.complaint.text + ConsequenceOf(cause),
                         .mends = {},
                         .keeps_out = cause.skills.contains(Verdict::kRefused),
-                        .key = cause.complaint.key});
+                        .key = cause.complaint.key,
+                        .missing = cause.complaint.missing});
     }
     const auto order = [&](const Complaint& complaint) {
       std::size_t at = 0;
-      while (
-          at < BotReader::kMembers.size() &&
-          !(files_.*BotReader::kMembers[at] &&
-            (files_.*BotReader::kMembers[at])->name == complaint.place.file)) {
+      const FilePlace place = reader_.WholePlace(complaint.place);
+      while (at < kBotFileMembers.size() &&
+             !(place.game_path.empty() &&
+               place.kind == kBotFileMembers[at].file)) {
         ++at;
       }
-      return std::pair(at, complaint.place.line);
+      return std::pair(at, place.line);
     };
     std::stable_sort(list.begin(), list.end(),
                      [&](const Complaint& left, const Complaint& right) {
@@ -259,10 +260,11 @@ class FileChecker {
     for (Complaint& complaint : list) {
       result.push_back({.id = complaint.id,
                         .severity = complaint.severity,
-                        .place = std::move(complaint.place),
+                        .place = reader_.WholePlace(std::move(complaint.place)),
                         .text = std::move(complaint.text),
                         .mends = {},
-                        .key = std::move(complaint.key)});
+                        .key = std::move(complaint.key),
+                        .missing = std::move(complaint.missing)});
     }
     return result;
   }

@@ -1,6 +1,7 @@
 #ifndef FRAGSMITH_CHECKS_FILE_CHECKS_H_
 #define FRAGSMITH_CHECKS_FILE_CHECKS_H_
 
+#include <array>
 #include <functional>
 #include <map>
 #include <optional>
@@ -12,6 +13,7 @@
 #include "game/game_path.h"
 #include "game/preprocessor.h"
 #include "game/stand_ins.h"
+#include "model/file_names.h"
 
 namespace fragsmith {
 
@@ -44,6 +46,20 @@ struct BotFileSet {
   /// By name in lower case: the descriptions that win over this bot's.
   std::map<std::string, WinningDescription, std::less<>> names_taken;
 };
+
+/// Which of a bot's files stands where in a set.
+struct BotFileMember {
+  BotFile file;
+  std::optional<GameFile> BotFileSet::*member;
+};
+
+inline constexpr std::array<BotFileMember, 5> kBotFileMembers = {{
+    {BotFile::kDescription, &BotFileSet::description},
+    {BotFile::kCharacteristics, &BotFileSet::character},
+    {BotFile::kWeaponWeights, &BotFileSet::weapon_weights},
+    {BotFile::kItemWeights, &BotFileSet::item_weights},
+    {BotFile::kChat, &BotFileSet::chat},
+}};
 
 /// How a bot comes into the game.
 enum class Verdict {

@@ -34,6 +34,8 @@ struct Finding {
   bool keeps_out = false;
   /// The key of a description that it is about, as of a Complaint.
   std::string key = {};
+  /// The path below botfiles of a file that is not there.
+  std::string missing = {};
 };
 
 }  // namespace fragsmith

@@ -20,6 +20,9 @@
 namespace fragsmith {
 namespace {
 
+/// What the window calls the box.
+std::string Field() { return QuotedName(kFunNameField); }
+
 /// The fun name as the bot holds it, quotes included, and what is in them.
 struct FunName {
   explicit FunName(const Bot& bot)
@@ -74,8 +77,7 @@ std::string WithoutBlack(std::string_view text) {
 DescriptionSet DescriptionInGame(const Bot& bot) {
   Complaints untold;
   std::vector<DescriptionSet> sets = ReadGameDescription(
-      {.name = {}, .game_path = {}, .bytes = WriteDescriptionFile(bot, {})},
-      untold);
+      {.name = {}, .bytes = WriteDescriptionFile(bot, {})}, untold);
   return sets.empty() ? DescriptionSet() : std::move(sets.front());
 }
 
@@ -98,11 +100,12 @@ void CheckFunNameHidesBot(const CheckContext& context, FindingList& findings) {
   const std::string inner = FunName(context.bot).inner;
   const bool is_long = inner.size() > limits::kMaxFunName;
   const std::string why =
-      is_long ? "The fun name has " + std::to_string(inner.size()) +
+      is_long ? Field() + " has " + std::to_string(inner.size()) +
                     " characters, which leave the game no room for the path "
                     "of the bot's files"
-              : "The fun name swallows what stands behind it in the bot's "
-                "description, also the path of the bot's files";
+              : Field() +
+                    " swallows what stands behind it in the bot's "
+                    "description, also the path of the bot's files";
   const std::string what =
       is_long ? "Shorten it to " + std::to_string(limits::kMaxPlayerName) +
                     " characters."
@@ -112,8 +115,7 @@ void CheckFunNameHidesBot(const CheckContext& context, FindingList& findings) {
   findings.Add(
       kFunNameField,
       why + ": the game does not add the bot, or adds another one. " + what,
-      {FunNameTo(plain, is_long ? "Shorten the fun name"
-                                : "Take it out of the fun name")});
+      {FunNameTo(plain, (is_long ? "Shorten " : "Take it out of ") + Field())});
 }
 
 void CheckFunNameCharacters(const CheckContext& context,
@@ -124,13 +126,14 @@ void CheckFunNameCharacters(const CheckContext& context,
   const std::string_view shown = read.Text("funname");
   findings.Add(
       kFunNameField,
-      "The fun name has a semicolon, a backslash or a double quote "
-      "in it: the game " +
+      Field() +
+          " has a semicolon, a backslash or a double quote "
+          "in it: the game " +
           (shown.empty() ? "throws it away and shows the bot under its name"
                          : "reads it as " + Quoted(shown)) +
           ". Take the character out.",
       {FunNameTo(Without(name.inner, kThrownAway),
-                 "Take it out of the fun name")});
+                 "Take it out of " + Field())});
 }
 
 void CheckFunNameLength(const CheckContext& context, FindingList& findings) {
@@ -141,14 +144,14 @@ void CheckFunNameLength(const CheckContext& context, FindingList& findings) {
   }
   findings.Add(
       kFunNameField,
-      "The fun name has " + std::to_string(name.inner.size()) +
+      Field() + " has " + std::to_string(name.inner.size()) +
           " characters, colour codes included; the game " +
           (name.inner.size() > limits::kMaxFunName
                ? "has no room for so many and throws it away. Shorten it."
                : "shows the first " + std::to_string(limits::kMaxPlayerName) +
                      " of them and cuts the rest. Shorten it."),
       {FunNameTo(name.inner.substr(0, limits::kMaxPlayerName),
-                 "Cut the fun name after " +
+                 "Cut " + Field() + " after " +
                      std::to_string(limits::kMaxPlayerName) + " characters")});
 }
 
@@ -156,25 +159,25 @@ void CheckFunNameBlack(const CheckContext& context, FindingList& findings) {
   const FunName name(context.bot);
   if (!name.inner.empty() && TrimBlanks(WithoutColors(name.inner)).empty() &&
       Contains(name.inner, "^")) {
-    findings.Add(kFunNameField,
-                 "The fun name has colours but no letters: the game calls the "
-                 "bot \"UnnamedPlayer\".",
-                 {FunNameTo({},
-                            "Empty the fun name, so that the bot is shown "
-                            "under its name")});
+    findings.Add(
+        kFunNameField,
+        Field() +
+            " has colours but no letters: the game calls the "
+            "bot \"UnnamedPlayer\".",
+        {FunNameTo({}, "Empty " + Field() +
+                           ", so that the bot is shown under its name")});
     return;
   }
   for (std::size_t at = 0; at < name.inner.size(); ++at) {
     if (!IsBlackCode(name.inner, at)) continue;
     findings.Add(
         kFunNameField,
-        "The fun name has the colour code \"" +
+        Field() + " has the colour code \"" +
             ShownText(name.inner.substr(at, 2)) +
             "\", which stands for black. The game takes black out of "
             "names: the letters behind it keep the colour before it. Choose "
             "another colour.",
-        {FunNameTo(WithoutBlack(name.inner),
-                   "Take black out of the fun name")});
+        {FunNameTo(WithoutBlack(name.inner), "Take black out of " + Field())});
     return;
   }
 }
@@ -188,13 +191,13 @@ void CheckFunNameIsEmpty(const CheckContext& context, FindingList& findings) {
   }
   const bool is_blank = TrimBlanksAndTabs(name.inner).empty();
   const std::string what =
-      is_blank ? "The fun name is nothing but blanks"
-               : "The fun name begins with \"" + name.inner.substr(0, 2) +
+      is_blank ? Field() + " is nothing but blanks"
+               : Field() + " begins with \"" + name.inner.substr(0, 2) +
                      "\", which the game takes for a comment";
-  std::vector<Mend> mends = {FunNameTo({}, "Empty the fun name")};
+  std::vector<Mend> mends = {FunNameTo({}, "Empty " + Field())};
   if (name.inner.starts_with("//")) {
     mends.push_back(SetTo(kFunNameField, '"' + name.inner + '"',
-                          "Put double quotes around the fun name"));
+                          "Put double quotes around " + Field()));
   }
   findings.Add(
       kFunNameField,
@@ -209,9 +212,10 @@ void CheckFunNameDots(const CheckContext& context, FindingList& findings) {
   if (!HasAccents(name.inner) && !Contains(name.inner, "%")) return;
   findings.Add(kFunNameField,
                "The game shows letters with accents, other special signs and "
-               "\"%\" in the fun name as dots. Use plain letters.",
+               "\"%\" in " +
+                   Field() + " as dots. Use plain letters.",
                {FunNameTo(Without(InPlainLetters(name.inner), "%"),
-                          "Use plain letters in the fun name")});
+                          "Use plain letters in " + Field())});
 }
 
 void CheckFunNameQuotes(const CheckContext& context, FindingList& findings) {
@@ -220,11 +224,11 @@ void CheckFunNameQuotes(const CheckContext& context, FindingList& findings) {
   const std::string_view read = UnquotedWord(name.inner);
   if (read.size() == name.inner.size() || read.empty()) return;
   findings.Add(kFunNameField,
-               "Without double quotes around it, the game reads the fun name "
-               "only up to \"" +
-                   ShownText(read) + "\". Put double quotes around it.",
+               "Without double quotes around it, the game reads " + Field() +
+                   " only up to \"" + ShownText(read) +
+                   "\". Put double quotes around it.",
                {Safe(SetTo(kFunNameField, '"' + name.inner + '"',
-                           "Put double quotes around the fun name"))});
+                           "Put double quotes around " + Field()))});
 }
 
 }  // namespace fragsmith

@@ -9,6 +9,7 @@
 #include "chat/vocabulary.h"
 #include "checks/location_checks.h"
 #include "install/packages/package.h"
+#include "model/file_names.h"
 #include "support/code_page.h"
 #include "support/files.h"
 #include "support/text.h"
@@ -29,9 +30,10 @@ void LocationCheck::AddHowToPlay(std::vector<Finding>& findings) const {
       !Contains(name, "\n");
   const bool is_refused =
       !has_name || std::ranges::any_of(findings, &Finding::keeps_out);
-  findings.push_back(HowToAdd(has_name ? name : location_.name,
-                              FilePlace{.file = files.description->name},
-                              OpenedText()));
+  findings.push_back(HowToAdd(
+      has_name ? name : location_.name,
+      FilePlace{.file = files.description->name, .kind = BotFile::kDescription},
+      OpenedText()));
   std::string& text = findings.back().text;
   if (is_refused) {
     text = "Once the errors are mended: " + text;
@@ -57,7 +59,8 @@ bool LocationCheck::HasPackageBeside() const {
     const std::string name =
         BytesFromPath(PathFromBytes(file->game_path).filename());
     const Result<std::string> packed = ReadPackageEntry(
-        *package, (is_description ? "scripts/" : "botfiles/bots/") + name);
+        *package, is_description ? std::string(kScriptsPath) + name
+                                 : InBotFiles(InBots(name)));
     return packed && *packed == file->bytes;
   });
 }

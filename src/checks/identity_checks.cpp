@@ -220,20 +220,23 @@ void CheckModelText(const CheckContext& context, FindingList& findings) {
 
 void CheckRailColor(const CheckContext& context, FindingList& findings) {
   if (context.bot.Text(kRailColorField) == kNoRailColor) return;
-  findings.Add(kRailColorField,
-               "The game does not read the rail colour: it looks for the key "
-               "\"color1\", and the file has \"color\". The bot's rail trail "
-               "stays red.",
-               {SetTo(kRailColorField, std::string(kNoRailColor),
-                      "Set the rail colour to None")});
+  findings.Add(
+      kRailColorField,
+      "The game does not read " + QuotedName(kRailColorField) +
+          ": it looks for the key "
+          "\"color1\", and the file has \"color\". The bot's rail trail "
+          "stays red.",
+      {SetTo(kRailColorField, std::string(kNoRailColor),
+             "Set " + QuotedName(kRailColorField) + " to None")});
 }
 
 void CheckArenaLord(const CheckContext& context, FindingList& findings) {
   if (ToNumber(context.bot.Parameter(kArenaLordField)) == 0.0) return;
   findings.Add(kArenaLordField,
-               "No known version of the game reads \"Arena lord\". It does no "
-               "harm.",
-               {SetTo(kArenaLordField, 0.0, "Set \"Arena lord\" to no")});
+               "No known version of the game reads " +
+                   QuotedName(kArenaLordField) + ". It does no harm.",
+               {SetTo(kArenaLordField, 0.0,
+                      "Set " + QuotedName(kArenaLordField) + " to no")});
 }
 
 void CheckDescriptionSize(const CheckContext& context, FindingList& findings) {

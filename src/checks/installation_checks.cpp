@@ -40,7 +40,8 @@ void CheckNameIsTaken(const CheckContext& context, FindingList& findings) {
       context.game == nullptr
           ? nullptr
           : BotThatWins(*context.game, name,
-                        {.path = "scripts/" + name + ".bot",
+                        {.path = std::string(kScriptsPath) + name +
+                                 std::string(kDescriptionEnd),
                          .package = GamePackage{BotPackageName(name)}});
   if (winner != nullptr && !winner->is_of_list()) {
     // A description of this very bot that is called otherwise than we do.

@@ -11,6 +11,7 @@
 #include "checks/bot_on_disk.h"
 #include "game/description_reader.h"
 #include "install/program/game_folder.h"
+#include "model/file_names.h"
 #include "support/code_page.h"
 #include "support/files.h"
 #include "support/text.h"
@@ -45,12 +46,12 @@ std::string FolderOf(const BotFileMember& row) {
 /// The given files that could be the game's: those of its folder botfiles, the
 /// default character's and the list of bots.
 std::vector<std::string> PathsOfGame(const GivenFiles& given) {
-  std::vector<std::string> paths = given.PathsLike("botfiles/", "");
+  std::vector<std::string> paths = given.PathsLike(kBotFilesPath, "");
   std::erase_if(paths, [](std::string_view path) {
     return path.starts_with("botfiles/bots/") &&
            !path.starts_with("botfiles/bots/default_");
   });
-  for (std::string& path : given.PathsLike("scripts/bots.txt", "")) {
+  for (std::string& path : given.PathsLike(kBotListPath, "")) {
     paths.push_back(std::move(path));
   }
   return paths;
@@ -62,15 +63,20 @@ bool IsOfGame(std::string_view package) {
          package[3] >= '0' && package[3] <= '9';
 }
 
+/// What the bot has the file for, where it is one of its own.
+std::optional<BotFile> KindOf(const GameFile& file, const BotFileSet& files) {
+  for (const BotFileMember& row : kBotFileMembers) {
+    const std::optional<GameFile>& own = files.*row.member;
+    if (own && own->name == file.name) return row.file;
+  }
+  return std::nullopt;
+}
+
 /// Of all bots, or this one's.
 bool IsUsed(const GameFile& file, const BotFileSet& files) {
-  const bool is_shared = !file.game_path.starts_with("bots/") &&
-                         !file.game_path.starts_with("scripts/");
-  return is_shared ||
-         std::ranges::any_of(kBotFileMembers, [&](const BotFileMember& row) {
-           const std::optional<GameFile>& own = files.*row.member;
-           return own && own->name == file.name;
-         });
+  const bool is_shared = !file.game_path.starts_with(kBotsPath) &&
+                         !file.game_path.starts_with(kScriptsPath);
+  return is_shared || KindOf(file, files);
 }
 
 std::string TextOf(const EntryFault& fault, const std::string& names,
@@ -84,11 +90,10 @@ std::string TextOf(const EntryFault& fault, const std::string& names,
              "very large ones. Make the package anew. The game does not add "
              "the bot.";
     case Kind::kUnreadable: {
-      const bool has_password = Contains(fault.method, "password");
       std::string text = names + (is_one ? " is packed " : " are packed ");
       text += fault.method;
       text += ", and the game can unpack no such file. Make the package anew, ";
-      text += has_password
+      text += fault.is_locked
                   ? "without a password."
                   : "by the method Deflate, which is the usual one of a .zip.";
       return text;
@@ -129,14 +134,14 @@ void AddPackageFaults(const GivenFiles& given, const BotFileSet& files,
   }
   for (const Kind kind : {Kind::kDamaged, Kind::kTwice, Kind::kUnreadable}) {
     std::vector<std::string> names;
-    std::vector<std::string> places;
+    std::vector<FilePlace> places;
     const EntryFault* first = nullptr;
     for (const EntryFault& fault : faults) {
       const std::optional<GameFile> file = given.OpenInAnyCase(fault.name);
       if (fault.kind != kind || !file || !IsUsed(*file, files)) continue;
       first = &fault;
       names.push_back(ShownText(fault.name));
-      places.push_back(file->name);
+      places.push_back({.file = file->name, .kind = KindOf(*file, files)});
     }
     if (first == nullptr) continue;
     std::ranges::reverse(names);
@@ -144,8 +149,9 @@ void AddPackageFaults(const GivenFiles& given, const BotFileSet& files,
     bool keeps_out = false;
     std::erase_if(findings, [&](const Finding& finding) {
       const auto* const place = std::get_if<FilePlace>(&finding.place);
-      const bool follows = is_unreadable && place != nullptr &&
-                           std::ranges::count(places, place->file) > 0;
+      const bool follows =
+          is_unreadable && place != nullptr &&
+          std::ranges::count(places, place->file, &FilePlace::file) > 0;
       keeps_out = keeps_out || (follows && finding.keeps_out);
       return follows;
     });
@@ -154,7 +160,7 @@ void AddPackageFaults(const GivenFiles& given, const BotFileSet& files,
         Finding{
             .id = IdOf(kind),
             .severity = is_unreadable ? Severity::kError : Severity::kWarning,
-            .place = FilePlace{.file = places.back()},
+            .place = std::move(places.back()),
             .text = TextOf(*first, Enumeration(names), names.size() == 1),
             .mends = {},
             .keeps_out = keeps_out});
@@ -187,13 +193,13 @@ std::optional<Finding> FilesTooDeep(const GivenFiles& given,
     }
     text += " The game does not add the bot.";
     const std::optional<GameFile> file = given.OpenInAnyCase(found.front());
-    return Finding{
-        .id = "folder-too-deep",
-        .severity = Severity::kError,
-        .place = FilePlace{.file = file ? file->name : std::string()},
-        .text = std::move(text),
-        .mends = {},
-        .keeps_out = true};
+    return Finding{.id = "folder-too-deep",
+                   .severity = Severity::kError,
+                   .place = FilePlace{.file = file ? file->name : std::string(),
+                                      .kind = row.file},
+                   .text = std::move(text),
+                   .mends = {},
+                   .keeps_out = true};
   }
   return std::nullopt;
 }
@@ -210,12 +216,12 @@ void TellNearbyFiles(const GivenFiles& given, const std::string& name,
         finding.id != "not-looked-at") {
       continue;
     }
-    const std::string text = ToLower(finding.text);
+    const std::string missing =
+        ToLower(finding.missing.substr(finding.missing.rfind('/') + 1));
     for (const std::string& path : given.PathsLike("", kText)) {
       const std::string file = path.substr(path.rfind('/') + 1);
       const std::string meant = file.substr(0, file.size() - kText.size());
-      if (lacks_description ? meant == description
-                            : Contains(text, '/' + meant + '"')) {
+      if (meant == (lacks_description ? description : missing)) {
         advice = " Remove the .txt from the name of " + Quoted(file) + ".";
       }
     }
@@ -242,10 +248,10 @@ std::optional<Finding> OthersInDescription(const GivenFiles& given,
        ReadGameDescription(*files.description, untold)) {
     const std::string_view name = set.Text("name");
     const std::string path =
-        "botfiles/" + PathLookedFor(set.Text("aifile"), FileHome::kLoose);
+        InBotFiles(PathLookedFor(set.Text("aifile"), FileHome::kLoose));
     const bool is_own =
         files.character &&
-        EqualIgnoringCase(path, "botfiles/" + files.character->game_path);
+        EqualIgnoringCase(path, InBotFiles(files.character->game_path));
     if (name.empty() || name == kNoDescriptionValue ||
         std::ranges::count(names, ToLower(name)) > 0 ||
         (!is_own && given.Open(path))) {
@@ -256,15 +262,16 @@ std::optional<Finding> OthersInDescription(const GivenFiles& given,
     if (line == 0) line = set.Line("name");
   }
   if (own.empty() || shown.empty()) return std::nullopt;
-  return Finding{
-      .id = "other-bot",
-      .severity = Severity::kHint,
-      .place = FilePlace{.file = files.description->name, .line = line},
-      .text = "The file describes " + Enumeration(shown) +
-              " as well. What is said here is about " +
-              Quoted(NameToAdd(files)) +
-              " alone: give the name of another bot to check that.",
-      .mends = {}};
+  return Finding{.id = "other-bot",
+                 .severity = Severity::kHint,
+                 .place = FilePlace{.file = files.description->name,
+                                    .line = line,
+                                    .kind = BotFile::kDescription},
+                 .text = "The file describes " + Enumeration(shown) +
+                         " as well. What is said here is about " +
+                         Quoted(NameToAdd(files)) +
+                         " alone: give the name of another bot to check that.",
+                 .mends = {}};
 }
 
 bool GameFileWins(const GameFiles& game,

@@ -7,23 +7,16 @@
 #include <string_view>
 #include <utility>
 
-#include "chat/chat_line.h"
-#include "chat/vocabulary.h"
 #include "checks/bot_checks.h"
 #include "checks/file_checks.h"
-#include "checks/installation_checks.h"
 #include "checks/layout_checks.h"
 #include "checks/names_of_game.h"
 #include "checks/unknown_values.h"
-#include "game/chat_message.h"
 #include "game/description_reader.h"
-#include "game/game_macros.h"
 #include "game/stand_ins.h"
-#include "game/weight_reader.h"
 #include "inplace/game_values.h"
-#include "inplace/game_weights.h"
 #include "install/packages/package.h"
-#include "model/characteristic_catalogue.h"
+#include "model/file_names.h"
 #include "session/load_bot.h"
 #include "session/save_bot.h"
 #include "support/code_page.h"
@@ -34,25 +27,9 @@
 namespace fragsmith {
 namespace {
 
-/// True where the file gives the game all that it asks for and a bot has.
-bool GivesMacros(const std::optional<GameFile>& file,
-                 const std::optional<GameMacros>& wanted) {
-  if (!wanted) return true;
-  if (!file) return false;
-  Complaints untold;
-  const std::vector<OwnMacro> given =
-      ReadGameWeights(*file, StandInGameFile, untold).macros;
-  return std::ranges::all_of(wanted->macros, [&](const auto& macro) {
-    return !macro.parameter ||
-           std::ranges::count(given, macro.name, &OwnMacro::name) > 0;
-  });
-}
-
 bool IsToldByFiles(std::string_view id) {
-  return std::any_of(BotChecks().begin(), BotChecks().end(),
-                     [id](const Check& check) {
-                       return check.id == id && check.is_told_by_files;
-                     });
+  const Check* const check = FindCheck(id);
+  return check != nullptr && check->is_told_by_files;
 }
 
 bool IsError(const Finding& finding) {
@@ -146,10 +123,11 @@ Bot LocationCheck::Read() const {
       ReadBotFile(row.file, WholeBot{}, file->bytes, location_.name, file->name,
                   loaded);
       loaded.files.insert_or_assign(
-          row.file, OriginFile{.path = location_.package,
-                               .entry = (is_description ? "" : "botfiles/") +
-                                        file->game_path,
-                               .fingerprint = FingerprintOf(file->bytes)});
+          row.file,
+          OriginFile{.path = location_.package,
+                     .entry = is_description ? file->game_path
+                                             : InBotFiles(file->game_path),
+                     .fingerprint = FingerprintOf(file->bytes)});
     };
     // The description stands first there, and is read last.
     std::for_each(std::next(kBotFileMembers.begin()), kBotFileMembers.end(),
@@ -214,10 +192,9 @@ std::vector<Finding> LocationCheck::InFiles() const {
 IncludeLookup LocationCheck::WithGamesOwn() const {
   return [this](std::string_view path) {
     std::optional<std::string> bytes;
-    if (!path.starts_with("bots/")) {
-      bytes = game_ == nullptr
-                  ? StandInGameFile(path)
-                  : game_->files.Read("botfiles/" + std::string(path));
+    if (!path.starts_with(kBotsPath)) {
+      bytes = game_ == nullptr ? StandInGameFile(path)
+                               : game_->files.Read(InBotFiles(path));
     }
     return bytes ? bytes : LookUp(path);
   };
@@ -225,7 +202,7 @@ IncludeLookup LocationCheck::WithGamesOwn() const {
 
 IncludeLookup LocationCheck::WithGivenFirst() const {
   return [this](std::string_view path) {
-    std::optional<GameFile> own = given_.Open("botfiles/" + std::string(path));
+    std::optional<GameFile> own = given_.Open(InBotFiles(path));
     return own ? std::move(own->bytes) : LookUp(path);
   };
 }
@@ -236,10 +213,11 @@ BotFileSet LocationCheck::AsSaved(const Bot& bot) const {
     const std::string name =
         GameTextFromPath(FileNameOf(row.file, bot)).value_or("");
     const bool is_description = row.file == BotFile::kDescription;
-    as_saved.*row.member =
-        GameFile{.name = name,
-                 .game_path = (is_description ? "scripts/" : "bots/") + name,
-                 .bytes = BytesOf(row.file, bot, {})};
+    as_saved.*row.member = GameFile{
+        .name = name,
+        .game_path =
+            std::string(is_description ? kScriptsPath : kBotsPath) + name,
+        .bytes = BytesOf(row.file, bot, {})};
   }
   return as_saved;
 }
@@ -267,7 +245,8 @@ BrokenFiles LocationCheck::BrokenOnes(const Bot& bot) const {
     if (!file) continue;
     const auto found = std::ranges::find_if(findings, [&](const Finding& one) {
       const auto* const place = std::get_if<FilePlace>(&one.place);
-      return IsError(one) && place != nullptr && place->file == file->name;
+      return IsError(one) && place != nullptr && place->kind == row.file &&
+             place->game_path.empty();
     });
     if (found == findings.end()) continue;
     BotFileSet with_one_anew = on_disk_.files;
@@ -290,9 +269,11 @@ std::vector<Finding> LocationCheck::Check(const BotFileSet& files) const {
   // its path in the game alone.
   for (Finding& finding : findings) {
     auto* const place = std::get_if<FilePlace>(&finding.place);
-    if (place == nullptr || !place->file.starts_with("botfiles/")) continue;
-    if (std::optional<GameFile> own = given_.Open(place->file)) {
+    if (place == nullptr || place->game_path.empty()) continue;
+    if (std::optional<GameFile> own =
+            given_.Open(InBotFiles(place->game_path))) {
       place->file = std::move(own->name);
+      place->game_path.clear();
     }
   }
   return findings;
@@ -335,75 +316,8 @@ PlacesInFiles LocationCheck::Places() const {
           [this](std::string_view path) { return LookUp(path); }};
 }
 
-std::vector<Finding> LocationCheck::InMemory(const Bot& bot,
-                                             bool is_as_in_files) const {
-  std::vector<Finding> findings =
-      CheckBot(bot, game_ == nullptr ? nullptr : &game_->data);
-  const bool gives_macros = GivesGameMacros();
-  std::erase_if(findings, [&](const Finding& finding) {
-    return (gives_macros && finding.id == "weights-of-other-macros") ||
-           IsNamedWithZero(finding, bot) || IsMacro(finding, bot);
-  });
-  DropUnreadWeights(bot, findings);
-  AddUnnumbered(bot, findings);
-  if (!is_as_in_files) return findings;
-  // A new package of the bot would have another name than where it lies.
-  std::erase_if(findings, [this](const Finding& finding) {
-    return finding.id == "files-shadowed" ||
-           (on_disk_.is_in_bot_list && finding.id == "name-taken");
-  });
-  const GamePackage* const shadowing =
-      game_ == nullptr
-          ? nullptr
-          : ShadowingPackage(game_->data, location_.name, Package());
-  if (shadowing != nullptr) {
-    findings.push_back({.id = "files-shadowed",
-                        .severity = Severity::kWarning,
-                        .place = kNameField,
-                        .text = ShadowedText(shadowing->name, Package()->name),
-                        .mends = {}});
-  }
-  return findings;
-}
-
-void LocationCheck::AddUnnumbered(const Bot& bot,
-                                  std::vector<Finding>& findings) const {
-  if (!unnumbered_) {
-    unnumbered_.emplace();
-    for (const BotFileMember& row : kBotFileMembers) {
-      const std::optional<GameFile>& file = on_disk_.files.*row.member;
-      if (!file || (row.file != BotFile::kWeaponWeights &&
-                    row.file != BotFile::kItemWeights)) {
-        continue;
-      }
-      const std::vector<ParameterId> found = WeightsWithoutNumber(
-          row.file, file->bytes,
-          [this](std::string_view path) { return LookUp(path); });
-      unnumbered_->insert(unnumbered_->end(), found.begin(), found.end());
-    }
-  }
-  for (const ParameterId id : *unnumbered_) {
-    if (IsAboveZero(bot.Parameter(id))) continue;
-    findings.push_back(
-        {.id = "weight-set-elsewhere",
-         .severity = Severity::kHint,
-         .place = id,
-         .text = "The 0 of " + QuotedName(id) +
-                 " is none of the bot's values: from its file the weight code "
-                 "of the game takes no number for it, or no single one.",
-         .mends = {}});
-  }
-}
-
-bool LocationCheck::GivesGameMacros() const {
-  return game_ != nullptr &&
-         GivesMacros(on_disk_.files.weapon_weights,
-                     game_->data.weapon_macros) &&
-         GivesMacros(on_disk_.files.item_weights, game_->data.item_macros);
-}
-
 std::optional<std::string> LocationCheck::LookUp(std::string_view path) const {
-  const std::string in_game = "botfiles/" + std::string(path);
+  const std::string in_game = InBotFiles(path);
   std::optional<GameFile> own = given_.Open(in_game);
   const bool is_own = own && (game_ == nullptr ||
                               !GameFileWins(game_->files, Package(), in_game));
@@ -426,37 +340,6 @@ std::optional<GamePackage> LocationCheck::Package() const {
       GameTextFromPath(location_.package.filename());
   if (!name) return std::nullopt;
   return GamePackage{*std::move(name), with_players_folder_ != nullptr};
-}
-
-/// A word that the chat file defines itself is no word list.
-bool LocationCheck::IsMacro(const Finding& finding, const Bot& bot) const {
-  const std::optional<GameFile>& chat = on_disk_.files.chat;
-  if (finding.id != "chat-list-missing" || !chat) return false;
-  const auto& place = std::get<ChatPlace>(finding.place);
-  const ChatMessage message = ReadChatMessage(
-      ChatLineToFile(place.type, bot.ChatLine(place.type, place.line.value())));
-  return std::any_of(message.items.begin(), message.items.end(),
-                     [&chat](const ChatItem& item) {
-                       return item.kind == ChatItem::Kind::kWord &&
-                              Contains(chat->bytes,
-                                       "#define " + item.text + " ");
-                     });
-}
-
-/// A file may name the first line of a group with a 0 that it loses when the
-/// bot is saved: TAUNT0. The game has that line, if not the bare one.
-bool LocationCheck::IsNamedWithZero(const Finding& finding,
-                                    const Bot& bot) const {
-  const std::optional<GameFile>& chat = on_disk_.files.chat;
-  if (finding.id != "chat-list-missing" || game_ == nullptr || !chat) {
-    return false;
-  }
-  const auto& place = std::get<ChatPlace>(finding.place);
-  const ChatMessage message = ReadChatMessage(
-      ChatLineToFile(place.type, bot.ChatLine(place.type, place.line.value())));
-  const std::string name = message.items.front().text + "0";
-  return message.items.size() == 1 && game_->data.words.Find(name) != nullptr &&
-         Contains(chat->bytes, name);
 }
 
 }  // namespace fragsmith

@@ -46,7 +46,7 @@ FilePlace PlacesInFiles::Of(const Bot& bot, const BotPlace& place) {
       std::ranges::find(kBotFileMembers, kind, &BotFileMember::file);
   const std::optional<GameFile>& file = files_.*row->member;
   if (!file) return {.file = Utf8FromGameText(FileOfPlace(bot, place))};
-  FilePlace found = {.file = file->name};
+  FilePlace found = {.file = file->name, .kind = kind};
   const TextSpan span = SpanOf(bot, place, Read(kind, *file));
   if (!span.empty()) {
     found.line = static_cast<int>(LineNumberAt(file->bytes, span.begin));

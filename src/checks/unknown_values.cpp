@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "chat/vocabulary.h"
+#include "checks/bot_checks.h"
 #include "game/character_reader.h"
 #include "model/characteristic_catalogue.h"
 #include "model/game_characteristics.h"
@@ -111,7 +112,8 @@ void DropUnknownValues(const BotFileSet& files, const IncludeLookup& game,
   }
   std::erase_if(of_bot, [&](const Finding& finding) {
     if (IsToldAlready(finding, in_files)) return true;
-    if (!has_chats && finding.id.starts_with("chat-")) return true;
+    const Check* const check = FindCheck(finding.id);
+    if (!has_chats && check != nullptr && check->is_of_chats) return true;
     const bool is_of_missing = IsOfMissingValue(finding.id);
     if (!has_character && is_of_missing) return true;
     const auto* const parameter = std::get_if<ParameterId>(&finding.place);

@@ -13,9 +13,6 @@
 namespace fragsmith {
 namespace {
 
-/// The weights of picking up a weapon that the bot has already.
-constexpr IndexRange kOwnedRange = {64, 71};
-
 bool HasWeapon(const Bot& bot) {
   return std::any_of(
       kWeaponWeightRange.begin(), kWeaponWeightRange.end(),
@@ -129,7 +126,7 @@ void CheckWeaponNotFetched(const CheckContext& context, FindingList& findings) {
 
 void CheckUnusedWeights(const CheckContext& context, FindingList& findings) {
   if (context.game == nullptr || context.game->uses_owned_weights) return;
-  for (const int index : kOwnedRange) {
+  for (const int index : kOwnedPickupRange) {
     if (NumberInGame(context.bot, ParameterId(index)) <= 0) continue;
     findings.Add(
         ParameterId(index),

@@ -378,7 +378,7 @@ BotLocationOutcome FindBot(const BotSource& options, CommandContext& context) {
   if (options.is_for_game && IsInMisspeltFolder(options, context)) return {};
   if (IsFolder(source)) return FindInFolder(source, options, context);
   const std::string file = BytesFromPath(source.filename());
-  if (IsFile(source) && EndsWithIgnoringCase(file, ".pk3")) {
+  if (IsFile(source) && EndsWithIgnoringCase(file, kPackageEnd)) {
     return FindInPackage(source, options, context);
   }
   const std::optional<std::string> name = BotNameOfFile(source);

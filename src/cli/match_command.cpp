@@ -11,8 +11,8 @@
 #include "cli/engine_options.h"
 #include "cli/match_ladder.h"
 #include "cli/match_player.h"
-#include "cli/match_report.h"
 #include "cli/match_source.h"
+#include "cli/match_table.h"
 #include "cli/terminal.h"
 #include "support/files.h"
 #include "support/numbers.h"
@@ -43,7 +43,7 @@ struct MatchOptions {
 
   int Games() const {
     if (games > 0) return games;
-    return until_sure ? kMostUntilSure : kDefaultGames;
+    return until_sure ? kMaxUntilSure : kDefaultGames;
   }
   double SkillOf(std::size_t place) const {
     return skills[skills.size() == 1 ? 0 : place];
@@ -178,7 +178,9 @@ ExitStatus RunMerge(const MatchOptions& options, CommandContext& context) {
     constexpr std::size_t kMaxBytes = std::size_t{256} << 20U;
     const Result<std::string> bytes = ReadFile(PathFromBytes(file), kMaxBytes);
     if (!bytes) return Fail(context, bytes.error());
-    Result<std::vector<MatchReport>> read = ReadMatchJson(*bytes, file);
+    Notes notes;
+    Result<std::vector<MatchReport>> read = ReadMatchJson(*bytes, file, notes);
+    PrintNotes(context, notes);
     if (!read) return Fail(context, read.error());
     std::move(read->begin(), read->end(), std::back_inserter(reports));
   }
@@ -321,7 +323,7 @@ void AddMatchCommand(CLI::App& app, CommandContext& context) {
   command
       .add_option("--games", options->games,
                   "How many matches; 10 without it, or, with --until-sure, " +
-                      std::to_string(kMostUntilSure) +
+                      std::to_string(kMaxUntilSure) +
                       " at most. The bots come in by turns")
       ->check(CLI::Range(1, kMaxGames));
   command.add_flag("--until-sure", options->until_sure,

@@ -64,7 +64,7 @@ std::vector<std::string> MatchSourcesIn(const std::string& folder) {
   for (const fs::path& file : documents) {
     sources.push_back(BytesFromPath(path / file));
   }
-  std::vector<fs::path> places = ListFiles(path, ".pk3");
+  std::vector<fs::path> places = ListFiles(path, kPackageEnd);
   for (fs::path& place : places) place = path / place;
   places.push_back(path);
   for (const fs::path& place : places) {

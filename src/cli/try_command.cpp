@@ -155,7 +155,7 @@ ExitStatus RunTry(const TryOptions& options, CommandContext& context) {
     case TrialVerdict::kOthersFiles:
       return kWarned;
     case TrialVerdict::kUnknown:
-    case TrialVerdict::kDefaultCharacter:
+    case TrialVerdict::kWithDefault:
     case TrialVerdict::kOtherBot:
     case TrialVerdict::kNotAdded:
       break;

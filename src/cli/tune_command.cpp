@@ -43,9 +43,8 @@ void PrintEnds(std::ostream& out) {
       {"what is moved, at all levels", "weak", "strong"}};
   for (const StrengthEnds& ends : AllStrengthEnds()) {
     constexpr int kDigits = 2;
-    const std::string title = ParameterTitle({Level::k4, ends.index});
-    rows.push_back({title.substr(0, title.find(',')), Fixed(ends.weak, kDigits),
-                    Fixed(ends.strong, kDigits)});
+    rows.push_back({std::string(ParameterName({Level::k4, ends.index})),
+                    Fixed(ends.weak, kDigits), Fixed(ends.strong, kDigits)});
   }
   PrintRows(rows, out);
   out << '\n';

@@ -94,8 +94,9 @@ void frmMain::BuildMenu() {
     }
   }
   for (const BotKind kind : kBotKinds) {
-    menu_[QStringLiteral("mnuNew_") + QString::fromUtf8(TextOf(kind).key)] =
-        [this, kind] { commands_->CreateBotOfKind(kind, checker_->game()); };
+    menu_[NewKindItem(kind)] = [this, kind] {
+      commands_->CreateBotOfKind(kind, checker_->game());
+    };
   }
   FillMainMenu(*menuBar(), [this](const QString& name) {
     FinishStart();

@@ -9,7 +9,7 @@
 namespace fragsmith {
 namespace {
 
-enum class ItemKind { kMenu, kItem, kSeparator, kEndOfMenu };
+enum class ItemKind { kMenu, kItem, kSeparator, kKindsOfBots, kEndOfMenu };
 
 struct MenuItem {
   ItemKind kind;
@@ -58,14 +58,7 @@ constexpr std::array kItems = {
     Item("mnuNewRandom", "&Random", "",
          "Does nothing; \"Surprise me\" below draws a bot by lot"),
     MenuItem{ItemKind::kSeparator, "mnuSeparator6", "", "", ""},
-    Item("mnuNew_sniper", "&Sniper", "", "Keeps its distance, railgun first"),
-    Item("mnuNew_rusher", "R&usher", "",
-         "Close and fast: lightning, shotgun, rockets"),
-    Item("mnuNew_camper", "&Camper", "", "Waits where the good things are"),
-    Item("mnuNew_all-rounder", "A&ll-rounder", "",
-         "A bit of everything, the right weapon for each distance"),
-    Item("mnuNew_surprise", "Sur&prise me", "",
-         "Drawn by lot, always playable"),
+    MenuItem{ItemKind::kKindsOfBots, "", "", "", ""},
     kEnd,
     Item("mnuLoad", "&Load bot", "Ctrl+O"),
     Item("mnuMake", "&Make bot files", "Ctrl+Shift+S"),
@@ -117,6 +110,9 @@ constexpr std::array kItems = {
     kEnd,
 };
 
+/// Of the captions of kBotKinds, the letters that choose them.
+constexpr std::array<int, kBotKinds.size()> kKindLetters = {0, 1, 0, 1, 3};
+
 /// Menu items that do not begin with what stands in the boxes: the end asks
 /// about it, undo takes it back, and what needs the whole bot in order checks
 /// all boxes and says so.
@@ -124,6 +120,10 @@ constexpr std::array kItemsBeforeTyping = {
     "mnuExit", "mnuUndo", "mnuMake", "mnuSaveAgain", "mnuTry", "mnuInstall"};
 
 }  // namespace
+
+QString NewKindItem(BotKind kind) {
+  return QStringLiteral("mnuNew_") + QString::fromUtf8(TextOf(kind).key);
+}
 
 bool TakesTypingItself(const QString& item) {
   return std::any_of(
@@ -134,6 +134,16 @@ bool TakesTypingItself(const QString& item) {
 void FillMainMenu(QMenuBar& bar,
                   const std::function<void(const QString& name)>& handler) {
   std::vector<QMenu*> open;
+  const auto add = [&](const QString& name, const QString& text,
+                       const QString& tool_tip) {
+    QAction* const action = open.back()->addAction(text);
+    action->setObjectName(name);
+    // Without one of its own an item would show its text again.
+    action->setToolTip(tool_tip);
+    QObject::connect(action, &QAction::triggered, &bar,
+                     [handler, name] { handler(name); });
+    return action;
+  };
   for (const MenuItem& item : kItems) {
     const QString name = QLatin1String(item.name);
     const QString text = QLatin1String(item.text);
@@ -149,16 +159,19 @@ void FillMainMenu(QMenuBar& bar,
       case ItemKind::kSeparator:
         open.back()->addSeparator()->setObjectName(name);
         break;
-      case ItemKind::kItem: {
-        QAction* const action = open.back()->addAction(text);
-        action->setObjectName(name);
-        // Without one of its own an item would show its text again.
-        action->setToolTip(QLatin1String(item.tool_tip));
-        action->setShortcut(QKeySequence(QLatin1String(item.shortcut)));
-        QObject::connect(action, &QAction::triggered, &bar,
-                         [handler, name] { handler(name); });
+      case ItemKind::kItem:
+        add(name, text, QLatin1String(item.tool_tip))
+            ->setShortcut(QKeySequence(QLatin1String(item.shortcut)));
         break;
-      }
+      case ItemKind::kKindsOfBots:
+        for (std::size_t at = 0; at < kBotKinds.size(); ++at) {
+          const BotKindText& kind = TextOf(kBotKinds.at(at));
+          QString caption = QString::fromUtf8(kind.caption);
+          caption.insert(kKindLetters.at(at), u'&');
+          add(NewKindItem(kBotKinds.at(at)), caption,
+              QString::fromUtf8(kind.about));
+        }
+        break;
       case ItemKind::kEndOfMenu:
         open.pop_back();
     }

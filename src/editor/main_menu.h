@@ -6,7 +6,12 @@
 #include <QString>
 #include <functional>
 
+#include "game/bot_kinds.h"
+
 namespace fragsmith {
+
+/// The item that makes a new bot of the kind.
+QString NewKindItem(BotKind kind);
 
 /// True for the items that do not begin with what stands in the boxes.
 bool TakesTypingItself(const QString& item);

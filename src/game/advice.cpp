@@ -141,8 +141,8 @@ std::string_view NearestWord(std::string_view wrong,
                              std::span<const std::string_view> words) {
   // Of a short word two letters are half of it.
   const std::size_t most = wrong.size() < 5 ? 1 : 2;
-  constexpr std::size_t kLongest = 100;
-  if (wrong.size() > kLongest) return {};
+  constexpr std::size_t kMaxLength = 100;
+  if (wrong.size() > kMaxLength) return {};
   std::string_view nearest;
   std::size_t fewest = most + 1;
   for (const std::string_view word : words) {

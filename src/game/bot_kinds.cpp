@@ -8,6 +8,7 @@
 #include "chat/chat_commands.h"
 #include "game/chat_type_facts.h"
 #include "game/ready_lines.h"
+#include "game/skill_mix.h"
 #include "game/weapon_order.h"
 #include "model/characteristic_catalogue.h"
 #include "support/random.h"
@@ -96,8 +97,7 @@ constexpr std::array<KindRow, 4> kKinds = {{
 constexpr BotKindText kSurpriseText = {"surprise", "Surprise me",
                                        "Drawn by lot, always playable."};
 
-constexpr IndexRange kOwnedWeapons = {64, 71};
-constexpr int kFirstItem = 72;
+constexpr int kFirstItem = kOwnedPickupRange.last + 1;
 constexpr int kMachinegunPickup = 57;
 
 double Hundredths(double value) { return std::round(value * 100) / 100; }
@@ -127,7 +127,7 @@ void FetchWhatItUses(Bot& bot) {
     bot.Put(*pickup, weight);
     constexpr double kShareOfOwned = 0.2;
     const int owned =
-        pickup->index() + kOwnedWeapons.last - kOwnedWeapons.first + 1;
+        pickup->index() - kPickupRange.first + kOwnedPickupRange.first;
     PutItem(owned, std::round(weight * kShareOfOwned), bot);
   }
 }
@@ -144,10 +144,9 @@ void PutChances(double insults, Bot& bot) {
 
 /// As an average bot has it.
 void PutWhatIsNotRead(Bot& bot) {
-  constexpr IndexRange kUnread = {11, 14};
   constexpr double kMiddle = 0.5;
   constexpr double kTypingSpeed = 200;
-  for (const int index : kUnread) {
+  for (const int index : kUnreadRange) {
     for (const Level level : kLevels) bot.Put({level, index}, kMiddle);
   }
   bot.Put(kChatCpm, kTypingSpeed);
@@ -215,10 +214,10 @@ Bot MakeSurprise(const RandomSource& random) {
   for (const ParameterId id : {kHealthWeight, kArmorWeight}) {
     bot.Put(id, Hundredths(stretch(Between(id, one, other, share))));
   }
-  constexpr double kLeastInsults = 0.1;
-  constexpr double kMostInsults = 0.9;
+  constexpr double kMinInsults = 0.1;
+  constexpr double kMaxInsults = 0.9;
   bot.Put(kInsultShare,
-          Hundredths(std::lerp(kLeastInsults, kMostInsults, random())));
+          Hundredths(std::lerp(kMinInsults, kMaxInsults, random())));
   return bot;
 }
 

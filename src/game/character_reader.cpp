@@ -7,12 +7,12 @@
 #include "chat/vocabulary.h"
 #include "game/advice.h"
 #include "game/limits.h"
+#include "game/stand_ins.h"
+#include "model/file_names.h"
 #include "model/game_characteristics.h"
 
 namespace fragsmith {
 namespace {
-
-constexpr std::string_view kDefaultPath = "bots/default_c.c";
 
 /// Tells what ends a block. Where a key further up has no value, the game took
 /// the next key for it, and all that follows is a consequence.
@@ -146,10 +146,10 @@ bool ReadValues(GameSource& source, CharacterBlock& block) {
 /// is wrong with it is not told.
 std::optional<CharacterBlock> ReadDefault(std::optional<int> level,
                                           const IncludeLookup& game) {
-  std::optional<std::string> bytes = game(kDefaultPath);
+  std::optional<std::string> bytes = game(kDefaultCharacter);
   if (!bytes) return std::nullopt;
-  const GameFile file = {"botfiles/" + std::string(kDefaultPath),
-                         std::string(kDefaultPath), std::move(*bytes)};
+  const GameFile file = {InBotFiles(kDefaultCharacter),
+                         std::string(kDefaultCharacter), std::move(*bytes)};
   Complaints untold;
   std::optional<CharacterBlock> block =
       ReadCharacterBlock(file, level, game, untold);

@@ -21,7 +21,6 @@ constexpr ParameterId kDeath{37};
 constexpr ParameterId kHitTalking{39};
 constexpr ParameterId kHitNoDeath{40};
 constexpr ParameterId kHitNoKill{41};
-constexpr ParameterId kRandom{42};
 
 constexpr Fills kEntry = {kOwnName, kOpponent, kInvalid, kInvalid, kMap};
 constexpr Fills kOwnNameOnly = {kOwnName};
@@ -112,11 +111,11 @@ constexpr std::array<ChatTypeFacts, kChatTypeCount> kFacts = {{
     {"",
      "Now and then while the bot roams and no enemy is in sight; \"Misc\" is "
      "the share of \"Random misc\" against this type.",
-     kRandom, kRandomFactor, true, kRoaming},
+     kRandomChatRate, kRandomFactor, true, kRoaming},
     {"",
      "Now and then while the bot roams and no enemy is in sight; \"Misc\" is "
      "the share of this type against \"Random insult\".",
-     kRandom, kRandomFactor, true, kRoaming},
+     kRandomChatRate, kRandomFactor, true, kRoaming},
 }};
 
 }  // namespace

@@ -28,6 +28,8 @@ struct Complaint {
   /// The key of a description whose value the game does not read as it is
   /// meant, in lower case; empty for all else.
   std::string key = {};
+  /// The path below botfiles of a file that is asked for and not there.
+  std::string missing = {};
 
   bool operator==(const Complaint&) const = default;
 };

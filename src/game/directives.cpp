@@ -160,14 +160,15 @@ bool GameSource::Include() {
   if (!bytes && ComplainOfJoinedName(token)) return false;
   if (!bytes && !findings_.is_game_known()) {
     Report("not-looked-at", Severity::kHint, token,
-           "The file \"botfiles/" + ShownText(path) +
+           "The file \"" + InBotFiles(ShownText(path)) +
                "\" is the game's. It was not looked at, as no game folder is "
-               "set.");
+               "set.",
+           path);
     is_uncertain_ = true;
     return true;
   }
   if (!bytes) {
-    const std::string beside = "bots/" + path;
+    const std::string beside = InBots(path);
     const std::string above = path.substr(path.rfind('/') + 1);
     const std::string_view of_game = MeantFile(path, file_);
     std::string advice = "Correct the name, or remove the line.";
@@ -200,7 +201,7 @@ bool GameSource::Include() {
   include_lines_.push_back(
       token.file == 0 ? token.line
                       : include_lines_[static_cast<std::size_t>(token.file)]);
-  file_names_.push_back("botfiles/" + ShownText(path));
+  file_names_.push_back(InBotFiles(ShownText(path)));
   return true;
 }
 

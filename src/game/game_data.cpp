@@ -33,7 +33,7 @@ void TakePath(std::string_view path, const GamePackage& package,
   if (const auto name = Between(path, "botfiles/bots/", kCharacterEnd)) {
     data.bot_packages.emplace(*name, package);
   }
-  const auto script = Between(path, "scripts/", "");
+  const auto script = Between(path, kScriptsPath, "");
   if (script && script->ends_with(kDescriptionEnd) && !Contains(*script, "/")) {
     data.description_files.emplace(*script);
   }
@@ -60,7 +60,7 @@ void TakeKnownBots(const GameFiles& files, GameData& data) {
   take(kBotListPath, {});
   std::vector<std::pair<GamePackage, std::string>> by_package;
   for (const auto& [path, package] : files.entries()) {
-    const auto script = Between(path, "scripts/", kDescriptionEnd);
+    const auto script = Between(path, kScriptsPath, kDescriptionEnd);
     if (script && !Contains(*script, "/"))
       by_package.emplace_back(package, path);
   }
@@ -74,7 +74,7 @@ void TakeKnownBots(const GameFiles& files, GameData& data) {
 /// The game's scripts include the files that use the macros of a bot.
 bool MentionsOwnedWeights(const GameFiles& files) {
   for (const std::string_view name : {"fw_items.c", "fuzi.c"}) {
-    const auto bytes = files.Read("botfiles/" + std::string(name));
+    const auto bytes = files.Read(InBotFiles(name));
     if (bytes && Contains(*bytes, "GWW_")) return true;
   }
   return false;
@@ -129,7 +129,7 @@ GameData ReadGameData(const GameFiles& files) {
   data.has_weapon_script = files.Read("botfiles/fw_weap.c").has_value();
   data.has_item_script = files.Read("botfiles/fw_items.c").has_value();
   const IncludeLookup look_up = [&files](std::string_view path) {
-    return files.Read("botfiles/" + std::string(path));
+    return files.Read(InBotFiles(path));
   };
   data.weapon_macros = OtherMacros(kWeaponWeightRange, look_up);
   data.item_macros = OtherMacros(kItemWeightRange, look_up);

@@ -5,6 +5,7 @@
 
 #include "install/packages/package.h"
 #include "install/program/game_folder.h"
+#include "model/file_names.h"
 #include "support/files.h"
 #include "support/text.h"
 
@@ -23,8 +24,8 @@ std::string Folded(std::string_view path) {
 }
 
 bool ConcernsBots(std::string_view path) {
-  constexpr std::array<std::string_view, 3> kFolders = {"botfiles/", "scripts/",
-                                                        "models/players/"};
+  constexpr std::array<std::string_view, 3> kFolders = {
+      kBotFilesPath, kScriptsPath, "models/players/"};
   return !path.ends_with('/') && std::any_of(kFolders.begin(), kFolders.end(),
                                              [path](std::string_view folder) {
                                                return path.starts_with(folder);
@@ -69,7 +70,7 @@ void GameFiles::AddPlayersFolder(fs::path folder, const fs::path& left_out) {
 
 void GameFiles::AddPackages(const fs::path& folder, bool is_of_player,
                             const fs::path& left_out) {
-  for (const fs::path& package : ListFiles(folder, ".pk3")) {
+  for (const fs::path& package : ListFiles(folder, kPackageEnd)) {
     const std::optional<std::string> name = GameTextFromPath(package);
     if (!name || package == left_out) continue;
     Notes notes;

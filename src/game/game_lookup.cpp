@@ -7,6 +7,7 @@
 #include "game/game_files.h"
 #include "game/stand_ins.h"
 #include "install/program/game_folder.h"
+#include "model/file_names.h"
 #include "support/files.h"
 
 namespace fragsmith {
@@ -37,7 +38,7 @@ IncludeLookup GameLookUp(const fs::path& game_folder,
       }
     }
     if (!(*files)->is_game()) return StandInGameFile(path);
-    return (*files)->Read("botfiles/" + std::string(path));
+    return (*files)->Read(InBotFiles(path));
   };
 }
 

@@ -9,6 +9,7 @@
 
 #include "game/game_path.h"
 #include "install/packages/package.h"
+#include "model/file_names.h"
 #include "support/code_page.h"
 #include "support/files.h"
 #include "support/text.h"
@@ -16,10 +17,6 @@
 namespace fragsmith {
 namespace fs = std::filesystem;
 namespace {
-
-constexpr std::string_view kBots = "botfiles/bots";
-constexpr std::string_view kBotFiles = "botfiles/";
-constexpr std::string_view kScripts = "scripts";
 
 /// A game with everything that was ever made for it has some thousands.
 constexpr std::size_t kMaxFiles = 20'000;
@@ -36,7 +33,8 @@ std::string WithSlashes(std::string_view path) {
 
 /// What lies among a bot's files, but belongs to the folder scripts.
 bool IsScript(const std::string& name) {
-  constexpr std::array<std::string_view, 3> kEnds = {".bot", ".arena", ".txt"};
+  constexpr std::array<std::string_view, 3> kEnds = {kDescriptionEnd, ".arena",
+                                                     ".txt"};
   return std::any_of(kEnds.begin(), kEnds.end(), [&](std::string_view end) {
     return EndsWithIgnoringCase(name, end);
   });
@@ -49,7 +47,7 @@ bool GivenFiles::IsInGame(const fs::path& folder) {
   const fs::path bots = whole.has_filename() ? whole : whole.parent_path();
   return bots.filename() == "bots" &&
          bots.parent_path().filename() == "botfiles" &&
-         IsFolder(bots.parent_path().parent_path() / kScripts);
+         IsFolder(bots.parent_path().parent_path() / kScriptsFolder);
 }
 
 GivenFiles GivenFiles::OfFolder(const fs::path& folder, bool uses_layout) {
@@ -57,11 +55,11 @@ GivenFiles GivenFiles::OfFolder(const fs::path& folder, bool uses_layout) {
   const fs::path whole = WholePath(folder);
   const fs::path bots = whole.has_filename() ? whole : whole.parent_path();
   if (uses_layout) {
-    given.AddFolder(bots.parent_path(), std::string(kBotFiles), false);
-    given.AddFolder(bots.parent_path().parent_path() / kScripts,
-                    std::string(kScripts) + "/", false);
+    given.AddFolder(bots.parent_path(), std::string(kBotFilesPath), false);
+    given.AddFolder(bots.parent_path().parent_path() / kScriptsFolder,
+                    std::string(kScriptsFolder) + "/", false);
   } else {
-    given.AddFolder(bots, std::string(kBots) + "/", true);
+    given.AddFolder(bots, std::string(kBotFilesFolder) + "/", true);
   }
   return given;
 }
@@ -81,7 +79,7 @@ void GivenFiles::AddFolder(const fs::path& folder, const std::string& game_path,
     if (!name) continue;
     if (IsFile(path)) {
       const std::string full_path =
-          (is_flat && IsScript(*name) ? std::string(kScripts) + "/"
+          (is_flat && IsScript(*name) ? std::string(kScriptsFolder) + "/"
                                       : game_path) +
           *name;
       files_.emplace(ToLower(full_path), Source{full_path, path, 0});
@@ -124,7 +122,7 @@ std::optional<GameFile> GivenFiles::Read(const Source& source) const {
   // In packages case does not count: spelt as a bot's files spell it.
   std::string path =
       WithSlashes(is_packed() ? ToLower(source.path) : source.path);
-  if (path.starts_with(kBotFiles)) path.erase(0, kBotFiles.size());
+  if (path.starts_with(kBotFilesPath)) path.erase(0, kBotFilesPath.size());
   const std::string shown = is_packed()
                                 ? package_name() + "/" + ShownText(source.path)
                                 : Utf8FromPath(source.on_disk);
@@ -174,8 +172,8 @@ std::vector<EntryFault> GivenFiles::Faults() const {
   return FindEntryFaults(package_, kMaxBytes,
                          [](std::string_view name) {
                            const std::string path = ToLower(WithSlashes(name));
-                           return path.starts_with(kBotFiles) ||
-                                  path.starts_with(kScripts);
+                           return path.starts_with(kBotFilesPath) ||
+                                  path.starts_with(kScriptsFolder);
                          })
       .value_or(std::vector<EntryFault>());
 }

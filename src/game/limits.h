@@ -3,6 +3,8 @@
 
 #include <cstddef>
 
+#include "model/file_names.h"
+
 namespace fragsmith::limits {
 
 // What the game has room for. Bounds of our own, against files that would keep
@@ -13,7 +15,8 @@ inline constexpr std::size_t kMaxPath = 54;
 
 /// Bytes of the names in a description: beyond these the bot is refused, cut
 /// in a menu, or its fun name cut for the players.
-inline constexpr std::size_t kMaxName = kMaxPath - (sizeof("bots/_c.c") - 1);
+inline constexpr std::size_t kMaxName =
+    kMaxPath - (kBotsPath.size() + kCharacterEnd.size());
 inline constexpr std::size_t kMaxNameInBotMenu = 31;
 inline constexpr std::size_t kMaxNameInSkirmish = 15;
 inline constexpr std::size_t kMaxPlayerName = 35;

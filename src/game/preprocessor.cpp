@@ -344,7 +344,8 @@ GameToken GameSource::Here() const {
 }
 
 void GameSource::Report(std::string_view id, Severity severity,
-                        const GameToken& token, std::string text) {
+                        const GameToken& token, std::string text,
+                        std::string missing) {
   if (severity == Severity::kError) has_complained_ = true;
   int line = token.line;
   if (token.file != 0) {
@@ -366,7 +367,11 @@ void GameSource::Report(std::string_view id, Severity severity,
     text = "It is not known what the game makes of " + Quoted(token.text) +
            ": a file that is included above was not looked at.";
   }
-  findings_.Add(id, severity, file_.name, line, std::move(text));
+  findings_.Add({.id = id,
+                 .severity = severity,
+                 .place = {.file = file_.name, .line = line},
+                 .text = std::move(text),
+                 .missing = std::move(missing)});
 }
 
 void GameSource::ReportLexer(GameLexer::Outcome outcome,

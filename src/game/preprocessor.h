@@ -167,8 +167,9 @@ class GameSource {
                  const GameToken& where);
 
   GameToken Here() const;
+  /// Given the path of a file that is missing, where it is about one.
   void Report(std::string_view id, Severity severity, const GameToken& token,
-              std::string text);
+              std::string text, std::string missing = {});
   void ReportLexer(GameLexer::Outcome outcome, const GameToken& token);
   void ReportOddity(const GameToken& token);
 

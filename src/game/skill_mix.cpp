@@ -12,7 +12,6 @@ namespace {
 
 constexpr double kHighestMixed = 4;  ///< Below it levels 1 and 4 are mixed.
 constexpr double kHighestSkill = 5;
-constexpr double kSlowestTurn = 240;  ///< Degrees per second.
 
 constexpr std::string_view kSnaps =
     "with bot_challenge on, the view snaps to the enemy";
@@ -140,11 +139,9 @@ double UsedRange::Clamp(double value) const {
 }
 
 UsedRange UsedRangeOf(ParameterId id) {
-  constexpr int kViewFactor = 5;
   if (!id.level()) return {};
-  if (id.index() == kViewFactor) return {0.01, 1};
-  // The game has 1 to 1800, and then turns no bot slower than this.
-  if (id.index() == kViewMaxChangeIndex) return {kSlowestTurn, 1800};
+  if (id.index() == kViewFactorIndex) return {kLowestViewFactor, 1};
+  if (id.index() == kViewMaxChangeIndex) return {kSlowestTurn, kFastestTurn};
   return {};
 }
 
@@ -180,8 +177,7 @@ std::span<const Threshold> ThresholdsOf(ParameterId id) {
 }
 
 bool IsReadByGame(ParameterId id) {
-  constexpr IndexRange kUnread = {11, 14};
-  return id.level() ? !kUnread.Contains(id.index()) : id != kChatCpm;
+  return id.level() ? !kUnreadRange.Contains(id.index()) : id != kChatCpm;
 }
 
 }  // namespace fragsmith

@@ -9,6 +9,7 @@
 
 #include "game/complaints.h"
 #include "model/bot.h"
+#include "model/characteristic_catalogue.h"
 
 namespace fragsmith {
 
@@ -49,6 +50,15 @@ struct UsedRange {
 
   double Clamp(double value) const;
 };
+
+/// Degrees per second. The game has 1 to the fastest, and then turns no bot
+/// slower than the slowest.
+inline constexpr double kSlowestTurn = 240;
+inline constexpr double kFastestTurn = 1800;
+inline constexpr double kLowestViewFactor = 0.01;
+
+/// Those of each level that no known game reads.
+inline constexpr IndexRange kUnreadRange = {11, 14};
 
 /// A value at which the bot begins to act otherwise.
 struct Threshold {

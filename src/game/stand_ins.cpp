@@ -1,6 +1,7 @@
 #include "game/stand_ins.h"
 
 #include "model/characteristic_catalogue.h"
+#include "model/file_names.h"
 #include "model/game_characteristics.h"
 #include "support/text.h"
 
@@ -114,7 +115,7 @@ std::optional<std::string> StandInGameFile(std::string_view path) {
     return Weights(kItemWeightRange, "$evalfloat(", ")");
   }
   if (name == "teamplay.h") return "";
-  if (name == "bots/default_c.c") return Character();
+  if (name == kDefaultCharacter) return Character();
   if (name == "bots/default_w.c" || name == "bots/default_i.c") {
     return "weight \"Gauntlet\" { return 1; }\n";
   }

@@ -46,9 +46,8 @@ std::optional<double> WeaponReach(ParameterId weapon) {
 std::optional<ParameterId> PickupOf(ParameterId usage) {
   // Both rows of weapons are in the same order but for gauntlet and grapple.
   constexpr IndexRange kOnMaps = {kShotgunUsage.index(), kPlasmaUsage.index()};
-  constexpr ParameterId kShotgunPickup{56};
   if (!kOnMaps.Contains(usage)) return std::nullopt;
-  return ParameterId(usage.index() - kOnMaps.first + kShotgunPickup.index());
+  return ParameterId(usage.index() - kOnMaps.first + kPickupRange.first);
 }
 
 }  // namespace fragsmith

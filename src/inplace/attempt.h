@@ -15,15 +15,19 @@
 
 namespace fragsmith {
 
+/// Facts as they must be; nothing for one that must be gone.
+using ExpectedFacts = std::map<FactKey, std::optional<std::string>>;
+
 /// A way to bring one change into a file, and what must then be read.
 struct Attempt {
   std::vector<Splice> splices;
-  /// The facts that the change is about; nothing for one that must be gone.
-  std::map<std::string, std::optional<std::string>> expected;
-  /// Facts that may change with it: by how their names begin.
-  std::vector<std::string> free;
+  /// The facts that the change is about.
+  ExpectedFacts expected;
+  /// Facts that may change with it, and kinds of which all may.
+  std::vector<FactKey> free;
+  std::vector<FactKind> free_kinds;
   /// Facts of which one at least changes where the game has the new value.
-  std::vector<std::string> moving;
+  std::vector<FactKey> moving;
   /// The new numbers of weights, by where the old ones begin.
   std::map<std::size_t, double> numbers;
 };

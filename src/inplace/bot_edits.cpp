@@ -182,9 +182,8 @@ std::optional<fs::path> FileBeside(const fs::path& file,
                                    std::string_view path) {
   std::string rest = PathLookedFor(path, FileHome::kLoose);
   fs::path folder = file.parent_path();
-  constexpr std::string_view kBots = "bots/";
-  if (ToLower(rest).starts_with(kBots)) {
-    rest.erase(0, kBots.size());
+  if (ToLower(rest).starts_with(kBotsPath)) {
+    rest.erase(0, kBotsPath.size());
   } else if (const std::optional<fs::path> root = LayoutRootOf(folder)) {
     folder = *root / "botfiles";
   } else {
@@ -419,8 +418,8 @@ IncludeLookup LookUpBeside(const OriginFile& file, IncludeLookup game) {
   return [file, game = std::move(game)](
              std::string_view path) -> std::optional<std::string> {
     if (!file.is_on_disk()) {
-      Result<std::string> bytes = ReadPackageEntry(
-          file.path, "botfiles/" + std::string(path), kMaxBotFileBytes);
+      Result<std::string> bytes =
+          ReadPackageEntry(file.path, InBotFiles(path), kMaxBotFileBytes);
       if (bytes) return *std::move(bytes);
     } else if (const auto beside = FileBeside(file.path, path)) {
       Result<std::string> bytes = ReadFile(*beside, kMaxBotFileBytes);

@@ -96,7 +96,7 @@ std::string BotsThatGo(const SavePlan& plan, const Bot& bot) {
       content != plan.contents.end()) {
     kept = ReadDescriptionBlocks(content->second).blocks;
   }
-  const std::string character = "bots/" + bot.Text(kCharacteristicFileField);
+  const std::string character = InBots(bot.Text(kCharacteristicFileField));
   NameList names;
   for (const DescriptionBlock& block : ReadDescriptionBlocks(*old).blocks) {
     const std::string name = block.Text("name");

@@ -70,8 +70,10 @@ bool HasSameLines(ChatTypeId type, const Bot& before, const Bot& after) {
 /// where it has all.
 std::optional<std::string> NewlyUnmixed(const FileReading& before,
                                         const FileReading& after) {
-  for (const auto& [name, fact] : after.facts) {
-    if (name.starts_with(kUnmixed) && !before.facts.contains(name)) return fact;
+  for (const auto& [key, fact] : after.facts) {
+    if (key.kind == FactKind::kUnmixed && !before.facts.contains(key)) {
+      return fact;
+    }
   }
   return std::nullopt;
 }
@@ -81,8 +83,8 @@ bool IsUnread(const Attempt& attempt, const FileReading& before,
               const FileReading& after) {
   return !attempt.moving.empty() &&
          std::none_of(attempt.moving.begin(), attempt.moving.end(),
-                      [&](const std::string& name) {
-                        return before.facts.at(name) != after.facts.at(name);
+                      [&](const FactKey& key) {
+                        return before.facts.at(key) != after.facts.at(key);
                       });
 }
 
@@ -92,19 +94,19 @@ std::optional<std::string> FaultOf(const Attempt& attempt,
                                    const FileReading& before,
                                    const FileReading& after) {
   Facts wanted = before.facts;
-  for (const auto& [name, fact] : attempt.expected) {
+  for (const auto& [key, fact] : attempt.expected) {
     if (fact) {
-      wanted[name] = *fact;
+      wanted[key] = *fact;
     } else {
-      wanted.erase(name);
+      wanted.erase(key);
     }
   }
-  const auto is_free = [&attempt](const std::string& name) {
-    return name.starts_with(kUnmixed) ||
-           std::any_of(attempt.free.begin(), attempt.free.end(),
-                       [&name](const std::string& start) {
-                         return name.starts_with(start);
-                       });
+  const auto has = [](const auto& list, const auto& one) {
+    return std::find(list.begin(), list.end(), one) != list.end();
+  };
+  const auto is_free = [&](const FactKey& key) {
+    return key.kind == FactKind::kUnmixed || has(attempt.free, key) ||
+           has(attempt.free_kinds, key.kind);
   };
   const auto strip = [&is_free](Facts facts) {
     std::erase_if(facts, [&](const auto& fact) { return is_free(fact.first); });
@@ -112,9 +114,9 @@ std::optional<std::string> FaultOf(const Attempt& attempt,
   };
   const Facts left = strip(std::move(wanted));
   const Facts right = strip(after.facts);
-  const auto fault_at = [&](const std::string& name) -> std::string {
-    if (!attempt.expected.contains(name)) {
-      const std::string other = NameOfFact(name, before);
+  const auto fault_at = [&](const FactKey& key) -> std::string {
+    if (!attempt.expected.contains(key)) {
+      const std::string other = NameOfFact(key, before);
       if (!other.empty() && other == own_name) {
         return "The line does not give it in a plain way. Write it as key and "
                "number there first, without comments between them.";
@@ -122,17 +124,18 @@ std::optional<std::string> FaultOf(const Attempt& attempt,
       return "Another value would change with it" +
              (other.empty() ? "." : ": " + other + ".");
     }
-    const bool is_ours =
-        name.starts_with("rule ") || name.starts_with("plain ");
+    const bool is_ours = key.kind == FactKind::kRule ||
+                         key.kind == FactKind::kRuleChat ||
+                         key.kind == FactKind::kPlain;
     return is_ours ? std::string(kNotLoaded)
                    : "The game would not read it from there.";
   };
-  for (const auto& [name, fact] : left) {
-    const auto found = right.find(name);
-    if (found == right.end() || found->second != fact) return fault_at(name);
+  for (const auto& [key, fact] : left) {
+    const auto found = right.find(key);
+    if (found == right.end() || found->second != fact) return fault_at(key);
   }
-  for (const auto& [name, fact] : right) {
-    if (!left.contains(name)) return fault_at(name);
+  for (const auto& [key, fact] : right) {
+    if (!left.contains(key)) return fault_at(key);
   }
   if (IsUnread(attempt, before, after)) {
     return "The game takes the weight from another file or number, and would "

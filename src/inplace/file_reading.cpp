@@ -17,6 +17,7 @@
 #include "game/weight_reader.h"
 #include "inplace/our_facts.h"
 #include "model/characteristic_catalogue.h"
+#include "model/file_names.h"
 #include "support/code_page.h"
 #include "support/numbers.h"
 #include "support/text.h"
@@ -33,6 +34,11 @@ IncludeLookup Remembering(IncludeLookup game) {
     if (found != known->end()) return found->second;
     return known->emplace(path, game(path)).first->second;
   };
+}
+
+template <typename Number>
+FactKey Indexed(FactKind kind, Number number) {
+  return {.kind = kind, .group = 0, .name = std::to_string(number)};
 }
 
 /// Values that the game has at two levels, and between them not.
@@ -53,12 +59,6 @@ void AddUnmixedFacts(FileReading& reading) {
         continue;
       }
       const std::string shown = FactOf(other->second.number);
-      std::string name(kUnmixed);
-      for (const std::string& part :
-           {at_lower, at_upper, std::to_string(number)}) {
-        name += part;
-        name += ' ';
-      }
       std::string fact = "At skills between the levels ";
       fact += at_lower;
       fact += " and ";
@@ -74,7 +74,9 @@ void AddUnmixedFacts(FileReading& reading) {
       fact += ". Write ";
       fact += shown;
       fact += ".0 there first.";
-      reading.facts[name] = std::move(fact);
+      reading.facts[{.kind = FactKind::kUnmixed,
+                     .group = static_cast<std::size_t>(NumberOf(lower)),
+                     .name = std::to_string(number)}] = std::move(fact);
     }
   }
 }
@@ -94,11 +96,12 @@ void AddGameFacts(FileReading& reading) {
   }
   std::size_t at = 0;
   for (const GameWeight& weight : reading.weights.weights) {
-    facts["weight " + weight.name] +=
+    facts[{
+        .kind = FactKind::kWeightReturns, .group = 0, .name = weight.name}] +=
         std::to_string(weight.returns.size()) + ' ';
     for (const WeightReturn& way : weight.returns) {
       if (way.own) facts[OwnWeightFact(at)] = FactOf(way.own->number);
-      std::string& when = facts["when " + std::to_string(at)];
+      std::string& when = facts[Indexed(FactKind::kReturnCases, at)];
       for (const WeightReturn::Case& one : way.cases) {
         when += std::to_string(one.inventory) + ' ' +
                 (one.below ? FactOf(*one.below) : "else") + ' ';
@@ -111,7 +114,7 @@ void AddGameFacts(FileReading& reading) {
   for (const FoundWeight& found : reading.found) {
     facts[WeighedFact(found.parameter)] = FactOf(found);
   }
-  const std::vector<std::string> chat_facts = ChatTypeFacts(reading.chat);
+  const std::vector<FactKey> chat_facts = ChatTypeFacts(reading.chat);
   for (std::size_t index = 0; index < chat_facts.size(); ++index) {
     std::vector<std::string> words;
     for (const GameChatLine& line : reading.chat.types[index].lines) {
@@ -128,52 +131,59 @@ void AddGameFacts(FileReading& reading) {
 
 }  // namespace
 
-std::string RuleFact(ParameterId id) {
-  return "rule " + std::to_string(id.number());
+FactKey RuleFact(ParameterId id) {
+  return Indexed(FactKind::kRule, id.number());
 }
 
-std::string PlainFact(ParameterId id) {
-  return "plain " + std::to_string(id.number());
+FactKey PlainFact(ParameterId id) {
+  return Indexed(FactKind::kPlain, id.number());
 }
 
-std::string RuleFact(ChatTypeId type) {
-  return "rule chat " + std::to_string(IndexOf(type));
+FactKey RuleFact(ChatTypeId type) {
+  return Indexed(FactKind::kRuleChat, IndexOf(type));
 }
 
-std::string LevelFact(Level level, int game_number) {
-  return "level " + std::to_string(NumberOf(level)) + ' ' +
-         std::to_string(game_number);
+FactKey LevelFact(Level level, int game_number) {
+  return {.kind = FactKind::kInGame,
+          .group = static_cast<std::size_t>(NumberOf(level)),
+          .name = std::to_string(game_number)};
 }
 
-std::string MacroFact(std::string_view name) {
-  return "macro " + std::string(name) + '.';
+FactKey MacroFact(std::string_view name) {
+  return {.kind = FactKind::kMacro, .group = 0, .name = std::string(name)};
 }
 
-std::string OwnWeightFact(std::size_t index) {
-  return "return " + std::to_string(index) + '.';
+FactKey OwnWeightFact(std::size_t index) {
+  return Indexed(FactKind::kOwnWeight, index);
 }
 
-std::string GivenWeightFact(std::size_t index) {
-  return "gives " + std::to_string(index) + '.';
+FactKey GivenWeightFact(std::size_t index) {
+  return Indexed(FactKind::kGivenWeight, index);
 }
 
-std::string WeighedFact(ParameterId id) {
-  return "weighs " + std::to_string(id.number());
+FactKey WeighedFact(ParameterId id) {
+  return Indexed(FactKind::kWeighed, id.number());
 }
 
-std::vector<std::string> ChatTypeFacts(const GameChat& chat) {
+FactKey ChatTypeFact(std::string_view type, std::size_t among_same) {
+  return {.kind = FactKind::kGameChat,
+          .group = among_same,
+          .name = std::string(type)};
+}
+
+std::vector<FactKey> ChatTypeFacts(const GameChat& chat) {
   // The same type may stand there twice.
   std::map<std::string_view, std::size_t> counts;
-  std::vector<std::string> names;
+  std::vector<FactKey> keys;
   for (const GameChatType& type : chat.types) {
-    names.push_back("chat " + std::to_string(counts[type.name]++) + ' ' +
-                    type.name);
+    keys.push_back(ChatTypeFact(type.name, counts[type.name]++));
   }
-  return names;
+  return keys;
 }
 
-std::string DescriptionFact(std::size_t set, std::string_view key) {
-  return "set " + std::to_string(set) + ' ' + std::string(key);
+FactKey DescriptionFact(std::size_t set, std::string_view key) {
+  return {
+      .kind = FactKind::kDescription, .group = set, .name = std::string(key)};
 }
 
 std::string FactOf(const Value& value) {
@@ -244,7 +254,7 @@ std::optional<int> BothReaders::GameNumber(int index) const {
 
 GameFile BothReaders::AsGameFile(std::string_view bytes) const {
   const std::string name = file_.called + std::string(FileSuffix(file_.kind));
-  return {file_.shown, "bots/" + name, std::string(bytes)};
+  return {file_.shown, InBots(name), std::string(bytes)};
 }
 
 void BothReaders::ReadAsWeDo(std::string_view bytes,
@@ -347,7 +357,7 @@ ChatSpellings SpellingsIn(std::string_view bytes, const FileReading& reading) {
   return spellings;
 }
 
-std::string NameOfFact(const std::string& fact, const FileReading& reading) {
+std::string NameOfFact(const FactKey& fact, const FileReading& reading) {
   for (const FoundWeight& found : reading.found) {
     if (fact == WeighedFact(found.parameter))
       return QuotedName(found.parameter);

@@ -1,7 +1,8 @@
 #ifndef FRAGSMITH_INPLACE_FILE_READING_H_
 #define FRAGSMITH_INPLACE_FILE_READING_H_
 
-#include <array>
+#include <compare>
+#include <cstddef>
 #include <map>
 #include <optional>
 #include <string>
@@ -33,9 +34,35 @@ struct FileOfBot {
   std::vector<std::string> chat_names = {};
 };
 
-/// All that a reading says, each thing as text by a name of ours. Two readings
-/// that say the same have equal facts.
-using Facts = std::map<std::string, std::string>;
+/// What a fact is about; of several that changed the first is told.
+enum class FactKind {
+  kGameChat,       ///< What the game has of a chat type.
+  kGivenWeight,    ///< What the game makes of a return.
+  kInGame,         ///< A characteristic that the game has at a level.
+  kMacro,          ///< One of the file's own.
+  kName,           ///< Of a thing of the bot, as a file or its chat.
+  kPlain,          ///< What plainly stands in the file.
+  kOwnWeight,      ///< The number of a return, where it has one as its own.
+  kRule,           ///< A value by our reading rules.
+  kRuleChat,       ///< The lines of a chat type by them.
+  kDescription,    ///< A value of one of the sets of a description.
+  kUnmixed,        ///< What the game cannot mix; the fact says why.
+  kWeighed,        ///< What the game weighs.
+  kWeightReturns,  ///< How many returns a weight has.
+  kReturnCases,    ///< When the game comes to a return.
+};
+
+struct FactKey {
+  FactKind kind = FactKind::kRule;
+  /// The level, the set, or which of those of the same name; 0 elsewhere.
+  std::size_t group = 0;
+  std::string name;
+  auto operator<=>(const FactKey&) const = default;
+};
+
+/// All that a reading says, each thing as text. Two readings that say the same
+/// have equal facts.
+using Facts = std::map<FactKey, std::string>;
 
 /// What both readers, ours and the game's, see in a file.
 struct FileReading {
@@ -55,20 +82,20 @@ struct FileReading {
   std::string first_error;  ///< What the game says of it; empty without one.
 };
 
-/// The names of facts.
-std::string RuleFact(ParameterId id);   ///< A value by our reading rules.
-std::string PlainFact(ParameterId id);  ///< What plainly stands in the file.
-std::string RuleFact(ChatTypeId type);
-std::string LevelFact(Level level, int game_number);
-std::string MacroFact(std::string_view name);
-/// Begins the names of what the game cannot mix; the facts say why.
-inline constexpr std::string_view kUnmixed = "unmixed ";
-std::string OwnWeightFact(std::size_t index);    ///< Of the returns, from 0.
-std::string GivenWeightFact(std::size_t index);  ///< What the game makes of it.
-std::string WeighedFact(ParameterId id);         ///< What the game weighs.
+FactKey RuleFact(ParameterId id);
+FactKey PlainFact(ParameterId id);
+FactKey RuleFact(ChatTypeId type);
+FactKey LevelFact(Level level, int game_number);
+FactKey MacroFact(std::string_view name);
+/// Of the returns of all weights, from 0.
+FactKey OwnWeightFact(std::size_t index);
+FactKey GivenWeightFact(std::size_t index);
+FactKey WeighedFact(ParameterId id);
+/// Of the game's chat types, which may be there more than once.
+FactKey ChatTypeFact(std::string_view type, std::size_t among_same = 0);
 /// Of each of the chat's types, in their order.
-std::vector<std::string> ChatTypeFacts(const GameChat& chat);
-std::string DescriptionFact(std::size_t set, std::string_view key);
+std::vector<FactKey> ChatTypeFacts(const GameChat& chat);
+FactKey DescriptionFact(std::size_t set, std::string_view key);
 
 /// A value as it is in facts: numbers that are equal look the same.
 std::string FactOf(const Value& value);
@@ -114,7 +141,7 @@ ChatSpellings SpellingsIn(std::string_view bytes, const FileReading& reading);
 
 /// What the user calls the value of a fact, in quotes; empty for one that he
 /// has no name for.
-std::string NameOfFact(const std::string& fact, const FileReading& reading);
+std::string NameOfFact(const FactKey& fact, const FileReading& reading);
 
 /// The first of the chat names by which there is a chat in the file, else that
 /// of its first chat; empty without one.

@@ -18,6 +18,7 @@
 #include "inplace/file_reading.h"
 #include "inplace/save_in_place.h"
 #include "inplace/splice.h"
+#include "model/file_names.h"
 #include "support/code_page.h"
 #include "support/files.h"
 #include "support/text.h"
@@ -62,7 +63,7 @@ Renames RenamesIn(const Kept& kept, const FileReading& reading) {
       if (field == kChatNameField) {
         add_name(value->second.text);
       } else {
-        add(value->second.text, "bots/" + text);
+        add(value->second.text, InBots(text));
       }
     }
   }
@@ -91,18 +92,13 @@ std::string Renamed(std::string_view bytes, const Renames& renames,
   return Spliced(bytes, std::move(splices));
 }
 
-bool HasNewFacts(const std::string& fact) {
-  constexpr std::string_view kKeys[] = {"name ", "set "};
-  return std::any_of(
-      std::begin(kKeys), std::end(kKeys),
-      [&fact](std::string_view key) { return fact.starts_with(key); });
-}
-
 /// Facts that do not tell under which names the bot's files lie.
 Facts OtherFacts(const FileReading& reading) {
   Facts facts = reading.facts;
-  std::erase_if(facts,
-                [](const auto& fact) { return HasNewFacts(fact.first); });
+  std::erase_if(facts, [](const auto& fact) {
+    const FactKind kind = fact.first.kind;
+    return kind == FactKind::kName || kind == FactKind::kDescription;
+  });
   for (const auto& [level, block] : reading.levels) {
     for (const int number :
          {kGameWeaponWeights, kGameItemWeights, kGameChatFile, kGameChatName}) {
@@ -129,7 +125,7 @@ std::optional<std::string> DescriptionOf(const Kept& kept,
   const TextSpan span = character->second.span;
   const bool is_part = !kept.is_in_place && reading.descriptions.size() > 1;
   const TextSpan part = is_part ? own->span : TextSpan{0, kept.bytes.size()};
-  const std::string path = "bots/" + kept.bot.Text(kCharacteristicFileField);
+  const std::string path = InBots(kept.bot.Text(kCharacteristicFileField));
   const bool is_quoted = kept.bytes[span.begin] == '"';
   std::string text = kept.bytes.substr(part.begin, span.begin - part.begin) +
                      (is_quoted ? '"' + path + '"' : path) +

@@ -13,6 +13,7 @@
 #include "game/description_reader.h"
 #include "game/stand_ins.h"
 #include "inplace/bot_edits.h"
+#include "model/file_names.h"
 #include "support/code_page.h"
 #include "support/files.h"
 #include "support/text.h"
@@ -117,7 +118,7 @@ void NoteListedBots(const OriginFiles& files, const std::string& bot,
        ReadGameDescription({{}, {}, *bytes}, untold)) {
     const std::string_view name = set.Text("name");
     if (EqualIgnoringCase(set.Text("aifile"),
-                          "bots/" + NameAt(character->second)) &&
+                          InBots(NameAt(character->second))) &&
         !EqualIgnoringCase(name, bot)) {
       bots.Add(ShownText(name));
     }
@@ -150,7 +151,7 @@ std::vector<NamedFile> NamesInCharacter(const OriginFiles& files,
 std::string NamedInstead(const OriginFiles& files, BotFile kind) {
   const std::optional<ParameterId> field = FieldNaming(kind);
   if (!field) return {};
-  const std::string own = "bots/" + NameAt(files.at(kind));
+  const std::string own = InBots(NameAt(files.at(kind)));
   std::string other;
   for (const NamedFile& name : NamesInCharacter(files, *field)) {
     if (EqualIgnoringCase(name.text, own)) return {};
@@ -165,7 +166,7 @@ void NoteOthers(const OriginFiles& files, BotFile kind, const std::string& bot,
   const std::optional<ParameterId> field = FieldNaming(kind);
   const auto character = files.find(BotFile::kCharacteristics);
   if (!field || character == files.end()) return;
-  const std::string own = "bots/" + NameAt(files.at(kind));
+  const std::string own = InBots(NameAt(files.at(kind)));
   NoteOtherLevels(NamesInCharacter(files, *field), own, shown, notes);
   if (!character->second.is_on_disk()) return;
   NoteOtherBots(character->second.path, *field, own, shown, notes);

@@ -105,7 +105,8 @@ void AddOurFacts(BotFile kind, FileReading& reading) {
   }
   for (const ReadReport::Name& name : reading.report.names) {
     if (name.field == kNameField) continue;
-    facts["name " + name.key] += name.text + '\n';
+    facts[{.kind = FactKind::kName, .group = 0, .name = name.key}] +=
+        name.text + '\n';
   }
   if (kind != BotFile::kChat) return;
   for (const ChatTypeId type : kAllChatTypes) {

@@ -7,6 +7,7 @@
 #include <set>
 #include <utility>
 
+#include "botfiles/block_keys.h"
 #include "botfiles/value_format.h"
 #include "chat/vocabulary.h"
 #include "game/skill_mix.h"
@@ -19,25 +20,22 @@
 namespace fragsmith {
 namespace {
 
-/// The order in which our writer puts the keys of a block.
+/// The keys of a block in the order in which our writer puts them.
 constexpr auto kKeyOrder = [] {
-  std::array<int, 48> order{};
+  constexpr auto kCount = [] {
+    int count = 0;
+    for (const BlockKeys& part : kBlockKeys) {
+      count += part.keys.last - part.keys.first + 1;
+    }
+    return static_cast<std::size_t>(count);
+  }();
+  std::array<int, kCount> order{};
   std::size_t at = 0;
-  const auto add = [&](IndexRange range) {
-    for (const int index : range) order.at(at++) = index;
-  };
-  add({0, 2});
-  add({82, 82});
-  add({3, 7});
-  add({81, 81});
-  add({85, 85});
-  add(kChatRange);
-  add({8, 11});
-  add({83, 83});
-  add({12, 30});
+  for (const BlockKeys& part : kBlockKeys) {
+    for (const int index : part.keys) order.at(at++) = index;
+  }
   return order;
 }();
-static_assert(kKeyOrder.back() == kFireThrottleIndex);
 
 /// A characteristic and its value on their way into the blocks of a file.
 class CharacteristicPlan {

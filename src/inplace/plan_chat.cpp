@@ -308,7 +308,7 @@ class ChatPlan {
     }
     std::vector<std::string> words;
     for (const NewLine& line : fresh_) words.push_back(line.words);
-    expected_["chat 0 " + key_] = FactOfWords(words);
+    expected_[ChatTypeFact(key_)] = FactOfWords(words);
     for (const TextSpan span : {before, last}) {
       if (!span.empty()) AddNewBlock(span, {});
     }
@@ -335,6 +335,7 @@ class ChatPlan {
     Attempt attempt = {.splices = splices_,
                        .expected = expected_,
                        .free = {},
+                       .free_kinds = {},
                        .moving = {},
                        .numbers = {}};
     auto ours = ours_;
@@ -379,7 +380,7 @@ class ChatPlan {
   Lines notes_;
   std::vector<Splice> splices_;
   std::vector<std::pair<std::pair<std::size_t, bool>, std::string>> ours_;
-  std::map<std::string, std::optional<std::string>> expected_;
+  ExpectedFacts expected_;
   Plan plan_;
 };
 

@@ -87,23 +87,25 @@ void AddReplacement(const PlanContext& context, ParameterId id, TextSpan span,
   attempt.splices.push_back({span, std::move(token)});
 }
 
-/// What the game reads once there is a macro that was missing.
-std::vector<std::string> FreeWithNewMacro(const FileReading& reading,
-                                          ParameterId id) {
+/// What the game reads once there is a macro that was missing is free.
+void FreeWithNewMacro(const FileReading& reading, ParameterId id,
+                      Attempt& attempt) {
   // Weight code that stopped at the lack reads on now.
-  if (!reading.errors.empty())
-    return {"weight ", "return ", "weighs ", "gives ", "when "};
-  std::vector<std::string> free;
+  if (!reading.errors.empty()) {
+    attempt.free_kinds = {FactKind::kWeightReturns, FactKind::kOwnWeight,
+                          FactKind::kWeighed, FactKind::kGivenWeight,
+                          FactKind::kReturnCases};
+    return;
+  }
   std::size_t at = 0;
   for (const GameWeight& weight : reading.weights.weights) {
     const bool is_own = OwnerOf(weight, id) == WeightOwner::kParameter;
     for (std::size_t way = 0; way < weight.returns.size(); ++way, ++at) {
       if (!is_own) continue;
-      free.push_back(OwnWeightFact(at));
-      free.push_back(GivenWeightFact(at));
+      attempt.free.push_back(OwnWeightFact(at));
+      attempt.free.push_back(GivenWeightFact(at));
     }
   }
-  return free;
 }
 
 /// Where the game has the numbers of the weight from, as far as it is in this
@@ -120,9 +122,8 @@ std::vector<TextSpan> GameSpans(const FileReading& reading, ParameterId id) {
 }
 
 /// What tells that the game has another value for the weight.
-std::vector<std::string> GivenFactsOf(const FileReading& reading,
-                                      ParameterId id) {
-  std::vector<std::string> facts;
+std::vector<FactKey> GivenFactsOf(const FileReading& reading, ParameterId id) {
+  std::vector<FactKey> facts;
   std::size_t at = 0;
   for (const GameWeight& weight : reading.weights.weights) {
     const bool is_own = OwnerOf(weight, id) == WeightOwner::kParameter;
@@ -175,7 +176,7 @@ Plan PlanNewMacro(const PlanContext& context, ParameterId id,
     attempt.splices.push_back(std::move(splice));
     ExpectOurs(id, FactOf(value), attempt);
     attempt.expected[MacroFact(name)] = FormatValue(value);
-    attempt.free = FreeWithNewMacro(reading, id);
+    FreeWithNewMacro(reading, id, attempt);
     plan.attempts.push_back(std::move(attempt));
   }
   return plan;

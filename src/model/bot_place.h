@@ -7,6 +7,7 @@
 #include <variant>
 
 #include "model/chat_type_id.h"
+#include "model/file_names.h"
 #include "model/parameter_id.h"
 
 namespace fragsmith {
@@ -28,6 +29,10 @@ struct ChatPlace {
 struct FilePlace {
   std::string file;  ///< UTF-8, as shown.
   int line = 0;      ///< From 1; 0 for the file as a whole.
+  /// What the bot has it for; nothing for what is none of its five files.
+  std::optional<BotFile> kind = {};
+  /// Below botfiles; empty for a file that was not looked up in the game.
+  std::string game_path = {};
 
   auto operator<=>(const FilePlace&) const = default;  // NOLINT(*-use-nullptr)
 };

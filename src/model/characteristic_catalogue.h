@@ -19,6 +19,7 @@ inline constexpr int kCatalogueSize = 86;
 /// Per-level parameters with a meaning of their own; the others are reached by
 /// their ranges below.
 inline constexpr int kAttackSkillIndex = 2;
+inline constexpr int kViewFactorIndex = 5;
 inline constexpr int kViewMaxChangeIndex = 6;
 inline constexpr int kReactionTimeIndex = 7;
 inline constexpr int kFireThrottleIndex = 30;
@@ -27,6 +28,7 @@ inline constexpr int kFireThrottleIndex = 30;
 inline constexpr ParameterId kChatCpm{31};
 inline constexpr ParameterId kInsultShare{32};
 inline constexpr ParameterId kEnemySuicideChance{38};
+inline constexpr ParameterId kRandomChatRate{42};
 inline constexpr ParameterId kHealthWeight{54};
 inline constexpr ParameterId kArmorWeight{55};
 
@@ -78,6 +80,9 @@ inline constexpr IndexRange kChatRange = {31, 43};
 inline constexpr IndexRange kChanceRange = {34, 42};
 inline constexpr IndexRange kWeaponWeightRange = {44, 53};
 inline constexpr IndexRange kItemWeightRange = {54, 80};
+/// Of these, picking up a weapon that the bot lacks, and one that it has.
+inline constexpr IndexRange kPickupRange = {56, 63};
+inline constexpr IndexRange kOwnedPickupRange = {64, 71};
 
 /// The parameter of an index. One that each level has stands for all of its
 /// levels here: it is that of the first.

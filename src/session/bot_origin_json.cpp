@@ -65,25 +65,13 @@ std::string GameText(const std::string& text) {
   return GameTextFromUtf8(text).value_or(std::string());
 }
 
-/// Notes the keys of an object that nobody knows.
-void MeetOthers(const Json& json, const std::vector<std::string_view>& known,
-                const std::string& path, const UnknownKeys& unknown) {
-  for (const auto& [key, part] : json.items()) {
-    if (std::ranges::find(known, key) == known.end()) {
-      unknown.Meet(std::string(path).append(".").append(key),
-                   "there is no such key.");
-    }
-  }
-}
-
 OriginFile FileFromJson(const Json& json, const std::string& path,
                         const UnknownKeys& unknown) {
   OriginFile file = {
       .path = PathOf(json.at("path")),
       .entry = GameText(json.value("entry", std::string())),
       .fingerprint = json.at("fingerprint").get<std::uint64_t>()};
-  MeetOthers(json, {"path", "entry", "fingerprint", "spellings"}, path,
-             unknown);
+  unknown.MeetOthers(json, {"path", "entry", "fingerprint", "spellings"}, path);
   const auto spellings = json.find("spellings");
   if (spellings == json.end()) return file;
   for (const auto& [line, statement] : spellings->items()) {
@@ -124,7 +112,7 @@ void ReadFiles(const Json& json, const UnknownKeys& unknown,
     if (found == json.end()) continue;
     files.emplace(file, FileFromJson(*found, all + "." + key, unknown));
   }
-  MeetOthers(json, known, all, unknown);
+  unknown.MeetOthers(json, known, all);
 }
 
 void ReadHome(const Json& json, const UnknownKeys& unknown, BotHome& home) {
@@ -136,8 +124,8 @@ void ReadHome(const Json& json, const UnknownKeys& unknown, BotHome& home) {
         .folder = PathOf(place->at("folder")),
         .options = {.uses_layout = place->at("usesLayout").get<bool>(),
                     .makes_package = place->at("makesPackage").get<bool>()}};
-    MeetOthers(*place, {"folder", "usesLayout", "makesPackage"},
-               "origin.home.place", unknown);
+    unknown.MeetOthers(*place, {"folder", "usesLayout", "makesPackage"},
+                       "origin.home.place");
   }
   if (const auto package = json.find("package"); package != json.end()) {
     home.package = FileFromJson(*package, "origin.home.package", unknown);
@@ -153,10 +141,10 @@ void ReadHome(const Json& json, const UnknownKeys& unknown, BotHome& home) {
   };
   home.loaded = read_bot("loaded");
   home.saved = read_bot("saved");
-  MeetOthers(json,
-             {"files", "usesLayout", "loadsDescription", "place", "package",
-              "leftPackage", "loaded", "saved"},
-             "origin.home", unknown);
+  unknown.MeetOthers(json,
+                     {"files", "usesLayout", "loadsDescription", "place",
+                      "package", "leftPackage", "loaded", "saved"},
+                     "origin.home");
 }
 
 OrderedJson ReportToJson(const LoadReport& report) {
@@ -195,8 +183,7 @@ void MeetOthersInEach(const Json& list,
                       const std::string& path, const UnknownKeys& unknown) {
   std::size_t number = 0;
   for (const Json& one : list) {
-    MeetOthers(one, known, path + "[" + std::to_string(number++) + "]",
-               unknown);
+    unknown.MeetOthers(one, known, path + "[" + std::to_string(number++) + "]");
   }
 }
 
@@ -226,7 +213,7 @@ void ReadReport(const Json& json, const UnknownKeys& unknown,
                    path + ".notes", unknown);
   MeetOthersInEach(json.at("oddValues"), {"parameter", "read", "plain"},
                    path + ".oddValues", unknown);
-  MeetOthers(json, {"notes", "oddValues"}, path, unknown);
+  unknown.MeetOthers(json, {"notes", "oddValues"}, path);
 }
 
 }  // namespace
@@ -236,7 +223,7 @@ BotOrigin BotOriginFromJson(const Json& json, const UnknownKeys& unknown) {
   try {
     ReadHome(json.at("home"), unknown, *origin.home);
     ReadReport(json.at("report"), unknown, *origin.report);
-    MeetOthers(json, {"home", "report"}, "origin", unknown);
+    unknown.MeetOthers(json, {"home", "report"}, "origin");
   } catch (const JsonFault& fault) {
     unknown.Meet("origin", fault.error.what);
     return {};

@@ -1,5 +1,7 @@
 #include "session/json_format.h"
 
+#include <algorithm>
+
 #include "session/bot_document.h"
 
 namespace fragsmith {
@@ -57,6 +59,15 @@ void UnknownKeys::Meet(const std::string& field,
   notes.Add({.file = file,
              .line = 0,
              .text = AboutField(field, reason) + " It is left out."});
+}
+
+void UnknownKeys::MeetOthers(const Json& json,
+                             const std::vector<std::string_view>& known,
+                             const std::string& path) const {
+  for (const auto& [key, part] : json.items()) {
+    if (std::ranges::find(known, key) != known.end()) continue;
+    Meet(path.empty() ? key : path + "." + key, "there is no such key.");
+  }
 }
 
 void BringUpToDate(Json& value, std::span<const Migration> steps,

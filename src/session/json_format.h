@@ -11,6 +11,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "support/notes.h"
 #include "support/result.h"
@@ -59,6 +60,10 @@ struct UnknownKeys {
   Notes& notes;
 
   void Meet(const std::string& field, const std::string& reason) const;
+  /// Meets the keys of an object that are none of the known ones.
+  void MeetOthers(const nlohmann::json& json,
+                  const std::vector<std::string_view>& known,
+                  const std::string& path) const;
 };
 
 /// Takes the version out of an object and brings the rest up to date, one

@@ -6,38 +6,29 @@
 #include <set>
 #include <string_view>
 
+#include "botfiles/block_keys.h"
 #include "botfiles/left_out.h"
+#include "model/file_names.h"
 #include "support/code_page.h"
 #include "support/text.h"
 
 namespace fragsmith {
 namespace {
 
-/// Keys that a save writes into the block of every level.
-constexpr IndexRange kBlockRanges[] = {
-    {kNameField.index(), kOptionalRange.first - 1},
-    kChatRange,
-    {kChatFileField.index(), kItemFileField.index()},
-    {kChatNameField.index(), kChatNameField.index()}};
-
-void AddMissing(const std::set<ParameterId>& given, IndexRange range,
-                std::optional<Level> level, NameList& names) {
-  for (const int key : range) {
-    if (given.contains(level ? ParameterId(*level, key) : ParameterId(key))) {
-      continue;
-    }
-    std::string_view name = BareKey(key);
-    constexpr std::string_view kDefine = "#define ";
-    if (name.starts_with(kDefine)) name.remove_prefix(kDefine.size());
-    names.Add(std::string(name));
-  }
+void AddMissing(const std::set<ParameterId>& given, ParameterId id,
+                NameList& names) {
+  if (given.contains(id)) return;
+  std::string_view name = BareKey(id.index());
+  constexpr std::string_view kDefine = "#define ";
+  if (name.starts_with(kDefine)) name.remove_prefix(kDefine.size());
+  names.Add(std::string(name));
 }
 
 /// What a save writes in the place of a name.
 std::string SavedName(const ReadReport::Name& name, const Bot& bot) {
   const std::string saved = bot.Text(name.field);
   const bool is_path = name.field != kNameField && name.field != kChatNameField;
-  return is_path ? "bots/" + saved : saved;
+  return is_path ? InBots(saved) : saved;
 }
 
 }  // namespace
@@ -57,8 +48,9 @@ void NoteMissingLevels(const ReadReport& report, const std::string& file,
       continue;
     }
     NameList missing;
-    for (const IndexRange& range : kBlockRanges) {
-      AddMissing(report.given, range, level, missing);
+    for (int key = 0; key < kCatalogueSize; ++key) {
+      if (!IsBlockKey(key) || kOptionalRange.Contains(key)) continue;
+      AddMissing(report.given, {level, key}, missing);
     }
     if (missing.empty()) continue;
     notes.Add({file, 0,
@@ -73,7 +65,9 @@ void NoteMissingWeights(const ReadReport& report, IndexRange range,
   // Of a file that has none at all the reader has told.
   if (report.given.empty()) return;
   NameList missing;
-  AddMissing(report.given, range, std::nullopt, missing);
+  for (const int key : range) {
+    AddMissing(report.given, ParameterId(key), missing);
+  }
   if (missing.empty()) return;
   notes.Add({.file = file,
              .line = 0,

@@ -27,7 +27,7 @@ constexpr std::string_view kCommandsFile = "match.cfg";
 constexpr std::string_view kLogFile = "games.log";
 
 /// No match runs slower than a game with people does, but for its start.
-constexpr std::chrono::minutes kLongestStart(2);
+constexpr std::chrono::minutes kMaxStart(2);
 constexpr int kMaxMinutes = 24 * 60;
 
 /// Without quotes, which would end the quoted text that it becomes.
@@ -179,7 +179,7 @@ class MatchInPlay::Game {
     const std::chrono::minutes minutes(match_.minutes > 0 ? match_.minutes
                                                           : kMaxMinutes);
     const bool hangs = now - last_growth_ > longest_silence_ ||
-                       now - start_ > minutes + kLongestStart;
+                       now - start_ > minutes + kMaxStart;
     if (is_running && !hangs && !record().is_over) return false;
     // When the scores are there, it does not matter how it ends.
     if (record().IsWhole()) return true;

@@ -8,6 +8,7 @@
 
 #include "checks/bot_on_disk.h"
 #include "checks/bot_reader.h"
+#include "model/file_names.h"
 #include "support/files.h"
 #include "support/temporary_folder.h"
 #include "support/text.h"
@@ -17,14 +18,12 @@ namespace fragsmith {
 namespace fs = std::filesystem;
 namespace {
 
-constexpr std::string_view kBotFiles = "botfiles/";
-constexpr std::string_view kBots = "bots/";
-
 /// Where a file of a bot lies in the match, by its path below botfiles. No path
 /// that may be long gets longer: those into botfiles/bots have a limit.
 std::string PathInMatch(std::string_view path, std::size_t place) {
   std::string folder = MatchFolder(place) + "/";
-  if (path.starts_with(kBots)) return folder += path.substr(kBots.size());
+  if (path.starts_with(kBotsPath))
+    return folder += path.substr(kBotsPath.size());
   return folder += "up/" + std::string(path);
 }
 
@@ -71,17 +70,18 @@ Result<MatchBot> MatchBotOf(const GivenFiles& given,
                             const std::string& file_name) {
   MatchBot bot;
   for (const std::string_view end : {".c", ".h"}) {
-    for (const std::string& path : given.PathsLike(kBotFiles, end)) {
+    for (const std::string& path : given.PathsLike(kBotFilesPath, end)) {
       std::optional<GameFile> file = given.OpenInAnyCase(path);
       if (!file) continue;
-      bot.files.emplace(path.substr(kBotFiles.size()), std::move(file->bytes));
+      bot.files.emplace(path.substr(kBotFilesPath.size()),
+                        std::move(file->bytes));
     }
   }
   const BotOnDisk found = ReadBot(given, file_name);
   const IncludeLookup nothing = [](std::string_view) { return std::nullopt; };
   const BotReader reader(found.files, nothing);
   bot.name = file_name;
-  bot.ai_file = std::string(kBots) + ToLower(file_name) + "_c.c";
+  bot.ai_file = CharacterPath(ToLower(file_name));
   if (reader.description()) {
     const std::string_view name = reader.description()->Text("name");
     if (!name.empty()) bot.name = name;
@@ -102,7 +102,7 @@ Result<MatchBot> MatchBotOf(const Bot& bot, const Author& author) {
   const Result<void> done = WriteTrialPackage(bot, *folder, author);
   if (!done) return Failure(done.error());
   const std::vector<fs::path> packages =
-      ListFiles(*folder / kTrialFolder, ".pk3");
+      ListFiles(*folder / kTrialFolder, kPackageEnd);
   const Result<GivenFiles> given =
       GivenFiles::OfPackage(*folder / kTrialFolder / packages.at(0));
   if (!given) return Failure(given.error());
@@ -150,7 +150,7 @@ Result<void> PutMatchBots(const std::vector<MatchBot>& bots,
     const MatchBot& bot = bots[place];
     if (bot.files.empty()) continue;
     for (const auto& [path, bytes] : bot.files) {
-      Result<void> done = put(std::string(kBotFiles) + PathInMatch(path, place),
+      Result<void> done = put(InBotFiles(PathInMatch(path, place)),
                               WithPathsLed(bytes, bot, place));
       if (!done) return done;
     }

@@ -3,7 +3,11 @@
 #include <cstddef>
 #include <nlohmann/json.hpp>
 #include <optional>
+#include <set>
+#include <string>
+#include <string_view>
 #include <utility>
+#include <vector>
 
 #include "session/json_format.h"
 #include "support/code_page.h"
@@ -95,8 +99,8 @@ Json ComparisonsInJson(const MatchReport& report,
   const std::vector<std::string> names = ShownNames(report.plan.bots);
   const std::vector<Pairing> pairings = PairingsOf(names.size());
   Json comparisons = Json::array();
-  for (std::size_t place = 0; place < pairings.size(); ++place) {
-    const auto& [bot, other] = pairings[place];
+  for (std::size_t at = 0; at < pairings.size(); ++at) {
+    const auto& [bot, other] = pairings[at];
     const Comparison comparison =
         Compare(tallies, bot, other, static_cast<int>(pairings.size()));
     Json json = {{"bot", names[bot]},
@@ -109,7 +113,7 @@ Json ComparisonsInJson(const MatchReport& report,
       json["difference"] = difference;
     } else {
       // Who looks after each match must not believe the other comparison.
-      const SequentialTest& test = report.tests[place];
+      const SequentialTest& test = report.tests[at];
       json["settled"] =
           kSettledNames.at(static_cast<std::size_t>(test.settled()));
       json["settledAfter"] = test.matches();
@@ -119,69 +123,111 @@ Json ComparisonsInJson(const MatchReport& report,
   return comparisons;
 }
 
-LogEvent EventOf(const nlohmann::json& json) {
-  LogEvent event;
-  const std::string name = json.at("event").get<std::string>();
-  bool is_known = false;
-  for (const NamedKind& named : kKinds) {
-    if (name != named.name) continue;
-    event.kind = named.kind;
-    is_known = true;
-  }
-  if (!is_known) RefuseField("event", "there is no event " + name + ".");
-  event.seconds = json.at("seconds").get<int>();
-  event.victim = json.value("victim", -1);
-  const bool is_of_world = event.kind == LogEventKind::kKill;
-  event.client = json.value("bot", is_of_world ? kWorldClient : -1);
-  event.number = json.value("score", 0);
-  event.text =
-      GameTextFromUtf8(json.value("text", std::string())).value_or("?");
-  return event;
-}
+/// The steps from one version to the next. The first wrote no version.
+constexpr std::array kMigrations = {
+    Migration{0, [](nlohmann::json& /*report*/) {}},
+};
+static_assert(HasNoGap(kMigrations));
 
-PlayedMatch PlayedOf(const nlohmann::json& json,
-                     const std::vector<std::string>& names) {
-  PlayedMatch played;
-  const std::string map = json.at("map").get<std::string>();
-  played.map = GameTextFromUtf8(map).value_or(map);
-  for (const std::string& name : names) {
-    const int place = static_cast<int>(played.record.players.size());
-    played.record.players[place].name = name;
-  }
-  if (!json.contains("events")) {
-    RefuseField("matches", "the events are missing.",
-                "Let \"match\" print them with --json --events.");
-  }
-  for (const nlohmann::json& event : json.at("events")) {
-    played.record.Add(EventOf(event));
-  }
-  if (!played.record.IsWhole()) {
-    RefuseField("matches", "a match has no end or lacks scores.");
-  }
-  return played;
-}
+/// Reads one object.
+class ReportReader {
+ public:
+  ReportReader(const std::string& file, Notes& notes)
+      : file_(file), notes_(notes) {}
 
-MatchReport ReportOf(const nlohmann::json& json) {
-  MatchReport report;
-  report.plan.minutes = json.at("minutes").get<int>();
-  std::vector<std::string> names;
-  for (const nlohmann::json& bot : json.at("bots")) {
-    names.push_back(bot.at("name").get<std::string>());
-    report.sources.push_back(bot.at("source").get<std::string>());
-    report.plan.bots.push_back(
-        {.name = names.back(), .skill = bot.at("skill").get<double>()});
+  MatchReport Read(nlohmann::json json) {
+    UnknownKeys unknown = {.are_slips = false, .file = file_, .notes = notes_};
+    BringUpToDate(json, kMigrations, unknown);
+    MatchReport report;
+    MeetOthers(json, {"maps", "minutes", "bots", "comparisons", "matches"}, "");
+    report.plan.minutes = json.at("minutes").get<int>();
+    std::vector<std::string> names;
+    for (const nlohmann::json& bot : json.at("bots")) {
+      MeetOthers(bot,
+                 {"name", "source", "skill", "score", "share", "fragsPerMinute",
+                  "deathsPerMinute", "kills", "deaths", "killedBy", "suicides",
+                  "falls", "items", "secondsPerItem", "awards", "said"},
+                 "bots");
+      names.push_back(bot.at("name").get<std::string>());
+      report.sources.push_back(bot.at("source").get<std::string>());
+      report.plan.bots.push_back(
+          {.name = names.back(), .skill = bot.at("skill").get<double>()});
+    }
+    if (names.size() < 2) RefuseField("bots", "there are fewer than two.");
+    for (const nlohmann::json& match : json.at("matches")) {
+      report.played.push_back(PlayedOf(match, names));
+      report.plan.maps.push_back(report.played.back().map);
+    }
+    if (report.played.empty()) RefuseField("matches", "there is none.");
+    std::vector<std::string>& maps = report.plan.maps;
+    std::sort(maps.begin(), maps.end());
+    maps.erase(std::unique(maps.begin(), maps.end()), maps.end());
+    return report;
   }
-  if (names.size() < 2) RefuseField("bots", "there are fewer than two.");
-  for (const nlohmann::json& match : json.at("matches")) {
-    report.played.push_back(PlayedOf(match, names));
-    report.plan.maps.push_back(report.played.back().map);
+
+ private:
+  /// Each bot, match and event has the same keys: one is told once.
+  void MeetOthers(const nlohmann::json& json,
+                  const std::vector<std::string_view>& known,
+                  const std::string& path) {
+    Notes met;
+    const UnknownKeys unknown = {
+        .are_slips = false, .file = file_, .notes = met};
+    unknown.MeetOthers(json, known, path);
+    for (const Note& note : met.list()) {
+      if (told_.insert(note.text).second) notes_.Add(note);
+    }
   }
-  if (report.played.empty()) RefuseField("matches", "there is none.");
-  std::vector<std::string>& maps = report.plan.maps;
-  std::sort(maps.begin(), maps.end());
-  maps.erase(std::unique(maps.begin(), maps.end()), maps.end());
-  return report;
-}
+
+  LogEvent EventOf(const nlohmann::json& json) {
+    MeetOthers(json, {"seconds", "event", "bot", "victim", "score", "text"},
+               "matches.events");
+    LogEvent event;
+    const std::string name = json.at("event").get<std::string>();
+    bool is_known = false;
+    for (const NamedKind& named : kKinds) {
+      if (name != named.name) continue;
+      event.kind = named.kind;
+      is_known = true;
+    }
+    if (!is_known) RefuseField("event", "there is no event " + name + ".");
+    event.seconds = json.at("seconds").get<int>();
+    event.victim = json.value("victim", -1);
+    const bool is_of_world = event.kind == LogEventKind::kKill;
+    event.client = json.value("bot", is_of_world ? kWorldClient : -1);
+    event.number = json.value("score", 0);
+    event.text =
+        GameTextFromUtf8(json.value("text", std::string())).value_or("?");
+    return event;
+  }
+
+  PlayedMatch PlayedOf(const nlohmann::json& json,
+                       const std::vector<std::string>& names) {
+    MeetOthers(json, {"map", "seconds", "scores", "events"}, "matches");
+    PlayedMatch played;
+    const std::string map = json.at("map").get<std::string>();
+    played.map = GameTextFromUtf8(map).value_or(map);
+    for (const std::string& name : names) {
+      const int number = static_cast<int>(played.record.players.size());
+      played.record.players[number].name = name;
+    }
+    if (!json.contains("events")) {
+      RefuseField("matches", "the events are missing.",
+                  "Let \"match\" print them with --json --events.");
+    }
+    for (const nlohmann::json& event : json.at("events")) {
+      played.record.Add(EventOf(event));
+    }
+    if (!played.record.IsWhole()) {
+      RefuseField("matches", "a match has no end or lacks scores.");
+    }
+    return played;
+  }
+
+  const std::string& file_;
+  Notes& notes_;
+  std::set<std::string> told_;
+};
 
 /// Takes the first of several objects behind each other off the text, up to
 /// its last brace.
@@ -243,7 +289,8 @@ std::string WriteMatchJson(const MatchReport& report, bool with_events) {
     }
     matches.push_back(std::move(match));
   }
-  return TextOf({{"maps", std::move(maps)},
+  return TextOf({{kFormatKey, FormatBehind(kMigrations)},
+                 {"maps", std::move(maps)},
                  {"minutes", report.plan.minutes},
                  {"bots", std::move(bots)},
                  {"comparisons", ComparisonsInJson(report, tallies)},
@@ -271,16 +318,22 @@ std::string WriteLadderJson(const std::vector<MatchReport>& reports) {
                      {"share", InJson(Compare(TalliesOf(report), 0, 1).share)},
                      {"scores", std::move(scores)}});
   }
-  return TextOf({{"minutes", reports.front().plan.minutes},
+  return TextOf({{kFormatKey, FormatBehind(kMigrations)},
+                 {"minutes", reports.front().plan.minutes},
                  {"ladder", std::move(bots)},
                  {"pairs", std::move(pairs)}});
 }
 
 Result<std::vector<MatchReport>> ReadMatchJson(std::string_view text,
-                                               const std::string& file) {
+                                               const std::string& file,
+                                               Notes& notes) {
+  ReportReader reader(file, notes);
   std::vector<MatchReport> reports;
   do {
-    Result<MatchReport> report = ReadJson(TakeObject(text), file, &ReportOf);
+    Result<MatchReport> report =
+        ReadJson(TakeObject(text), file, [&reader](nlohmann::json json) {
+          return reader.Read(std::move(json));
+        });
     if (!report) return Failure(report.error());
     reports.push_back(std::move(*report));
   } while (!text.empty());

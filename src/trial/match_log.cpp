@@ -7,6 +7,8 @@
 #include <optional>
 #include <utility>
 
+#include "game/weapon_order.h"
+
 namespace fragsmith {
 namespace {
 
@@ -16,26 +18,29 @@ constexpr std::size_t kMaxLineBytes = 4096;
 struct NamedMeans {
   std::string_view means;
   std::string_view weapon;
+  /// The weight of fighting with it; nothing where a bot has none, or where
+  /// another row has it already.
+  std::optional<ParameterId> usage = {};
 };
 
 constexpr std::array kMeans = {
-    NamedMeans{"MOD_GAUNTLET", "gauntlet"},
-    NamedMeans{"MOD_MACHINEGUN", "machinegun"},
-    NamedMeans{"MOD_SHOTGUN", "shotgun"},
-    NamedMeans{"MOD_GRENADE", "grenade launcher"},
+    NamedMeans{"MOD_GAUNTLET", "gauntlet", kGauntletUsage},
+    NamedMeans{"MOD_MACHINEGUN", "machinegun", kMachinegunUsage},
+    NamedMeans{"MOD_SHOTGUN", "shotgun", kShotgunUsage},
+    NamedMeans{"MOD_GRENADE", "grenade launcher", kGrenadeLauncherUsage},
     NamedMeans{"MOD_GRENADE_SPLASH", "grenade launcher"},
-    NamedMeans{"MOD_ROCKET", "rocket launcher"},
+    NamedMeans{"MOD_ROCKET", "rocket launcher", kRocketLauncherUsage},
     NamedMeans{"MOD_ROCKET_SPLASH", "rocket launcher"},
-    NamedMeans{"MOD_PLASMA", "plasma gun"},
+    NamedMeans{"MOD_PLASMA", "plasma gun", kPlasmaUsage},
     NamedMeans{"MOD_PLASMA_SPLASH", "plasma gun"},
-    NamedMeans{"MOD_RAILGUN", "railgun"},
-    NamedMeans{"MOD_LIGHTNING", "lightning gun"},
-    NamedMeans{"MOD_BFG", "BFG"},
+    NamedMeans{"MOD_RAILGUN", "railgun", kRailgunUsage},
+    NamedMeans{"MOD_LIGHTNING", "lightning gun", kLightningUsage},
+    NamedMeans{"MOD_BFG", "BFG", kBfgUsage},
     NamedMeans{"MOD_BFG_SPLASH", "BFG"},
     NamedMeans{"MOD_NAIL", "nailgun"},
     NamedMeans{"MOD_CHAINGUN", "chaingun"},
     NamedMeans{"MOD_PROXIMITY_MINE", "proximity launcher"},
-    NamedMeans{"MOD_GRAPPLE", "grapple"},
+    NamedMeans{"MOD_GRAPPLE", "grapple", kGrappleUsage},
     NamedMeans{"MOD_TELEFRAG", "telefrag"},
 };
 
@@ -81,6 +86,13 @@ std::string WeaponOfMeans(std::string_view means) {
       kMeans.begin(), kMeans.end(),
       [means](const NamedMeans& named) { return named.means == means; });
   return std::string(found == kMeans.end() ? means : found->weapon);
+}
+
+std::string_view WeaponOfUsage(ParameterId usage) {
+  const auto* const found = std::find_if(
+      kMeans.begin(), kMeans.end(),
+      [usage](const NamedMeans& named) { return named.usage == usage; });
+  return found == kMeans.end() ? std::string_view() : found->weapon;
 }
 
 void MatchRecord::Add(LogEvent event) {

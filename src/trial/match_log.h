@@ -7,6 +7,8 @@
 #include <string_view>
 #include <vector>
 
+#include "model/parameter_id.h"
+
 namespace fragsmith {
 
 // The log of events that a server of the game writes, g_log. Texts are bytes
@@ -59,6 +61,9 @@ struct PlayerRecord {
 /// The weapon of a means of death in plain words; the means itself where it is
 /// none that we know.
 std::string WeaponOfMeans(std::string_view means);
+
+/// The same of a weapon by the weight of fighting with it.
+std::string_view WeaponOfUsage(ParameterId usage);
 
 /// What a log tells, as far as it has come.
 struct MatchRecord {

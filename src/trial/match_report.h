@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "support/notes.h"
 #include "support/result.h"
 #include "trial/match.h"
 #include "trial/match_run.h"
@@ -59,9 +60,11 @@ std::vector<MatchTally> TalliesOf(const MatchReport& report);
 std::string WriteMatchJson(const MatchReport& report, bool with_events);
 
 /// Reads what was written with the events, any number of objects behind each
-/// other: one report for each. The name of the file is for errors.
+/// other: one report for each. What is not known of them is noted; the name of
+/// the file is for that and for errors.
 Result<std::vector<MatchReport>> ReadMatchJson(std::string_view text,
-                                               const std::string& file);
+                                               const std::string& file,
+                                               Notes& notes);
 
 /// Puts the reports together that are about the same bots, skills and minutes,
 /// in the order in which they first come.

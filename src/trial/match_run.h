@@ -34,7 +34,7 @@ std::vector<std::string> MapsIn(const std::string& text);
 
 /// How many are played at most until it is sure whether bots differ, unless
 /// somebody says otherwise.
-inline constexpr int kMostUntilSure = 500;
+inline constexpr int kMaxUntilSure = 500;
 /// Of game time, the longest match.
 inline constexpr int kMaxMatchMinutes = 600;
 

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "game/game_path.h"
+#include "model/file_names.h"
 #include "support/code_page.h"
 #include "support/text.h"
 
@@ -233,7 +234,7 @@ std::string VerdictText(TrialVerdict verdict, const std::string& bot_name) {
       return name +
              " entered the game, but with files of another bot. Correct their "
              "names in the character file, the one that ends in _c.c.";
-    case TrialVerdict::kDefaultCharacter:
+    case TrialVerdict::kWithDefault:
       return name +
              " entered the game, but with the game's default character in "
              "place of its own.";
@@ -316,7 +317,7 @@ void TrialReader::TakeLoaded(const std::string& line) {
   const bool is_character = Contains(line, "skill ");
   const bool is_chat = !is_character && Contains(line, " from ");
   // The default character itself is read with every bot.
-  if (Contains(line, "bots/default_c.c") ||
+  if (Contains(line, kDefaultCharacter) ||
       !(Contains(line, "bots/") || is_character || is_chat)) {
     return;
   }
@@ -402,7 +403,7 @@ void TrialReader::End(TrialVerdict verdict) {
   if (verdict != TrialVerdict::kEntered) return;
   if (has_others_files_) verdict_ = TrialVerdict::kOthersFiles;
   if (has_others_character_) verdict_ = TrialVerdict::kOtherBot;
-  if (has_default_character_) verdict_ = TrialVerdict::kDefaultCharacter;
+  if (has_default_character_) verdict_ = TrialVerdict::kWithDefault;
 }
 
 }  // namespace fragsmith

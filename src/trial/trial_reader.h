@@ -16,11 +16,11 @@ namespace fragsmith {
 
 /// What became of the bot.
 enum class TrialVerdict : std::uint8_t {
-  kUnknown,           ///< The engine did not come as far, or said nothing.
-  kEntered,           ///< It plays as it was written.
-  kOthersFiles,       ///< It plays, but by weights or chats of another bot.
-  kDefaultCharacter,  ///< It plays, but with the default character.
-  kOtherBot,          ///< Another one plays in its place, or with its name.
+  kUnknown,      ///< The engine did not come as far, or said nothing.
+  kEntered,      ///< It plays as it was written.
+  kOthersFiles,  ///< It plays, but by weights or chats of another bot.
+  kWithDefault,  ///< It plays, but with the default character.
+  kOtherBot,     ///< Another one plays in its place, or with its name.
   kNotAdded,
 };
 

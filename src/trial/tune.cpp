@@ -3,6 +3,7 @@
 #include <array>
 #include <cmath>
 
+#include "game/skill_mix.h"
 #include "model/characteristic_catalogue.h"
 #include "model/level.h"
 
@@ -10,7 +11,6 @@ namespace fragsmith {
 namespace {
 
 constexpr int kAimSkillIndex = 3;
-constexpr int kViewFactorIndex = 5;
 constexpr int kAlertnessIndex = 17;
 constexpr int kMachinegunAccuracyIndex = 18;
 
@@ -27,14 +27,12 @@ double UsualValue(Level level, int index) {
 
 const std::vector<StrengthEnds>& AllStrengthEnds() {
   static const std::vector<StrengthEnds> kEnds = [] {
-    // One of 0 would be left to the game, and every turn below 240 is the same.
+    // One of 0 would be left to the game.
     constexpr double kLeast = 0.01;
-    constexpr double kSlowestTurn = 240;
-    constexpr double kFastestTurn = 1800;
     std::vector<StrengthEnds> all = {
         {kAttackSkillIndex, kLeast, 1},
         {kAimSkillIndex, kLeast, 1},
-        {kViewFactorIndex, kLeast, 1},
+        {kViewFactorIndex, kLowestViewFactor, 1},
         {kViewMaxChangeIndex, kSlowestTurn, kFastestTurn},
         {kReactionTimeIndex, 1, 0},
         {kAlertnessIndex, kLeast, 1},

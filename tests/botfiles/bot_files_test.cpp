@@ -109,7 +109,7 @@ TEST(BotFiles, AreWrittenAgainByteForByte) {
         std::string other = bytes;
         other.erase(std::remove(other.begin() + 700, other.end(), unwanted),
                     other.end());
-        (void)format.read(other, read);
+        EXPECT_TRUE(format.read(other, read).plain_values.empty()) << other;
         ASSERT_EQ(format.write(read), bytes);
       }
     }
@@ -136,7 +136,8 @@ TEST(BotFiles, AreReadWithTheBlanksThatOnlyTheGameTakesForSome) {
         read.Put(id, value);
       }
       Bot expected;
-      (void)format.read(format.write(bot), expected);
+      EXPECT_TRUE(
+          format.read(format.write(bot), expected).plain_values.empty());
       EXPECT_EQ(format.write(read), format.write(expected)) << bytes;
     }
   }
@@ -147,7 +148,8 @@ TEST(BotFiles, AreReadWithTheBlanksThatOnlyTheGameTakesForSome) {
                                     {"\"a\xA0z\"", "a\xA0z"}}) {
     const std::string line =
         "CHARACTERISTIC_GENDER\t\t\t\t\t" + std::string(text);
-    (void)ReadCharacteristicFile(line, "f", ReadIdentity::kYes, read);
+    EXPECT_TRUE(ReadCharacteristicFile(line, "f", ReadIdentity::kYes, read)
+                    .given.contains(kGenderField));
     EXPECT_EQ(read.Text(kGenderField), value);
   }
   for (const char* const number : {"\x93"
@@ -155,7 +157,8 @@ TEST(BotFiles, AreReadWithTheBlanksThatOnlyTheGameTakesForSome) {
                                    "\x96 0.7"}) {
     const std::string line =
         "CHARACTERISTIC_CHAT_MISC\t\t\t\t\t" + std::string(number);
-    (void)ReadCharacteristicFile(line, "f", ReadIdentity::kYes, read);
+    EXPECT_TRUE(ReadCharacteristicFile(line, "f", ReadIdentity::kYes, read)
+                    .given.contains(Id(33)));
     EXPECT_EQ(read.Text(Id(33)), "0.7");
   }
 }

@@ -179,10 +179,11 @@ TEST(CharacteristicFile, NamesPlaceAndBothValuesInNotes) {
 
 TEST(CharacteristicFile, TakesTheFirstKeyOfTheCatalogue) {
   Bot bot;
-  (void)Read(
-      ">$AIM_SKILL>>>>>3|>$AIM_SKILL_RAILGUN>>>>99|"
-      ">$CHAT_NAME>>>>>\"x\"|>$CROUCHER>>>>>>8 $ATTACK_SKILL 2|",
-      bot);
+  EXPECT_THAT(Read(">$AIM_SKILL>>>>>3|>$AIM_SKILL_RAILGUN>>>>99|"
+                   ">$CHAT_NAME>>>>>\"x\"|>$CROUCHER>>>>>>8 $ATTACK_SKILL 2|",
+                   bot)
+                  .given,
+              ::testing::IsSupersetOf({Id(403), Id(402), Id(408)}));
   EXPECT_EQ(bot.Text(Id(403)) + bot.Text(Id(402)) + bot.Text(Id(408)), "32");
   EXPECT_EQ(bot.Text(kChatNameField), "bot");
 }
@@ -216,9 +217,11 @@ TEST(CharacteristicFile, KnowsSkillLines) {
   // A byte order mark is nothing to the game, also where files were joined.
   for (const char* const above : {"", "skill 1\n{\n}\n"}) {
     Bot bot;
-    (void)ReadCharacteristicFile(
-        above + ("\xEF\xBB\xBFskill 5\n" + GameLines(">$JUMPER>>>>>>9")), "f",
-        ReadIdentity::kNo, bot);
+    EXPECT_THAT(ReadCharacteristicFile(above + ("\xEF\xBB\xBFskill 5\n" +
+                                                GameLines(">$JUMPER>>>>>>9")),
+                                       "f", ReadIdentity::kNo, bot)
+                    .given,
+                Contains(Id(509)));
     EXPECT_EQ(bot.Text(Id(509)), "9") << above;
   }
 }
@@ -278,10 +281,13 @@ TEST(CharacteristicFile, TakesTheIdentityOnlyWhenAsked) {
   Bot bot;
   Set(bot, kCommentField, "c");
   Set(bot, kVersionMajorField, 3.0);
-  (void)Read(lines, bot);
+  EXPECT_FALSE(Read(lines, bot).given.contains(kNameField));
   EXPECT_EQ(bot.Name() + bot.Text(Id(1)) + bot.Text(Id(9)) + bot.Text(Id(7)),
             "Botmalec3");
-  (void)ReadCharacteristicFile(GameLines(lines), "f", ReadIdentity::kYes, bot);
+  EXPECT_THAT(
+      ReadCharacteristicFile(GameLines(lines), "f", ReadIdentity::kYes, bot)
+          .given,
+      ElementsAre(kNameField, kGenderField));
   EXPECT_EQ(bot.Name() + bot.Text(Id(1)) + bot.Text(Id(9)) + bot.Text(Id(7)),
             "Big\xC4xfemale0");
   EXPECT_EQ(bot.Text(Id(85)), "big\xE4x");

@@ -7,6 +7,7 @@
 #include <map>
 #include <optional>
 #include <sstream>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -277,7 +278,9 @@ inline void PutEngineCase(const EngineCase& one, const std::string& name,
   }
   if (!one.Is("pk3")) return;
   std::filesystem::create_directories(folder);
-  (void)WritePackage(folder / ("bot-" + name + ".pk3"), entries);
+  const Result<void> written =
+      WritePackage(folder / ("bot-" + name + ".pk3"), entries);
+  if (!written) throw std::runtime_error(written.error().what);
 }
 
 /// What check and try look at: the files that PutEngineCase() has put there.

@@ -57,9 +57,8 @@ const std::map<std::string_view, std::set<std::string_view>>& IdsInFiles() {
 }
 
 bool IsToldByFiles(std::string_view id) {
-  return std::ranges::any_of(BotChecks(), [id](const Check& check) {
-    return check.id == id && check.is_told_by_files;
-  });
+  const Check* const check = FindCheck(id);
+  return check != nullptr && check->is_told_by_files;
 }
 
 /// The files of a new package of the bot in a game.

@@ -78,7 +78,7 @@ TEST_F(CheckAndDiff, TellsErrorsWarningsAndHintsByTheExitStatus) {
   const Outcome warned = Run("check -", bot_.dump());
   EXPECT_EQ(warned.status, 3);
   EXPECT_THAT(warned.out, HasSubstr("rookie.bot: warning: The game does not "
-                                    "read the rail colour"));
+                                    "read \"Railgun color\""));
   bot_["chats"]["death_suicide"] = {"fine", "say \"hi\" now"};
   bot_["chatCharacteristics"]["CHARACTERISTIC_CHAT_DEATH"] = 0.5;
   const Outcome wrong = Run("check -", bot_.dump());

@@ -251,7 +251,7 @@ TEST_F(Compare, ShowsFewOfVeryManyLinesAndCopiesAll) {
 TEST_F(WindowFixture, LoadsABotToCompareAndKeepsTheCurrentOne) {
   Bot made = CreateZeroBot();
   Set(made, Id(0), std::string("Alpha"));
-  (void)SaveBot(made, folder_.path(), {}, {}, prompts_);
+  ASSERT_EQ(SaveBot(made, folder_.path(), {}, {}, prompts_).written.size(), 5U);
   Type("txtBotPara_0", "Rookie");
   BotCommands commands(window_->current(), *state_, *window_);
   const auto answer = [this, &commands](bool accepts) {

@@ -198,9 +198,11 @@ TEST_F(MatchWindow, PlaysAgainstHowTheBotWasAndShowsWhatCameOfIt) {
 
   EXPECT_THAT(Exported("mnuCsv", "run.csv"),
               HasSubstr("\n3,q3dm1,180,Rookie,Rookie,4,20,1,0,0,0\n"));
+  Notes notes;
   const Result<std::vector<MatchReport>> read =
-      ReadMatchJson(Exported("mnuJson", "run.json"), "run.json");
+      ReadMatchJson(Exported("mnuJson", "run.json"), "run.json", notes);
   ASSERT_TRUE(read);
+  EXPECT_TRUE(notes.empty()) << notes.list().front().text;
   EXPECT_EQ(read->at(0).played.size(), 3U);
   Exported("mnuPng", "run.png");
   const QImage picture(

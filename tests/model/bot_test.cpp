@@ -33,6 +33,7 @@ TEST(Bot, KeepsToItsIndices) {
   EXPECT_EQ(bot.Text(Id(402)) + bot.Text(Id(102)), "0.25");
   EXPECT_EQ(bot.Text(Id(84)), "sarge j\xE4_c.c");
   EXPECT_EQ(bot.Text(Id(86)), "sarge j\xE4.bot");
+  // Both throw before they return anything.
   for (const int index : {-1, 4, 11, 30, 87, 100, 202, 302, 431, 602}) {
     EXPECT_THROW((void)bot.Parameter(Id(index)), std::out_of_range) << index;
   }

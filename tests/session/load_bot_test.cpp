@@ -131,10 +131,10 @@ TEST_F(LoadBotTest, MissesNoDescriptionThatAnotherOneHas) {
   for (const char* const name : {"bots.txt", "others.bot"}) {
     const std::string path = "bot/" + std::string(name);
     folder_.Write(path, "{ name x aifile bots/x_c.c }\n" + own);
-    (void)Load("rookie", "bot");
+    EXPECT_EQ(Load("rookie", "bot").files.size(), 4U);
     EXPECT_THAT(prompts_.log, IsEmpty()) << name;
     folder_.Write(path, "{ name x aifile bots/x_c.c }\n");
-    (void)Load("rookie", "bot");
+    EXPECT_EQ(Load("rookie", "bot").files.size(), 4U);
     EXPECT_THAT(prompts_.log, ElementsAre(kMissing.back())) << name;
   }
 }

@@ -290,7 +290,7 @@ TEST_F(TrialOutput, OfABotWithTheDefaultCharacter) {
            "loaded cached default skill 4 from bots/rookie_c.c\n"
            "loaded bots/gargoyle_i.c\nloaded player from bots/gargoyle_t.c\n"
            "broadcast: print \"Rookie^7 entered the game\\n\"\n");
-  EXPECT_EQ(verdict_, TrialVerdict::kDefaultCharacter);
+  EXPECT_EQ(verdict_, TrialVerdict::kWithDefault);
   EXPECT_THAT(
       said,
       testing::AllOf(

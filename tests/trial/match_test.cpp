@@ -5,11 +5,13 @@
 #include <chrono>
 #include <filesystem>
 #include <optional>
+#include <set>
 #include <sstream>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "game/weapon_order.h"
 #include "support/files.h"
 #include "tests/support/test_folder.h"
 #include "trial/match_run.h"
@@ -58,6 +60,17 @@ MatchRecord ReadMatchLog(std::string_view bytes) {
   MatchLogReader reader;
   reader.Read(bytes);
   return reader.record();
+}
+
+TEST(MatchLog, HasANameForEachWeaponOfABot) {
+  std::set<std::string_view> names;
+  for (const ParameterId usage : kWeaponsInGameOrder) {
+    names.insert(WeaponOfUsage(usage));
+  }
+  EXPECT_EQ(names.size(), kWeaponsInGameOrder.size());
+  EXPECT_FALSE(names.contains(""));
+  EXPECT_EQ(WeaponOfUsage(kRocketLauncherUsage),
+            WeaponOfMeans("MOD_ROCKET_SPLASH"));
 }
 
 TEST(MatchLog, HasAllFormsOfEvents) {

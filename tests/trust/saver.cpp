@@ -47,8 +47,8 @@ class ErrorPrompts : public Prompts {
 
 Bot MakeBot(int round, int size) {
   Bot bot = CreateAverageBot(SeededRandom(static_cast<std::uint32_t>(round)));
-  (void)bot.SetParameter(kNameField, std::string("Rookie"));
-  (void)bot.SetParameter(kFunNameField, "Round" + std::to_string(round));
+  bot.Put(kNameField, std::string("Rookie"));
+  bot.Put(kFunNameField, "Round" + std::to_string(round));
   for (int line = 0; line < size; ++line) {
     constexpr int kTypes = static_cast<int>(kChatTypeCount);
     bot.SetChatLine(*ChatTypeOfIndex(line % kTypes), 1 + line / kTypes,

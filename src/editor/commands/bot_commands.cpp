@@ -26,10 +26,25 @@ QString Shown(const fs::path& path) {
   return QString::fromStdString(Utf8FromPath(path));
 }
 
-/// What a load by the dialog reads. A single file has its number in both.
+/// What a load by the dialog reads.
 LoadedPart PartOf(OpenKind kind) {
-  if (kind == OpenKind::kLoadBot) return WholeBot{};
-  return static_cast<BotFile>(kind);
+  switch (kind) {
+    case OpenKind::kCharacteristics:
+      return BotFile::kCharacteristics;
+    case OpenKind::kChat:
+      return BotFile::kChat;
+    case OpenKind::kItemWeights:
+      return BotFile::kItemWeights;
+    case OpenKind::kWeaponWeights:
+      return BotFile::kWeaponWeights;
+    case OpenKind::kLoadBot:
+    case OpenKind::kSave:
+    case OpenKind::kGameFolder:
+    case OpenKind::kUnzipFolder:
+    case OpenKind::kWorkFolder:
+      break;
+  }
+  return WholeBot{};
 }
 
 std::string ModelOf(const Bot& bot) {
@@ -236,7 +251,7 @@ void BotCommands::OpenPath(const fs::path& path) {
   const fs::path whole = WholePath(path);
   if (IsFolder(whole)) return OpenFolder(whole);
   const bool is_package =
-      EndsWithIgnoringCase(BytesFromPath(whole.filename()), ".pk3");
+      EndsWithIgnoringCase(BytesFromPath(whole.filename()), kPackageEnd);
   if (!IsFile(whole) || !(is_package || BotNameOfFile(whole))) {
     emit StatusText(tr("%1 is no bot: give a folder, a *_c.c file "
                        "or a *.pk3 package.")

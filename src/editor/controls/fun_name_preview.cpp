@@ -33,7 +33,7 @@ constexpr double kReadableContrast = 2.5;
 }  // namespace
 
 FunNamePreview::FunNamePreview(QWidget* parent) : QWidget(parent) {
-  setAccessibleName(QStringLiteral("Fun name preview"));
+  setAccessibleName(QStringLiteral("Funname preview"));
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 

@@ -9,16 +9,9 @@
 #include "chat/vocabulary.h"
 #include "editor/toolkit/game_text_conversion.h"
 #include "game/weapon_order.h"
-#include "support/text.h"
 
 namespace fragsmith {
 namespace {
-
-/// What the game's log calls the weapon of a weight.
-std::string LogNameOf(ParameterId weapon) {
-  const std::string name = ToLower(ParameterCaption(weapon.index()));
-  return name.starts_with("bfg") ? WeaponOfMeans("MOD_BFG") : name;
-}
 
 int CountOf(const Counts& counts, const std::string& name) {
   const auto found = counts.find(name);
@@ -41,7 +34,7 @@ void KillBars::ShowKills(const Bot& bot, const Counts& kills,
   std::set<std::string> shown;
   int place = 0;
   for (const WeaponRank& rank : WeaponOrder(bot)) {
-    const std::string name = LogNameOf(rank.weapon);
+    const std::string name(WeaponOfUsage(rank.weapon));
     const int count = CountOf(kills, name);
     const int other_count = CountOf(other_kills, name);
     shown.insert(name);

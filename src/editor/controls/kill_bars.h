@@ -17,7 +17,7 @@ class KillBars : public QWidget {
  public:
   explicit KillBars(QWidget* parent = nullptr);
 
-  /// The kills are by weapon, as WeaponOfMeans calls these.
+  /// The kills are by weapon, as WeaponOfUsage calls these.
   void ShowKills(const Bot& bot, const Counts& kills, const Counts& other_kills,
                  const QString& other_name);
 

@@ -22,6 +22,12 @@ namespace {
 constexpr int kSliderColumn = 1;
 constexpr int kTextColumn = 2;
 
+/// The object name of a part of the row.
+QString PartName(const char* part, std::optional<Level> level) {
+  const QString name = QString::fromLatin1(part);
+  return level ? name + QStringLiteral("_%1").arg(NumberOf(*level)) : name;
+}
+
 bool IsSame(const Value& one, const Value& other) {
   const std::optional<double> number = ToNumber(one);
   return number ? number == ToNumber(other) : one == other;
@@ -120,8 +126,7 @@ void ValueControl::ShowReset(std::size_t index) {
 
 void ValueControl::MakeReset(Row& row) {
   row.reset = new QToolButton(this);
-  row.reset->setObjectName(row.slider->objectName().replace(
-      QStringLiteral("sliValue"), QStringLiteral("cmdReset")));
+  row.reset->setObjectName(PartName("cmdReset", row.level));
   row.reset->setIcon(MakeLineIcon(LineIcon::kUndo));
   const int side = row.text->RoomAtLeft();
   // The drawing has a rim of its own.
@@ -152,20 +157,18 @@ void ValueControl::SetMax(int max) {
 }
 
 ValueSlider* ValueControl::AddRow(std::optional<Level> level) {
-  const QString suffix =
-      level ? QStringLiteral("_%1").arg(NumberOf(*level)) : QString();
   const int grid_row = grid_->rowCount();
   auto* const slider = new ValueSlider(this);
-  slider->setObjectName(QStringLiteral("sliValue") + suffix);
+  slider->setObjectName(PartName("sliValue", level));
   if (const auto scale = lookup_(max_)) slider->SetScale(*scale);
   auto* const text = new ValueLabel(this);
-  text->setObjectName(QStringLiteral("lblValue") + suffix);
+  text->setObjectName(PartName("lblValue", level));
   text->ShowText(slider->Text());
   connect(slider, &ValueSlider::TextChanged, text, &ValueLabel::ShowText);
   QLabel* number = nullptr;
   if (level) {
     number = new QLabel(QString::number(NumberOf(*level)), this);
-    number->setObjectName(QStringLiteral("lblLevel") + suffix);
+    number->setObjectName(PartName("lblLevel", level));
     number->setBuddy(slider);
     grid_->addWidget(number, grid_row, 0);
   }
@@ -188,8 +191,7 @@ void ValueControl::OpenBox(std::size_t index, const QString& first) {
   Row& row = rows_.at(index);
   if (row.box == nullptr) {
     row.box = new ValueBox(*row.slider, *row.text, this);
-    row.box->setObjectName(row.slider->objectName().replace(
-        QStringLiteral("sli"), QStringLiteral("txt")));
+    row.box->setObjectName(PartName("txtValue", row.level));
     emit BoxMade(row.box);
   }
   row.box->Open(first);

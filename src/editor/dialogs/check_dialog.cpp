@@ -43,7 +43,7 @@ QString VerdictOn(const std::vector<Finding>& findings) {
 std::vector<BotLocation> BotsOfPackagesIn(const fs::path& folder) {
   constexpr std::size_t kMaxPackages = 50;
   std::vector<BotLocation> found;
-  const std::vector<fs::path> packages = ListFiles(folder, ".pk3");
+  const std::vector<fs::path> packages = ListFiles(folder, kPackageEnd);
   if (packages.size() > kMaxPackages) return found;
   for (const fs::path& package : packages) {
     const Result<std::vector<BotLocation>> bots = BotsAt(folder / package);
@@ -85,10 +85,13 @@ frmCheck::frmCheck(const fs::path& folder, const FolderPlaces& places,
   timer_.setSingleShot(true);
   timer_.setInterval(0);
   connect(&timer_, &QTimer::timeout, this, &frmCheck::Check);
-  browser_->SetFilters(
-      {QStringLiteral("_c.c"), QStringLiteral("_i.c"), QStringLiteral("_w.c"),
-       QStringLiteral("_t.c"), QStringLiteral(".bot"), QStringLiteral(".pk3")},
-      tr("of bots"));
+  QStringList ends;
+  for (const std::string_view end :
+       {kCharacterEnd, kItemWeightEnd, kWeaponWeightEnd, kChatEnd,
+        kDescriptionEnd, kPackageEnd}) {
+    ends << QString::fromUtf8(end);
+  }
+  browser_->SetFilters(ends, tr("of bots"));
   connect(browser_, &DirView::FolderShown, this, &frmCheck::FindBots);
   connect(browser_, &DirView::FileChosen, this, &frmCheck::FindBots);
   connect(bot_, &QComboBox::activated, this, &frmCheck::CheckSoon);

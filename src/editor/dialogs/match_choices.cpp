@@ -86,7 +86,7 @@ MatchChoices::MatchChoices(const ProgramState& state, QWidget* parent)
   until_sure_->setToolTip(
       tr("Plays until it is clear which of the two is better, or that they "
          "differ by less than 5 points in a hundred, %1 matches at most")
-          .arg(kMostUntilSure));
+          .arg(kMaxUntilSure));
   connect(until_sure_, &QCheckBox::toggled, games_, &QWidget::setDisabled);
   fields->addRow(QString(), until_sure_);
   share_->setSuffix(QStringLiteral(" %"));

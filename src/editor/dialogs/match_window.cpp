@@ -279,7 +279,7 @@ Result<std::unique_ptr<MatchSession>> frmMatch::MakeSession(bool search) {
                            },
                        .tuner = Tuner(share, kTuneMargin / kPercent)};
   } else if (choices_->IsUntilSure()) {
-    session->games = kMostUntilSure;
+    session->games = kMaxUntilSure;
     report.tests.emplace_back(0, 1, SequentialTest::Question());
   } else {
     session->games = choices_->Games();

@@ -127,8 +127,7 @@ QString ChanceOfLine(const Bot& bot, ChatTypeId type) {
   if (!facts.is_heard || chance <= 0 || !IsDrawn(bot, type)) {
     return Tr("never");
   }
-  constexpr ParameterId kRandomChats{42};
-  if (*facts.chance == kRandomChats) {
+  if (*facts.chance == kRandomChatRate) {
     // What is asked for again and again has a rate.
     return Tr("every %1 s").arg(std::lround(1 / chance));
   }

@@ -1,13 +1,13 @@
 #include "editor/pages/page_navigator.h"
 
 #include <QAbstractButton>
+#include <optional>
 
 #include "editor/controls/value_control.h"
 #include "editor/pages/scrolling_page.h"
 #include "editor/toolkit/page_table.h"
 #include "model/characteristic_catalogue.h"
-#include "session/bot_file.h"
-#include "support/text.h"
+#include "model/file_names.h"
 
 namespace fragsmith {
 namespace {
@@ -31,19 +31,21 @@ QString FieldControl(ParameterId field) {
 }
 
 /// Where the window begins to show what a file of the bot holds.
-BotPlace PlaceOfFile(const std::string& file) {
-  if (EndsWithIgnoringCase(file, FileSuffix(BotFile::kChat))) {
-    return ChatPlace{.type = kAllChatTypes.front(), .line = std::nullopt};
+BotPlace PlaceOfFile(std::optional<BotFile> kind) {
+  if (!kind) return kNameField;
+  switch (*kind) {
+    case BotFile::kDescription:
+      break;
+    case BotFile::kCharacteristics:
+      return kGenderField;
+    case BotFile::kChat:
+      return ChatPlace{.type = kAllChatTypes.front(), .line = std::nullopt};
+    case BotFile::kItemWeights:
+      return ParameterId(kItemWeightRange.first);
+    case BotFile::kWeaponWeights:
+      return ParameterId(kWeaponWeightRange.first);
   }
-  if (EndsWithIgnoringCase(file, FileSuffix(BotFile::kWeaponWeights))) {
-    return ParameterId(kWeaponWeightRange.first);
-  }
-  if (EndsWithIgnoringCase(file, FileSuffix(BotFile::kItemWeights))) {
-    return ParameterId(kItemWeightRange.first);
-  }
-  const bool is_character =
-      EndsWithIgnoringCase(file, FileSuffix(BotFile::kCharacteristics));
-  return is_character ? kGenderField : kNameField;
+  return kNameField;
 }
 
 }  // namespace
@@ -75,7 +77,7 @@ QWidget* PageNavigator::Find(const BotPlace& place) {
                                            : QStringLiteral("lstChatGroups"));
   }
   if (const auto* const file = std::get_if<FilePlace>(&place)) {
-    return Find(PlaceOfFile(file->file));
+    return Find(PlaceOfFile(file->kind));
   }
   const auto* const parameter = std::get_if<ParameterId>(&place);
   if (parameter == nullptr) return nullptr;

@@ -60,9 +60,10 @@ constexpr std::array kHelp = {
              "Every other weapon has a value of its own on the page \"Weapon "
              "skills\", and this one does nothing for it.",
              {}}},
-    HelpRow{{5, 5},
+    HelpRow{{kViewFactorIndex, kViewFactorIndex},
             {"How quickly the view turns to the enemy; the higher, the less "
-             "it overshoots. The game takes less than 0.01 as 0.01, and "
+             "it overshoots. The game takes less than {lowest} as "
+             "{lowest}, and "
              "always 0.05 while there is no enemy.",
              {}}},
     HelpRow{{6, 6},
@@ -180,7 +181,7 @@ constexpr std::array kHelp = {
             {"Half of it is the chance to speak when the bot has hit in a "
              "fight and the enemy is out of sight.",
              {}}},
-    HelpRow{{42, 42},
+    HelpRow{{kRandomChatRate.index(), kRandomChatRate.index()},
             {"How often the bot speaks while it roams: 1 is about one line in "
              "40 seconds.",
              {}}},
@@ -216,12 +217,12 @@ constexpr std::array kHelp = {
             {"How much the bot wants armor, the more so the more it lacks. "
              "OpenArena's bots have 1 to 3.",
              {}}},
-    HelpRow{{56, 63},
+    HelpRow{kPickupRange,
             {"How much the bot wants this weapon while it does not have it. "
              "The weight is divided by the time to get there, and the best "
              "result becomes the bot's goal. 0 is never a goal.",
              {}}},
-    HelpRow{{64, 71},
+    HelpRow{kOwnedPickupRange,
             {"How much the bot wants this weapon although it has it already. "
              "Some game data, such as OpenArena's, do not use this weight.",
              {}}},
@@ -279,6 +280,8 @@ QString PlainHelp(const ControlRow& control) {
     text.replace(QStringLiteral("{%1}").arg(++number),
                  QString::number(threshold.value));
   }
+  text.replace(QStringLiteral("{lowest}"),
+               QString::number(UsedRangeOf(control.Id()).lowest));
   if (!IsReadByGame(control.Id())) {
     text.prepend(QStringLiteral("The game never reads this value. "));
   }

@@ -100,7 +100,7 @@ QWidget* IdentityPanel::MoreField(QWidget* folded) {
   more_->setObjectName(QStringLiteral("cmdMore"));
   more_->setText(QStringLiteral("More"));
   more_->setToolTip(QStringLiteral(
-      "Version, railgun color, arena lord and comment: the game reads none "
+      "Version, railgun color, arenalord and comment: the game reads none "
       "of them."));
   more_->setCheckable(true);
   more_->setFocusPolicy(Qt::TabFocus);

@@ -46,6 +46,10 @@ QPushButton* MakeButton(const char* name, const QString& text) {
   return button;
 }
 
+/// Of a bot in the list, beside its index.
+constexpr int kNameRole = Qt::UserRole + 1;
+constexpr int kPackageRole = Qt::UserRole + 2;
+
 /// A bot of the game: its name, and below it in the second colour its package.
 class BotDelegate : public QStyledItemDelegate {
  public:
@@ -61,8 +65,6 @@ class BotDelegate : public QStyledItemDelegate {
              const QModelIndex& index) const override {
     QStyleOptionViewItem ground = option;
     initStyleOption(&ground, index);
-    const QStringList lines =
-        index.data(Qt::DisplayRole).toString().split(u'\n');
     ground.text.clear();
     option.widget->style()->drawControl(QStyle::CE_ItemViewItem, &ground,
                                         painter, option.widget);
@@ -75,9 +77,11 @@ class BotDelegate : public QStyledItemDelegate {
         option.rect.adjusted(kInside, kInside, -kInside, -kInside);
     painter->save();
     painter->setPen(color(QPalette::Text));
-    painter->drawText(place, Qt::AlignLeft | Qt::AlignTop, lines.value(0));
+    painter->drawText(place, Qt::AlignLeft | Qt::AlignTop,
+                      index.data(kNameRole).toString());
     painter->setPen(color(QPalette::PlaceholderText));
-    painter->drawText(place, Qt::AlignLeft | Qt::AlignBottom, lines.value(1));
+    painter->drawText(place, Qt::AlignLeft | Qt::AlignBottom,
+                      index.data(kPackageRole).toString());
     painter->restore();
   }
 
@@ -303,6 +307,8 @@ void WelcomePage::ShowBots(const std::vector<ListedBot>& bots) {
   for (const ListedBot& bot : bots) {
     auto* const item = new QListWidgetItem(bot.name + u'\n' + bot.package);
     item->setData(Qt::UserRole, QVariant::fromValue(bot.index));
+    item->setData(kNameRole, bot.name);
+    item->setData(kPackageRole, bot.package);
     item->setData(Qt::AccessibleTextRole,
                   tr("%1, package %2").arg(bot.name, bot.package));
     bots_->addItem(item);

@@ -289,7 +289,8 @@ Result<std::vector<EntryFault>> FindEntryFaults(
     if (!is_read && IsMarkedLocked(state)) {
       faults.push_back({.kind = Kind::kUnreadable,
                         .name = name,
-                        .method = "with a password"});
+                        .method = "with a password",
+                        .is_locked = true});
     } else if (is_read && is_damaged) {
       faults.push_back({.kind = Kind::kDamaged, .name = name, .method = {}});
     }

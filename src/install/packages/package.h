@@ -52,6 +52,7 @@ struct EntryFault {
   std::string name;  ///< As it is spelt in the package.
   /// How a kUnreadable was packed, such as "by the method LZMA".
   std::string_view method;
+  bool is_locked = false;  ///< A kUnreadable: it needs a password.
 };
 
 /// The faults of the wanted files, given their names, that unpack to no more

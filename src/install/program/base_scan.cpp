@@ -146,7 +146,7 @@ class ListingReader {
 /// any other, and so is the one of a game of another name.
 std::vector<std::filesystem::path> PackagesIn(
     const std::filesystem::path& folder) {
-  std::vector<std::filesystem::path> names = ListFiles(folder, ".pk3");
+  std::vector<std::filesystem::path> names = ListFiles(folder, kPackageEnd);
   if (!IsStandardPackageFolder(folder)) return names;
   std::erase_if(names, [](const std::filesystem::path& name) {
     return BytesFromPath(name) == kGamePackage;

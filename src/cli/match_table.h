@@ -1,5 +1,5 @@
-#ifndef FRAGSMITH_CLI_MATCH_REPORT_H_
-#define FRAGSMITH_CLI_MATCH_REPORT_H_
+#ifndef FRAGSMITH_CLI_MATCH_TABLE_H_
+#define FRAGSMITH_CLI_MATCH_TABLE_H_
 
 #include <ostream>
 
@@ -12,4 +12,4 @@ void PrintMatchTable(const MatchReport& report, std::ostream& out);
 
 }  // namespace fragsmith
 
-#endif  // FRAGSMITH_CLI_MATCH_REPORT_H_
+#endif  // FRAGSMITH_CLI_MATCH_TABLE_H_

@@ -1,4 +1,4 @@
-#include "cli/match_report.h"
+#include "cli/match_table.h"
 
 #include <algorithm>
 #include <cstddef>
