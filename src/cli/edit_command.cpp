@@ -112,7 +112,9 @@ std::optional<Error> FaultOfPackage(const SourceBot& source, const Bot& after) {
 
 void TellRefusals(const BotEdits& edits, CommandContext& context) {
   for (const auto& [kind, edit] : edits.files) {
-    for (const Error& refused : edit.refused) Fail(context, refused);
+    for (const RefusedChange& refused : edit.refused) {
+      Fail(context, refused.error);
+    }
     if (edit.outcome != FileEdit::Outcome::kNotEditable) continue;
     Fail(context, edit.reason);
     if (edit.losses.empty()) continue;
@@ -187,9 +189,9 @@ ExitStatus RunEdit(const EditOptions& options, CommandContext& context) {
       KeepLinesElsewhere(loaded.files, loaded.bot, after, look_up);
   // A document of another bot may well hold what this one's files cannot.
   const bool takes_part = !options.document.empty();
-  BotEdits edits =
-      EditBotFiles(loaded.files, before, after, look_up, {}, {},
-                   takes_part ? RestOfFile::kIsEdited : RestOfFile::kIsRefused);
+  BotEdits edits = takes_part
+                       ? EditWhatCanBe(loaded.files, before, after, look_up)
+                       : EditBotFiles(loaded.files, before, after, look_up);
   TellRefusals(edits, context);
   if (!edits.IsEditable() && !takes_part) return kFailed;
   const ExitStatus status =

@@ -35,10 +35,16 @@ constexpr std::array kKinds = {BotFile::kCharacteristics,
                                BotFile::kWeaponWeights, BotFile::kItemWeights,
                                BotFile::kChat, BotFile::kDescription};
 
+struct EditRules {
+  const NumberChooser& chooser;
+  const BrokenFiles& broken;
+  bool takes_part;  ///< What is refused leaves all else to be edited.
+};
+
 /// Given the file's bytes as they are now.
 void Edit(const BothReaders& readers, Result<std::string> old,
-          const Bot& before, const Bot& after, const NumberChooser& chooser,
-          RestOfFile rest, FileEdit& edit) {
+          const Bot& before, const Bot& after, const EditRules& rules,
+          FileEdit& edit) {
   const auto refuse = [&edit](Error reason) {
     edit.outcome = FileEdit::Outcome::kNotEditable;
     edit.reason = std::move(reason);
@@ -51,9 +57,9 @@ void Edit(const BothReaders& readers, Result<std::string> old,
   const bool is_changed =
       !ChangesIn(readers.file().kind, before, after).empty();
   if (is_changed) {
-    Result<std::string> edited = EditInPlace(
-        readers, edit.old_bytes, before, after, chooser, &edit.notes,
-        rest == RestOfFile::kIsEdited ? &edit.refused : nullptr);
+    Result<std::string> edited =
+        EditInPlace(readers, edit.old_bytes, before, after, rules.chooser,
+                    {&edit.notes, rules.takes_part ? &edit.refused : nullptr});
     if (!edited) {
       refuse(edited.error());
     } else if (*edited != edit.old_bytes) {
@@ -224,6 +230,73 @@ bool HasUnreadWeight(const Bot& bot, BotFile kind) {
   });
 }
 
+BotEdits EditAll(const OriginFiles& files, const Bot& before, const Bot& after,
+                 const IncludeLookup& game, const EditRules& rules) {
+  BotEdits edits;
+  const auto add_homeless = [&edits](const std::string& name) {
+    const auto& known = edits.homeless;
+    if (std::find(known.begin(), known.end(), name) == known.end()) {
+      edits.homeless.push_back(name);
+    }
+  };
+  for (const BotFile kind : kKinds) {
+    const auto origin = files.find(kind);
+    if (origin == files.end()) {
+      for (const FileChange& change : ChangesIn(kind, before, after)) {
+        // The name also stands in files that the bot has.
+        if (change == FileChange(kNameField)) continue;
+        add_homeless(NameOf(change));
+      }
+      continue;
+    }
+    FileEdit& edit = edits.files[kind];
+    edit.origin = origin->second;
+    edit.shown = ShownAt(origin->second);
+    // Version and comment are in the head of our own files.
+    const auto fault = rules.broken.find(kind);
+    const bool is_broken = fault != rules.broken.end();
+    Result<std::string> bytes = BytesAt(origin->second);
+    const bool is_changed =
+        bytes && FingerprintOf(*bytes) != origin->second.fingerprint;
+    if (!is_changed && !is_broken && ChangesIn(kind, before, after).empty() &&
+        ChangesInNoFile(before, after).empty()) {
+      continue;
+    }
+    const BothReaders readers =
+        ReadersOf(files, kind, bytes.value_or(std::string()), before, game);
+    const Bot now = is_changed ? AsInFile(readers, *bytes, before) : before;
+    const std::vector<FileChange> changes = ChangesIn(kind, now, after);
+    Edit(readers, std::move(bytes), now, after, rules, edit);
+    const std::string other =
+        changes.empty() ? std::string() : NamedInstead(files, kind);
+    if (edit.outcome == FileEdit::Outcome::kEdited) {
+      NoteOthers(files, kind, before.Name(), edit.shown, edit.notes);
+    }
+    const bool is_refused = edit.outcome == FileEdit::Outcome::kNotEditable;
+    std::string reason;
+    if (!other.empty()) {
+      reason =
+          "The game does not read this file for the bot, whose characteristic "
+          "file names " +
+          Utf8FromGameText(other) + ".";
+    } else if (is_broken && !is_refused) {
+      reason = "The game does not take this file as it is. " + fault->second;
+    }
+    if (reason.empty()) continue;
+    edit.outcome = FileEdit::Outcome::kNotEditable;
+    edit.reason = {.what = std::move(reason),
+                   .file = edit.shown,
+                   .line = 0,
+                   .advice = other.empty() ? std::string()
+                                           : "Name this file there, or edit "
+                                             "the one that it names."};
+  }
+  for (const ParameterId id : ChangesInNoFile(before, after)) {
+    add_homeless(QuotedName(id));
+  }
+  return edits;
+}
+
 }  // namespace
 
 Result<std::string> BytesAt(const OriginFile& file) {
@@ -274,69 +347,27 @@ bool BotEdits::HasEdits() const {
 
 BotEdits EditBotFiles(const OriginFiles& files, const Bot& before,
                       const Bot& after, const IncludeLookup& game,
-                      const NumberChooser& chooser, const BrokenFiles& broken,
-                      RestOfFile rest) {
-  BotEdits edits;
-  const auto add_homeless = [&edits](const std::string& name) {
-    const auto& known = edits.homeless;
-    if (std::find(known.begin(), known.end(), name) == known.end()) {
-      edits.homeless.push_back(name);
-    }
-  };
-  for (const BotFile kind : kKinds) {
-    const auto origin = files.find(kind);
-    if (origin == files.end()) {
-      for (const FileChange& change : ChangesIn(kind, before, after)) {
-        // The name also stands in files that the bot has.
-        if (change == FileChange(kNameField)) continue;
-        add_homeless(NameOf(change));
-      }
-      continue;
-    }
-    FileEdit& edit = edits.files[kind];
-    edit.origin = origin->second;
-    edit.shown = ShownAt(origin->second);
-    // Version and comment are in the head of our own files.
-    const auto fault = broken.find(kind);
-    const bool is_broken = fault != broken.end();
-    Result<std::string> bytes = BytesAt(origin->second);
-    const bool is_changed =
-        bytes && FingerprintOf(*bytes) != origin->second.fingerprint;
-    if (!is_changed && !is_broken && ChangesIn(kind, before, after).empty() &&
-        ChangesInNoFile(before, after).empty()) {
-      continue;
-    }
-    const BothReaders readers =
-        ReadersOf(files, kind, bytes.value_or(std::string()), before, game);
-    const Bot now = is_changed ? AsInFile(readers, *bytes, before) : before;
-    const std::vector<FileChange> changes = ChangesIn(kind, now, after);
-    Edit(readers, std::move(bytes), now, after, chooser, rest, edit);
-    const std::string other =
-        changes.empty() ? std::string() : NamedInstead(files, kind);
-    if (edit.outcome == FileEdit::Outcome::kEdited) {
-      NoteOthers(files, kind, before.Name(), edit.shown, edit.notes);
-    }
-    const bool is_refused = edit.outcome == FileEdit::Outcome::kNotEditable;
-    std::string reason;
-    if (!other.empty()) {
-      reason =
-          "The game does not read this file for the bot, whose characteristic "
-          "file names " +
-          Utf8FromGameText(other) + ".";
-    } else if (is_broken && !is_refused) {
-      reason = "The game does not take this file as it is. " + fault->second;
-    }
-    if (reason.empty()) continue;
-    edit.outcome = FileEdit::Outcome::kNotEditable;
-    edit.reason = {.what = std::move(reason),
-                   .file = edit.shown,
-                   .line = 0,
-                   .advice = other.empty() ? std::string()
-                                           : "Name this file there, or edit "
-                                             "the one that it names."};
-  }
-  for (const ParameterId id : ChangesInNoFile(before, after)) {
-    add_homeless(QuotedName(id));
+                      const NumberChooser& chooser, const BrokenFiles& broken) {
+  return EditAll(files, before, after, game,
+                 {.chooser = chooser, .broken = broken, .takes_part = false});
+}
+
+BotEdits EditWhatCanBe(const OriginFiles& files, const Bot& before,
+                       const Bot& after, const IncludeLookup& game) {
+  const NumberChooser nobody;
+  const BrokenFiles none;
+  const EditRules rules = {
+      .chooser = nobody, .broken = none, .takes_part = true};
+  BotEdits edits = EditAll(files, before, after, game, rules);
+  for (auto& [kind, edit] : edits.files) {
+    const auto name = std::ranges::find(edit.refused, FileChange(kNameField),
+                                        &RefusedChange::change);
+    if (name == edit.refused.end()) continue;
+    Bot named_as_before = after;
+    named_as_before.Put(kNameField, before.Name());
+    BotEdits others = EditAll(files, before, named_as_before, game, rules);
+    others.files[kind].refused.push_back(std::move(*name));
+    return others;
   }
   return edits;
 }

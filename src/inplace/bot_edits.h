@@ -29,7 +29,8 @@ struct FileEdit {
   std::string old_bytes;  ///< As it is now, where anything was edited.
   std::string bytes;
   Error reason;
-  std::vector<Error> refused;  ///< Values that stay as they are, where asked.
+  /// Where the rest of the file is edited all the same.
+  std::vector<RefusedChange> refused;
   Notes notes;  ///< What the edit does not reach, or reaches too.
   /// What a file written anew would lose or change, in sentences.
   std::vector<std::string> losses;
@@ -51,9 +52,6 @@ struct BotEdits {
   bool HasEdits() const;
 };
 
-/// What becomes of the rest of a file in which a value cannot be edited.
-enum class RestOfFile { kIsRefused, kIsEdited };
-
 /// Edits the files that a bot came from, in memory. The first bot is what they
 /// say, the second what they are to say. A file that cannot be read is not
 /// editable, nor is one that the game cannot read; but what was edited in place
@@ -61,8 +59,12 @@ enum class RestOfFile { kIsRefused, kIsEdited };
 BotEdits EditBotFiles(const OriginFiles& files, const Bot& before,
                       const Bot& after, const IncludeLookup& game,
                       const NumberChooser& chooser = {},
-                      const BrokenFiles& broken = {},
-                      RestOfFile rest = RestOfFile::kIsRefused);
+                      const BrokenFiles& broken = {});
+
+/// The same, but of a file in which values cannot be edited the others are. The
+/// name is changed in all files or in none.
+BotEdits EditWhatCanBe(const OriginFiles& files, const Bot& before,
+                       const Bot& after, const IncludeLookup& game);
 
 /// For one who gives the lines of a chat type as a whole: those of the old list
 /// that the game has in the block of another type, and that an edit cannot take

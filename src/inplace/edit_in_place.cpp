@@ -297,7 +297,7 @@ std::vector<ParameterId> ChangesInNoFile(const Bot& before, const Bot& after) {
 Result<std::string> EditInPlace(const BothReaders& readers,
                                 std::string_view bytes, const Bot& before,
                                 const Bot& after, const NumberChooser& chooser,
-                                Notes* notes, std::vector<Error>* refused) {
+                                EditTold told) {
   std::string edited(bytes);
   const std::vector<FileChange> changes =
       ChangesIn(readers.file().kind, before, after);
@@ -334,7 +334,7 @@ Result<std::string> EditInPlace(const BothReaders& readers,
       if (readers.file().kind != BotFile::kDescription) {
         NoteComment(reading, edited, change, after, plan);
       }
-      TakeNotes(plan, readers.file().shown, notes);
+      TakeNotes(plan, readers.file().shown, told.notes);
       continue;
     }
     if (refusal.empty()) refusal = kNoNeighbours;
@@ -348,11 +348,11 @@ Result<std::string> EditInPlace(const BothReaders& readers,
         .file = readers.file().shown,
         .line = 0,
         .advice = {}};
-    if (refused == nullptr) return Failure(std::move(error));
-    refused->push_back(std::move(error));
+    if (told.refused == nullptr) return Failure(std::move(error));
+    told.refused->push_back({change, std::move(error)});
   }
-  if (notes != nullptr && LooksLikeUtf8(bytes) && !LooksLikeUtf8(edited)) {
-    notes->Add(
+  if (told.notes != nullptr && LooksLikeUtf8(bytes) && !LooksLikeUtf8(edited)) {
+    told.notes->Add(
         {readers.file().shown, 0,
          "Letters were written in Windows-1252, in a file that was in UTF-8 so "
          "far. The game knows no UTF-8 and has each of its bytes as a letter. "

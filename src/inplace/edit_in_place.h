@@ -22,6 +22,19 @@ using FileChange = std::variant<ParameterId, ChatTypeId>;
 /// What the user calls it, within a sentence; UTF-8.
 std::string NameOf(const FileChange& change);
 
+/// Something that stays as it is, and why.
+struct RefusedChange {
+  FileChange change;
+  Error error;
+};
+
+/// Where an edit puts what it has to say besides.
+struct EditTold {
+  Notes* notes = nullptr;
+  /// Where it is given, what is refused goes there, and all else is edited.
+  std::vector<RefusedChange>* refused = nullptr;
+};
+
 /// In what of this kind of file the two bots differ. Model and skin are one.
 std::vector<FileChange> ChangesIn(BotFile kind, const Bot& before,
                                   const Bot& after);
@@ -43,14 +56,12 @@ using NumberChooser = std::function<std::optional<std::size_t>(
 /// what they were. A chat line that has to stay in another block of the file
 /// keeps its place there among the lines of its type. Where all that cannot be
 /// had the file is not editable in place, and the error says why. Notes tell of
-/// what could have been meant otherwise. Where a list of what was refused is
-/// given, that goes there and all else is edited.
+/// what could have been meant otherwise.
 Result<std::string> EditInPlace(const BothReaders& readers,
                                 std::string_view bytes, const Bot& before,
                                 const Bot& after,
                                 const NumberChooser& chooser = {},
-                                Notes* notes = nullptr,
-                                std::vector<Error>* refused = nullptr);
+                                EditTold told = {});
 
 }  // namespace fragsmith
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <optional>
 #include <utility>
 
 #include "botfiles/description_file.h"
@@ -154,18 +155,20 @@ class DescriptionPlan {
     }
     const auto spans = context_.reading.report.spans.find(field_);
     if (spans == context_.reading.report.spans.end()) return {};
-    for (auto read = spans->second.rbegin(); read != spans->second.rend();
-         ++read) {
-      if (!is_there || !Overlap(*read, line)) {
-        return "A load takes it from line " +
-               std::to_string(LineNumberAt(context_.bytes, read->begin)) +
-               (is_removal ? " then" : "") +
-               ", where its key stands in another word. Take that line out" +
-               (is_removal ? "" : ", or put it further up,") + " first.";
+    std::optional<TextSpan> other;
+    for (const TextSpan read : spans->second) {
+      if (!is_there || !Overlap(read, line)) {
+        other = read;
+      } else if (!is_removal) {
+        other.reset();
       }
-      if (!is_removal) break;
     }
-    return {};
+    if (!other) return {};
+    return "A load takes it from line " +
+           std::to_string(LineNumberAt(context_.bytes, other->begin)) +
+           (is_removal ? " then" : "") +
+           ", where its key stands in another word. Take that line out" +
+           (is_removal ? "" : ", or put it further up,") + " first.";
   }
 
   /// Why the name of one of several bots with the same files has to stay.

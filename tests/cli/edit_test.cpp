@@ -183,6 +183,20 @@ TEST_F(EditCommand, WritesWhatItCanOfADocument) {
   weights.replace(weights.find("20"), 2, "45");
   EXPECT_EQ(folder_.Read("rook_w.c"), weights);
   EXPECT_THAT(folder_.Read("rook_t.c"), HasSubstr("\t\t\"other\";\n"));
+  // The name stands in two files, of which one cannot have another.
+  const std::string character =
+      "#include \"chars.h\"\nskill 4\n{\n\tCHARACTERISTIC_NAME\t\"Rook\"\n}\n";
+  folder_.Write("rook_c.c", character);
+  folder_.Write("rook.bot",
+                "{\nname Other\nmodel major\naifile bots/rook_c.c\n}\n"
+                "{\nname Rook\nmodel sarge\naifile bots/rook_c.c\n}\n");
+  const Outcome named =
+      Run({"--from", "-"}, R"({"name": "Tower", "funName": "Joe"})");
+  EXPECT_EQ(named.status, 1);
+  EXPECT_THAT(named.err, HasSubstr("\"Other\" has the same files"));
+  EXPECT_EQ(folder_.Read("rook_c.c"), character);
+  EXPECT_THAT(folder_.Read("rook.bot"),
+              HasSubstr("name Rook\nmodel sarge\nfunname\tJoe\n"));
   // What is typed is all done or nothing.
   EXPECT_EQ(Run({"--set", "weaponWeights.W_RAILGUN=9", "--set",
                  "weaponWeights.W_GAUNTLET=20"})

@@ -89,7 +89,7 @@ TEST(StatementForTest, GivesANameBackThatAnotherEditTookOut) {
   const LoadedFile again(BotFile::kChat, *edited, "rook", game);
   Notes notes;
   const auto back = EditInPlace(again.readers(), *edited, again.before(),
-                                file.before(), {}, &notes);
+                                file.before(), {}, {&notes});
   ASSERT_TRUE(back) << back.error().what;
   EXPECT_EQ(*back, chat);
   EXPECT_EQ(notes.list().size(), 1U);
@@ -110,7 +110,7 @@ TEST(StatementForTest, SaysHowALineWasWrittenThatWouldComeBackOtherwise) {
       after.SetChatLine(TypeAt(0), after.HighestChatLine(TypeAt(0)) + 1, line);
     }
     EXPECT_TRUE(EditInPlace(file.readers(), file.bytes(), file.before(), after,
-                            {}, &notes));
+                            {}, {&notes}));
     std::vector<std::string> texts;
     for (const Note& note : notes.list()) texts.push_back(note.text);
     return texts;

@@ -322,7 +322,7 @@ TEST(EditInPlaceTest, TellsOfWhatOneValueTakesThePlace) {
     after.Put(id, std::move(value));
     Notes notes;
     const auto edited = EditInPlace(file.readers(), file.bytes(), file.before(),
-                                    after, {}, &notes);
+                                    after, {}, {&notes});
     EXPECT_TRUE(edited) << edited.error().what;
     std::string told;
     for (const Note& note : notes.list()) told += note.text + '\n';

@@ -36,7 +36,7 @@ class LoadedFile {
   const Notes& notes() const { return notes_; }
 
   Result<std::string> Edited(const Bot& after, Notes* notes = nullptr) const {
-    return EditInPlace(readers_, bytes_, before_, after, {}, notes);
+    return EditInPlace(readers_, bytes_, before_, after, {}, {notes});
   }
   Result<std::string> Edited(ParameterId id, Value value) const {
     Bot after = before_;
