@@ -11,6 +11,7 @@
 #include "editor/commands/edit_commands.h"
 #include "editor/commands/game_commands.h"
 #include "editor/commands/help_commands.h"
+#include "editor/commands/library_commands.h"
 #include "editor/commands/model_list_commands.h"
 #include "editor/pages/chat_page.h"
 #include "editor/pages/page_navigator.h"
@@ -131,6 +132,7 @@ class frmMain : public QMainWindow {
   bool has_told_state_ = false;
   DraftKeeper* draft_ = nullptr;
   HelpCommands* help_ = nullptr;
+  LibraryCommands* library_ = nullptr;
   frmMatch* matches_ = nullptr;  ///< Made when it is first asked for.
   std::map<QString, std::function<void()>> menu_;
   QStringList kept_recent_;  ///< As fgs.window has them.

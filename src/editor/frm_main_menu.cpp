@@ -33,6 +33,8 @@ void frmMain::BuildMenu() {
          const auto other = commands_->LoadToCompare();
          if (other) Compare(other->first, other->second);
        }},
+      {QStringLiteral("mnuLibrary"),
+       [this] { library_->Show(checker_->game()); }},
       {QStringLiteral("mnuFindings"), [this] { findings_->Toggle(); }},
       {QStringLiteral("mnuChanges"), [this] { commands_->ShowChanges(); }},
       {QStringLiteral("mnuUndo"), [this] { edits_->Undo(); }},

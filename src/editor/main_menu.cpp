@@ -100,6 +100,8 @@ constexpr std::array kItems = {
     Item("mnuCompareZero", "With all &zeros"),
     Item("mnuCompareOther", "With another &bot..."),
     kEnd,
+    Item("mnuLibrary", "&Bot library...", "",
+         "All bots that are known of: open, duplicate, compare"),
     kEnd,
     Menu("mnuHelp", "&Help"),
     Item("mnuManual", "&Manual", "F1"),

@@ -53,8 +53,9 @@ void TakeKnownBots(const GameFiles& files, GameData& data) {
     const std::optional<std::string> bytes = files.Read(path);
     if (!bytes) return;
     for (auto& [name, bot] : BotsInDescriptions(*bytes)) {
-      data.known_bots.emplace(
-          name, KnownBot{std::string(path), package, bot.character});
+      bot.path = path;
+      bot.package = package;
+      data.known_bots.emplace(name, std::move(bot));
     }
   };
   take(kBotListPath, {});
@@ -99,7 +100,9 @@ std::multimap<std::string, KnownBot, std::less<>> BotsInDescriptions(
       bots.emplace(ToLower(name),
                    KnownBot{.path = {},
                             .package = {},
-                            .character = ToLower(set.Text("aifile"))});
+                            .character = ToLower(set.Text("aifile")),
+                            .fun_name = std::string(set.Text("funname")),
+                            .model = std::string(set.Text("model"))});
     }
   }
   return bots;

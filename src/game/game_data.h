@@ -15,9 +15,11 @@ namespace fragsmith {
 
 /// A bot that the installed game knows of a description.
 struct KnownBot {
-  std::string path;       ///< "scripts/bots.txt", lower case.
-  GamePackage package;    ///< Without a name for the list bots.txt.
-  std::string character;  ///< "bots/sarge_c.c", lower case.
+  std::string path;           ///< "scripts/bots.txt", lower case.
+  GamePackage package;        ///< Without a name for the list bots.txt.
+  std::string character;      ///< "bots/sarge_c.c", lower case.
+  std::string fun_name = {};  ///< Game text, as it is written.
+  std::string model = {};     ///< "sarge/krusade".
 
   bool is_of_list() const { return package.name.empty(); }
 };

@@ -111,6 +111,7 @@ TEST_F(Faces, GreysWhatTheGameLacksAndTellsWhy) {
   EXPECT_TRUE(Row(dialog, 2).data(Qt::ForegroundRole).isValid());
 
   // It is looked for again the next time.
+  dialog.close();
   folder_.Write("game/baseq3/lost.pk3", "");
   frmFaces again(state_->lists.models, store, {}, window_.get());
   again.show();

@@ -351,6 +351,51 @@ void BotCommands::OpenRecent(const RecentBot& bot) {
   }
 }
 
+void BotCommands::Open(const BotSource& source) {
+  if (const auto* const bot = std::get_if<std::size_t>(&source)) {
+    OpenOfList(*bot);
+  } else {
+    OpenRecent(std::get<RecentBot>(source));
+  }
+}
+
+void BotCommands::Duplicate(const BotSource& source) {
+  if (!MayLoseChanges(kLoadQuestion)) return;
+  std::optional<Bot> bot = LoadAside(source);
+  if (!bot) return;
+  const QString name = ToQString(bot->Name());
+  // Two of one name would be one to the game. An odd name stays to be mended.
+  static_cast<void>(bot->SetParameter(kNameField, bot->Name() + "2"));
+  current_.Replace(std::move(*bot), true, tr("Duplicate %1").arg(name));
+  emit Made();
+}
+
+std::optional<Bot> BotCommands::LoadAside(const BotSource& source) {
+  OpenChoice choice;
+  std::optional<LoadedBot> loaded;
+  const auto* const recent = std::get_if<RecentBot>(&source);
+  if (recent == nullptr) {
+    choice.bot_of_list = std::get<std::size_t>(source);
+    loaded = Load(WholeBot{}, choice);
+  } else if (recent->name.empty()) {
+    choice.file = recent->path;
+    choice.options.loads_with_layout = IsInLayout(recent->path);
+    loaded = Load(WholeBot{}, choice);
+  } else {
+    Notes notes;
+    const Result<BotList> bots = BotsInPackage(recent->path, notes);
+    const auto index = bots ? bots->Find(recent->name) : std::nullopt;
+    if (!index) {
+      TellNoBot(recent->path);
+      return std::nullopt;
+    }
+    loaded = loader_.FromPackage(WholeBot{}, bots->entries()[*index],
+                                 recent->path, choice.options, current_.bot());
+  }
+  if (!loaded || loaded->files.empty()) return std::nullopt;
+  return std::move(loaded->bot);
+}
+
 void BotCommands::SaveAgain() {
   if (const std::optional<BotSaver::Outcome> outcome = saver_.SaveAgain()) {
     Tell(*outcome);

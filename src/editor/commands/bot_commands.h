@@ -9,6 +9,7 @@
 #include <optional>
 #include <string>
 #include <utility>
+#include <variant>
 
 #include "editor/commands/bot_loader.h"
 #include "editor/commands/bot_saver.h"
@@ -23,6 +24,9 @@
 #include "session/load_bot.h"
 
 namespace fragsmith {
+
+/// A bot of the list of bots, by its place there, or one that lies elsewhere.
+using BotSource = std::variant<std::size_t, RecentBot>;
 
 /// The commands that make, load and save the current bot, with their
 /// questions and dialogs.
@@ -56,6 +60,15 @@ class BotCommands : public QObject {
   void OpenOfList(std::size_t bot);
 
   void OpenRecent(const RecentBot& bot);
+
+  void Open(const BotSource& source);
+
+  /// Loads a bot as a new one under another name, of no files yet.
+  void Duplicate(const BotSource& source);
+
+  /// Loads another bot; the current one stays as it is. Nothing when that came
+  /// to nothing, told.
+  std::optional<Bot> LoadAside(const BotSource& source);
 
   /// The recent bots as items; what is typed is stored first, by a function
   /// that is false when it is refused.

@@ -36,6 +36,8 @@ class ModelListCommands {
   /// Lets the user choose the bot's model and skin by their faces.
   void ChooseFace();
 
+  FaceStore& faces() { return faces_; }
+
   void AddModel();
   void AddSkin();
   void RemoveModel();

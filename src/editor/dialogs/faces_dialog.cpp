@@ -2,11 +2,11 @@
 
 #include <QCoreApplication>
 #include <QKeyEvent>
-#include <QScrollBar>
 #include <QVBoxLayout>
 #include <optional>
 
 #include "editor/controls/face_delegate.h"
+#include "editor/dialogs/face_reader.h"
 
 namespace fragsmith {
 namespace {
@@ -29,7 +29,6 @@ FacesModel::FaceOf FacesOf(const FaceStore& faces) {
 frmFaces::frmFaces(const ModelCatalogue& models, FaceStore& faces,
                    const CatalogueSelection& selected, QWidget* parent)
     : QDialog(parent),
-      faces_(faces),
       filter_(new QLineEdit(this)),
       list_(new QListView(this)),
       model_(new FacesModel(models, FacesOf(faces), list_)),
@@ -38,7 +37,6 @@ frmFaces::frmFaces(const ModelCatalogue& models, FaceStore& faces,
   setObjectName(QStringLiteral("frmFaces"));
   setWindowTitle(tr("Choose a model and skin"));
   setSizeGripEnabled(true);
-  faces_.ForgetMissing();
   filter_->setObjectName(QStringLiteral("txtFaceFilter"));
   filter_->setAccessibleName(tr("Part of a name"));
   filter_->setPlaceholderText(tr("Part of a name"));
@@ -73,19 +71,15 @@ frmFaces::frmFaces(const ModelCatalogue& models, FaceStore& faces,
   list_->setCurrentIndex(
       matches_->mapFromSource(model_->index(model_->RowOf(selected))));
   Filter({});
-  reading_.setSingleShot(true);
-  connect(&reading_, &QTimer::timeout, this, &frmFaces::ReadNext);
-  const auto read = [this] { reading_.start(); };
-  connect(list_->verticalScrollBar(), &QScrollBar::valueChanged, this, read);
-  connect(list_->verticalScrollBar(), &QScrollBar::rangeChanged, this, read);
-  connect(matches_, &QAbstractItemModel::layoutChanged, this, read);
+  new FaceReader(faces, *list_, [this](const QModelIndex& index) {
+    return &model_->SkinAt(matches_->mapToSource(index).row());
+  });
   filter_->setFocus();
 }
 
 void frmFaces::showEvent(QShowEvent* event) {
   QDialog::showEvent(event);
   list_->scrollTo(list_->currentIndex(), QAbstractItemView::PositionAtCenter);
-  reading_.start();
 }
 
 void frmFaces::Filter(const QString& text) {
@@ -100,38 +94,6 @@ void frmFaces::Filter(const QString& text) {
                              "game.")
                               .arg(count)
                               .arg(model_->rowCount({})));
-  reading_.start();
-}
-
-int frmFaces::NextRow() const {
-  const QRect sight = list_->viewport()->rect();
-  for (int row = 0; row < matches_->rowCount(); ++row) {
-    const QModelIndex index = matches_->index(row, 0);
-    const QRect place = list_->visualRect(index);
-    if (place.top() > sight.bottom()) break;
-    const int source = matches_->mapToSource(index).row();
-    if (place.intersects(sight) &&
-        faces_.Find(model_->SkinAt(source)) == nullptr) {
-      return source;
-    }
-  }
-  return -1;
-}
-
-void frmFaces::ReadNext() {
-  if (is_reading_ || !isVisible()) return;
-  const int row = NextRow();
-  if (row < 0) return;
-  // While the tool works, the events come to this dialog, which may be closed
-  // by them; it lasts until its loop has come back here.
-  is_reading_ = true;
-  faces_.Read(model_->SkinAt(row), [this] {
-    QCoreApplication::processEvents();
-    return isVisible();
-  });
-  is_reading_ = false;
-  model_->ShowFace(row);
-  reading_.start();
 }
 
 CatalogueSelection frmFaces::Chosen() const {

@@ -5,7 +5,6 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QSortFilterProxyModel>
-#include <QTimer>
 
 #include "editor/dialogs/dialog_parts.h"
 #include "editor/models/faces_model.h"
@@ -36,18 +35,12 @@ class frmFaces : public QDialog {
 
  private:
   void Filter(const QString& text);
-  void ReadNext();
-  /// The first in sight that was not read; -1 for none.
-  int NextRow() const;
 
-  FaceStore& faces_;
   QLineEdit* filter_;
   QListView* list_;
   FacesModel* model_;
   QSortFilterProxyModel* matches_;
   HintLine* hint_;
-  QTimer reading_;
-  bool is_reading_ = false;
 };
 
 }  // namespace fragsmith

@@ -79,6 +79,4 @@ int FacesModel::RowOf(const CatalogueSelection& place) const {
              : static_cast<int>(std::distance(places_.begin(), found));
 }
 
-void FacesModel::ShowFace(int row) { emit dataChanged(index(row), index(row)); }
-
 }  // namespace fragsmith

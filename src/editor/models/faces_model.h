@@ -39,9 +39,6 @@ class FacesModel : public QAbstractListModel {
   /// The row of the place; 0 where there is none.
   int RowOf(const CatalogueSelection& place) const;
 
-  /// The icon was read.
-  void ShowFace(int row);
-
  private:
   const ModelCatalogue& models_;
   FaceOf face_of_;
