@@ -181,9 +181,9 @@ bool BotReader::HasLoneBackslash(int line) const {
   return Contains(text, "\\") && !Contains(text, "\\\\");
 }
 
-bool BotReader::EndsAtAccent(std::string_view path, const std::string& place,
+bool BotReader::EndsAtAccent(std::string_view path, const std::string& file,
                              int line) const {
-  if (!files_.description || place != files_.description->name || line == 0) {
+  if (!files_.description || file != files_.description->name || line == 0) {
     return false;
   }
   const std::string_view text = LineOfFile(files_.description->bytes, line);
@@ -221,13 +221,13 @@ const GameFile* BotReader::OwnInAnyCase(std::string_view path) const {
 /// A file by the path that a file of the bot gives in a line (0 where that is
 /// not known); nothing when the game cannot open it.
 std::optional<GameFile> BotReader::Find(std::string_view path, BotFile kind,
-                                        const std::string& place, int line) {
+                                        const std::string& file, int line) {
   std::string asked(path);
   std::replace(asked.begin(), asked.end(), '\\', '/');
   const std::string shown = InBotFiles(ShownText(asked));
   if (NormalGamePath(asked).empty()) return GameFile{shown, "", ""};
   if (asked.size() > limits::kMaxPath) {
-    Add("path-too-long", kError, place, line,
+    Add("path-too-long", kError, file, line,
         "The path " + Quoted(asked) + " of the " + NameOf(kind) +
             " file is too long: the game can open " +
             std::to_string(limits::kMaxPath + kBotFilesPath.size()) +
@@ -241,7 +241,7 @@ std::optional<GameFile> BotReader::Find(std::string_view path, BotFile kind,
   }
   std::optional<std::string> bytes = game_(asked);
   if (!bytes) {
-    TellMissing(asked, kind, place, line);
+    TellMissing(asked, kind, file, line);
     return std::nullopt;
   }
   opened_.push_back(InBotFiles(asked));
@@ -263,38 +263,38 @@ std::string BotReader::AdviceForPath(std::string_view path) const {
 }
 
 void BotReader::TellMissing(const std::string& path, BotFile kind,
-                            const std::string& place, int line) {
+                            const std::string& file, int line) {
   const std::string shown =
       "The " + NameOf(kind) + " file " + Quoted(InBotFiles(path));
   const auto tell = [&](std::string_view id, Severity severity,
                         std::string text) {
     complaints_.Add({.id = id,
                      .severity = severity,
-                     .place = {.file = place, .line = line},
+                     .place = {.file = file, .line = line},
                      .text = std::move(text),
                      .missing = path});
   };
   const GameFile* const other_case = OwnInAnyCase(path);
   const std::string on_disk = PathLookedFor(path, FileHome::kLoose);
-  if (EndsAtAccent(path, place, line)) {
-    Add("path-accent", kError, place, line,
+  if (EndsAtAccent(path, file, line)) {
+    Add("path-accent", kError, file, line,
         "The game reads the path of the " + NameOf(kind) + " file only up to " +
             Quoted(path) +
             ", where a letter with an accent follows. Call the bot and its "
             "files by letters without accents.");
   } else if (HasLoneBackslash(line)) {
-    Add("path-backslash", kError, place, line,
+    Add("path-backslash", kError, file, line,
         "The path of the " + NameOf(kind) +
             " file has a \\ in this line, and the game takes that and the "
             "letter behind it for one sign. Write / in its place.");
   } else if (other_case != nullptr) {
-    Add("path-case", kError, place, line,
+    Add("path-case", kError, file, line,
         "The bot names its " + NameOf(kind) + " file " + Quoted(path) +
             ", but it is called " + Quoted(other_case->game_path) +
             ". Capitals count for files in a folder on Linux. Spell both "
             "alike.");
   } else if (files_.home == FileHome::kPacked && OwnFile(on_disk) != nullptr) {
-    Add("path-in-package", kError, place, line,
+    Add("path-in-package", kError, file, line,
         "The path " + Quoted(path) + " of the " + NameOf(kind) +
             " file works for files in a folder only. For a package write " +
             Quoted(on_disk) + ".");
@@ -336,13 +336,13 @@ bool BotReader::Weights(const std::string& path, bool are_weapons,
                         const CharacterValue& value) {
   const BotFile kind =
       are_weapons ? BotFile::kWeaponWeights : BotFile::kItemWeights;
-  auto [place, is_new] = loaded_.try_emplace({kind, path, {}});
-  if (!is_new) return place->second;
+  auto [entry, is_new] = loaded_.try_emplace({kind, path, {}});
+  if (!is_new) return entry->second;
   const std::optional<GameFile> file =
       Find(path, kind, CharacterName(), value.line);
   if (!file) {
-    place->second = !files_.is_game_known && OwnInAnyCase(path) == nullptr;
-    return place->second;
+    entry->second = !files_.is_game_known && OwnInAnyCase(path) == nullptr;
+    return entry->second;
   }
   WeightsRead read;
   const std::size_t first = complaints_.list().size();
@@ -350,7 +350,7 @@ bool BotReader::Weights(const std::string& path, bool are_weapons,
     read = ReadGameWeights(*file, game_, complaints);
     return read.is_loaded && read.count > 0;
   });
-  place->second = read.is_loaded;
+  entry->second = read.is_loaded;
   if (!value.is_own) return read.is_loaded;
   if (file->game_path.empty()) {
     const Complaint empty = EmptyPath(kind, value);
@@ -400,17 +400,17 @@ bool BotReader::Weights(const std::string& path, bool are_weapons,
 }
 
 bool BotReader::Chat(const CharacterValue& path, const CharacterValue& name) {
-  auto [place, is_new] =
+  auto [entry, is_new] =
       loaded_.try_emplace({BotFile::kChat, path.text, name.text});
-  if (!is_new) return place->second;
+  if (!is_new) return entry->second;
   const std::optional<GameFile> file =
       Find(path.text, BotFile::kChat, CharacterName(), path.line);
   if (!file) {
-    place->second = !files_.is_game_known && OwnInAnyCase(path.text) == nullptr;
-    return place->second;
+    entry->second = !files_.is_game_known && OwnInAnyCase(path.text) == nullptr;
+    return entry->second;
   }
   GameChat chat;
-  place->second = ReadOne(*file, path.is_own, [&](Complaints& complaints) {
+  entry->second = ReadOne(*file, path.is_own, [&](Complaints& complaints) {
     Complaints all(files_.is_game_known);
     const bool is_good = ReadGameChat(*file, name.text, game_, all, &chat);
     for (const Complaint& one : all.list()) {
@@ -421,10 +421,10 @@ bool BotReader::Chat(const CharacterValue& path, const CharacterValue& name) {
     }
     return is_good;
   });
-  if (place->second && path.is_own) {
+  if (entry->second && path.is_own) {
     CheckChatFile(*file, chat, game_, complaints_);
   }
-  return place->second;
+  return entry->second;
 }
 
 }  // namespace fragsmith

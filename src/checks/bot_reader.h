@@ -80,12 +80,12 @@ class BotReader {
                         const GameChat& chat, const Complaint& told) const;
 
   std::optional<GameFile> Find(std::string_view path, BotFile kind,
-                               const std::string& place, int line);
+                               const std::string& file, int line);
   void TellMissing(const std::string& path, BotFile kind,
-                   const std::string& place, int line);
+                   const std::string& file, int line);
   /// Whether the path in this line of the description is all that the game
   /// reads of a longer one.
-  bool EndsAtAccent(std::string_view path, const std::string& place,
+  bool EndsAtAccent(std::string_view path, const std::string& file,
                     int line) const;
   std::string AdviceForPath(std::string_view path) const;
   template <typename Condition>

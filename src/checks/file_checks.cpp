@@ -37,9 +37,9 @@ class FileChecker {
       : files_(files),
         game_([this, &game](std::string_view path) {
           // Several files ask for the same one, each of them at each level.
-          const auto [place, is_new] = of_game_.try_emplace(std::string(path));
-          if (is_new) place->second = game(path);
-          return place->second;
+          const auto [entry, is_new] = of_game_.try_emplace(std::string(path));
+          if (is_new) entry->second = game(path);
+          return entry->second;
         }),
         reader_(files_, game_) {}
 

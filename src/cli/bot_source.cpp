@@ -2,11 +2,11 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <system_error>
 #include <utility>
 #include <vector>
 
 #include "checks/bot_on_disk.h"
+#include "cli/bot_choice.h"
 #include "cli/misspelt_folder.h"
 #include "cli/terminal.h"
 #include "game/game_lookup.h"
@@ -24,173 +24,6 @@
 namespace fragsmith {
 namespace fs = std::filesystem;
 namespace {
-
-/// The bot that is meant among those of a source, by its index, or how the
-/// program ends without one.
-struct Choice {
-  std::optional<std::size_t> index;
-  ExitStatus refusal = kFailed;
-  std::string listed_name = {};  ///< As in BotLocation.
-};
-
-/// As it is typed in a console: with quotes around it or without.
-std::string WithoutQuotes(const std::string& name) {
-  const bool is_quoted =
-      name.size() > 2 && name.front() == '"' && name.back() == '"';
-  return is_quoted ? name.substr(1, name.size() - 2) : name;
-}
-
-std::string WithoutColours(const std::string& name) {
-  std::string plain;
-  for (std::size_t at = 0; at < name.size(); ++at) {
-    if (name[at] == '^' && at + 1 < name.size()) {
-      ++at;
-    } else {
-      plain += name[at];
-    }
-  }
-  return plain;
-}
-
-/// The bot whose files are called so, or which the game adds by that name.
-std::optional<std::size_t> FindName(const std::vector<std::string>& names,
-                                    const std::string& wanted,
-                                    const GivenFiles& given) {
-  auto found = std::find(names.begin(), names.end(), wanted);
-  if (found == names.end()) {
-    found = std::find_if(names.begin(), names.end(),
-                         [&wanted](const std::string& name) {
-                           return EqualIgnoringCase(name, wanted);
-                         });
-  }
-  if (found == names.end()) {
-    const std::string plain = WithoutColours(WithoutQuotes(wanted));
-    found =
-        std::find_if(names.begin(), names.end(), [&](const std::string& name) {
-          const std::string in_game = NameToAdd(ReadBot(given, name).files);
-          return EqualIgnoringCase(WithoutColours(in_game), plain);
-        });
-  }
-  if (found == names.end()) return std::nullopt;
-  return static_cast<std::size_t>(found - names.begin());
-}
-
-/// The bot of a description or of the list of bots that has these files, such
-/// as one of several that share them.
-std::optional<Choice> FindListed(const std::vector<std::string>& names,
-                                 const std::string& wanted,
-                                 const GivenFiles& given) {
-  std::optional<ListedBot> listed = FindListedBot(given, WithoutQuotes(wanted));
-  if (!listed) return std::nullopt;
-  const auto found =
-      std::ranges::find_if(names, [&listed](const std::string& name) {
-        return EqualIgnoringCase(name, listed->file_name);
-      });
-  if (found == names.end()) return std::nullopt;
-  return Choice{.index = static_cast<std::size_t>(found - names.begin()),
-                .refusal = {},
-                .listed_name = std::move(listed->name)};
-}
-
-/// A bot that a description speaks of, though its character file is not there.
-std::optional<ListedBot> FindUnfinished(const std::string& wanted,
-                                        const GivenFiles& given) {
-  std::optional<ListedBot> listed = FindListedBot(given, WithoutQuotes(wanted));
-  if (listed && listed->file_name.empty()) listed->file_name = wanted;
-  return listed;
-}
-
-void PrintNames(const std::vector<std::string>& names,
-                CommandContext& context) {
-  for (const std::string& name : names) {
-    context.err << Printable(Utf8FromGameText(name)) << '\n';
-  }
-}
-
-/// The folder in this one that has the game's folders in it; empty without one.
-fs::path FolderWithBots(const fs::path& folder) {
-  std::error_code reason;
-  for (fs::directory_iterator entry(folder, reason), end;
-       !reason && entry != end; entry.increment(reason)) {
-    if (IsFolder(entry->path() / PathFromBytes(kBotFilesFolder))) {
-      return entry->path();
-    }
-  }
-  return {};
-}
-
-/// True, and told, where the game would not find the folder of the bots.
-bool IsInMisspeltFolder(const BotSource& options, CommandContext& context) {
-  const std::string misspelt =
-      MisspeltBotsFolder(PathFromBytes(options.source));
-  if (misspelt.empty()) return false;
-  Fail(context, {.what = "The folder of the bots is called " + misspelt +
-                         ", and capitals count for the game on Linux: it "
-                         "finds nothing there.",
-                 .file = options.source,
-                 .line = 0,
-                 .advice = "Rename it " + std::string(kBotFilesFolder) + "."});
-  return true;
-}
-
-Choice Choose(const std::vector<std::string>& names, const BotSource& options,
-              const GivenFiles& given, CommandContext& context) {
-  const fs::path inner = names.empty() && !given.is_packed()
-                             ? FolderWithBots(PathFromBytes(options.source))
-                             : fs::path();
-  if (!inner.empty()) {
-    Fail(context, {.what = "There are no bot files at the top of this folder: "
-                           "botfiles lies one folder too deep, in " +
-                           Utf8FromPath(inner.filename()) + ".",
-                   .file = options.source,
-                   .line = 0,
-                   .advice = "Give that folder. For the game, what is in it "
-                             "belongs into baseq3 itself."});
-    return {};
-  }
-  if (names.empty() && !given.is_packed() &&
-      IsInMisspeltFolder(options, context)) {
-    return {};
-  }
-  if (names.empty()) {
-    const std::string why = WhyNoBots(PathFromBytes(options.source));
-    Fail(context,
-         {.what = "There are no bot files.",
-          .file = options.source,
-          .line = 0,
-          .advice = why.empty()
-                        ? "The files of a bot end in _c.c, _w.c, _i.c and _t.c."
-                        : why});
-    return {};
-  }
-  if (options.name.empty()) {
-    if (names.size() == 1) return {.index = 0};
-    context.err << "There is more than one bot; give the name of one:\n";
-    PrintNames(names, context);
-    return {.index = {}, .refusal = kWrongUsage};
-  }
-  const std::optional<std::string> wanted = GameTextFromUtf8(options.name);
-  if (wanted && options.is_for_game && given.is_packed()) {
-    // The list of bots gives a name to files that may be called otherwise,
-    // though there are files that are called so.
-    const std::optional<ListedBot> listed =
-        FindListedBot(given, WithoutQuotes(*wanted));
-    if (listed && listed->is_of_list) {
-      if (auto choice = FindListed(names, *wanted, given)) return *choice;
-    }
-  }
-  const std::optional<std::size_t> index =
-      wanted ? FindName(names, *wanted, given) : std::nullopt;
-  if (wanted && !index) {
-    if (auto listed = FindListed(names, *wanted, given)) return *listed;
-  }
-  if (!index) {
-    context.err << "There is no bot " << Printable(options.name)
-                << "; there are:\n";
-    PrintNames(names, context);
-  }
-  return {.index = index};
-}
 
 BotLocationOutcome InFolder(const fs::path& folder, const std::string& name,
                             const BotSource& options) {
@@ -232,7 +65,7 @@ BotLocationOutcome FindInFolder(fs::path folder, const BotSource& options,
     if (listed) outcome.found->listed_name = listed->name;
     return outcome;
   }
-  const Choice choice = Choose(names, options, given, context);
+  const BotChoice choice = ChooseBot(names, options, given, context);
   if (!choice.index) return {.found = {}, .refusal = choice.refusal};
   BotLocationOutcome outcome = InFolder(folder, names[*choice.index], inside);
   outcome.found->listed_name = choice.listed_name;
@@ -270,7 +103,7 @@ BotLocationOutcome FindInPackage(const fs::path& package,
       return {.found = std::move(found)};
     }
   }
-  const Choice choice = Choose(names, options, given, context);
+  const BotChoice choice = ChooseBot(names, options, given, context);
   if (!choice.index) return {.found = {}, .refusal = choice.refusal};
   found.name = bots[*choice.index].Name;
   found.has_description = bots[*choice.index].HasBotScript;
@@ -375,7 +208,8 @@ bool IsOfFiles(const BotSource& options) {
 
 BotLocationOutcome FindBot(const BotSource& options, CommandContext& context) {
   const fs::path source = PathFromBytes(options.source);
-  if (options.is_for_game && IsInMisspeltFolder(options, context)) return {};
+  if (options.is_for_game && TellMisspeltFolder(options.source, context))
+    return {};
   if (IsFolder(source)) return FindInFolder(source, options, context);
   const std::string file = BytesFromPath(source.filename());
   if (IsFile(source) && EndsWithIgnoringCase(file, kPackageEnd)) {

@@ -45,8 +45,8 @@ struct MatchOptions {
     if (games > 0) return games;
     return until_sure ? kMaxUntilSure : kDefaultGames;
   }
-  double SkillOf(std::size_t place) const {
-    return skills[skills.size() == 1 ? 0 : place];
+  double SkillOf(std::size_t index) const {
+    return skills[skills.size() == 1 ? 0 : index];
   }
 };
 
@@ -262,10 +262,10 @@ ExitStatus RunMatch(MatchOptions options, CommandContext& context) {
   report.sources = options.bots;
   report.plan.maps = MapsIn(chosen->map);
   report.plan.minutes = options.minutes;
-  for (std::size_t place = 0; place < options.bots.size(); ++place) {
-    MatchBotOutcome outcome = ReadMatchBot(options.bots[place], context);
+  for (std::size_t index = 0; index < options.bots.size(); ++index) {
+    MatchBotOutcome outcome = ReadMatchBot(options.bots[index], context);
     if (!outcome.bot) return outcome.refusal;
-    outcome.bot->skill = options.SkillOf(place);
+    outcome.bot->skill = options.SkillOf(index);
     report.plan.bots.push_back(std::move(*outcome.bot));
   }
   if (options.until_sure) report.tests = TestsFor(options.bots.size());

@@ -64,15 +64,14 @@ std::vector<std::string> MatchSourcesIn(const std::string& folder) {
   for (const fs::path& file : documents) {
     sources.push_back(BytesFromPath(path / file));
   }
-  std::vector<fs::path> places = ListFiles(path, kPackageEnd);
-  for (fs::path& place : places) place = path / place;
-  places.push_back(path);
-  for (const fs::path& place : places) {
-    const Result<std::vector<BotLocation>> bots = BotsAt(place);
+  std::vector<fs::path> paths = ListFiles(path, kPackageEnd);
+  for (fs::path& one : paths) one = path / one;
+  paths.push_back(path);
+  for (const fs::path& one : paths) {
+    const Result<std::vector<BotLocation>> bots = BotsAt(one);
     if (!bots) continue;
     for (const BotLocation& bot : *bots) {
-      sources.push_back(Utf8FromGameText(bot.name) + "@" +
-                        BytesFromPath(place));
+      sources.push_back(Utf8FromGameText(bot.name) + "@" + BytesFromPath(one));
     }
   }
   return sources;

@@ -47,4 +47,16 @@ std::string MisspeltBotsFolder(const fs::path& source) {
   return {};
 }
 
+bool TellMisspeltFolder(const std::string& source, CommandContext& context) {
+  const std::string misspelt = MisspeltBotsFolder(PathFromBytes(source));
+  if (misspelt.empty()) return false;
+  Fail(context, {.what = "The folder of the bots is called " + misspelt +
+                         ", and capitals count for the game on Linux: it "
+                         "finds nothing there.",
+                 .file = source,
+                 .line = 0,
+                 .advice = "Rename it " + std::string(kBotFilesFolder) + "."});
+  return true;
+}
+
 }  // namespace fragsmith

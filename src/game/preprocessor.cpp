@@ -352,11 +352,11 @@ void GameSource::Report(std::string_view id, Severity severity,
     const auto file = static_cast<std::size_t>(token.file);
     const bool is_by_macro = IsLastMacroOdd();
     line = is_by_macro ? last_macro_name_.line : include_lines_[file];
-    const std::string place =
+    const std::string where =
         file_names_[file] + ", line " + std::to_string(token.line);
     text += is_by_macro
-                ? " (Noticed where " + place + " uses " + last_macro_ + ".)"
-                : " (Noticed in " + place + ", which this line includes.)";
+                ? " (Noticed where " + where + " uses " + last_macro_ + ".)"
+                : " (Noticed in " + where + ", which this line includes.)";
   }
   if (severity == Severity::kError && line > 0) {
     text += AdviceForLine(LineOfFile(file_.bytes, line));

@@ -57,7 +57,7 @@ struct FactKey {
   /// The level, the set, or which of those of the same name; 0 elsewhere.
   std::size_t group = 0;
   std::string name;
-  auto operator<=>(const FactKey&) const = default;
+  auto operator<=>(const FactKey&) const = default;  // NOLINT(*-use-nullptr)
 };
 
 /// All that a reading says, each thing as text. Two readings that say the same

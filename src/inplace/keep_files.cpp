@@ -158,10 +158,10 @@ std::optional<std::string> UnderNewName(const Kept& kept) {
   return text;
 }
 
-enum class Place { kAsPlanned, kElsewhere };
+enum class Target { kAsPlanned, kElsewhere };
 
 Notes Keep(const Bot& bot, const BotHome& home, const IncludeLookup& game,
-           const NumberChooser& chooser, Place place, SavePlan& plan) {
+           const NumberChooser& chooser, Target target, SavePlan& plan) {
   Notes notes;
   const Bot& before = home.saved ? *home.saved : *home.loaded;
   const std::string called = CalledBy(home.files);
@@ -193,7 +193,7 @@ Notes Keep(const Bot& bot, const BotHome& home, const IncludeLookup& game,
                               LookUpBeside(edit.origin, game));
     std::error_code reason;
     const bool is_in_place =
-        place == Place::kAsPlanned && edit.origin.is_on_disk() &&
+        target == Target::kAsPlanned && edit.origin.is_on_disk() &&
         fs::equivalent(edit.origin.path, plan.files.at(kind), reason);
     std::optional<std::string> text =
         UnderNewName({readers, bot, *std::move(bytes), is_in_place});
@@ -226,7 +226,7 @@ bool HasFilesToKeep(const Bot& bot, const BotHome& home) {
 Notes KeepAuthorsFiles(const Bot& bot, const BotHome& home,
                        const IncludeLookup& game, const NumberChooser& chooser,
                        SavePlan& plan) {
-  return Keep(bot, home, game, chooser, Place::kAsPlanned, plan);
+  return Keep(bot, home, game, chooser, Target::kAsPlanned, plan);
 }
 
 Notes KeepFilesUnderNewName(const SaveInPlace& save, SavePlan& plan,
@@ -236,7 +236,7 @@ Notes KeepFilesUnderNewName(const SaveInPlace& save, SavePlan& plan,
   SavePlan kept = plan;
   const Notes notes =
       Keep(save.bot, home, save.game, AskForNumber(save.prompts, is_cancelled),
-           Place::kElsewhere, kept);
+           Target::kElsewhere, kept);
   const Bot& before = home.saved ? *home.saved : *home.loaded;
   const BotEdits edits =
       EditBotFiles(home.files, before, save.bot, save.game,

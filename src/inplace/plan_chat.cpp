@@ -92,20 +92,20 @@ class ChatPlan {
       is_kept[*step.new_line] = true;
       is_fixed[*step.new_line] = !old_[*step.old_line].in_game;
     }
-    std::map<std::string_view, std::vector<std::size_t>> places;
+    std::map<std::string_view, std::vector<std::size_t>> positions;
     for (const bool is_wanted_first : {false, true}) {
       for (std::size_t at = 0; at < all.size(); ++at) {
         if (!is_fixed[at] && is_kept[at] != is_wanted_first) {
-          places[all[at]].push_back(at);
+          positions[all[at]].push_back(at);
         }
       }
     }
     for (std::size_t at = old_.size(); at-- > 0;) {
       if (old_[at].in_game || is_found[at]) continue;
-      const auto place = places.find(old_[at].text);
-      if (place != places.end() && !place->second.empty()) {
-        is_fixed[place->second.back()] = true;
-        place->second.pop_back();
+      const auto found = positions.find(old_[at].text);
+      if (found != positions.end() && !found->second.empty()) {
+        is_fixed[found->second.back()] = true;
+        found->second.pop_back();
       } else if (!old_[at].text.empty()) {
         Refuse(old_[at].why_fixed);
         return std::nullopt;
@@ -211,8 +211,8 @@ class ChatPlan {
   }
 
   /// Lines of ours, by where they stand; new ones in front of old ones.
-  void AddOurs(std::size_t place, bool is_old, const std::string& text) {
-    ours_.push_back({{place, is_old}, text});
+  void AddOurs(std::size_t offset, bool is_old, const std::string& text) {
+    ours_.push_back({{offset, is_old}, text});
   }
 
   void SpliceIn(const OldLine& line) {
@@ -350,7 +350,7 @@ class ChatPlan {
                        return left.first < right.first;
                      });
     Lines texts;
-    for (auto& [place, text] : ours) texts.push_back(std::move(text));
+    for (auto& [position, text] : ours) texts.push_back(std::move(text));
     attempt.expected[RuleFact(type_)] = FactOf(texts);
     NoteOrder(texts);
     plan_.attempts.push_back(std::move(attempt));

@@ -136,9 +136,9 @@ std::vector<Estimate> RatingsOf(std::size_t bots,
 std::vector<LadderBot> LadderOf(const std::vector<MatchReport>& reports) {
   std::vector<LadderBot> ladder;
   std::vector<MatchBot> bots;
-  const auto place_of = [&](const MatchReport& report, std::size_t place) {
-    const MatchBot& bot = report.plan.bots[place];
-    const std::string& source = report.sources[place];
+  const auto index_of = [&](const MatchReport& report, std::size_t bot_index) {
+    const MatchBot& bot = report.plan.bots[bot_index];
+    const std::string& source = report.sources[bot_index];
     const auto found =
         std::find_if(ladder.begin(), ladder.end(), [&](const LadderBot& other) {
           return other.source == source && other.skill == bot.skill;
@@ -152,8 +152,8 @@ std::vector<LadderBot> LadderOf(const std::vector<MatchReport>& reports) {
   };
   std::vector<LadderGame> games;
   for (const MatchReport& report : reports) {
-    const std::size_t bot = place_of(report, 0);
-    const std::size_t other = place_of(report, 1);
+    const std::size_t bot = index_of(report, 0);
+    const std::size_t other = index_of(report, 1);
     for (const MatchTally& match : TalliesOf(report)) {
       const int points = std::max(match.bots[0].score, 0);
       const int others_points = std::max(match.bots[1].score, 0);

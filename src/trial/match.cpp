@@ -127,28 +127,28 @@ Result<std::vector<int>> Settle(const Match& match, const MatchRecord& record,
   return clients;
 }
 
-/// The same with the places of the bots as the numbers of the players.
+/// The same with the indices of the bots as the numbers of the players.
 MatchRecord ByPlaces(const MatchRecord& record,
                      const std::vector<int>& clients) {
-  std::map<int, int> places;
-  MatchRecord by_places;
+  std::map<int, int> indices;
+  MatchRecord by_index;
   for (const int client : clients) {
-    const int place = static_cast<int>(places.size());
-    places[client] = place;
-    by_places.players[place].name = record.players.at(client).name;
+    const int index = static_cast<int>(indices.size());
+    indices[client] = index;
+    by_index.players[index].name = record.players.at(client).name;
   }
-  const auto place_of = [&places](int client) {
-    const auto found = places.find(client);
+  const auto index_of = [&indices](int client) {
+    const auto found = indices.find(client);
     // Others than the bots are nobody.
-    if (found == places.end()) return client == kWorldClient ? client : -1;
+    if (found == indices.end()) return client == kWorldClient ? client : -1;
     return found->second;
   };
   for (LogEvent event : record.events) {
-    event.client = place_of(event.client);
-    event.victim = place_of(event.victim);
-    by_places.Add(std::move(event));
+    event.client = index_of(event.client);
+    event.victim = index_of(event.victim);
+    by_index.Add(std::move(event));
   }
-  return by_places;
+  return by_index;
 }
 
 }  // namespace

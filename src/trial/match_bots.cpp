@@ -20,8 +20,8 @@ namespace {
 
 /// Where a file of a bot lies in the match, by its path below botfiles. No path
 /// that may be long gets longer: those into botfiles/bots have a limit.
-std::string PathInMatch(std::string_view path, std::size_t place) {
-  std::string folder = MatchFolder(place) + "/";
+std::string PathInMatch(std::string_view path, std::size_t index) {
+  std::string folder = MatchFolder(index) + "/";
   if (path.starts_with(kBotsPath))
     return folder += path.substr(kBotsPath.size());
   return folder += "up/" + std::string(path);
@@ -30,7 +30,7 @@ std::string PathInMatch(std::string_view path, std::size_t place) {
 /// The text with each quoted path of a file of the bot's own led to where that
 /// file lies in the match.
 std::string WithPathsLed(const std::string& text, const MatchBot& bot,
-                         std::size_t place) {
+                         std::size_t index) {
   std::string led;
   std::size_t at = 0;
   for (std::size_t quote = text.find('"'); quote != std::string::npos;
@@ -41,7 +41,7 @@ std::string WithPathsLed(const std::string& text, const MatchBot& bot,
     std::replace(path.begin(), path.end(), '\\', '/');
     if (!bot.files.contains(path)) continue;
     led.append(text, at, quote + 1 - at);
-    led += PathInMatch(path, place);
+    led += PathInMatch(path, index);
     at = end;
     quote = end;
   }
@@ -128,12 +128,12 @@ std::vector<std::string> ShownNames(const std::vector<MatchBot>& bots) {
   return names;
 }
 
-std::string MatchFolder(std::size_t place) {
-  return "m" + std::to_string(place + 1);
+std::string MatchFolder(std::size_t index) {
+  return "m" + std::to_string(index + 1);
 }
 
-std::string NameToAdd(const MatchBot& bot, std::size_t place) {
-  return bot.files.empty() ? bot.name : "fragsmith" + std::to_string(place + 1);
+std::string NameToAdd(const MatchBot& bot, std::size_t index) {
+  return bot.files.empty() ? bot.name : "fragsmith" + std::to_string(index + 1);
 }
 
 Result<void> PutMatchBots(const std::vector<MatchBot>& bots,
@@ -146,16 +146,16 @@ Result<void> PutMatchBots(const std::vector<MatchBot>& bots,
     return SaveFile(file, bytes);
   };
   std::string descriptions;
-  for (std::size_t place = 0; place < bots.size(); ++place) {
-    const MatchBot& bot = bots[place];
+  for (std::size_t index = 0; index < bots.size(); ++index) {
+    const MatchBot& bot = bots[index];
     if (bot.files.empty()) continue;
     for (const auto& [path, bytes] : bot.files) {
-      Result<void> done = put(InBotFiles(PathInMatch(path, place)),
-                              WithPathsLed(bytes, bot, place));
+      Result<void> done = put(InBotFiles(PathInMatch(path, index)),
+                              WithPathsLed(bytes, bot, index));
       if (!done) return done;
     }
-    descriptions += "{\nname " + NameToAdd(bot, place) + "\naifile \"" +
-                    PathInMatch(ToLower(bot.ai_file), place) + "\"\n}\n";
+    descriptions += "{\nname " + NameToAdd(bot, index) + "\naifile \"" +
+                    PathInMatch(ToLower(bot.ai_file), index) + "\"\n}\n";
   }
   if (descriptions.empty()) return {};
   return put("scripts/fragsmith.bot", descriptions);

@@ -36,12 +36,12 @@ Result<MatchBot> MatchBotOf(const Bot& bot, const Author& author);
 /// of another one has a number behind its name.
 std::vector<std::string> ShownNames(const std::vector<MatchBot>& bots);
 
-/// The folder of botfiles that has the files of the bot at the place. Several
+/// The folder of botfiles that has the files of the bot at the index. Several
 /// versions of one bot have files of the same names.
-std::string MatchFolder(std::size_t place);
+std::string MatchFolder(std::size_t index);
 
-/// What `addbot` knows the bot at the place by.
-std::string NameToAdd(const MatchBot& bot, std::size_t place);
+/// What `addbot` knows the bot at the index by.
+std::string NameToAdd(const MatchBot& bot, std::size_t index);
 
 /// Puts the files of all bots into a game's folder, each bot's into a folder of
 /// its own. They stay byte for byte what they are but for the paths by which

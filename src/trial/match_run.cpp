@@ -97,13 +97,13 @@ void MatchRun::GiveUp(int number, const Error& error) {
 }
 
 Match MatchOf(const MatchPlan& plan, int number) {
-  const auto place = static_cast<std::size_t>(number);
+  const auto at = static_cast<std::size_t>(number);
   Match match;
   match.bots = plan.bots;
-  match.map = plan.maps[place % plan.maps.size()];
+  match.map = plan.maps[at % plan.maps.size()];
   match.minutes = plan.minutes;
   match.frag_limit = plan.frag_limit;
-  match.seed = static_cast<std::uint32_t>(place / plan.maps.size());
+  match.seed = static_cast<std::uint32_t>(at / plan.maps.size());
   return match;
 }
 

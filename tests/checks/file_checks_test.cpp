@@ -38,6 +38,9 @@ std::vector<std::string> Found(const BotFileSet& set,
   std::vector<std::string> found;
   for (const Finding& finding : CheckFiles(set, game)) {
     if (finding.severity == Severity::kHint) continue;
+    const auto& place = std::get<FilePlace>(finding.place);
+    EXPECT_TRUE(place.kind && place.file.ends_with(FileSuffix(*place.kind)))
+        << place.file;
     found.push_back(
         PlaceIn(finding) +
         (finding.severity == Severity::kError ? "error " : "warning ") +

@@ -32,15 +32,15 @@ void KillBars::ShowKills(const Bot& bot, const Counts& kills,
   bot_name_ = ToQString(bot.Name());
   other_name_ = other_name;
   std::set<std::string> shown;
-  int place = 0;
+  int number = 0;
   for (const WeaponRank& rank : WeaponOrder(bot)) {
     const std::string name(WeaponOfUsage(rank.weapon));
     const int count = CountOf(kills, name);
     const int other_count = CountOf(other_kills, name);
     shown.insert(name);
-    ++place;
+    ++number;
     if (rank.weight <= 0 && count == 0 && other_count == 0) continue;
-    QString text = QStringLiteral("%1.").arg(place);
+    QString text = QStringLiteral("%1.").arg(number);
     if (rank.weight <= 0) text = QStringLiteral("never");
     if (rank.is_tied) text = QStringLiteral("tie");
     rows_.push_back(

@@ -40,22 +40,22 @@ QString OriginText(ValueOrigin origin) {
 /// tool tip has them all.
 QRectF PlaceOfCaption(const QRectF& above, const QRectF& area,
                       const std::vector<QRectF>& others) {
-  const auto is_free = [&](const QRectF& place) {
-    return area.contains(place) &&
-           std::ranges::none_of(others, [&place](const QRectF& other) {
-             return other.intersects(place);
+  const auto is_free = [&](const QRectF& spot) {
+    return area.contains(spot) &&
+           std::ranges::none_of(others, [&spot](const QRectF& other) {
+             return other.intersects(spot);
            });
   };
-  std::vector<QRectF> places = {above, above.translated(0, above.height())};
+  std::vector<QRectF> spots = {above, above.translated(0, above.height())};
   for (const QRectF& other : others) {
     for (std::size_t at : {0U, 1U}) {
-      QRectF behind = places.at(at);
+      QRectF behind = spots.at(at);
       behind.moveLeft(other.right());
-      places.push_back(behind);
+      spots.push_back(behind);
     }
   }
-  const auto found = std::ranges::find_if(places, is_free);
-  return found == places.end() ? QRectF() : *found;
+  const auto found = std::ranges::find_if(spots, is_free);
+  return found == spots.end() ? QRectF() : *found;
 }
 
 }  // namespace

@@ -73,14 +73,14 @@ class BotDelegate : public QStyledItemDelegate {
       return option.palette.color(is_selected ? QPalette::HighlightedText
                                               : role);
     };
-    const QRect place =
+    const QRect inside =
         option.rect.adjusted(kInside, kInside, -kInside, -kInside);
     painter->save();
     painter->setPen(color(QPalette::Text));
-    painter->drawText(place, Qt::AlignLeft | Qt::AlignTop,
+    painter->drawText(inside, Qt::AlignLeft | Qt::AlignTop,
                       index.data(kNameRole).toString());
     painter->setPen(color(QPalette::PlaceholderText));
-    painter->drawText(place, Qt::AlignLeft | Qt::AlignBottom,
+    painter->drawText(inside, Qt::AlignLeft | Qt::AlignBottom,
                       index.data(kPackageRole).toString());
     painter->restore();
   }
@@ -375,10 +375,10 @@ void WelcomePage::PlaceKinds() {
   const int columns = width() < kMinWidthOfAll
                           ? kColumnsOfFew
                           : static_cast<int>(kind_buttons_.size());
-  int place = 0;
+  int cell = 0;
   for (CardButton* const card : kind_buttons_) {
-    kinds_->addWidget(card, place / columns, place % columns);
-    ++place;
+    kinds_->addWidget(card, cell / columns, cell % columns);
+    ++cell;
   }
 }
 

@@ -79,8 +79,8 @@ std::string_view UnreadableByGame(const zip_stat_t& state) {
 }
 
 void AppendNumber(std::string& bytes, std::uint64_t number, int count) {
-  for (int place = 0; place < count; ++place) {
-    bytes += static_cast<char>(number >> (8U * static_cast<unsigned>(place)));
+  for (int byte = 0; byte < count; ++byte) {
+    bytes += static_cast<char>(number >> (8U * static_cast<unsigned>(byte)));
   }
 }
 

@@ -66,10 +66,10 @@ class ListingReader {
 
   /// A skin of the game's own models that another game has under their names.
   bool IsKnown(std::string_view model, std::string_view skin) const {
-    const auto place = lists_.models.FindModel(model);
-    if (package_ != kGamePackage || !place) return false;
-    const auto known = lists_.models.FindSkin(*place, skin);
-    return known && lists_.models.models()[*place].Skins[*known].IsOriginal;
+    const auto found = lists_.models.FindModel(model);
+    if (package_ != kGamePackage || !found) return false;
+    const auto known = lists_.models.FindSkin(*found, skin);
+    return known && lists_.models.models()[*found].Skins[*known].IsOriginal;
   }
 
   void ReadCharacteristicFile(std::string_view line) {
