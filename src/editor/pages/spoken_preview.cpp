@@ -70,7 +70,7 @@ SpokenPreview::SpokenPreview(RandomSource random, QWidget* parent)
   QFont bold = lengths_->font();
   bold.setBold(true);
   lengths_->setMinimumWidth(QFontMetrics(bold).horizontalAdvance(
-      tr("encoded: 000 of 255, nearly full ")));
+      tr("in the file: 000 of 255, nearly full ")));
   when_->setObjectName(QStringLiteral("lblWhen"));
   when_->setTextFormat(Qt::PlainText);
   when_->setWordWrap(true);
@@ -140,10 +140,10 @@ void SpokenPreview::SayAnother() {
   }
   text_->DrawFunName(text);
   lengths_->setText(
-      Counter(QStringLiteral("encoded"), spoken.encoded_length,
+      Counter(tr("in the file"), spoken.encoded_length,
               limits::kMaxEncodedBytes) +
       QStringLiteral("<br>") +
-      Counter(QStringLiteral("spoken"),
+      Counter(tr("spoken"),
               std::max(spoken.spoken_length, spoken.longest_length),
               limits::kMaxSpokenBytes));
 }
