@@ -1,6 +1,8 @@
 #include "editor/dialogs/dialog_parts.h"
 
 #include <QAccessible>
+#include <QCoreApplication>
+#include <QKeyEvent>
 #include <QPushButton>
 
 #include "editor/toolkit/code_page_validator.h"
@@ -14,6 +16,30 @@ void NameButton(QPushButton* button, const QString& text, const QString& name) {
   button->setText(text);
   button->setObjectName(name);
 }
+
+/// Hands the keys that move in the list from the box to it.
+class ListKeys : public QObject {
+ public:
+  ListKeys(QLineEdit* box, QAbstractItemView* list)
+      : QObject(box), list_(list) {
+    box->installEventFilter(this);
+  }
+
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::KeyPress) {
+      const int key = static_cast<QKeyEvent*>(event)->key();
+      if (key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_PageUp ||
+          key == Qt::Key_PageDown) {
+        QCoreApplication::sendEvent(list_, event);
+        return true;
+      }
+    }
+    return QObject::eventFilter(watched, event);
+  }
+
+ private:
+  QAbstractItemView* list_;
+};
 
 }  // namespace
 
@@ -44,6 +70,10 @@ void HintLine::Say(const QString& hint) {
   if (hint.isEmpty()) return;
   QAccessibleEvent alert(this, QAccessible::Alert);
   QAccessible::updateAccessibility(&alert);
+}
+
+void LetBoxLeadList(QLineEdit* box, QAbstractItemView* list) {
+  new ListKeys(box, list);
 }
 
 void RefuseForeignCharacters(QLineEdit* box, HintLine* hint) {

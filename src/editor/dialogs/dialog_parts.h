@@ -1,6 +1,7 @@
 #ifndef FRAGSMITH_EDITOR_DIALOGS_DIALOG_PARTS_H_
 #define FRAGSMITH_EDITOR_DIALOGS_DIALOG_PARTS_H_
 
+#include <QAbstractItemView>
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QLabel>
@@ -24,6 +25,10 @@ class HintLine : public QLabel {
 
   void Say(const QString& hint);
 };
+
+/// Up, Down and the keys of pages move in the list while the box, in which one
+/// looks for its rows, keeps the focus.
+void LetBoxLeadList(QLineEdit* box, QAbstractItemView* list);
 
 /// Refuses what the game's texts cannot hold; the line says so.
 void RefuseForeignCharacters(QLineEdit* box, HintLine* hint);

@@ -1,7 +1,5 @@
 #include "editor/dialogs/faces_dialog.h"
 
-#include <QCoreApplication>
-#include <QKeyEvent>
 #include <QVBoxLayout>
 #include <optional>
 
@@ -41,7 +39,7 @@ frmFaces::frmFaces(const ModelCatalogue& models, FaceStore& faces,
   filter_->setAccessibleName(tr("Part of a name"));
   filter_->setPlaceholderText(tr("Part of a name"));
   filter_->setClearButtonEnabled(true);
-  filter_->installEventFilter(this);
+  LetBoxLeadList(filter_, list_);
   matches_->setSourceModel(model_);
   matches_->setFilterRole(FacesModel::kWordsRole);
   matches_->setFilterCaseSensitivity(Qt::CaseInsensitive);
@@ -106,18 +104,6 @@ CatalogueSelection frmFaces::Chosen() const {
 void frmFaces::accept() {
   // Nothing found is nothing to choose: the words stay to be mended.
   if (list_->currentIndex().isValid()) QDialog::accept();
-}
-
-bool frmFaces::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == filter_ && event->type() == QEvent::KeyPress) {
-    const int key = static_cast<QKeyEvent*>(event)->key();
-    if (key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_PageUp ||
-        key == Qt::Key_PageDown) {
-      QCoreApplication::sendEvent(list_, event);
-      return true;
-    }
-  }
-  return QDialog::eventFilter(watched, event);
 }
 
 }  // namespace fragsmith

@@ -29,8 +29,6 @@ class frmFaces : public QDialog {
   void accept() override;
 
  protected:
-  /// Up and Down move among the faces while the box keeps the focus.
-  bool eventFilter(QObject* watched, QEvent* event) override;
   void showEvent(QShowEvent* event) override;
 
  private:

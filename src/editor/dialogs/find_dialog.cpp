@@ -1,7 +1,5 @@
 #include "editor/dialogs/find_dialog.h"
 
-#include <QCoreApplication>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QVBoxLayout>
 
@@ -22,7 +20,7 @@ frmFind::frmFind(const Bot& bot, QWidget* parent)
   box_->setObjectName(QStringLiteral("txtFind"));
   box_->setAccessibleName(QStringLiteral("Words to find"));
   box_->setClearButtonEnabled(true);
-  box_->installEventFilter(this);
+  LetBoxLeadList(box_, list_);
   list_->setObjectName(QStringLiteral("lstFound"));
   list_->setAccessibleName(QStringLiteral("Found"));
   list_->setUniformItemSizes(true);
@@ -62,18 +60,6 @@ BotPlace frmFind::Chosen() const {
 void frmFind::accept() {
   // Nothing found is nowhere to go: the words stay to be mended.
   if (list_->currentIndex().isValid()) QDialog::accept();
-}
-
-bool frmFind::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == box_ && event->type() == QEvent::KeyPress) {
-    const int key = static_cast<QKeyEvent*>(event)->key();
-    if (key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_PageUp ||
-        key == Qt::Key_PageDown) {
-      QCoreApplication::sendEvent(list_, event);
-      return true;
-    }
-  }
-  return QDialog::eventFilter(watched, event);
 }
 
 }  // namespace fragsmith

@@ -25,10 +25,6 @@ class frmFind : public QDialog {
 
   void accept() override;
 
- protected:
-  /// Up and Down move in the list while the box keeps the focus.
-  bool eventFilter(QObject* watched, QEvent* event) override;
-
  private:
   void ShowMatches();
 

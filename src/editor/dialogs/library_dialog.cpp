@@ -1,9 +1,7 @@
 #include "editor/dialogs/library_dialog.h"
 
-#include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
-#include <QKeyEvent>
 #include <QPainter>
 #include <QStyledItemDelegate>
 #include <QVBoxLayout>
@@ -81,7 +79,7 @@ frmLibrary::frmLibrary(std::vector<LibraryBot> bots, FaceStore& faces,
   filter_->setAccessibleName(tr("Part of a name, model or place"));
   filter_->setPlaceholderText(filter_->accessibleName());
   filter_->setClearButtonEnabled(true);
-  filter_->installEventFilter(this);
+  LetBoxLeadList(filter_, list_);
   matches_->setSourceModel(model_);
   matches_->setFilterRole(LibraryModel::kWordsRole);
   matches_->setFilterCaseSensitivity(Qt::CaseInsensitive);
@@ -174,18 +172,6 @@ void frmLibrary::Finish(Action action) {
 std::size_t frmLibrary::Chosen() const {
   return static_cast<std::size_t>(
       matches_->mapToSource(list_->currentIndex()).row());
-}
-
-bool frmLibrary::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == filter_ && event->type() == QEvent::KeyPress) {
-    const int key = static_cast<QKeyEvent*>(event)->key();
-    if (key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_PageUp ||
-        key == Qt::Key_PageDown) {
-      QCoreApplication::sendEvent(list_, event);
-      return true;
-    }
-  }
-  return QDialog::eventFilter(watched, event);
 }
 
 }  // namespace fragsmith

@@ -31,10 +31,6 @@ class frmLibrary : public QDialog {
   /// Of the bots that were handed in.
   std::size_t Chosen() const;
 
- protected:
-  /// Up and Down move in the list while the box keeps the focus.
-  bool eventFilter(QObject* watched, QEvent* event) override;
-
  private:
   QPushButton* MakeButton(const char* name, const QString& text, Action action);
   void Filter(const QString& text);
