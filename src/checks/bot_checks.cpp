@@ -118,8 +118,9 @@ CheckContext MakeContext(const Bot& bot, const GameData* game) {
 std::span<const Check> BotChecks() { return kChecks; }
 
 const Check* FindCheck(std::string_view id) {
-  const auto found = std::ranges::find(kChecks, id, &Check::id);
-  return found == kChecks.end() ? nullptr : &*found;
+  const std::span<const Check> checks = BotChecks();
+  const auto found = std::ranges::find(checks, id, &Check::id);
+  return found == checks.end() ? nullptr : &*found;
 }
 
 std::vector<Finding> CheckBot(const Bot& bot, const GameData* game) {

@@ -64,8 +64,10 @@ QVariant LibraryModel::headerData(int section, Qt::Orientation orientation,
       return tr("Fun name");
     case kModel:
       return tr("Model and skin");
-    default:
+    case kWhere:
       return tr("Where");
+    default:
+      return {};
   }
 }
 
