@@ -10,7 +10,7 @@ namespace fragsmith {
 
 /// Keys of the catalogue that stand together in a block of a character.
 struct BlockKeys {
-  IndexRange keys;
+  IndexRange keys = {};
   bool ends_part = false;  ///< An empty line follows.
 };
 

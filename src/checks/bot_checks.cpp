@@ -118,8 +118,8 @@ CheckContext MakeContext(const Bot& bot, const GameData* game) {
 std::span<const Check> BotChecks() { return kChecks; }
 
 const Check* FindCheck(std::string_view id) {
-  const auto found = std::ranges::find(kChecks, id, &Check::id);
-  return found == kChecks.end() ? nullptr : &*found;
+  const auto* const found = std::ranges::find(kChecks, id, &Check::id);
+  return found == kChecks.end() ? nullptr : found;
 }
 
 std::vector<Finding> CheckBot(const Bot& bot, const GameData* game) {

@@ -66,7 +66,8 @@ void UnknownKeys::MeetOthers(const Json& json,
                              const std::string& path) const {
   for (const auto& [key, part] : json.items()) {
     if (std::ranges::find(known, key) != known.end()) continue;
-    Meet(path.empty() ? key : path + "." + key, "there is no such key.");
+    Meet(path.empty() ? key : std::string(path).append(".").append(key),
+         "there is no such key.");
   }
 }
 
