@@ -7,7 +7,6 @@
 #include "chat/vocabulary.h"
 #include "game/advice.h"
 #include "game/limits.h"
-#include "game/stand_ins.h"
 #include "model/file_names.h"
 #include "model/game_characteristics.h"
 
