@@ -41,6 +41,26 @@ struct EditRules {
   bool takes_part;  ///< What is refused leaves all else to be edited.
 };
 
+/// An edit of the file as it was before the first one, where that is known and
+/// the file is as the last one left it: what was taken back since then stands
+/// as its author wrote it. False where it has to begin with what is there.
+bool EditFromAuthors(const BothReaders& readers, const Bot& after,
+                     FileEdit& edit) {
+  const auto& from = edit.origin.before_edits;
+  if (from == nullptr ||
+      FingerprintOf(edit.old_bytes) != edit.origin.fingerprint) {
+    return false;
+  }
+  Notes notes;
+  Result<std::string> edited = EditInPlace(readers, from->bytes, from->bot,
+                                           after, {}, {&notes, nullptr});
+  if (!edited) return false;
+  edit.notes = std::move(notes);
+  edit.made_from = from;
+  edit.bytes = *std::move(edited);
+  return true;
+}
+
 /// Given the file's bytes as they are now.
 void Edit(const BothReaders& readers, Result<std::string> old,
           const Bot& before, const Bot& after, const EditRules& rules,
@@ -56,7 +76,11 @@ void Edit(const BothReaders& readers, Result<std::string> old,
   edit.old_bytes = *std::move(old);
   const bool is_changed =
       !ChangesIn(readers.file().kind, before, after).empty();
-  if (is_changed) {
+  if (is_changed && EditFromAuthors(readers, after, edit)) {
+    if (edit.bytes != edit.old_bytes) {
+      edit.outcome = FileEdit::Outcome::kEdited;
+    }
+  } else if (is_changed) {
     Result<std::string> edited =
         EditInPlace(readers, edit.old_bytes, before, after, rules.chooser,
                     {&edit.notes, rules.takes_part ? &edit.refused : nullptr});
@@ -65,6 +89,8 @@ void Edit(const BothReaders& readers, Result<std::string> old,
     } else if (*edited != edit.old_bytes) {
       edit.outcome = FileEdit::Outcome::kEdited;
       edit.bytes = *std::move(edited);
+      edit.made_from = std::make_shared<const AuthorsFile>(
+          AuthorsFile{edit.old_bytes, before});
     }
   }
   const FileReading reading = readers.Read(edit.old_bytes);
@@ -441,6 +467,7 @@ Result<void> WriteEdits(BotEdits& edits) {
   for (auto& [kind, edit] : edits.files) {
     if (edit.outcome != FileEdit::Outcome::kEdited) continue;
     edit.origin.fingerprint = FingerprintOf(edit.bytes);
+    edit.origin.before_edits = edit.made_from;
   }
   return {};
 }

@@ -2,6 +2,7 @@
 #define FRAGSMITH_INPLACE_BOT_EDITS_H_
 
 #include <map>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -28,6 +29,8 @@ struct FileEdit {
   std::string shown;      ///< UTF-8.
   std::string old_bytes;  ///< As it is now, where anything was edited.
   std::string bytes;
+  /// What the bytes were made from; null where they are no edit.
+  std::shared_ptr<const AuthorsFile> made_from = nullptr;
   Error reason;
   /// Where the rest of the file is edited all the same.
   std::vector<RefusedChange> refused;

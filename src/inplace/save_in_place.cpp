@@ -99,6 +99,7 @@ BotEdits EditsOf(const SaveInPlace& save, const OriginFiles& files,
     }
     edit.outcome = FileEdit::Outcome::kEdited;
     edit.bytes = BytesOf(kind, save.bot, save.author);
+    edit.made_from = nullptr;
     edit.notes = {};
     if (changes_header) edits.homeless.clear();
   }
@@ -139,6 +140,7 @@ bool Settle(const SaveInPlace& save, BotEdits& edits, InPlacePlan& result,
       case Answer::kWriteAnew:
         edit.outcome = FileEdit::Outcome::kEdited;
         edit.bytes = BytesOf(kind, save.bot, save.author);
+        edit.made_from = nullptr;
         edit.notes = {};
         if (edit.origin.is_on_disk()) {
           result.backups.emplace(edit.origin.path, edit.old_bytes);
@@ -196,6 +198,9 @@ InPlacePlan PlanInPlace(const SaveInPlace& save, SavePlan& plan) {
   result.notes = NotesOf(edits);
   for (auto& [kind, edit] : edits.files) {
     if (kind == BotFile::kChat) result.spellings = edit.origin.spellings;
+    result.before_edits[kind] = edit.outcome == FileEdit::Outcome::kEdited
+                                    ? edit.made_from
+                                    : edit.origin.before_edits;
     // Of a list the bot has no file of its own that a package could take.
     if (IsList(edit.origin, CalledBy(save.home.files))) {
       const bool is_anew = result.backups.erase(edit.origin.path) > 0;

@@ -42,6 +42,8 @@ struct InPlacePlan {
   std::vector<BotFile> unchanged;
   /// To be kept in mind with the chat file.
   ChatSpellings spellings = {};
+  /// The same with the files that are edited in place.
+  std::map<BotFile, std::shared_ptr<const AuthorsFile>> before_edits = {};
   /// Old files that are kept beside the new ones, by the new names.
   std::map<std::filesystem::path, std::string> backups;
   /// What the edits in place do not reach, or reach too.

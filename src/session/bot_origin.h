@@ -23,6 +23,12 @@ std::uint64_t FingerprintOf(std::string_view bytes);
 /// wrote: "{{TAUNT0}}" may be TAUNT or TAUNT0.
 using ChatSpellings = std::map<std::string, std::string>;
 
+/// A file as its author left it, and what it says.
+struct AuthorsFile {
+  std::string bytes;
+  Bot bot;
+};
+
 /// One of a bot's files as it was when it was last read or written.
 struct OriginFile {
   std::filesystem::path path;  ///< The file, or the package that holds it.
@@ -33,6 +39,11 @@ struct OriginFile {
   /// Of a chat file: the lines that it has or had. A line that comes again is
   /// written in this way.
   ChatSpellings spellings = {};
+  /// Of a file that was edited in place: what the first edit began with. As
+  /// long as the file is as the last edit left it, the next one begins there
+  /// too, so that what is taken back stands as its author wrote it. Kept for
+  /// the time of the program alone.
+  std::shared_ptr<const AuthorsFile> before_edits = nullptr;
 
   bool is_on_disk() const { return entry.empty(); }
   bool operator==(const OriginFile&) const = default;

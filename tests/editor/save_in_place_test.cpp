@@ -65,6 +65,47 @@ class SaveInPlaceByWindow : public WindowFixture {
   }
 };
 
+TEST_F(SaveInPlaceByWindow, GivesTheAuthorsWordsBackThatUndoTakesBack) {
+  // A load goes by columns and takes these otherwise than the game.
+  const std::string weights =
+      "#define W_RAILGUN 280\n#define W_BFG10K\t\t\t200\n"
+      "#include \"fw_weap.c\"\n";
+  const std::string rook =
+      "{ // mine\nname Rook\nmodel sarge\nfunname Rook // the fun\n"
+      "color1 5\naifile bots/rook_c.c\n}\n";
+  folder_.Write("g/botfiles/bots/rook_w.c", weights);
+  folder_.Write("g/botfiles/bots/rook_c.c",
+                "skill 1\n{\n\tCHARACTERISTIC_NAME\t\t\t\t\t\t\t\"Rook\"\n}\n");
+  folder_.Write("g/scripts/rook.bot", rook);
+  prompts_.confirmations = {true};
+  window_->OpenPath(folder_ / "g/botfiles/bots/rook_c.c");
+  CurrentBot& current = window_->current();
+  const auto set = [&current](ParameterId id, const Value& value) {
+    current.EndStep();
+    current.Edit({}, [&](Bot& bot) { bot.Put(id, value); });
+  };
+  const ParameterId railgun(kWeaponWeightRange.first + 6);
+  set(kFunNameField, std::string("Castle"));
+  set(kRailColorField, 3.0);
+  set(railgun, 150.0);
+  Choose("mnuSaveAgain");
+  EXPECT_THAT(folder_.Read("g/scripts/rook.bot"),
+              AllOf(HasSubstr("Castle"), HasSubstr("color1 3")));
+  EXPECT_THAT(folder_.Read("g/botfiles/bots/rook_w.c"), HasSubstr("150"));
+  // One of them is taken back, and then all.
+  current.steps().undo();
+  Choose("mnuSaveAgain");
+  EXPECT_EQ(folder_.Read("g/botfiles/bots/rook_w.c"), weights);
+  EXPECT_THAT(folder_.Read("g/scripts/rook.bot"), HasSubstr("color1 3"));
+  current.steps().undo();
+  Choose("mnuSaveAgain");
+  EXPECT_THAT(folder_.Read("g/scripts/rook.bot"),
+              AllOf(HasSubstr("Castle"), HasSubstr("color1 5\n")));
+  current.steps().undo();
+  Choose("mnuSaveAgain");
+  EXPECT_EQ(folder_.Read("g/scripts/rook.bot"), rook);
+}
+
 TEST_F(SaveInPlaceByWindow, GivesALineBackAsItsAuthorWroteIt) {
   const std::string chat =
       "chat \"rook\"\n{\n\ttype \"game_enter\"\n\t{\n\t\t\"hi\";\n"

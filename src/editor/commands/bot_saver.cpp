@@ -145,6 +145,10 @@ std::optional<BotSaver::Outcome> BotSaver::SaveAgain() {
   Outcome outcome = Write(*plan, leaves_changes, false);
   const auto chat = home().files.find(BotFile::kChat);
   if (chat != home().files.end()) chat->second.spellings = in_place.spellings;
+  for (const auto& [kind, before] : in_place.before_edits) {
+    const auto file = home().files.find(kind);
+    if (file != home().files.end()) file->second.before_edits = before;
+  }
   if (outcome.text.isEmpty()) return outcome;
   outcome.notes = in_place.notes;
   if (!not_kept.empty()) TellNotKept(not_kept);
