@@ -36,8 +36,8 @@ class WrappingDelegate : public QStyledItemDelegate {
                        const QModelIndex& index) const override {
     QStyledItemDelegate::initStyleOption(option, index);
     if (!index.data(DifferencesModel::kIsDimRole).toBool()) return;
-    option->palette.setBrush(
-        QPalette::Text, option->palette.brush(QPalette::PlaceholderText));
+    option->palette.setBrush(QPalette::Text,
+                             option->palette.brush(QPalette::PlaceholderText));
   }
 
  private:
