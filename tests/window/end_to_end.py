@@ -11,7 +11,8 @@ import tempfile
 import warnings
 import zipfile
 
-from screen import Editor, key, names, text, until, value, write
+from screen import (Editor, key, names, text, until, value, with_picture,
+                    write)
 
 # The bus has two sets of names for the same calls.
 warnings.simplefilter("ignore", DeprecationWarning)
@@ -271,11 +272,4 @@ def main():
         print("scanned, loaded out of the package, saved again, all the same")
 
 
-try:
-    main()
-except BaseException:
-    picture = pathlib.Path(sys.argv[1]).resolve().parent / "window-failed.png"
-    if shutil.which("import"):
-        subprocess.run(["import", "-window", "root", str(picture)], check=False)
-        print("the screen:", picture, file=sys.stderr)
-    raise
+with_picture(main)

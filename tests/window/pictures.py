@@ -13,6 +13,7 @@ import warnings
 import zipfile
 
 from screen import Editor, key, names, text, until, write, xdotool
+from themes import write_themes
 
 # The bus has two sets of names for the same calls.
 warnings.simplefilter("ignore", DeprecationWarning)
@@ -21,23 +22,6 @@ TITLE = "Fragsmith 0.97b BETA"
 # Its name can be read in the pictures.
 HOME = pathlib.Path("/tmp/fragsmith-home")
 WIDTH, HEIGHT = 1200, 780
-
-# A theme of the desktop that says all there is to say, so that no other
-# setting of the machine shows. The caret does not blink.
-THEME = """[General]
-font=DejaVu Sans,9,-1,5,50,0,0,0,0,0
-fixed=DejaVu Sans Mono,9,-1,5,50,0,0,0,0,0
-[KDE]
-CursorBlinkRate=0
-ShowIconsOnPushButtons=false
-widgetStyle=Fusion
-"""
-GROUNDS = {
-    "light": {"Window": "239,240,241", "View": "255,255,255",
-              "Button": "246,247,248", "Text": "35,38,41"},
-    "dark": {"Window": "35,38,41", "View": "27,30,32",
-             "Button": "49,54,59", "Text": "239,240,241"},
-}
 
 FUN_NAME = "^1Cin^3der ^7the ^5Forge"
 CHATS = {
@@ -55,21 +39,6 @@ CHATS = {
 # What the other bots of the list are called, and by whom they are packed.
 SERVER = "/usr/games/openarena-server"
 OTHERS = ["Anvil", "Bellows", "Clinker", "Rivet", "Tongs"]
-
-
-def themes():
-    """A folder with the theme for each ground."""
-    for ground, colors in GROUNDS.items():
-        lines = [THEME]
-        for group in ("Window", "View", "Button", "Tooltip"):
-            background = colors.get(group, colors["Button"])
-            lines += [f"[Colors:{group}]", f"BackgroundNormal={background}",
-                      f"ForegroundNormal={colors['Text']}",
-                      f"BackgroundAlternate={colors['Window']}"]
-        lines += ["[Colors:Selection]", "BackgroundNormal=61,174,233",
-                  "ForegroundNormal=252,252,252", ""]
-        (HOME / ground).mkdir()
-        (HOME / ground / "kdeglobals").write_text("\n".join(lines))
 
 
 def icon():
@@ -122,7 +91,7 @@ def make(cli, document, *arguments):
 
 
 def prepare(built, cli):
-    themes()
+    write_themes(HOME)
     packages = HOME / "quake3" / "baseq3"
     own = HOME / "own"
     for folder in (packages, own, HOME / "bots"):

@@ -3,8 +3,11 @@ their names through the accessibility bus, used with the X server's mouse and
 keyboard."""
 
 import os
+import pathlib
 import re
+import shutil
 import subprocess
+import sys
 import time
 
 import gi
@@ -39,6 +42,13 @@ def names(node):
 def without_bot(title):
     """The title of the main window without the name of the bot."""
     return re.sub(r"^(Fragsmith \S+ BETA) - .*?(\*?)$", r"\1\2", title)
+
+
+def click_on(node):
+    place = node.get_component_iface().get_extents(Atspi.CoordType.SCREEN)
+    xdotool("mousemove", str(place.x + min(place.width // 2, 60)),
+            str(place.y + place.height // 2), "click", "1")
+    time.sleep(0.1)
 
 
 class Editor:
@@ -95,10 +105,7 @@ class Editor:
 
     def click(self, name, role=None):
         node = self.find(name, role)
-        place = node.get_component_iface().get_extents(Atspi.CoordType.SCREEN)
-        xdotool("mousemove", str(place.x + min(place.width // 2, 60)),
-                str(place.y + place.height // 2), "click", "1")
-        time.sleep(0.1)
+        click_on(node)
         return node
 
     def focus(self, name, role=None):
@@ -120,3 +127,18 @@ def value(node):
 def text(node):
     node.clear_cache()
     return node.get_text_iface().get_text(0, -1)
+
+
+def with_picture(main):
+    """Runs main; where it fails a picture of the screen stays beside the folder
+    of the programs, the first argument."""
+    try:
+        main()
+    except BaseException:
+        picture = (pathlib.Path(sys.argv[1]).resolve().parent /
+                   "window-failed.png")
+        if shutil.which("import"):
+            subprocess.run(["import", "-window", "root", str(picture)],
+                           check=False)
+            print("the screen:", picture, file=sys.stderr)
+        raise

@@ -36,9 +36,8 @@ class WrappingDelegate : public QStyledItemDelegate {
                        const QModelIndex& index) const override {
     QStyledItemDelegate::initStyleOption(option, index);
     if (!index.data(DifferencesModel::kIsDimRole).toBool()) return;
-    QColor dimmer = option->palette.color(QPalette::Text);
-    dimmer.setAlphaF(0.6F);
-    option->palette.setColor(QPalette::Text, dimmer);
+    option->palette.setBrush(QPalette::Text,
+                             option->palette.brush(QPalette::PlaceholderText));
   }
 
  private:

@@ -227,8 +227,7 @@ void MatchResults::ShowSaid(MatchSession& session, const Counts& said) {
     }
     return item;
   };
-  QColor faint = palette().color(QPalette::Text);
-  faint.setAlphaF(0.65F);
+  const QColor faint = palette().color(QPalette::PlaceholderText);
   const std::vector<OwnLine>& lines = session.said.lines();
   for (std::size_t line = 0; line < lines.size(); ++line) {
     QTreeWidgetItem* const item = item_of(static_cast<qulonglong>(line));

@@ -10,28 +10,30 @@ namespace {
 constexpr QPalette::ColorGroup kGroups[] = {
     QPalette::Active, QPalette::Inactive, QPalette::Disabled};
 
-/// Some dark themes leave the colour of hints at black.
+/// Some dark themes leave the colour of hints at black. On a light window hints
+/// need this much of the text's colour to be read.
 void MakeHintsReadable() {
   QPalette palette = QApplication::palette();
   for (const QPalette::ColorGroup group : kGroups) {
     QColor hint = palette.color(group, QPalette::Text);
-    hint.setAlphaF(0.6F);
+    hint.setAlphaF(0.75F);
     palette.setColor(group, QPalette::PlaceholderText, hint);
   }
   QApplication::setPalette(palette);
 }
 
 /// Fusion draws the outlines of these darker than the window. On a dark one
-/// nothing is then to be seen of an empty check box, and little of where a
-/// text box or a list ends. None of them shows the window's colour otherwise;
+/// nothing is then to be seen of an empty check box, and on any little of where
+/// a text box or a list ends. None of them shows the window's colour otherwise;
 /// menus do, and the lists of combo boxes, which stay as they are.
 void MakeOutlinesVisible() {
   const QPalette base = QApplication::palette();
   const QColor ground = base.color(QPalette::Window);
-  if (QApplication::style()->name() != QLatin1String("fusion") ||
-      ground.lightness() >= base.color(QPalette::WindowText).lightness()) {
-    return;
-  }
+  if (QApplication::style()->name() != QLatin1String("fusion")) return;
+  const bool is_dark =
+      ground.lightness() < base.color(QPalette::WindowText).lightness();
+  // What is darkened again by the style.
+  const float share = is_dark ? 0.7F : 0.4F;
   for (const char* const widget :
        {"QCheckBox", "QRadioButton", "QLineEdit", "QComboBox", "QListView",
         "QTreeView", "QProgressBar"}) {
@@ -39,11 +41,13 @@ void MakeOutlinesVisible() {
     for (const QPalette::ColorGroup group : kGroups) {
       const QColor window = palette.color(group, QPalette::Window);
       const QColor text = palette.color(group, QPalette::WindowText);
-      const auto mix = [](int one, int other) { return (one + other) / 2; };
+      const auto mix = [share](float one, float other) {
+        return one + (other - one) * share;
+      };
       palette.setColor(group, QPalette::Window,
-                       QColor(mix(window.red(), text.red()),
-                              mix(window.green(), text.green()),
-                              mix(window.blue(), text.blue())));
+                       QColor::fromRgbF(mix(window.redF(), text.redF()),
+                                        mix(window.greenF(), text.greenF()),
+                                        mix(window.blueF(), text.blueF())));
     }
     QApplication::setPalette(palette, widget);
   }
