@@ -282,6 +282,8 @@ ExitStatus RunMatch(MatchOptions options, CommandContext& context) {
     if (pairs.empty()) return kFailed;
     PrintAll(pairs, options, context);
   }
+  // Once this ends, so does an interrupted program.
+  context.out << std::flush;
   return end == MatchRunEnd::kAllPlayed || end == MatchRunEnd::kAnswered
              ? kDone
              : kWarned;

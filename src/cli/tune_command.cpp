@@ -76,6 +76,8 @@ ExitStatus TellTuned(const TuneOptions& options, const Tuner& tuner,
     context.out << difference.title << ": " << Printable(difference.left)
                 << " -> " << Printable(difference.right) << '\n';
   }
+  // Once all this ends, so does an interrupted program.
+  context.out << std::flush;
   if (!options.output.empty()) {
     const Result<void> saved =
         SaveFile(PathFromBytes(options.output), WriteBotDocument(tuned));

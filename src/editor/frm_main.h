@@ -71,6 +71,8 @@ class frmMain : public QMainWindow {
 
  private:
   void BuildPages();
+  /// What each item does.
+  void NameActions();
   void BuildMenu();
   void Connect();
   void RestoreLook();

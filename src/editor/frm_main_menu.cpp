@@ -9,7 +9,7 @@
 
 namespace fragsmith {
 
-void frmMain::BuildMenu() {
+void frmMain::NameActions() {
   menu_ = {
       {QStringLiteral("mnuOptions"), [this] { ShowOptions(); }},
       {QStringLiteral("mnuAbout"), [this] { frmAbout(this).exec(); }},
@@ -100,6 +100,10 @@ void frmMain::BuildMenu() {
       commands_->CreateBotOfKind(kind, checker_->game());
     };
   }
+}
+
+void frmMain::BuildMenu() {
+  NameActions();
   FillMainMenu(*menuBar(), [this](const QString& name) {
     FinishStart();
     if (!TakesTypingItself(name) && !typed_text_->Store()) return;
