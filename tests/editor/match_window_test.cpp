@@ -319,14 +319,25 @@ TEST_F(MatchWindow, LooksForAStrengthAndGivesItAsAStep) {
   EXPECT_EQ(window_->current().bot().Name(), "Rookie");
   window_->current().steps().undo();
   EXPECT_EQ(window_->current().bot().Text(attack), "0.5");
+  // What was edited since the run began is newer.
+  window_->current().Edit({}, [&](Bot& bot) { bot.Put(attack, 0.9); });
+  Press("cmdTakeStrength");
+  EXPECT_EQ(window_->current().bot().Text(attack), "0.9");
+  EXPECT_THAT(Hint(), HasSubstr("What you changed since the run began stays: "
+                                "\"Attack skill\" at level 4."));
+  window_->current().steps().undo();
+  window_->current().steps().undo();
 
   // With what it takes as it is, it stays as it is.
   In<QSpinBox>("spnShare").setValue(90);
   Press("cmdTune");
   ASSERT_TRUE(WaitForEnd());
   EXPECT_THAT(Verdict(), HasSubstr("The bot takes 90 %, within the margin."));
+  EXPECT_FALSE(In<QPushButton>("cmdTakeStrength").isEnabled());
 
   window_->current().SetChanged(false);
+  auto& runs = In<QTreeWidget>("lstRuns");
+  runs.setCurrentItem(runs.topLevelItem(0));
   Choose("mnuNewAverage");
   const std::string other = window_->current().bot().Text(attack);
   Press("cmdTakeStrength");

@@ -234,7 +234,7 @@ void MatchResults::ShowSaid(MatchSession& session, const Counts& said) {
     const QString text = ToQString(lines[line].text);
     QString situation = SituationsOf(lines[line]);
     const int count = counts[line];
-    if (count == 0) {
+    if (count == 0 && !session.report.played.empty()) {
       situation = lines[line].can_be_told
                       ? tr("never heard: %1").arg(situation)
                       : tr("cannot be told: %1").arg(situation);

@@ -12,8 +12,10 @@
 #include <QSplitter>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <set>
 #include <utility>
 
+#include "chat/vocabulary.h"
 #include "editor/toolkit/game_text_conversion.h"
 #include "session/save_bot.h"
 #include "support/files.h"
@@ -244,7 +246,7 @@ Result<std::unique_ptr<MatchSession>> frmMatch::MakeSession(bool search) {
   session->findings = checker_.findings();
   session->home = current_.origin().home;
   session->names = {Utf8FromGameText(session->bot.Name()), opponent.name};
-  if (opponent.bot != nullptr && *opponent.bot == session->bot) {
+  if (!search && opponent.bot != nullptr && *opponent.bot == session->bot) {
     session->remark = "Nothing is different: it plays against itself.";
   }
   const Author author = AuthorOf(state_.settings);
@@ -316,7 +318,7 @@ void frmMatch::ShowProgress() {
   if (!runner_.IsRunning()) return;
   const MatchSession& session = *sessions_.back();
   progress_->Say(tr("%1 of %2%3 matches played, %4 running, minute %5")
-                     .arg(session.report.played.size())
+                     .arg(session.Matches())
                      .arg(session.is_until_sure() || session.search
                               ? tr("at most ")
                               : QString())
@@ -343,7 +345,7 @@ void frmMatch::ShowRun(QTreeWidgetItem& row, const MatchSession& session) {
   row.setText(kAgainst, QString::fromStdString(session.names.at(1)));
   row.setText(kSkillAndMap,
               QStringLiteral("%1, %2").arg(plan.bots.front().skill).arg(maps));
-  row.setText(kMatches, QString::number(session.report.played.size()));
+  row.setText(kMatches, QString::number(session.Matches()));
   if (!session.shares.empty()) {
     row.setText(kShare,
                 QString::fromStdString(ShownShare(session.shares.back())));
@@ -359,7 +361,8 @@ void frmMatch::ShowSelected() {
   shown_->setCurrentIndex(session == nullptr ? 0 : 1);
   export_->setEnabled(session != nullptr && !session->report.played.empty());
   take_->setVisible(session != nullptr && session->search);
-  take_->setEnabled(session != nullptr && session->end.has_value());
+  take_->setEnabled(session != nullptr && session->end.has_value() &&
+                    session->search && session->search->tuner.strength() != 0);
   if (session == nullptr) return;
   std::vector<const MatchSession*> others;
   for (QTreeWidgetItem* const item : runs_->selectedItems()) {
@@ -376,23 +379,39 @@ const MatchSession& frmMatch::SessionOf(QTreeWidgetItem& row) const {
 
 void frmMatch::TakeStrength() {
   const MatchSession& session = *Selected();
-  if (session.home != current_.origin().home) {
-    return progress_->Say(
-        tr("Another bot is in the window now. Load %1 to give it its strength.")
-            .arg(QString::fromStdString(session.names.front())));
-  }
-  if (!store_()) return;
+  if (!IsHere(session) || !store_()) return;
   const Bot moved = WithStrength(session.bot, session.search->tuner.strength());
+  std::set<ParameterId> kept;
   current_.Edit({.text = tr("Strength"), .place = WholeBot{}, .merges = false},
-                [&moved](Bot& bot) {
+                [&](Bot& bot) {
                   for (const StrengthEnds& ends : AllStrengthEnds()) {
                     for (const Level level : kLevels) {
                       const ParameterId id(level, ends.index);
-                      bot.Put(id, moved.Parameter(id));
+                      // What was edited since is newer.
+                      if (bot.Parameter(id) == session.bot.Parameter(id)) {
+                        bot.Put(id, moved.Parameter(id));
+                      } else {
+                        kept.insert(id);
+                      }
                     }
                   }
                 });
-  progress_->Say(tr("The bot has that strength now; Undo takes it back."));
+  QString text = tr("The bot has that strength now; Undo takes it back.");
+  if (!kept.empty()) {
+    text +=
+        tr(" What you changed since the run began stays: %1.")
+            .arg(QString::fromStdString(
+                kept.size() == 1 ? QuotedName(*kept.begin())
+                                 : std::to_string(kept.size()) + " values"));
+  }
+  progress_->Say(text);
+}
+
+bool frmMatch::IsHere(const MatchSession& session) {
+  if (session.IsOf(current_.origin().home)) return true;
+  progress_->Say(tr("Another bot is in the window now. Load %1 again first.")
+                     .arg(QString::fromStdString(session.names.front())));
+  return false;
 }
 
 MatchSession* frmMatch::Selected() const {
@@ -401,6 +420,7 @@ MatchSession* frmMatch::Selected() const {
 }
 
 void frmMatch::GoToLine(const ChatPlace& place, const std::string& text) {
+  if (!IsHere(*Selected())) return;
   // The bot may have been edited since.
   const std::vector<std::string>& lines = current_.bot().ChatLines(place.type);
   const auto found = std::find(lines.begin(), lines.end(), text);

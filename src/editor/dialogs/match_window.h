@@ -71,6 +71,8 @@ class frmMatch : public QDialog {
   const MatchSession& SessionOf(QTreeWidgetItem& row) const;
   /// Gives the bot the strength that the shown search has come to.
   void TakeStrength();
+  /// Whether the bot that played is in the window; says so where it is not.
+  bool IsHere(const MatchSession& session);
   void GoToLine(const ChatPlace& place, const std::string& text);
   void Export(const QString& title, const QString& ending,
               const std::function<std::string()>& bytes);

@@ -9,19 +9,18 @@ namespace {
 
 constexpr int kStepMilliseconds = 20;
 
-std::size_t MatchesPlayed(const Tuner& tuner) {
-  std::size_t matches = 0;
-  for (const TuneStep& step : tuner.steps()) matches += step.matches.size();
-  return matches;
-}
-
-std::string VerdictOf(const StrengthSearch& search, bool has_ended) {
+std::string VerdictOf(const StrengthSearch& search,
+                      const std::optional<MatchRunEnd>& end) {
   const Tuner& tuner = search.tuner;
-  const std::size_t matches = MatchesPlayed(tuner);
+  const std::size_t matches = search.Matches();
   std::string text;
-  if (has_ended) {
-    text = matches == 0 ? "No match was played to its end."
-                        : TuneInWords(tuner, search.wished_share);
+  if (end && matches == 0) {
+    text = "No match was played to its end.";
+  } else if (end && tuner.state() == TuneState::kOpen &&
+             end != MatchRunEnd::kAllPlayed) {
+    text = "It was broken off.";
+  } else if (end) {
+    text = TuneInWords(tuner, search.wished_share);
   } else {
     constexpr double kPercent = 100;
     text = "Looking for the strength that takes " +
@@ -34,8 +33,7 @@ std::string VerdictOf(const StrengthSearch& search, bool has_ended) {
 }  // namespace
 
 std::string VerdictOf(const MatchSession& session) {
-  if (session.search)
-    return VerdictOf(*session.search, session.end.has_value());
+  if (session.search) return VerdictOf(*session.search, session.end);
   const std::size_t played = session.report.played.size();
   if (played == 0) {
     return session.end ? "No match was played to its end."
@@ -52,6 +50,23 @@ std::string VerdictOf(const MatchSession& session) {
   return text + ", " + session.names.front() + " took " +
          ShownShare(session.shares.back()) +
          " of the points. That is no result yet.";
+}
+
+std::size_t StrengthSearch::Matches() const {
+  std::size_t matches = 0;
+  for (const TuneStep& step : tuner.steps()) matches += step.matches.size();
+  return matches;
+}
+
+bool MatchSession::IsOf(const std::shared_ptr<BotHome>& other) const {
+  const auto is_same = [](const auto& one, const auto& another) {
+    return one.first == another.first &&
+           one.second.path == another.second.path &&
+           one.second.entry == another.second.entry;
+  };
+  return home == other ||
+         (!home->files.empty() &&
+          std::ranges::equal(home->files, other->files, is_same));
 }
 
 MatchRunner::MatchRunner(QObject* parent) : QObject(parent) {
@@ -115,7 +130,7 @@ void MatchRunner::End(MatchRunEnd end) {
 std::optional<Match> MatchRunner::MatchAt(int number) {
   std::size_t before = 0;
   if (session_->search) {
-    before = MatchesPlayed(session_->search->tuner) -
+    before = session_->search->Matches() -
              session_->search->tuner.steps().back().matches.size();
   }
   if (static_cast<std::size_t>(number) + before >=

@@ -27,6 +27,9 @@ struct StrengthSearch {
   /// The bot of that strength, for the game.
   std::function<Result<MatchBot>(double strength)> bot_at;
   Tuner tuner;
+
+  /// At all strengths together.
+  std::size_t Matches() const;
 };
 
 /// A run of matches between a bot of the window and another one, as far as it
@@ -53,6 +56,11 @@ struct MatchSession {
   std::optional<MatchRunEnd> end;  ///< Nothing while it goes on.
 
   bool is_until_sure() const { return !report.tests.empty(); }
+  std::size_t Matches() const {
+    return search ? search->Matches() : report.played.size();
+  }
+  /// True for the bot that played, however it was edited or loaded anew since.
+  bool IsOf(const std::shared_ptr<BotHome>& other) const;
 };
 
 /// What the matches of a run say so far, in a sentence. There is no verdict
