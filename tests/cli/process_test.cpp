@@ -244,7 +244,8 @@ TEST_F(ProcessTest, PlaysMatchesAndTellsWhatCameOfThem) {
       "#!/bin/sh\nlog=$(echo \"$*\" | sed 's/.*fs_homepath \\([^ ]*\\) "
       ".*/\\1/')\n"
       "cp $log/fragsmith/match.cfg $$.cfg; log=$log/fragsmith/games.log\n"
-      "echo >>count; [ $(wc -l <count) = 3 ] && { echo oh no; exit 1; }\n"
+      "echo >>count; [ $(wc -l <count) = 3 ] && { [ -e slow ] && exec sleep "
+      "60; echo oh no; exit 1; }\n"
       "{ echo ' 0:00 InitGame: '; echo ' 0:00 ClientUserinfoChanged: 0 "
       "n\\x\\'\n"
       "echo ' 0:00 ClientUserinfoChanged: 1 n\\x-2\\'\n"
@@ -296,6 +297,14 @@ TEST_F(ProcessTest, PlaysMatchesAndTellsWhatCameOfThem) {
   EXPECT_THAT(ladder.out, HasSubstr("\nx    4      195 ("));
   EXPECT_THAT(ladder.out, HasSubstr("x-2  4      -195 ("));
   EXPECT_THAT(ladder.out, HasSubstr("x@l\n"));
+
+  const Outcome cut_off =
+      Run("touch slow; rm -f count; env --default-signal=INT $cli match x.json"
+          " x.json --engine ded --minutes 2 --jobs 1 & for i in $(seq 2000); do"
+          " [ \"$(wc -l <count)\" = 3 ] && break; sleep 0.01; done 2>/dev/null;"
+          " kill -INT $!; wait $!; status=$?; rm slow; exit $status");
+  EXPECT_EQ(cut_off.status, 130);
+  EXPECT_THAT(cut_off.out, HasSubstr("2 matches of 2 minutes on q3dm1"));
 
   // It wins by 20 to 2 whatever its values are.
   const Outcome tuned =
