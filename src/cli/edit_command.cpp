@@ -142,6 +142,7 @@ Notes NotesOnName(const BotEdits& edits, const Bot& before, const Bot& after) {
   }
   SavePlan plan;
   plan.files.emplace(BotFile::kDescription, found->second.origin.path);
+  plan.contents.emplace(BotFile::kDescription, found->second.bytes);
   std::string twice = NameDescribedTwice(plan, after);
   if (!twice.empty()) notes.Add({found->second.shown, 0, std::move(twice)});
   return notes;

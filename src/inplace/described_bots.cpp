@@ -1,6 +1,7 @@
 #include "inplace/described_bots.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <system_error>
 #include <vector>
 
@@ -133,9 +134,31 @@ void TakeListedIdentity(LoadedBot& loaded, const ModelCatalogue& models) {
   loaded.files.emplace(BotFile::kDescription, std::move(*list));
 }
 
+namespace {
+
+/// How many bots of the name a description has, as the game reads it.
+std::ptrdiff_t CountOfName(const std::string& file, const std::string& bytes,
+                           const std::string& name) {
+  Complaints untold;
+  const std::vector<DescriptionSet> sets =
+      ReadGameDescription({file, file, bytes}, untold);
+  return std::ranges::count_if(sets, [&name](const DescriptionSet& set) {
+    return EqualIgnoringCase(set.Text("name"), name);
+  });
+}
+
+}  // namespace
+
 std::string NameDescribedTwice(const SavePlan& plan, const Bot& bot) {
   const auto target = plan.files.find(BotFile::kDescription);
   if (target == plan.files.end()) return {};
+  const std::string own = "'" + Utf8FromPath(target->second.filename()) + "'";
+  if (const auto content = plan.contents.find(BotFile::kDescription);
+      content != plan.contents.end() &&
+      CountOfName({}, content->second, bot.Name()) > 1) {
+    return own + " then describes two bots \"" + ShownText(bot.Name()) +
+           "\": the game takes the first and passes over the other.";
+  }
   fs::path other;
   bool is_list = false;
   std::error_code ignored;
@@ -148,19 +171,11 @@ std::string NameDescribedTwice(const SavePlan& plan, const Bot& bot) {
         EndsWithIgnoringCase(name, FileSuffix(BotFile::kDescription));
     if (!is_read || path == target->second) continue;
     const Result<std::string> bytes = ReadFile(path, kMaxBotFileBytes);
-    Complaints untold;
-    if (!bytes || !std::ranges::any_of(
-                      ReadGameDescription({name, name, *bytes}, untold),
-                      [&bot](const DescriptionSet& set) {
-                        return EqualIgnoringCase(set.Text("name"), bot.Name());
-                      })) {
-      continue;
-    }
+    if (!bytes || CountOfName(name, *bytes, bot.Name()) == 0) continue;
     other = path;
     is_list = EqualIgnoringCase(name, kBotList);
   }
   if (other.empty()) return {};
-  const std::string own = "'" + Utf8FromPath(target->second.filename()) + "'";
   return "'" + Utf8FromPath(other) + "' describes a bot \"" +
          ShownText(bot.Name()) + "\" too. " +
          (is_list ? "The game takes that one, as it reads the list first, and "

@@ -31,9 +31,9 @@ std::optional<std::filesystem::path> ListWithoutBot(const SavePlan& plan,
 /// has written over it, each in quotes; UTF-8, empty without any.
 std::string BotsThatGo(const SavePlan& plan, const Bot& bot);
 
-/// What is to be said of another description, beside the one that the plan
-/// writes, that has the bot's name too: both, and which of them the game takes;
-/// UTF-8, empty without one.
+/// What is to be said of another bot of the same name, in the description that
+/// the plan gives or in one beside it: where they are, and which of them the
+/// game takes; UTF-8, empty without one.
 std::string NameDescribedTwice(const SavePlan& plan, const Bot& bot);
 
 /// A bot without a description of its own has what another one says of it, on

@@ -373,6 +373,12 @@ TEST_F(EditCommand, TellsOfAnotherBotWithTheNewName) {
   EXPECT_THAT(outcome.err, HasSubstr("zora.bot' describes a bot \"Zora\" too"));
   EXPECT_EQ(folder_.Read("zora.bot"), zora);
   EXPECT_THAT(Run({"--set", "name=Zoe"}).err, Not(HasSubstr("too")));
+  // The other one may stand in the very file.
+  folder_.Write("rook.bot",
+                "{\nname rook\naifile bots/rook_c.c\n}\n"
+                "{\nname Nasty\naifile bots/nasty_c.c\n}\n");
+  EXPECT_THAT(Run({"--set", "name=nasty"}).err,
+              HasSubstr("'rook.bot' then describes two bots \"nasty\""));
 }
 
 }  // namespace
