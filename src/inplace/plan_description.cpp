@@ -69,6 +69,12 @@ class DescriptionPlan {
     Attempt attempt;
     attempt.expected[DescriptionFact(set_at_, key)] = text;
     ExpectFields(attempt);
+    if (is_there && old->second.text.ends_with('}')) {
+      return {.attempts = {},
+              .refusal =
+                  "The game takes the brace behind the value for a part "
+                  "of it. Put the brace into a line of its own first."};
+    }
     if (is_there) {
       attempt.splices.push_back(text ? Replacement(old->second.span, *text)
                                      : LineRemoval(old->second.span, key));

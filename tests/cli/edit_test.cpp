@@ -353,6 +353,11 @@ TEST_F(EditCommand, EditsAFunNameAmongBlanksAndTellsTheLimits) {
     EXPECT_EQ(Run(to_max).status, 0) << line;
     EXPECT_THAT(folder_.Read("rook.bot"), HasSubstr("\"Max\""));
   }
+  const std::string glued =
+      "{\nname rook\naifile bots/rook_c.c\nfunname Hugo}\n";
+  folder_.Write("rook.bot", glued);
+  EXPECT_THAT(Run(to_max).err, HasSubstr("Put the brace into a line of its"));
+  EXPECT_EQ(folder_.Read("rook.bot"), glued);
   folder_.Write("rook.bot",
                 begin + end + "//" +
                     std::string(8190 - begin.size() - end.size() - 3, 'x'));
