@@ -179,6 +179,14 @@ ExitStatus RunEdit(const EditOptions& options, CommandContext& context) {
       EditedBotOf(options, values, loaded.bot, context);
   if (!wished) return kFailed;
   Bot& after = wished->bot;
+  // A document of another bot may well hold what this one's files cannot.
+  const bool takes_part = !options.document.empty();
+  if (const auto fault = FaultOfPackage(*outcome.bot, after);
+      fault && takes_part && !FaultOfPackage(*outcome.bot, loaded.bot)) {
+    Fail(context, *fault);
+    after.Put(kNameField, loaded.bot.Name());
+    wished->is_whole = false;
+  }
   const Bot before = BotBefore(loaded, values, after);
   for (const auto& [kind, fault] : loaded.unread) {
     if (ChangesIn(kind, before, after).empty()) continue;
@@ -188,8 +196,6 @@ ExitStatus RunEdit(const EditOptions& options, CommandContext& context) {
       GameLookUpFor(options.source, outcome.bot->location, context);
   const Notes kept =
       KeepLinesElsewhere(loaded.files, loaded.bot, after, look_up);
-  // A document of another bot may well hold what this one's files cannot.
-  const bool takes_part = !options.document.empty();
   BotEdits edits = takes_part
                        ? EditWhatCanBe(loaded.files, before, after, look_up)
                        : EditBotFiles(loaded.files, before, after, look_up);

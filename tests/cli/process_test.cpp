@@ -142,6 +142,13 @@ TEST_F(ProcessTest, CallsMembersAsThePackageSpellsThem) {
   folder_.Write("run/bot-x.pk3", MakeZip(entries));
   const Outcome edit = Run("$cli edit bot-x.pk3 --set funName=Max --dry-run");
   EXPECT_THAT(edit.out, HasSubstr("--- a/scripts/X.BOT")) << edit.err;
+  // What a package that is called by the name cannot take leaves all else.
+  const Outcome from =
+      Run("$cli load bot-x.pk3 | sed 's/\"name\": \"X\"/\"name\": \"Y\"/;"
+          " s/\" Good\"/\"Max\"/' | $cli edit bot-x.pk3 --from - --dry-run");
+  EXPECT_EQ(from.status, 1);
+  EXPECT_THAT(from.err, HasSubstr("Under its new name"));
+  EXPECT_THAT(from.out, HasSubstr("Max"));
   // The game looks one folder deeper for descriptions.
   entries.back().name = "scripts/deep/x.bot";
   folder_.Write("run/deep.pk3", MakeZip(entries));
