@@ -15,7 +15,7 @@
 #include "botfiles/weight_file.h"
 #include "chat/chat_file.h"
 #include "game/stand_ins.h"
-#include "inplace/bot_edits.h"
+#include "inplace/game_values.h"
 #include "install/packages/package_writer.h"
 #include "model/characteristic_catalogue.h"
 #include "session/load_from_package.h"

@@ -10,7 +10,7 @@
 #include "cli/misspelt_folder.h"
 #include "cli/terminal.h"
 #include "game/game_lookup.h"
-#include "inplace/bot_edits.h"
+#include "inplace/game_values.h"
 #include "install/program/game_folder.h"
 #include "session/bot_sources.h"
 #include "session/load_from_package.h"

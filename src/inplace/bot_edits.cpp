@@ -17,6 +17,7 @@
 #include "inplace/game_weights.h"
 #include "inplace/lines_there.h"
 #include "inplace/named_files.h"
+#include "inplace/origin_files.h"
 #include "install/packages/package.h"
 #include "install/packages/package_writer.h"
 #include "model/characteristic_catalogue.h"
@@ -30,10 +31,6 @@
 namespace fragsmith {
 namespace fs = std::filesystem;
 namespace {
-
-constexpr std::array kKinds = {BotFile::kCharacteristics,
-                               BotFile::kWeaponWeights, BotFile::kItemWeights,
-                               BotFile::kChat, BotFile::kDescription};
 
 struct EditRules {
   const NumberChooser& chooser;
@@ -208,29 +205,6 @@ std::vector<std::string> ChatNamesOf(const OriginFiles& files,
   return names;
 }
 
-/// The file on disk that the game finds by a path below botfiles once this one
-/// lies in botfiles/bots: with the game's folders around it, or without.
-std::optional<fs::path> FileBeside(const fs::path& file,
-                                   std::string_view path) {
-  std::string rest = PathLookedFor(path, FileHome::kLoose);
-  fs::path folder = file.parent_path();
-  if (ToLower(rest).starts_with(kBotsPath)) {
-    rest.erase(0, kBotsPath.size());
-  } else if (const std::optional<fs::path> root = LayoutRootOf(folder)) {
-    folder = *root / "botfiles";
-  } else {
-    return std::nullopt;
-  }
-  for (std::size_t end = rest.find('/'); end != std::string::npos;
-       end = rest.find('/')) {
-    const std::string part = rest.substr(0, end);
-    if (!IsFileName(part)) return std::nullopt;
-    folder /= PathFromGameText(part);
-    rest.erase(0, end + 1);
-  }
-  return FindFile(folder, rest);
-}
-
 /// What reads one of the bot's files, given its bytes.
 BothReaders ReadersOf(const OriginFiles& files, BotFile kind,
                       const std::string& bytes, const Bot& bot,
@@ -246,16 +220,6 @@ BothReaders ReadersOf(const OriginFiles& files, BotFile kind,
   return {std::move(file), LookUpBeside(origin, game)};
 }
 
-bool HasUnreadWeight(const Bot& bot, BotFile kind) {
-  if (kind == BotFile::kCharacteristics) return false;
-  const IndexRange range =
-      kind == BotFile::kWeaponWeights ? kWeaponWeightRange : kItemWeightRange;
-  return std::any_of(range.begin(), range.end(), [&bot](int index) {
-    return std::holds_alternative<std::monostate>(
-        bot.Parameter(ParameterId(index)));
-  });
-}
-
 BotEdits EditAll(const OriginFiles& files, const Bot& before, const Bot& after,
                  const IncludeLookup& game, const EditRules& rules) {
   BotEdits edits;
@@ -265,7 +229,7 @@ BotEdits EditAll(const OriginFiles& files, const Bot& before, const Bot& after,
       edits.homeless.push_back(name);
     }
   };
-  for (const BotFile kind : kKinds) {
+  for (const BotFile kind : kOwnFilesFirst) {
     const auto origin = files.find(kind);
     if (origin == files.end()) {
       for (const FileChange& change : ChangesIn(kind, before, after)) {
@@ -324,33 +288,6 @@ BotEdits EditAll(const OriginFiles& files, const Bot& before, const Bot& after,
 }
 
 }  // namespace
-
-Result<std::string> BytesAt(const OriginFile& file) {
-  return file.is_on_disk()
-             ? ReadFile(file.path, kMaxBotFileBytes)
-             : ReadPackageEntry(file.path, file.entry, kMaxBotFileBytes);
-}
-
-std::string ShownAt(const OriginFile& file) {
-  // As the notes of a load have it.
-  return file.is_on_disk() ? Utf8FromPath(file.path)
-                           : Utf8FromPath(file.path.filename()) + "/" +
-                                 Utf8FromGameText(file.entry);
-}
-
-std::string CalledBy(const OriginFiles& files) {
-  // By its own files first: a description may be in a list with others.
-  for (const BotFile kind : kKinds) {
-    const auto file = files.find(kind);
-    if (file == files.end()) continue;
-    const std::string name = NameAt(file->second);
-    const std::string_view suffix = FileSuffix(kind);
-    if (EndsWithIgnoringCase(name, suffix)) {
-      return name.substr(0, name.size() - suffix.size());
-    }
-  }
-  return {};
-}
 
 bool BotEdits::IsEditable() const {
   return homeless.empty() &&
@@ -429,7 +366,7 @@ Notes KeepLinesElsewhere(const OriginFiles& files, const Bot& before,
 std::string DiffOf(const BotEdits& edits) {
   std::string diff;
   const fs::path root = RootOf(edits);
-  for (const BotFile kind : kKinds) {
+  for (const BotFile kind : kOwnFilesFirst) {
     const auto edit = edits.files.find(kind);
     if (edit == edits.files.end() ||
         edit->second.outcome != FileEdit::Outcome::kEdited) {
@@ -470,41 +407,6 @@ Result<void> WriteEdits(BotEdits& edits) {
     edit.origin.before_edits = edit.made_from;
   }
   return {};
-}
-
-IncludeLookup LookUpBeside(const OriginFile& file, IncludeLookup game) {
-  return [file, game = std::move(game)](
-             std::string_view path) -> std::optional<std::string> {
-    if (!file.is_on_disk()) {
-      Result<std::string> bytes =
-          ReadPackageEntry(file.path, InBotFiles(path), kMaxBotFileBytes);
-      if (bytes) return *std::move(bytes);
-    } else if (const auto beside = FileBeside(file.path, path)) {
-      Result<std::string> bytes = ReadFile(*beside, kMaxBotFileBytes);
-      if (bytes) return *std::move(bytes);
-    }
-    return game(path);
-  };
-}
-
-void TakeGameValues(LoadedBot& loaded, bool wants_description,
-                    const ModelCatalogue& models, const IncludeLookup& game) {
-  if (wants_description && !loaded.files.contains(BotFile::kDescription)) {
-    TakeListedIdentity(loaded, models);
-  }
-  for (const BotFile kind : {BotFile::kCharacteristics, BotFile::kWeaponWeights,
-                             BotFile::kItemWeights}) {
-    const auto file = loaded.files.find(kind);
-    if (file == loaded.files.end()) continue;
-    const Result<std::string> bytes = BytesAt(file->second);
-    if (!bytes) continue;
-    const std::string shown = ShownAt(file->second);
-    const IncludeLookup look_up = LookUpBeside(file->second, game);
-    TakeGameNumbers(kind, shown, *bytes, look_up, loaded);
-    if (HasUnreadWeight(loaded.bot, kind)) {
-      TakeGameWeights(kind, shown, *bytes, look_up, loaded);
-    }
-  }
 }
 
 }  // namespace fragsmith

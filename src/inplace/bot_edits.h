@@ -83,27 +83,6 @@ std::string DiffOf(const BotEdits& edits);
 /// it are put back as they were; the error names those that cannot be.
 Result<void> WriteEdits(BotEdits& edits);
 
-/// The bytes of a file of a bot as they are now.
-Result<std::string> BytesAt(const OriginFile& file);
-
-/// How messages call such a file; UTF-8.
-std::string ShownAt(const OriginFile& file);
-
-/// What the bot's files are called by, in front of "_c.c"; empty where they
-/// have other names.
-std::string CalledBy(const OriginFiles& files);
-
-/// What a bot's files include: from the package or the folder in which the
-/// file lies, else from the game.
-IncludeLookup LookUpBeside(const OriginFile& file, IncludeLookup game);
-
-/// Gives a loaded bot what its author said in the game's own way: weights under
-/// other macros than ours, and where it has no description of its own and one
-/// is wanted, what a list of bots beside it says. Notes say what was found
-/// where.
-void TakeGameValues(LoadedBot& loaded, bool wants_description,
-                    const ModelCatalogue& models, const IncludeLookup& game);
-
 }  // namespace fragsmith
 
 #endif  // FRAGSMITH_INPLACE_BOT_EDITS_H_

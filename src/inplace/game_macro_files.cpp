@@ -12,7 +12,7 @@
 #include "botfiles/weight_file.h"
 #include "game/stand_ins.h"
 #include "game/weight_reader.h"
-#include "inplace/bot_edits.h"
+#include "inplace/origin_files.h"
 #include "support/numbers.h"
 #include "support/text.h"
 

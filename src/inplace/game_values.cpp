@@ -11,7 +11,10 @@
 #include "chat/chat_line.h"
 #include "chat/vocabulary.h"
 #include "game/lexer.h"
+#include "inplace/described_bots.h"
 #include "inplace/file_reading.h"
+#include "inplace/game_weights.h"
+#include "inplace/origin_files.h"
 #include "model/characteristic_catalogue.h"
 #include "support/numbers.h"
 #include "support/text.h"
@@ -99,6 +102,16 @@ void TakeLevels(const BothReaders& readers, const FileReading& reading,
   for (const auto& [id, number] : found) numbers.Take(id, number);
 }
 
+bool HasUnreadWeight(const Bot& bot, BotFile kind) {
+  if (kind == BotFile::kCharacteristics) return false;
+  const IndexRange range =
+      kind == BotFile::kWeaponWeights ? kWeaponWeightRange : kItemWeightRange;
+  return std::any_of(range.begin(), range.end(), [&bot](int index) {
+    return std::holds_alternative<std::monostate>(
+        bot.Parameter(ParameterId(index)));
+  });
+}
+
 }  // namespace
 
 bool NeedsGameReader(std::string_view bytes) {
@@ -169,6 +182,26 @@ void TakeGameChats(std::string_view bytes, const IncludeLookup& game,
       if (text.empty()) continue;
       bot.SetChatLine(id, number++,
                       ChatLineFromFile(id, TrimBlanksAndTabs(text)).text);
+    }
+  }
+}
+
+void TakeGameValues(LoadedBot& loaded, bool wants_description,
+                    const ModelCatalogue& models, const IncludeLookup& game) {
+  if (wants_description && !loaded.files.contains(BotFile::kDescription)) {
+    TakeListedIdentity(loaded, models);
+  }
+  for (const BotFile kind : {BotFile::kCharacteristics, BotFile::kWeaponWeights,
+                             BotFile::kItemWeights}) {
+    const auto file = loaded.files.find(kind);
+    if (file == loaded.files.end()) continue;
+    const Result<std::string> bytes = BytesAt(file->second);
+    if (!bytes) continue;
+    const std::string shown = ShownAt(file->second);
+    const IncludeLookup look_up = LookUpBeside(file->second, game);
+    TakeGameNumbers(kind, shown, *bytes, look_up, loaded);
+    if (HasUnreadWeight(loaded.bot, kind)) {
+      TakeGameWeights(kind, shown, *bytes, look_up, loaded);
     }
   }
 }

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "game/preprocessor.h"
+#include "install/program/model_catalogue.h"
 #include "model/bot.h"
 #include "session/load_bot.h"
 
@@ -23,6 +24,13 @@ void TakeGameNumbers(BotFile kind, const std::string& shown,
 
 /// Gives the bot the chat lines of such a file that the game takes.
 void TakeGameChats(std::string_view bytes, const IncludeLookup& game, Bot& bot);
+
+/// Gives a loaded bot what its author said in the game's own way: weights under
+/// other macros than ours, and where it has no description of its own and one
+/// is wanted, what a list of bots beside it says. Notes say what was found
+/// where.
+void TakeGameValues(LoadedBot& loaded, bool wants_description,
+                    const ModelCatalogue& models, const IncludeLookup& game);
 
 }  // namespace fragsmith
 

@@ -16,6 +16,7 @@
 #include "game/lexer.h"
 #include "inplace/bot_edits.h"
 #include "inplace/file_reading.h"
+#include "inplace/origin_files.h"
 #include "inplace/save_in_place.h"
 #include "inplace/splice.h"
 #include "model/file_names.h"

@@ -12,7 +12,7 @@
 #include "game/character_reader.h"
 #include "game/description_reader.h"
 #include "game/stand_ins.h"
-#include "inplace/bot_edits.h"
+#include "inplace/origin_files.h"
 #include "model/file_names.h"
 #include "support/code_page.h"
 #include "support/files.h"

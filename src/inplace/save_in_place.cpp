@@ -9,6 +9,7 @@
 #include "inplace/described_bots.h"
 #include "inplace/edit_in_place.h"
 #include "inplace/keep_files.h"
+#include "inplace/origin_files.h"
 #include "session/bot_difference.h"
 #include "session/bot_file.h"
 #include "session/load_bot.h"

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "game/stand_ins.h"
+#include "inplace/origin_files.h"
 #include "install/packages/package_writer.h"
 #include "tests/support/ids.h"
 #include "tests/support/test_folder.h"

@@ -10,6 +10,8 @@
 #include "game/stand_ins.h"
 #include "inplace/bot_edits.h"
 #include "inplace/game_macro_files.h"
+#include "inplace/game_values.h"
+#include "inplace/origin_files.h"
 #include "install/packages/package_writer.h"
 #include "tests/support/ids.h"
 #include "tests/support/scripted_prompts.h"

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "game/stand_ins.h"
+#include "inplace/game_values.h"
 #include "install/packages/package.h"
 #include "install/packages/package_writer.h"
 #include "install/program/bot_list.h"

@@ -7,7 +7,7 @@
 #include "editor/toolkit/busy.h"
 #include "editor/toolkit/game_text_conversion.h"
 #include "game/game_lookup.h"
-#include "inplace/bot_edits.h"
+#include "inplace/game_values.h"
 #include "install/program/game_folder.h"
 #include "session/bot_sources.h"
 #include "session/load_from_package.h"
