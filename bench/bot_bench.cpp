@@ -41,8 +41,9 @@ Bot MakeBot() {
   Bot bot = CreateAverageBot(SeededRandom(1));
   for (const ChatTypeId type : kAllChatTypes) {
     const int pointer = ChatTypeAt(type).Pointers().front();
-    bot.SetChatLine(type, 1, "I have seen worse on days that were better.");
-    bot.SetChatLine(type, 2,
+    bot.SetChatLine(type, ChatLineIndex(1),
+                    "I have seen worse on days that were better.");
+    bot.SetChatLine(type, ChatLineIndex(2),
                     std::string(ChatPointerAt(pointer).Variable) +
                         " should try the {WEAPON}, it is good for {ANIMAL}s.");
   }

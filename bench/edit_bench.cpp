@@ -62,7 +62,8 @@ std::vector<Edited> EditedFiles() {
           file(BotFile::kItemWeights, WriteItemWeightFile(made, {}),
                put(ParameterId(kItemWeightRange.last), 123)),
           file(BotFile::kChat, WriteChatFile(made, {}), [](Bot& bot) {
-            bot.SetChatLine(kAllChatTypes[0], 0, "Another line.");
+            bot.SetChatLine(kAllChatTypes[0], ChatLineIndex(0),
+                            "Another line.");
           })};
 }
 

@@ -42,9 +42,9 @@ Bot OtherBot(const Bot& bot, std::size_t value) {
   }
   for (const ChatTypeId type : kAllChatTypes) {
     // Something replaced, something gone, something new.
-    if (value % 2 == 0) other.RemoveChatLine(type, 0);
-    other.SetChatLine(type, other.HighestChatLine(type) + 1, text);
-    if (value % 3 == 0) other.SetChatLine(type, 0, text);
+    if (value % 2 == 0) other.RemoveChatLine(type, ChatLineIndex(0));
+    other.SetChatLine(type, other.EndOfChatLines(type), text);
+    if (value % 3 == 0) other.SetChatLine(type, ChatLineIndex(0), text);
   }
   return other;
 }
@@ -53,12 +53,7 @@ Bot OtherBot(const Bot& bot, std::size_t value) {
 Bot WithChange(const Bot& bot, const FileChange& change, const Bot& other) {
   Bot changed = bot;
   if (const auto* const type = std::get_if<ChatTypeId>(&change)) {
-    while (changed.HighestChatLine(*type) >= 0)
-      changed.RemoveChatLine(*type, 0);
-    int number = 0;
-    for (const std::string& line : other.ChatLines(*type)) {
-      changed.SetChatLine(*type, number++, line);
-    }
+    changed.SetChatLines(*type, other.ChatLines(*type));
     return changed;
   }
   const ParameterId id = std::get<ParameterId>(change);

@@ -54,12 +54,12 @@ Bot MakeOddBot() {
   for (int group = 0; group < static_cast<int>(kChatGroups.size()); ++group) {
     const ChatTypeId type =
         kAllChatTypes.at(static_cast<std::size_t>(group) % kChatTypeCount);
-    bot.SetChatLine(type, bot.HighestChatLine(type) + 1,
+    bot.SetChatLine(type, bot.EndOfChatLines(type),
                     GroupMember(group, std::to_string(group % 4)));
   }
   for (const ChatTypeId type : kAllChatTypes) {
     const auto add = [&](const std::string& line) {
-      bot.SetChatLine(type, bot.HighestChatLine(type) + 1, line);
+      bot.SetChatLine(type, bot.EndOfChatLines(type), line);
     };
     for (const int pointer : ChatTypeAt(type).Pointers()) {
       const std::string variable(ChatPointerAt(pointer).Variable);

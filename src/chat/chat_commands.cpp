@@ -8,8 +8,8 @@
 namespace fragsmith {
 namespace {
 
-int Append(Bot& bot, ChatTypeId type, std::string text) {
-  const int line = bot.HighestChatLine(type) + 1;
+ChatLineIndex Append(Bot& bot, ChatTypeId type, std::string text) {
+  const ChatLineIndex line = bot.EndOfChatLines(type);
   bot.SetChatLine(type, line, std::move(text));
   return line;
 }
@@ -22,14 +22,15 @@ bool IsBehindMark(std::string_view text, std::size_t offset) {
 
 }  // namespace
 
-int NextFreeChatLine(const Bot& bot, ChatTypeId type) {
-  const int highest = bot.HighestChatLine(type);
-  const bool is_unused = highest == 0 && bot.ChatLine(type, 0).empty();
-  return is_unused ? 0 : highest + 1;
+ChatLineIndex NextFreeChatLine(const Bot& bot, ChatTypeId type) {
+  const std::vector<std::string>& lines = bot.ChatLines(type);
+  const bool is_unused = lines.size() == 1 && lines.front().empty();
+  return is_unused ? ChatLineIndex() : bot.EndOfChatLines(type);
 }
 
-int AddRandomChatLine(Bot& bot, ChatTypeId type, const RandomSource& random) {
-  const int line = NextFreeChatLine(bot, type);
+ChatLineIndex AddRandomChatLine(Bot& bot, ChatTypeId type,
+                                const RandomSource& random) {
+  const ChatLineIndex line = NextFreeChatLine(bot, type);
   bot.SetChatLine(type, line,
                   RandomGroupMember(ChatTypeAt(type).random_group, random));
   return line;
@@ -41,34 +42,31 @@ void AddExtraChats(Bot& bot, const RandomSource& random) {
   }
 }
 
-int AddGroupMember(Bot& bot, ChatTypeId type, int selected_line, int group,
-                   int number) {
+ChatLineIndex AddGroupMember(Bot& bot, ChatTypeId type,
+                             std::optional<ChatLineIndex> selected_line,
+                             int group, int number) {
   std::string member = GroupMember(group, std::to_string(number));
-  if (selected_line >= 0 && bot.ChatLine(type, selected_line).empty()) {
-    bot.SetChatLine(type, selected_line, std::move(member));
-    return selected_line;
+  if (selected_line && bot.ChatLine(type, *selected_line).empty()) {
+    bot.SetChatLine(type, *selected_line, std::move(member));
+    return *selected_line;
   }
   return Append(bot, type, std::move(member));
 }
 
-int AddEmptyChatLine(Bot& bot, ChatTypeId type) {
+ChatLineIndex AddEmptyChatLine(Bot& bot, ChatTypeId type) {
   return Append(bot, type, {});
 }
 
-void MoveChatLine(Bot& bot, ChatTypeId type, int line, int place) {
+void MoveChatLine(Bot& bot, ChatTypeId type, ChatLineIndex line,
+                  ChatLineIndex place) {
   std::string text = bot.ChatLine(type, line);
-  const int step = line < place ? 1 : -1;
-  for (; line != place; line += step) {
-    bot.SetChatLine(type, line, bot.ChatLine(type, line + step));
-  }
-  bot.SetChatLine(type, place, std::move(text));
+  bot.RemoveChatLine(type, line);
+  bot.InsertChatLine(type, place, std::move(text));
 }
 
-void DoubleChatLine(Bot& bot, ChatTypeId type, int line, int behind) {
-  for (int last = Append(bot, type, {}); last > behind; --last) {
-    bot.SetChatLine(type, last, bot.ChatLine(type, last - 1));
-  }
-  bot.SetChatLine(type, behind, bot.ChatLine(type, line));
+void DoubleChatLine(Bot& bot, ChatTypeId type, ChatLineIndex line,
+                    ChatLineIndex behind) {
+  bot.InsertChatLine(type, behind, bot.ChatLine(type, line));
 }
 
 LineText InsertVariable(const LineText& line, std::string_view variable) {

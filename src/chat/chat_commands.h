@@ -2,6 +2,7 @@
 #define FRAGSMITH_CHAT_CHAT_COMMANDS_H_
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -14,29 +15,33 @@ namespace fragsmith {
 
 /// Where a new line of the type goes: behind the last one, but the one empty
 /// line of a type that has no other is used again.
-int NextFreeChatLine(const Bot& bot, ChatTypeId type);
+ChatLineIndex NextFreeChatLine(const Bot& bot, ChatTypeId type);
 
 /// "Add random list": a random member of the type's group in its next free
-/// line. Gives the line's number.
-int AddRandomChatLine(Bot& bot, ChatTypeId type, const RandomSource& random);
+/// line. Gives that line.
+ChatLineIndex AddRandomChatLine(Bot& bot, ChatTypeId type,
+                                const RandomSource& random);
 
 /// "Add extra chats": the same for each of the 28 types.
 void AddExtraChats(Bot& bot, const RandomSource& random);
 
 /// "Add selected list": the member takes the place of the selected line when
-/// that is empty; otherwise, and without a selected line (-1), it becomes a
-/// new last line. Gives the line's number.
-int AddGroupMember(Bot& bot, ChatTypeId type, int selected_line, int group,
-                   int number);
+/// that is empty; otherwise, and without a selected line, it becomes a new last
+/// line. Gives the line.
+ChatLineIndex AddGroupMember(Bot& bot, ChatTypeId type,
+                             std::optional<ChatLineIndex> selected_line,
+                             int group, int number);
 
-/// "New line": an empty last line. Gives its number.
-int AddEmptyChatLine(Bot& bot, ChatTypeId type);
+/// "New line": an empty last line, which it gives.
+ChatLineIndex AddEmptyChatLine(Bot& bot, ChatTypeId type);
 
 /// Moves a line to the place of another; those between make room.
-void MoveChatLine(Bot& bot, ChatTypeId type, int line, int place);
+void MoveChatLine(Bot& bot, ChatTypeId type, ChatLineIndex line,
+                  ChatLineIndex place);
 
 /// Puts a copy of the line in a place behind it.
-void DoubleChatLine(Bot& bot, ChatTypeId type, int line, int behind);
+void DoubleChatLine(Bot& bot, ChatTypeId type, ChatLineIndex line,
+                    ChatLineIndex behind);
 
 /// What stands in the line box, and how many characters before its cursor.
 struct LineText {

@@ -124,7 +124,7 @@ class ChatReader {
     if (const std::optional<ChatTypeId> type = TypeIn(line)) {
       type_ = *type;
       has_type_.at(IndexOf(type_)) = true;
-      if (NextLine() > 0) {
+      if (next_lines_.at(IndexOf(type_)) > ChatLineIndex()) {
         AddNote("The type " + std::string(ChatTypeAt(type_).Key) +
                 " was there before; the game uses the last block alone.");
       }
@@ -193,7 +193,9 @@ class ChatReader {
       CompareWithSaved(code, line.text);
     }
     for (const ChatOddity& oddity : line.oddities) AddOddity(oddity);
-    bot_.SetChatLine(type_, NextLine()++, std::move(line.text));
+    ChatLineIndex& next = next_lines_.at(IndexOf(type_));
+    bot_.SetChatLine(type_, next, std::move(line.text));
+    next = next.Next();
   }
 
   /// Tells of a line that a save would not write as it is.
@@ -247,8 +249,6 @@ class ChatReader {
     left_out_.AddInclude(TrimBlanksAndTabs(code), number_);
   }
 
-  int& NextLine() { return next_lines_.at(IndexOf(type_)); }
-
   struct OddLines {
     std::size_t first = 0;
     NameList list;
@@ -273,7 +273,7 @@ class ChatReader {
   std::array<bool, kChatTypeCount> has_type_{};
   int chats_ = 0;  ///< That have begun so far.
   ChatTypeId type_{0};
-  std::array<int, kChatTypeCount> next_lines_{};
+  std::array<ChatLineIndex, kChatTypeCount> next_lines_;
   std::map<std::string_view, OddLines> oddities_;  ///< By kind.
 };
 

@@ -105,7 +105,7 @@ CheckContext MakeContext(const Bot& bot, const GameData* game) {
       if (lines[line].empty()) continue;  // Not written.
       context.lines.push_back(
           {.type = type,
-           .line = static_cast<int>(line),
+           .line = ChatLineIndex(line),
            .text = &lines[line],
            .message = ReadChatMessage(ChatLineToFile(type, lines[line]))});
     }
@@ -177,7 +177,7 @@ std::string ChatPlaceText(const BotPlace& place) {
   const auto* const chat = std::get_if<ChatPlace>(&place);
   if (chat == nullptr || !chat->line) return {};
   return QuotedChatType(chat->type) + ", line " +
-         std::to_string(*chat->line + 1);
+         std::to_string(chat->line->number());
 }
 
 std::string_view SeverityWord(Severity severity) {

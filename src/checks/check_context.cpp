@@ -41,8 +41,8 @@ Mend SetTo(ParameterId parameter, Value value, std::string title) {
 Mend SetLine(const CheckedLine& line, std::string text, std::string title) {
   return {
       .title = std::move(title),
-      .apply = [type = line.type, number = line.line, text = std::move(text)](
-                   Bot& bot) { bot.SetChatLine(type, number, text); }};
+      .apply = [type = line.type, index = line.line, text = std::move(text)](
+                   Bot& bot) { bot.SetChatLine(type, index, text); }};
 }
 
 }  // namespace fragsmith

@@ -18,7 +18,7 @@ namespace fragsmith {
 /// A chat line that is not empty, with what the game makes of it.
 struct CheckedLine {
   ChatTypeId type{0};
-  int line = 0;
+  ChatLineIndex line;
   const std::string* text = nullptr;  ///< In the bot.
   ChatMessage message;
 };

@@ -70,7 +70,7 @@ TextSpan PlacesInFiles::SpanOf(const Bot& bot, const BotPlace& place,
   if (const auto* const chat = std::get_if<ChatPlace>(&place)) {
     const std::vector<TextSpan> lines =
         LinesOf(chat->type, bot.ChatLines(chat->type).size(), reading);
-    const auto line = static_cast<std::size_t>(chat->line.value_or(0));
+    const std::size_t line = chat->line.value_or(ChatLineIndex()).index();
     return line < lines.size() ? lines[line] : TextSpan();
   }
   const auto* const parameter = std::get_if<ParameterId>(&place);

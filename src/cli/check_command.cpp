@@ -90,7 +90,7 @@ Json InJson(const Finding& finding, const FilePlace& where) {
   }
   if (const auto* const chat = std::get_if<ChatPlace>(&place)) {
     json["chatType"] = IndexOf(chat->type);
-    if (chat->line) json["chatLine"] = *chat->line;
+    if (chat->line) json["chatLine"] = chat->line->index();
   }
   json["mends"] = Json::array();
   for (const Mend& mend : finding.mends) json["mends"].push_back(mend.title);

@@ -224,13 +224,13 @@ Bot MakeSurprise(const RandomSource& random) {
 void AddChats(const WordLists* words, const RandomSource& random, Bot& bot) {
   for (const ChatTypeId type : kAllChatTypes) {
     if (!FactsOfChatType(type).is_heard) continue;
-    bot.SetChatLine(type, 0, std::string(PlainChatLine(type)));
+    bot.SetChatLine(type, ChatLineIndex(0), std::string(PlainChatLine(type)));
     if (words == nullptr) continue;
     const std::vector<std::string> lines = ReadyMadeLines(type, *words);
     if (lines.empty()) continue;
     const auto line =
         static_cast<std::size_t>(random() * static_cast<double>(lines.size()));
-    bot.SetChatLine(type, 1, lines.at(line));
+    bot.SetChatLine(type, ChatLineIndex(1), lines.at(line));
   }
 }
 

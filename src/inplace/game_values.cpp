@@ -169,7 +169,7 @@ void TakeGameChats(std::string_view bytes, const IncludeLookup& game,
   for (const ChatTypeId id : kAllChatTypes) {
     const auto type = last.find(std::string(ChatTypeAt(id).Key));
     if (type == last.end()) continue;
-    int number = 0;
+    ChatLineIndex next;
     for (const GameChatLine& line : type->second->lines) {
       std::string text(
           bytes.substr(line.span.begin, line.span.end - line.span.begin));
@@ -180,8 +180,9 @@ void TakeGameChats(std::string_view bytes, const IncludeLookup& game,
           },
           ' ');
       if (text.empty()) continue;
-      bot.SetChatLine(id, number++,
+      bot.SetChatLine(id, next,
                       ChatLineFromFile(id, TrimBlanksAndTabs(text)).text);
+      next = next.Next();
     }
   }
 }

@@ -114,7 +114,7 @@ std::vector<LineThere> AddLinesElsewhere(const FileReading& reading,
       wanted.erase(found);
       continue;
     }
-    after.SetChatLine(type, after.HighestChatLine(type) + 1, line.text);
+    after.SetChatLine(type, after.EndOfChatLines(type), line.text);
     left_out.push_back(std::move(line));
   }
   return left_out;

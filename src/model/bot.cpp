@@ -21,10 +21,6 @@ namespace {
   throw std::out_of_range(text);
 }
 
-[[noreturn]] void BadLine(int line) {
-  throw std::out_of_range("no chat line " + std::to_string(line));
-}
-
 bool IsIdentityField(int index) {
   return index >= 0 && index <= kArenaLordField.index() && index != 4;
 }
@@ -171,26 +167,40 @@ const std::vector<std::string>& Bot::ChatLines(ChatTypeId type) const {
   return chats_.at(IndexOf(type));
 }
 
-const std::string& Bot::ChatLine(ChatTypeId type, int line) const {
-  return ChatLines(type).at(static_cast<std::size_t>(line));
+void Bot::SetChatLines(ChatTypeId type, std::vector<std::string> lines) {
+  chats_.at(IndexOf(type)) = std::move(lines);
 }
 
-void Bot::SetChatLine(ChatTypeId type, int line, std::string text) {
+const std::string& Bot::ChatLine(ChatTypeId type, ChatLineIndex line) const {
+  return ChatLines(type).at(line.index());
+}
+
+void Bot::SetChatLine(ChatTypeId type, ChatLineIndex line, std::string text) {
   std::vector<std::string>& lines = chats_.at(IndexOf(type));
-  if (line < 0) BadLine(line);
-  const auto index = static_cast<std::size_t>(line);
-  if (index >= lines.size()) lines.resize(index + 1);
-  lines[index] = std::move(text);
+  if (line.index() >= lines.size()) lines.resize(line.number());
+  lines[line.index()] = std::move(text);
 }
 
-void Bot::RemoveChatLine(ChatTypeId type, int line) {
+void Bot::InsertChatLine(ChatTypeId type, ChatLineIndex line,
+                         std::string text) {
   std::vector<std::string>& lines = chats_.at(IndexOf(type));
-  if (line < 0 || line > HighestChatLine(type)) BadLine(line);
-  lines.erase(lines.begin() + line);
+  if (line.index() > lines.size()) {
+    throw std::out_of_range("no chat line " + std::to_string(line.number()));
+  }
+  lines.insert(lines.begin() + static_cast<std::ptrdiff_t>(line.index()),
+               std::move(text));
 }
 
-int Bot::HighestChatLine(ChatTypeId type) const {
-  return static_cast<int>(ChatLines(type).size()) - 1;
+void Bot::RemoveChatLine(ChatTypeId type, ChatLineIndex line) {
+  std::vector<std::string>& lines = chats_.at(IndexOf(type));
+  if (line.index() >= lines.size()) {
+    throw std::out_of_range("no chat line " + std::to_string(line.number()));
+  }
+  lines.erase(lines.begin() + static_cast<std::ptrdiff_t>(line.index()));
+}
+
+ChatLineIndex Bot::EndOfChatLines(ChatTypeId type) const {
+  return ChatLineIndex(ChatLines(type).size());
 }
 
 void Bot::ClearChats() { chats_.fill({std::string()}); }

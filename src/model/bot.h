@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "model/chat_line_index.h"
 #include "model/chat_type_id.h"
 #include "model/parameter_id.h"
 #include "model/value.h"
@@ -53,15 +54,18 @@ class Bot {
   std::string Name() const { return Text(kNameField); }
   std::string FunName() const { return Text(kFunNameField); }
 
-  /// The chat lines of a type in editor form. The line number of a
-  /// new text may lie beyond the end: the list grows to hold it.
+  /// The chat lines of a type in editor form. A new text may lie beyond the
+  /// end: the list grows to hold it.
   const std::vector<std::string>& ChatLines(ChatTypeId type) const;
-  const std::string& ChatLine(ChatTypeId type, int line) const;
-  void SetChatLine(ChatTypeId type, int line, std::string text);
-  void RemoveChatLine(ChatTypeId type, int line);
+  void SetChatLines(ChatTypeId type, std::vector<std::string> lines);
+  const std::string& ChatLine(ChatTypeId type, ChatLineIndex line) const;
+  void SetChatLine(ChatTypeId type, ChatLineIndex line, std::string text);
+  /// The lines from there on move down by one.
+  void InsertChatLine(ChatTypeId type, ChatLineIndex line, std::string text);
+  void RemoveChatLine(ChatTypeId type, ChatLineIndex line);
 
-  /// The highest line number of a type; -1 when it has no line.
-  int HighestChatLine(ChatTypeId type) const;
+  /// Where a new line of a type goes: behind its last one.
+  ChatLineIndex EndOfChatLines(ChatTypeId type) const;
 
   /// Leaves one empty line for each type, as a new bot has.
   void ClearChats();

@@ -6,6 +6,7 @@
 #include <string>
 #include <variant>
 
+#include "model/chat_line_index.h"
 #include "model/chat_type_id.h"
 #include "model/file_names.h"
 #include "model/parameter_id.h"
@@ -20,7 +21,7 @@ struct WholeBot {
 /// The lines of a chat type, or one of them.
 struct ChatPlace {
   ChatTypeId type{};
-  std::optional<int> line;  ///< Counted from 0.
+  std::optional<ChatLineIndex> line;
 
   auto operator<=>(const ChatPlace&) const = default;  // NOLINT(*-use-nullptr)
 };

@@ -51,7 +51,7 @@ void ComparePair(ParameterId parameter, const Bot& left, const Bot& right,
 
 /// A chat line that is not empty, by its index in the type.
 struct PlacedLine {
-  int line;
+  ChatLineIndex line;
   const std::string* text;
 };
 
@@ -60,7 +60,7 @@ std::vector<PlacedLine> LinesOf(const Bot& bot, ChatTypeId type) {
   const std::vector<std::string>& all = bot.ChatLines(type);
   for (std::size_t line = 0; line < all.size(); ++line) {
     if (!all[line].empty()) {
-      lines.push_back({static_cast<int>(line), &all[line]});
+      lines.push_back({ChatLineIndex(line), &all[line]});
     }
   }
   return lines;
@@ -75,8 +75,8 @@ class ChatAligner {
       : type_(type),
         left_(LinesOf(left, type)),
         right_(LinesOf(right, type)),
-        left_end_(left.HighestChatLine(type) + 1),
-        right_end_(right.HighestChatLine(type) + 1),
+        left_end_(left.EndOfChatLines(type)),
+        right_end_(right.EndOfChatLines(type)),
         differences_(differences) {}
 
   void Align() {
@@ -145,9 +145,10 @@ class ChatAligner {
         .title = {},
         .left = {},
         .right = {}};
-    const int shown = takes_left ? difference.left_line : difference.right_line;
+    const ChatLineIndex shown =
+        takes_left ? difference.left_line : difference.right_line;
     difference.title =
-        QuotedChatType(type_) + ", line " + std::to_string(shown + 1);
+        QuotedChatType(type_) + ", line " + std::to_string(shown.number());
     if (takes_left) {
       difference.left = Utf8FromGameText(*left_[left_at_++].text);
     }
@@ -160,22 +161,14 @@ class ChatAligner {
   ChatTypeId type_;
   std::vector<PlacedLine> left_;
   std::vector<PlacedLine> right_;
-  int left_end_;
-  int right_end_;
+  ChatLineIndex left_end_;
+  ChatLineIndex right_end_;
   std::vector<BotDifference>& differences_;
   std::size_t left_at_ = 0;
   std::size_t right_at_ = 0;
   std::size_t columns_ = 0;
   std::vector<int> common_;
 };
-
-void InsertChatLine(Bot& bot, ChatTypeId type, int line,
-                    const std::string& text) {
-  for (int last = bot.HighestChatLine(type); last >= line; --last) {
-    bot.SetChatLine(type, last + 1, bot.ChatLine(type, last));
-  }
-  bot.SetChatLine(type, line, text);
-}
 
 }  // namespace
 
@@ -213,7 +206,7 @@ void CopyToRight(const BotDifference& difference, const Bot& left, Bot& right) {
   if (difference.is_in_right) {
     right.SetChatLine(type, difference.right_line, text);
   } else {
-    InsertChatLine(right, type, difference.right_line, text);
+    right.InsertChatLine(type, difference.right_line, text);
   }
 }
 
@@ -225,12 +218,7 @@ BotDifference Reversed(BotDifference difference) {
 }
 
 void CopyChatType(ChatTypeId type, const Bot& from, Bot& to) {
-  while (to.HighestChatLine(type) > from.HighestChatLine(type)) {
-    to.RemoveChatLine(type, to.HighestChatLine(type));
-  }
-  for (int line = 0; line <= from.HighestChatLine(type); ++line) {
-    to.SetChatLine(type, line, from.ChatLine(type, line));
-  }
+  to.SetChatLines(type, from.ChatLines(type));
 }
 
 }  // namespace fragsmith

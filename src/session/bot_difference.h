@@ -23,8 +23,8 @@ struct BotDifference {
   std::optional<ChatTypeId> chat_type;
   /// The line in either bot; where it is missing, the line before which it
   /// would stand.
-  int left_line = -1;
-  int right_line = -1;
+  ChatLineIndex left_line;
+  ChatLineIndex right_line;
   bool is_in_left = true;
   bool is_in_right = true;
 

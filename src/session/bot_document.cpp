@@ -221,12 +221,12 @@ void ReadChats(const Json& json, const UnknownKeys& unknown, Bot& bot) {
     }
     if (!lines.is_array())
       RefuseField(field, "a list of texts is wanted here.");
-    int number = 0;
+    ChatLineIndex next;
     for (const Json& line : lines) {
       bot.SetChatLine(
-          type->second, number,
-          ReadText(line, field + "[" + std::to_string(number) + "]"));
-      ++number;
+          type->second, next,
+          ReadText(line, field + "[" + std::to_string(next.index()) + "]"));
+      next = next.Next();
     }
   }
 }

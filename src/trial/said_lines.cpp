@@ -104,7 +104,7 @@ SaidLines::SaidLines(const Bot& bot, const WordLists& words) {
     const std::vector<std::string>& texts = bot.ChatLines(type);
     for (std::size_t line = 0; line < texts.size(); ++line) {
       if (texts[line].empty()) continue;
-      const ChatPlace place{.type = type, .line = static_cast<int>(line)};
+      const ChatPlace place{.type = type, .line = ChatLineIndex(line)};
       const auto same = std::find_if(
           lines_.begin(), lines_.end(),
           [&](const OwnLine& own) { return own.text == texts[line]; });

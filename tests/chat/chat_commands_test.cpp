@@ -15,15 +15,15 @@ using ::testing::StartsWith;
 TEST(ChatCommands, UseTheOneEmptyLineAgain) {
   Bot bot;
   const auto last = [] { return 0.999; };
-  EXPECT_EQ(AddRandomChatLine(bot, TypeAt(20), last), 0);
-  EXPECT_EQ(AddRandomChatLine(bot, TypeAt(20), last), 1);
+  EXPECT_EQ(AddRandomChatLine(bot, TypeAt(20), last), ChatLineIndex(0));
+  EXPECT_EQ(AddRandomChatLine(bot, TypeAt(20), last), ChatLineIndex(1));
   EXPECT_THAT(bot.ChatLines(TypeAt(20)),
               ElementsAre("{{DEATHRAIL2}}", "{{DEATHRAIL2}}"));
-  bot.SetChatLine(TypeAt(20), 1, "");
-  EXPECT_EQ(NextFreeChatLine(bot, TypeAt(20)), 2);
-  bot.RemoveChatLine(TypeAt(20), 1);
-  bot.RemoveChatLine(TypeAt(20), 0);
-  EXPECT_EQ(NextFreeChatLine(bot, TypeAt(20)), 0);
+  bot.SetChatLine(TypeAt(20), ChatLineIndex(1), "");
+  EXPECT_EQ(NextFreeChatLine(bot, TypeAt(20)), ChatLineIndex(2));
+  bot.RemoveChatLine(TypeAt(20), ChatLineIndex(1));
+  bot.RemoveChatLine(TypeAt(20), ChatLineIndex(0));
+  EXPECT_EQ(NextFreeChatLine(bot, TypeAt(20)), ChatLineIndex(0));
 }
 
 TEST(ChatCommands, AddOneExtraLinePerType) {
@@ -35,19 +35,23 @@ TEST(ChatCommands, AddOneExtraLinePerType) {
   for (const ChatTypeId type : kAllChatTypes) {
     EXPECT_THAT(bot.ChatLines(type), ElementsAre(StartsWith("{{")));
   }
-  EXPECT_EQ(bot.ChatLine(TypeAt(10), 0), "{{DEATHFALLING0}}");
-  EXPECT_EQ(bot.ChatLine(TypeAt(6), 0), "{{HITTALKING0}}");
+  EXPECT_EQ(bot.ChatLine(TypeAt(10), ChatLineIndex(0)), "{{DEATHFALLING0}}");
+  EXPECT_EQ(bot.ChatLine(TypeAt(6), ChatLineIndex(0)), "{{HITTALKING0}}");
   AddExtraChats(bot, SeededRandom(4));
   EXPECT_THAT(bot.ChatLines(TypeAt(27)), SizeIs(2));
 }
 
 TEST(ChatCommands, PutMembersWhereTheSelectionIs) {
   Bot bot;
-  EXPECT_EQ(AddGroupMember(bot, TypeAt(5), 0, 25, 3), 0);
-  EXPECT_EQ(AddGroupMember(bot, TypeAt(5), 0, 25, 4), 1);
-  EXPECT_EQ(AddEmptyChatLine(bot, TypeAt(5)), 2);
-  EXPECT_EQ(AddGroupMember(bot, TypeAt(5), -1, 25, 5), 3);
-  EXPECT_EQ(AddGroupMember(bot, TypeAt(5), 2, 28, 2), 2);
+  EXPECT_EQ(AddGroupMember(bot, TypeAt(5), ChatLineIndex(0), 25, 3),
+            ChatLineIndex(0));
+  EXPECT_EQ(AddGroupMember(bot, TypeAt(5), ChatLineIndex(0), 25, 4),
+            ChatLineIndex(1));
+  EXPECT_EQ(AddEmptyChatLine(bot, TypeAt(5)), ChatLineIndex(2));
+  EXPECT_EQ(AddGroupMember(bot, TypeAt(5), std::nullopt, 25, 5),
+            ChatLineIndex(3));
+  EXPECT_EQ(AddGroupMember(bot, TypeAt(5), ChatLineIndex(2), 28, 2),
+            ChatLineIndex(2));
   EXPECT_THAT(
       bot.ChatLines(TypeAt(5)),
       ElementsAre("{{TAUNT3}}", "{{TAUNT4}}", "{{GUYTALK2}}", "{{TAUNT5}}"));
@@ -55,15 +59,12 @@ TEST(ChatCommands, PutMembersWhereTheSelectionIs) {
 
 TEST(ChatCommands, MoveALinePastOthers) {
   Bot bot;
-  int line = 0;
-  for (const char* const text : {"a", "b", "c", "d"}) {
-    bot.SetChatLine(TypeAt(5), line++, text);
-  }
-  MoveChatLine(bot, TypeAt(5), 0, 2);
+  bot.SetChatLines(TypeAt(5), {"a", "b", "c", "d"});
+  MoveChatLine(bot, TypeAt(5), ChatLineIndex(0), ChatLineIndex(2));
   EXPECT_THAT(bot.ChatLines(TypeAt(5)), ElementsAre("b", "c", "a", "d"));
-  MoveChatLine(bot, TypeAt(5), 3, 0);
+  MoveChatLine(bot, TypeAt(5), ChatLineIndex(3), ChatLineIndex(0));
   EXPECT_THAT(bot.ChatLines(TypeAt(5)), ElementsAre("d", "b", "c", "a"));
-  MoveChatLine(bot, TypeAt(5), 1, 1);
+  MoveChatLine(bot, TypeAt(5), ChatLineIndex(1), ChatLineIndex(1));
   EXPECT_THAT(bot.ChatLines(TypeAt(5)), ElementsAre("d", "b", "c", "a"));
 }
 

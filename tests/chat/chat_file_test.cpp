@@ -42,8 +42,8 @@ TEST(ChatFile, IsWrittenToTheByte) {
   EXPECT_EQ(WriteChatFile(bot, {"Ann", "", ""}),
             HeaderComment(bot, {"Ann", "", ""}) + FileOf("123", ""));
   Set(bot, Id(0), "mybot");
-  bot.SetChatLine(TypeAt(0), 0, "{{GAMEENTER0}}");
-  bot.SetChatLine(TypeAt(0), 2, "Hi {ANYBOTNAME}!");
+  bot.SetChatLine(TypeAt(0), ChatLineIndex(0), "{{GAMEENTER0}}");
+  bot.SetChatLine(TypeAt(0), ChatLineIndex(2), "Hi {ANYBOTNAME}!");
   EXPECT_EQ(WriteChatFile(bot, {}),
             HeaderComment(bot, {}) +
                 FileOf("mybot", ">>HELLO;|>>\"Hi \", 0, \"!\";|"));
@@ -145,8 +145,9 @@ TEST(ChatFile, TellsTypesThatBeginAlikeApart) {
   EXPECT_THAT(Described(notes),
               ElementsAre("f_t.c:10: The type level_end was there before; the "
                           "game uses the last block alone."));
-  EXPECT_EQ(bot.ChatLine(TypeAt(3), 0) + bot.ChatLine(TypeAt(4), 0) +
-                bot.ChatLine(TypeAt(5), 0),
+  EXPECT_EQ(bot.ChatLine(TypeAt(3), ChatLineIndex(0)) +
+                bot.ChatLine(TypeAt(4), ChatLineIndex(0)) +
+                bot.ChatLine(TypeAt(5), ChatLineIndex(0)),
             "evl");
 }
 
@@ -164,9 +165,9 @@ TEST(ChatFile, PassesOverTheBlanksThatNobodySees) {
     }
     Bot bot;
     const ReadReport report = ReadChatFile(file, "f_t.c", bot);
-    EXPECT_EQ(bot.ChatLine(TypeAt(11), 0), text);
-    EXPECT_EQ(bot.ChatLine(TypeAt(11), 1), "b{RANDOMOPP2}");
-    EXPECT_EQ(bot.ChatLine(TypeAt(20), 0), "c");
+    EXPECT_EQ(bot.ChatLine(TypeAt(11), ChatLineIndex(0)), text);
+    EXPECT_EQ(bot.ChatLine(TypeAt(11), ChatLineIndex(1)), "b{RANDOMOPP2}");
+    EXPECT_EQ(bot.ChatLine(TypeAt(20), ChatLineIndex(0)), "c");
     EXPECT_THAT(Described(report.notes), ElementsAre());
   }
 }

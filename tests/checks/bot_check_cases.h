@@ -82,7 +82,7 @@ inline Edit SetAll(IndexRange range, double value) {
 /// The line, and the chance that the type needs.
 inline Edit Chat(ChatTypeId type, const std::string& text) {
   return [type, text](Bot& bot, GameData&) {
-    bot.SetChatLine(type, 0, text);
+    bot.SetChatLine(type, ChatLineIndex(0), text);
     for (int index = 34; index <= 42; ++index) {
       if (index != 38) Set(bot, Id(index), 0.5);
     }

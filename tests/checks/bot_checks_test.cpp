@@ -90,7 +90,7 @@ TEST(BotChecks, NameThePlaceAndItsFile) {
   Bot bot = CleanBot();
   GameData game = SomeGame();
   Chat(kDeathInsult, "fine")(bot, game);
-  bot.SetChatLine(kDeathInsult, 2, "\\o/");
+  bot.SetChatLine(kDeathInsult, ChatLineIndex(2), "\\o/");
   Set(107, 2.0)(bot, game);
   Set(60, "much")(bot, game);
   Set(45, "much")(bot, game);
@@ -98,7 +98,8 @@ TEST(BotChecks, NameThePlaceAndItsFile) {
     return Only(CheckBot(bot, &game), id).at(0).place;
   };
   const BotPlace line = place("chat-backslash");
-  EXPECT_EQ(line, BotPlace(ChatPlace{.type = kDeathInsult, .line = 2}));
+  EXPECT_EQ(line, BotPlace(ChatPlace{.type = kDeathInsult,
+                                     .line = ChatLineIndex(2)}));
   EXPECT_EQ(ChatPlaceText(line), "\"Bot dies (negative)\", line 3");
   EXPECT_EQ(FileOfPlace(bot, line), "rookie_t.c");
   EXPECT_EQ(place("reaction-time-clamped"), BotPlace(Id(107)));
@@ -113,9 +114,9 @@ TEST(BotChecks, MendTextsAsTheirTitlesSay) {
   const auto mended = [&game](const std::string& line, const std::string& id,
                               std::size_t which = 0) {
     Bot bot = CleanBot();
-    bot.SetChatLine(kDeathInsult, 0, line);
+    bot.SetChatLine(kDeathInsult, ChatLineIndex(0), line);
     Only(CheckBot(bot, &game), id).at(0).mends.at(which).apply(bot);
-    return bot.ChatLine(kDeathInsult, 0);
+    return bot.ChatLine(kDeathInsult, ChatLineIndex(0));
   };
   EXPECT_EQ(mended("caf\xE9;  50% // \x84hm\x93", "chat-characters-changed"),
             "cafe, 50 percent / 'hm'");
@@ -181,7 +182,7 @@ TEST(BotChecks, ReadNegativeNumbersAsTheGameDoes) {
 TEST(BotChecks, BearHostileBots) {
   Bot bot = CleanBot();
   for (int line = 0; line < 5000; ++line) {
-    bot.SetChatLine(TypeAt(3), line, "\"\\ \x01 {");
+    bot.SetChatLine(TypeAt(3), ChatLineIndex(line), "\"\\ \x01 {");
   }
   EXPECT_LT(CheckBot(bot, nullptr).size(),
             BotChecks().size() * FindingList::kMaxOfOneCheck);

@@ -70,9 +70,9 @@ TEST(MendAll, MakesEachNewBotReadyForAnyGame) {
       // Nobody's lines need to be saved from the types that nobody hears, and
       // all others have one.
       for (const ChatTypeId type : kAllChatTypes) {
-        EXPECT_EQ(bot.ChatLine(type, 0).empty(), IndexOf(type) == 1 ||
-                                                     IndexOf(type) == 2 ||
-                                                     IndexOf(type) == 23);
+        EXPECT_EQ(
+            bot.ChatLine(type, ChatLineIndex(0)).empty(),
+            IndexOf(type) == 1 || IndexOf(type) == 2 || IndexOf(type) == 23);
       }
     }
   }
@@ -81,8 +81,8 @@ TEST(MendAll, MakesEachNewBotReadyForAnyGame) {
 TEST(MendAll, LeavesWhatTheAuthorMeant) {
   Bot bot = CreateAverageBot([] { return 0.0; });
   Set(bot, Id(0), std::string("NameOfSeventeen17"));
-  bot.SetChatLine(TypeAt(23), 0, "Typed by hand");
-  bot.SetChatLine(TypeAt(26), 0, "I {HAVE} braces");
+  bot.SetChatLine(TypeAt(23), ChatLineIndex(0), "Typed by hand");
+  bot.SetChatLine(TypeAt(26), ChatLineIndex(0), "I {HAVE} braces");
   MendAll(bot, nullptr, SafeMend);
   EXPECT_EQ(bot.Name(), "NameOfSeventeen17");
   EXPECT_THAT(bot.ChatLines(TypeAt(23)), ElementsAre("Typed by hand"));
@@ -163,7 +163,7 @@ TEST(ReadyLines, AreThoseThatTheGameHasAndShowsWhole) {
   EXPECT_THAT(ReadyMadeLines(TypeAt(27), game.words), ElementsAre("{{MISC2}}"));
   Bot bot;
   EXPECT_EQ(OtherChatLine(bot, TypeAt(27), game.words), "{{MISC2}}");
-  bot.SetChatLine(TypeAt(27), 0, "{{MISC2}}");
+  bot.SetChatLine(TypeAt(27), ChatLineIndex(0), "{{MISC2}}");
   EXPECT_EQ(OtherChatLine(bot, TypeAt(27), game.words),
             PlainChatLine(TypeAt(27)));
 }

@@ -55,7 +55,7 @@ class ChatPageTest : public testing::Test {
     Bot bot;
     for (std::size_t type = 0; type < lines_of_types.size(); ++type) {
       for (std::size_t line = 0; line < lines_of_types[type].size(); ++line) {
-        bot.SetChatLine(TypeAt(static_cast<int>(type)), static_cast<int>(line),
+        bot.SetChatLine(TypeAt(static_cast<int>(type)), ChatLineIndex(line),
                         lines_of_types[type][line]);
       }
     }
@@ -323,7 +323,7 @@ TEST_F(ChatPageTest, TellsOfLinesAndOfWhatIsNotFilled) {
   bot.Put(ParameterId(35), 0.4);  // Entry and exit.
   bot.Put(ParameterId(42), 0.5);  // Random chats.
   bot.Put(ParameterId(33), 1.0);  // All of them "Random misc".
-  bot.SetChatLine(kGameEntry, 0, "Hi");
+  bot.SetChatLine(kGameEntry, ChatLineIndex(0), "Hi");
   current_.Replace(bot, false, QStringLiteral("Load"));
   page_.ShowBot();
   EXPECT_THAT(told(kGameEntry), HasSubstr("Lines: 1. Spoken: 40 %."));

@@ -54,8 +54,8 @@ class Compare : public testing::Test {
  protected:
   Compare() {
     Bot mine = CreateZeroBot();
-    mine.SetChatLine(TypeAt(0), 0, "Hello");
-    mine.SetChatLine(TypeAt(0), 1, "Only mine");
+    mine.SetChatLine(TypeAt(0), ChatLineIndex(0), "Hello");
+    mine.SetChatLine(TypeAt(0), ChatLineIndex(1), "Only mine");
     other_ = mine;
     current_.Replace(mine, false, {});
     current_.ForgetSteps();
@@ -65,9 +65,9 @@ class Compare : public testing::Test {
     Set(508, 0.25);
     Set(44, 300.0);
     Set(45, 7.0);
-    other_.RemoveChatLine(TypeAt(0), 1);
-    other_.SetChatLine(TypeAt(27), 0, "First");
-    other_.SetChatLine(TypeAt(27), 1, "Second");
+    other_.RemoveChatLine(TypeAt(0), ChatLineIndex(1));
+    other_.SetChatLine(TypeAt(27), ChatLineIndex(0), "First");
+    other_.SetChatLine(TypeAt(27), ChatLineIndex(1), "Second");
   }
 
   void Set(const IdNumber& parameter, const Value& value) {
@@ -174,14 +174,14 @@ TEST_F(Compare, CopiesAndTakesBackEachPart) {
   Select("Weapon usage");
   EXPECT_EQ(Copied("cmdCopySelected", copy_usage), "Copy from Other: 2 values");
   const auto copy_misc = [](Bot& bot) {
-    bot.SetChatLine(TypeAt(27), 0, "First");
-    bot.SetChatLine(TypeAt(27), 1, "Second");
+    bot.SetChatLine(TypeAt(27), ChatLineIndex(0), "First");
+    bot.SetChatLine(TypeAt(27), ChatLineIndex(1), "Second");
   };
   Select("Random misc");
   EXPECT_EQ(Copied("cmdCopyPage", copy_misc), "Copy from Other: Random misc");
   EXPECT_EQ(Copied("cmdCopyChats",
                    [copy_misc](Bot& bot) {
-                     bot.RemoveChatLine(TypeAt(0), 1);
+                     bot.RemoveChatLine(TypeAt(0), ChatLineIndex(1));
                      copy_misc(bot);
                    }),
             "Copy from Other: all chats");
@@ -216,7 +216,7 @@ TEST_F(Compare, GoesOnWithTheNextRow) {
 TEST_F(Compare, BreaksLongLines) {
   QString words;
   for (int word = 0; word < 50; ++word) words += "word ";
-  other_.SetChatLine(TypeAt(27), 1, words.toStdString());
+  other_.SetChatLine(TypeAt(27), ChatLineIndex(1), words.toStdString());
   Open();
   QCoreApplication::processEvents();
   const QModelIndex type = Row("Random misc");
@@ -238,7 +238,8 @@ TEST_F(Compare, BreaksLongLines) {
 
 TEST_F(Compare, ShowsFewOfVeryManyLinesAndCopiesAll) {
   for (int line = 0; line < 30000; ++line) {
-    other_.SetChatLine(TypeAt(3), line, "line " + std::to_string(line));
+    other_.SetChatLine(TypeAt(3), ChatLineIndex(line),
+                       "line " + std::to_string(line));
   }
   Open();
   EXPECT_LT(RowsOf(list()).size(), 300U);

@@ -145,7 +145,8 @@ TEST_F(Findings, LeadToTheControlAndMendIt) {
 TEST_F(Findings, AreMendedByTheButtonInTheirRowOnceForADoubleClick) {
   Move(507, 2.0);
   window_->current().EditChats({}, [](Bot& bot) {
-    for (const int type : {3, 4, 5}) bot.SetChatLine(TypeAt(type), 0, "a; b");
+    for (const int type : {3, 4, 5})
+      bot.SetChatLine(TypeAt(type), ChatLineIndex(0), "a; b");
   });
   Wait();
   // Below the text of the row.
@@ -175,7 +176,7 @@ TEST_F(Findings, AreMendedByTheButtonInTheirRowOnceForADoubleClick) {
   list().scrollTo(list().model()->index(kind, 0));
   click(button(kind));
   for (const int type : {3, 4, 5}) {
-    EXPECT_EQ(bot().ChatLine(TypeAt(type), 0), "a, b");
+    EXPECT_EQ(bot().ChatLine(TypeAt(type), ChatLineIndex(0)), "a, b");
   }
   Choose("mnuUndo");
   EXPECT_EQ(bot(), mended);
@@ -183,18 +184,20 @@ TEST_F(Findings, AreMendedByTheButtonInTheirRowOnceForADoubleClick) {
 
 TEST_F(Findings, AreMendedTogetherInOneStep) {
   Move(507, 2.0);
-  window_->current().EditChats(
-      {}, [](Bot& bot) { bot.SetChatLine(TypeAt(3), 0, "100% {NONSENSE}"); });
+  window_->current().EditChats({}, [](Bot& bot) {
+    bot.SetChatLine(TypeAt(3), ChatLineIndex(0), "100% {NONSENSE}");
+  });
   Wait();
   const Bot before = bot();
   Find<QTabWidget>("tbsBotPara")->setCurrentIndex(0);
   Find<QPushButton>("cmdMendSafeOnPage")->click();
   EXPECT_EQ(bot().Parameter(Id(507)), Value(1.0));
-  EXPECT_EQ(bot().ChatLine(TypeAt(3), 0), "100% {NONSENSE}");
+  EXPECT_EQ(bot().ChatLine(TypeAt(3), ChatLineIndex(0)), "100% {NONSENSE}");
   EXPECT_FALSE(Find<QPushButton>("cmdMendSafeOnPage")->isEnabled());
   Find<QPushButton>("cmdMendSafe")->click();
   // What the author wrote in braces is left to him.
-  EXPECT_EQ(bot().ChatLine(TypeAt(3), 0), "100 percent {NONSENSE}");
+  EXPECT_EQ(bot().ChatLine(TypeAt(3), ChatLineIndex(0)),
+            "100 percent {NONSENSE}");
   Choose("mnuUndo");
   Choose("mnuUndo");
   EXPECT_EQ(bot(), before);
@@ -237,7 +240,7 @@ TEST_F(Findings, MakeANewBotReadyButForWhatWasEdited) {
         << finding.text;
   }
   EXPECT_EQ(bot().Name(), "NameOfSeventeen17");
-  EXPECT_TRUE(bot().ChatLine(TypeAt(23), 0).empty());
+  EXPECT_TRUE(bot().ChatLine(TypeAt(23), ChatLineIndex(0)).empty());
   Choose("mnuUndo");
   EXPECT_EQ(bot(), before);
 
@@ -264,7 +267,8 @@ TEST_F(Findings, MakeANewBotReadyButForWhatWasEdited) {
 
 TEST_F(Findings, StandInOneRowWhenManyAreOfOneKind) {
   window_->current().EditChats({}, [](Bot& bot) {
-    for (const int type : {3, 4, 5}) bot.SetChatLine(TypeAt(type), 0, "{%1}");
+    for (const int type : {3, 4, 5})
+      bot.SetChatLine(TypeAt(type), ChatLineIndex(0), "{%1}");
   });
   Wait();
   const int folded = Count();
@@ -278,8 +282,9 @@ TEST_F(Findings, StandInOneRowWhenManyAreOfOneKind) {
   EXPECT_FALSE(TextAt(row).contains("more of this kind"));
 
   // Another edit leaves it unfolded.
-  window_->current().EditChats(
-      {}, [](Bot& bot) { bot.SetChatLine(TypeAt(5), 1, "{%1}"); });
+  window_->current().EditChats({}, [](Bot& bot) {
+    bot.SetChatLine(TypeAt(5), ChatLineIndex(1), "{%1}");
+  });
   Wait();
   EXPECT_EQ(Count(), folded + 3);
   EXPECT_EQ(list().currentIndex().row(), row);
@@ -294,8 +299,8 @@ TEST_F(Findings, StandInOneRowWhenManyAreOfOneKind) {
 TEST_F(Findings, MarkChatLinesAndSayThem) {
   Find<QTabWidget>("tbsBotPara")->setCurrentIndex(7);
   window_->current().EditChats({}, [](Bot& bot) {
-    bot.SetChatLine(TypeAt(0), 0, "say \"no\"");
-    bot.SetChatLine(TypeAt(3), 0, "100% {LEVELTITLE}");
+    bot.SetChatLine(TypeAt(0), ChatLineIndex(0), "say \"no\"");
+    bot.SetChatLine(TypeAt(3), ChatLineIndex(0), "100% {LEVELTITLE}");
   });
   Wait();
   const auto* const types = Find<QListWidget>("lstChatGroups");

@@ -185,10 +185,10 @@ TEST_F(Habits, LeavesTheUndoKeyToTheWindowInTheLineBox) {
   Find<QTabWidget>("tbsBotPara")->setCurrentIndex(7);
   line->setFocus();
   QTest::keyClicks(line, QStringLiteral("abc"));
-  EXPECT_EQ(bot().ChatLine(TypeAt(0), 0), "abc");
+  EXPECT_EQ(bot().ChatLine(TypeAt(0), ChatLineIndex(0)), "abc");
   QTest::keyClick(line, Qt::Key_Z, Qt::ControlModifier);
   EXPECT_EQ(line->text(), "");
-  EXPECT_EQ(bot().ChatLine(TypeAt(0), 0), "");
+  EXPECT_EQ(bot().ChatLine(TypeAt(0), ChatLineIndex(0)), "");
   QTest::keyClick(line, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
   EXPECT_EQ(line->text(), "abc");
 }
@@ -378,7 +378,8 @@ TEST_F(Habits, RemembersNineBots) {
 
 TEST_F(Habits, FindsAParameterOrALineAndGoesThere) {
   window_->current().EditChats({}, [](Bot& bot) {
-    bot.SetChatLine(TypeAt(27), 1, "Where is my rocket launcher?");
+    bot.SetChatLine(TypeAt(27), ChatLineIndex(1),
+                    "Where is my rocket launcher?");
   });
   const auto find = [this](const char* words) {
     OnDialog<frmFind>([words](frmFind& dialog) {

@@ -90,8 +90,9 @@ TEST_F(Install, SaysWhatIsMissing) {
   // A bot that the game refuses is written when that is wanted.
   folder_.Write("game/baseq3/pak0.pk3", MakeZip({{"a", "b"}}));
   SetGame("game");
-  window_->current().EditChats(
-      {}, [](Bot& bot) { bot.SetChatLine(ChatTypeId{0}, 0, "a \"b\""); });
+  window_->current().EditChats({}, [](Bot& bot) {
+    bot.SetChatLine(ChatTypeId{0}, ChatLineIndex(0), "a \"b\"");
+  });
   Choose("mnuInstall");
   EXPECT_FALSE(IsFile(folder_ / "game/baseq3/bot-Vixen.pk3"));
   EXPECT_THAT(prompts_.log.back(), HasSubstr("will not take the bot as it is"));

@@ -40,8 +40,8 @@ class MatchWindow : public WindowFixture {
       bot.Put(kNameField, std::string("Rookie"));
       for (const ChatTypeId type : kAllChatTypes) {
         if (ChatTypeAt(type).Key != "kill_insult") continue;
-        bot.SetChatLine(type, 0, "Too slow, {TARGET}.");
-        bot.SetChatLine(type, 1, "Never said");
+        bot.SetChatLine(type, ChatLineIndex(0), "Too slow, {TARGET}.");
+        bot.SetChatLine(type, ChatLineIndex(1), "Never said");
       }
     });
     OpenMatches();

@@ -158,7 +158,7 @@ TEST_F(Menu, DoesWhatItSaysWithUnsavedWork) {
   for (const Level level : kLevels) {
     made.Put({level, 8}, NumberOf(level) / 10.0);
   }
-  made.SetChatLine(ChatTypeId{0}, 0, "Hello!");
+  made.SetChatLine(ChatTypeId{0}, ChatLineIndex(0), "Hello!");
   const SavedBot saved = SaveBot(made, folder_.path(), {}, {}, prompts_);
   ASSERT_FALSE(saved.error);
   bool is_ready = false;

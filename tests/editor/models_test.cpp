@@ -63,7 +63,7 @@ class Heard {
 
 Finding MakeFinding(std::string_view id, int line, const char* text = "") {
   Finding finding = {.id = id, .text = text};
-  finding.place = ChatPlace{.type = TypeAt(1), .line = line};
+  finding.place = ChatPlace{.type = TypeAt(1), .line = ChatLineIndex(line)};
   return finding;
 }
 
@@ -184,7 +184,8 @@ class Differences : public testing::Test {
  protected:
   Differences() {
     for (int line = 0; line < 40; ++line) {
-      other_.SetChatLine(TypeAt(3), line, "theirs " + std::to_string(line));
+      other_.SetChatLine(TypeAt(3), ChatLineIndex(line),
+                         "theirs " + std::to_string(line));
     }
     SetTheirs(402, 0.5);
     SetTheirs(502, 1.0);
@@ -218,8 +219,8 @@ TEST_F(Differences, KeepTheirRowsThroughEveryEdit) {
   model.ShowBot(bot_);
   EXPECT_THAT(heard.Take(), ElementsAre());
   const QPersistentModelIndex fifth(Find(filter, "Line 5"));
-  bot_.SetChatLine(TypeAt(3), 0, "theirs 0");
-  bot_.SetChatLine(TypeAt(3), 1, "mine");
+  bot_.SetChatLine(TypeAt(3), ChatLineIndex(0), "theirs 0");
+  bot_.SetChatLine(TypeAt(3), ChatLineIndex(1), "mine");
   ASSERT_TRUE(bot_.SetParameter(Id(402), 0.5));
   model.ShowBot(bot_);
   EXPECT_EQ(fifth.sibling(fifth.row(), 2).data().toString(), "theirs 4");
@@ -292,7 +293,8 @@ TEST_F(Differences, StayWhereTheyAreWhileRowsComeAndGoAboveThem) {
 TEST(BotPlacesModelTest, ShowsThePlacesThatHaveAllWords) {
   Bot bot = CreateZeroBot();
   for (int line = 0; line < 500; ++line) {
-    bot.SetChatLine(TypeAt(27), line, "Rocket " + std::to_string(line));
+    bot.SetChatLine(TypeAt(27), ChatLineIndex(line),
+                    "Rocket " + std::to_string(line));
   }
   BotPlacesModel places(bot);
   WordsFilter filter(places);
@@ -305,8 +307,9 @@ TEST(BotPlacesModelTest, ShowsThePlacesThatHaveAllWords) {
   EXPECT_EQ(found(""), 200);
   EXPECT_EQ(found("ROCKET  random"), 0);
   EXPECT_EQ(found("ROCKET 499"), 1);
-  EXPECT_EQ(places.PlaceAt(filter.mapToSource(filter.index(0, 0))),
-            BotPlace(ChatPlace{.type = TypeAt(27), .line = 499}));
+  EXPECT_EQ(
+      places.PlaceAt(filter.mapToSource(filter.index(0, 0))),
+      BotPlace(ChatPlace{.type = TypeAt(27), .line = ChatLineIndex(499)}));
   EXPECT_EQ(found("rocket"), 200);
   EXPECT_EQ(found("firethrottle level 4"), 1);
 }

@@ -115,8 +115,9 @@ TEST_F(SaveInPlaceByWindow, GivesALineBackAsItsAuthorWroteIt) {
   prompts_.confirmations = {true};
   window_->OpenPath(folder_ / "b/rook_c.c");
   prompts_.log.clear();
-  window_->current().Edit({.text = {}, .place = {}, .merges = false},
-                          [](Bot& bot) { bot.RemoveChatLine(TypeAt(0), 1); });
+  window_->current().Edit(
+      {.text = {}, .place = {}, .merges = false},
+      [](Bot& bot) { bot.RemoveChatLine(TypeAt(0), ChatLineIndex(1)); });
   Choose("mnuSaveAgain");
   EXPECT_THAT(folder_.Read("b/rook_t.c"), Not(HasSubstr("TAUNT")));
   Choose("mnuUndo");

@@ -397,7 +397,7 @@ TEST_F(Typing, MarksTheSynonymsOfALineThatIsSavedAtOnce) {
     line->setFocus();
     line->selectAll();
     QTest::keyClicks(line, QStringLiteral("hello you"));
-    EXPECT_EQ(bot().ChatLine(TypeAt(0), 0), "hello you");
+    EXPECT_EQ(bot().ChatLine(TypeAt(0), ChatLineIndex(0)), "hello you");
   };
   type();
   ChooseAndAnswer<frmOpen>("mnuMake", [](frmOpen& dialog) { dialog.accept(); });

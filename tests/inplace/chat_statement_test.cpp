@@ -103,12 +103,7 @@ TEST(StatementForTest, SaysHowALineWasWrittenThatWouldComeBackOtherwise) {
   const auto notes_of = [&file](const std::vector<std::string>& lines) {
     Notes notes;
     Bot after = file.before();
-    for (int at = after.HighestChatLine(TypeAt(0)); at >= 0; --at) {
-      after.RemoveChatLine(TypeAt(0), at);
-    }
-    for (const std::string& line : lines) {
-      after.SetChatLine(TypeAt(0), after.HighestChatLine(TypeAt(0)) + 1, line);
-    }
+    after.SetChatLines(TypeAt(0), lines);
     EXPECT_TRUE(EditInPlace(file.readers(), file.bytes(), file.before(), after,
                             {}, {&notes}));
     std::vector<std::string> texts;

@@ -580,15 +580,15 @@ TEST(EditInPlaceTest, WritesALineThatComesAgainAsItsAuthorDid) {
   const std::vector<std::string> lines = after.ChatLines(TypeAt(0));
   ASSERT_EQ(lines.size(), 2U);
   // From one type to another, and a copy of the other line.
-  after.RemoveChatLine(TypeAt(0), 0);
-  after.SetChatLine(TypeAt(0), 1, lines[1]);
-  after.SetChatLine(TypeAt(17), 1, lines[0]);
+  after.RemoveChatLine(TypeAt(0), ChatLineIndex(0));
+  after.SetChatLine(TypeAt(0), ChatLineIndex(1), lines[1]);
+  after.SetChatLine(TypeAt(17), ChatLineIndex(1), lines[0]);
   EXPECT_EQ(file.Difference(file.Edited(after)),
             "-\t\tTAUNT0;\n+\t\t0 , \" in\";\n+\t\tTAUNT0;\n");
   // The same words elsewhere are another line where the numbers mean other
   // things.
   after = file.before();
-  after.SetChatLine(TypeAt(17), 1, lines[1]);
+  after.SetChatLine(TypeAt(17), ChatLineIndex(1), lines[1]);
   EXPECT_THAT(file.Difference(file.Edited(after)),
               AllOf(StartsWith("+\t\t\""), EndsWith(" in\";\n")));
 

@@ -47,13 +47,7 @@ class LoadedFile {
                              const std::vector<std::string>& lines,
                              Notes* notes = nullptr) const {
     Bot after = before_;
-    while (after.HighestChatLine(type) >= 0) {
-      after.RemoveChatLine(type, after.HighestChatLine(type));
-    }
-    int number = 0;
-    for (const std::string& line : lines) {
-      after.SetChatLine(type, number++, line);
-    }
+    after.SetChatLines(type, lines);
     return Edited(after, notes);
   }
 

@@ -523,11 +523,11 @@ TEST(UglyFilesTest, EditsTheChatThatTheCharacterAsksFor) {
   const Bot before = readers.Read(bytes).bot;
   const ChatTypeId type = TypeOf("hit_nokill");
   Bot after = before;
-  after.SetChatLine(type, 0, "new");
+  after.SetChatLine(type, ChatLineIndex(0), "new");
   // The first lines are those of the other chat.
   EXPECT_FALSE(EditInPlace(readers, bytes, before, after));
   after = before;
-  after.SetChatLine(type, 3, "new");
+  after.SetChatLine(type, ChatLineIndex(3), "new");
   const auto edited = EditInPlace(readers, bytes, before, after);
   ASSERT_TRUE(edited) << edited.error().what;
   EXPECT_EQ(LoadedFile::Changed(bytes, *edited),

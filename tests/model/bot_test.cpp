@@ -65,16 +65,16 @@ TEST(Bot, ConvertsVersionAndArenaLord) {
 
 TEST(Bot, GrowsAndClosesItsChatLists) {
   Bot bot;
-  bot.SetChatLine(TypeAt(27), 2, "c");
-  bot.SetChatLine(TypeAt(27), 0, "a");
+  bot.SetChatLine(TypeAt(27), ChatLineIndex(2), "c");
+  bot.SetChatLine(TypeAt(27), ChatLineIndex(0), "a");
   EXPECT_THAT(bot.ChatLines(TypeAt(27)), ElementsAre("a", "", "c"));
-  bot.RemoveChatLine(TypeAt(27), 0);
+  bot.RemoveChatLine(TypeAt(27), ChatLineIndex(0));
   EXPECT_THAT(bot.ChatLines(TypeAt(27)), ElementsAre("", "c"));
-  bot.RemoveChatLine(TypeAt(27), 1);
-  bot.RemoveChatLine(TypeAt(27), 0);
-  EXPECT_EQ(bot.HighestChatLine(TypeAt(27)), -1);
-  EXPECT_THROW(bot.RemoveChatLine(TypeAt(27), 0), std::out_of_range);
-  EXPECT_THROW(bot.SetChatLine(TypeAt(27), -1, "x"), std::out_of_range);
+  bot.RemoveChatLine(TypeAt(27), ChatLineIndex(1));
+  bot.RemoveChatLine(TypeAt(27), ChatLineIndex(0));
+  EXPECT_TRUE(bot.ChatLines(TypeAt(27)).empty());
+  EXPECT_THROW(bot.RemoveChatLine(TypeAt(27), ChatLineIndex(0)),
+               std::out_of_range);
   EXPECT_NE(bot, Bot());
   bot.ClearChats();
   EXPECT_EQ(bot, Bot());

@@ -28,7 +28,7 @@ std::vector<std::string> Shown(const Bot& left, const Bot& right) {
 Bot WithLines(const std::vector<std::string>& lines) {
   Bot bot;
   for (std::size_t line = 0; line < lines.size(); ++line) {
-    bot.SetChatLine(TypeAt(3), static_cast<int>(line), lines[line]);
+    bot.SetChatLine(TypeAt(3), ChatLineIndex(line), lines[line]);
   }
   return bot;
 }
@@ -47,7 +47,7 @@ TEST(BotDifference, ShowsValuesAndTexts) {
   ASSERT_TRUE(left.SetParameter(Id(107), "0.50"));
   ASSERT_TRUE(left.SetParameter(Id(60), "much"));
   ASSERT_TRUE(left.SetParameter(Id(0), "R\xF6kie"));
-  right.RemoveChatLine(TypeAt(3), 0);
+  right.RemoveChatLine(TypeAt(3), ChatLineIndex(0));
   EXPECT_THAT(Shown(left, right), IsEmpty());
   // An empty field is no number.
   ASSERT_TRUE(right.SetParameter(kCommentField, "0"));

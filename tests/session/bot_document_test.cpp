@@ -42,7 +42,7 @@ TEST(BotDocument, HasItsKeysInOrder) {
   for (const auto& [index, value] : values) {
     Set(bot, Id(index), value);
   }
-  bot.SetChatLine(TypeAt(0), 0, "{WEAPON} \x81\"");
+  bot.SetChatLine(TypeAt(0), ChatLineIndex(0), "{WEAPON} \x81\"");
   std::string json = WriteBotDocument(bot);
   EXPECT_TRUE(json.starts_with("{\n  \"format\": 1,\n  \"name\": \"Bot\",\n"));
   EXPECT_TRUE(json.ends_with("\n    \"random_misc\": []\n  }\n}\n"));
@@ -85,7 +85,7 @@ TEST(BotDocument, ComesBackAsItWas) {
       Set(bot, Id(index),
           random() < 0.5 ? Value(random() * 1e9) : Value("t\xE4xt"));
     }
-    bot.SetChatLine(TypeAt(5), 2, "\xFF/ \x7F");
+    bot.SetChatLine(TypeAt(5), ChatLineIndex(2), "\xFF/ \x7F");
     const std::string json = WriteBotDocument(bot);
     EXPECT_EQ(Checked(Read(json)), bot);
   }

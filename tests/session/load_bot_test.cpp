@@ -260,7 +260,7 @@ TEST_F(LoadBotTest, ReadsOneFileIntoABotThatIsThere) {
   Bot mine;
   Set(mine, kNameField, "Mine");
   Set(mine, kCommentField, "kept");
-  mine.SetChatLine(TypeAt(7), 4, "Mine");
+  mine.SetChatLine(TypeAt(7), ChatLineIndex(4), "Mine");
   // A parameter that comes from the file of that number; the chat has none.
   const std::vector<ParameterId> read = {kRailColorField, Id(405), kNameField,
                                          kArmorWeight, Id(44)};

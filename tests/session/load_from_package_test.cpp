@@ -87,7 +87,7 @@ class LoadFromPackageTest : public ::testing::Test {
 };
 
 TEST_F(LoadFromPackageTest, TakesTheFilesOutOneByOne) {
-  current_.SetChatLine(TypeAt(0), 9, "is not kept");
+  current_.SetChatLine(TypeAt(0), ChatLineIndex(9), "is not kept");
   const std::string four =
       kBot + "_c.c\n" + kBot + "_t.c\n" + kBot + "_i.c\n" + kBot + "_w.c\n";
   const auto loaded = Load();
@@ -128,7 +128,7 @@ TEST_F(LoadFromPackageTest, FillsTheIdentityOfStandardBots) {
 
 TEST_F(LoadFromPackageTest, ReadsOneFileIntoTheCurrentBot) {
   Set(current_, kNameField, "Anarki");
-  current_.SetChatLine(TypeAt(0), 0, "Mine");
+  current_.SetChatLine(TypeAt(0), ChatLineIndex(0), "Mine");
   const std::vector<std::string> files = {"scripts\\rookie.bot", kBot + "_c.c",
                                           kBot + "_t.c", kBot + "_i.c",
                                           kBot + "_w.c"};

@@ -50,9 +50,9 @@ Bot BaseBot() {
   for (int key = kChatRange.first; key <= kItemWeightRange.last; ++key) {
     set(ParameterId(key), 1.0 * key);
   }
-  bot.SetChatLine(TypeAt(0), 0, "Hello {ANYBOTNAME}!");
-  bot.SetChatLine(TypeAt(0), 1, "Here I am.");
-  bot.SetChatLine(TypeAt(27), 0, "{{TAUNT3}}");
+  bot.SetChatLine(TypeAt(0), ChatLineIndex(0), "Hello {ANYBOTNAME}!");
+  bot.SetChatLine(TypeAt(0), ChatLineIndex(1), "Here I am.");
+  bot.SetChatLine(TypeAt(27), ChatLineIndex(0), "{{TAUNT3}}");
   return bot;
 }
 

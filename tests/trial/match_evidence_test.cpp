@@ -30,11 +30,11 @@ class MatchEvidenceTest : public testing::Test {
       const ChatTypeFacts& facts = FactsOfChatType(type);
       if (!facts.is_heard && unheard_.empty()) {
         unheard_ = ChatTypeAt(type).Key;
-        bot_.SetChatLine(type, 0, "Into the void");
+        bot_.SetChatLine(type, ChatLineIndex(0), "Into the void");
       }
       if (ChatTypeAt(type).Key == "kill_rail") {
-        bot_.SetChatLine(type, 0, "Straight through you");
-        bot_.SetChatLine(type, 1, "And once more with feeling");
+        bot_.SetChatLine(type, ChatLineIndex(0), "Straight through you");
+        bot_.SetChatLine(type, ChatLineIndex(1), "And once more with feeling");
         bot_.Put(*facts.chance, 0.0);
       }
     }
@@ -96,7 +96,7 @@ TEST_F(MatchEvidenceTest, IsSilentWhereNothingSpeaksEitherWay) {
   // kills nobody has not shown with what.
   for (const ChatTypeId type : kAllChatTypes) {
     if (ChatTypeAt(type).Key != "death_suicide") continue;
-    bot_.SetChatLine(type, 0, "Into the void");
+    bot_.SetChatLine(type, ChatLineIndex(0), "Into the void");
     bot_.Put(*FactsOfChatType(type).chance, 0.5);
   }
   Play().said = {"Into the void"};

@@ -22,7 +22,7 @@ class SaidLinesTest : public testing::Test {
  protected:
   void Add(std::string_view type, std::vector<std::string> lines) {
     for (std::size_t line = 0; line < lines.size(); ++line) {
-      bot_.SetChatLine(TypeOf(type), static_cast<int>(line), lines[line]);
+      bot_.SetChatLine(TypeOf(type), ChatLineIndex(line), lines[line]);
     }
   }
 
@@ -74,8 +74,10 @@ TEST_F(SaidLinesTest, HasALineOfSeveralSituationsOnce) {
   const OwnLine& mine = lines.lines()[0];
   EXPECT_EQ(mine.text, "Mine.");
   ASSERT_EQ(mine.places.size(), 2U);
-  EXPECT_EQ(mine.places[0], (ChatPlace{TypeOf("kill_insult"), 1}));
-  EXPECT_EQ(mine.places[1], (ChatPlace{TypeOf("kill_praise"), 1}));
+  EXPECT_EQ(mine.places[0],
+            (ChatPlace{TypeOf("kill_insult"), ChatLineIndex(1)}));
+  EXPECT_EQ(mine.places[1],
+            (ChatPlace{TypeOf("kill_praise"), ChatLineIndex(1)}));
 }
 
 }  // namespace

@@ -51,7 +51,8 @@ Bot MakeBot(int round, int size) {
   bot.Put(kFunNameField, "Round" + std::to_string(round));
   for (int line = 0; line < size; ++line) {
     constexpr int kTypes = static_cast<int>(kChatTypeCount);
-    bot.SetChatLine(*ChatTypeOfIndex(line % kTypes), 1 + line / kTypes,
+    const ChatTypeId type = *ChatTypeOfIndex(line % kTypes);
+    bot.SetChatLine(type, bot.EndOfChatLines(type),
                     "line " + std::to_string(line * (round + 1)));
   }
   return bot;

@@ -426,7 +426,7 @@ void frmMatch::GoToLine(const ChatPlace& place, const std::string& text) {
   const auto found = std::find(lines.begin(), lines.end(), text);
   ChatPlace now{.type = place.type, .line = {}};
   if (found != lines.end()) {
-    now.line = static_cast<int>(found - lines.begin());
+    now.line = ChatLineIndex(static_cast<std::size_t>(found - lines.begin()));
   }
   emit GoTo(now);
 }

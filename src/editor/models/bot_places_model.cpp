@@ -72,7 +72,7 @@ void BotPlacesModel::CollectChats(const Bot& bot) {
                         (caption + u' ' + QString::fromUtf8(row.Key)).toLower(),
                         place});
     for (const std::string& line : bot.ChatLines(type)) {
-      place.line = place.line.value_or(-1) + 1;
+      place.line = place.line ? place.line->Next() : ChatLineIndex();
       if (line.empty()) continue;
       const QString text =
           ToQString(line.substr(0, static_cast<std::size_t>(kMaxLineLetters)));

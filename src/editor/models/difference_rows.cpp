@@ -31,9 +31,9 @@ Cell Shown(const Bot& bot, ParameterId parameter) {
 /// The line as it is counted in the bot that is compared; one that it lacks,
 /// as in the other.
 QString LineTitle(const BotDifference& difference) {
-  const int line =
+  const ChatLineIndex line =
       difference.is_in_left ? difference.left_line : difference.right_line;
-  return QStringLiteral("Line %1").arg(line + 1);
+  return QStringLiteral("Line %1").arg(line.number());
 }
 
 DifferenceRow& Add(DifferenceRows& rows, DifferenceRow* parent) {

@@ -31,7 +31,7 @@ struct DifferenceRow {
   struct Key {
     int group = kNoGroup;
     std::optional<ParameterId> parameter;
-    int right_line = -1;
+    std::optional<ChatLineIndex> right_line;
     int lacking = 0;  ///< From 1 before a line; 0 for the line itself.
 
     // The linter takes the 0 in it for a pointer.

@@ -11,7 +11,6 @@
 #include "chat/chat_catalogue.h"
 #include "chat/chat_commands.h"
 #include "editor/pages/chat_help.h"
-#include "editor/pages/chat_type_rows.h"
 #include "editor/toolkit/game_text_conversion.h"
 #include "editor/toolkit/page_table.h"
 #include "editor/toolkit/severity_icon.h"
@@ -33,18 +32,20 @@ void ChatPage::ShowBot() {
 
 void ChatPage::ShowAgain() {
   if (!IsComplete()) return;
-  const int line = Line();
+  const int row = lines_->currentRow();
   const int cursor = box_->cursorPosition();
   ShowType();
-  if (line < 0 || lines_->count() == 0) return;
-  SelectLine(std::min(line, lines_->count() - 1));
+  if (row < 0 || lines_->count() == 0) return;
+  SelectLine(std::min(row, lines_->count() - 1));
   box_->setCursorPosition(cursor);
 }
 
 void ChatPage::GoTo(const ChatPlace& place) {
   Complete();
   types_->setCurrentRow(static_cast<int>(place.type));
-  if (place.line && *place.line < lines_->count()) SelectLine(*place.line);
+  if (place.line && RowOf(*place.line) < lines_->count()) {
+    SelectLine(*place.line);
+  }
 }
 
 void ChatPage::ShowType() {
@@ -75,18 +76,25 @@ void ChatPage::AddRow(const QString& line) {
   row->setFlags(row->flags() & ~Qt::ItemIsDropEnabled);
 }
 
-void ChatPage::SelectLine(int line) {
+std::optional<ChatLineIndex> ChatPage::Line() const {
+  const int row = lines_->currentRow();
+  return row < 0 ? std::nullopt : std::optional(LineOfRow(row));
+}
+
+void ChatPage::SelectLine(int row) {
   {
     const QSignalBlocker silence(lines_);
-    lines_->setCurrentRow(line);
+    lines_->setCurrentRow(row);
   }
   ShowLine();
 }
 
+void ChatPage::SelectLine(ChatLineIndex line) { SelectLine(RowOf(line)); }
+
 void ChatPage::ShowLine() {
-  const bool has_line = Type() && Line() >= 0;
+  const bool has_line = Type() && Line();
   QString text;
-  if (has_line) text = ToQString(current_.bot().ChatLine(*Type(), Line()));
+  if (has_line) text = ToQString(current_.bot().ChatLine(*Type(), *Line()));
   // A line that the box cannot show whole may be read, but not edited.
   const bool can_edit = has_line && text.size() <= box_->maxLength();
   {
@@ -107,10 +115,10 @@ void ChatPage::ShowSpoken() {
   // The line of a bad file may have megabytes.
   constexpr std::size_t kMaxBytes = 1024;
   if (!isVisible() || !Type()) return;
-  const bool has_line = Line() >= 0;
+  const bool has_line = Line().has_value();
   spoken_->ShowLine(
       current_.bot(), *Type(),
-      has_line ? current_.bot().ChatLine(*Type(), Line()).substr(0, kMaxBytes)
+      has_line ? current_.bot().ChatLine(*Type(), *Line()).substr(0, kMaxBytes)
                : std::string());
 }
 
@@ -142,12 +150,13 @@ void ChatPage::ShowMarks(const std::vector<Finding>& findings) {
 
 void ChatPage::MarkLines() {
   bool has_marks = false;
-  for (int line = 0; line < lines_->count(); ++line) {
-    const auto mark = Type() ? marks_.find({*Type(), line}) : marks_.end();
+  for (int row = 0; row < lines_->count(); ++row) {
+    const auto mark =
+        Type() ? marks_.find({*Type(), LineOfRow(row)}) : marks_.end();
     const bool has_mark = mark != marks_.end();
-    lines_->item(line)->setIcon(
+    lines_->item(row)->setIcon(
         has_mark ? SeverityIcon(*mark->second.gravest, *style()) : QIcon());
-    lines_->item(line)->setToolTip(
+    lines_->item(row)->setToolTip(
         has_mark ? WrappedToolTip({}, mark->second.text) : QString());
     has_marks = has_marks || has_mark;
   }
@@ -156,7 +165,7 @@ void ChatPage::MarkLines() {
 }
 
 void ChatPage::StoreLine() {
-  if (current_.is_filling() || !Type() || Line() < 0) return;
+  if (current_.is_filling() || !Type() || !Line()) return;
   const std::optional<std::string> text = ToGameText(box_->text());
   if (!text) {
     // A line that was odd already lets everything past the validator.
@@ -168,13 +177,14 @@ void ChatPage::StoreLine() {
   // What is inserted goes without what was typed.
   name.merges = !is_inserting_;
   current_.EditChats(name, [this, &text](Bot& bot) {
-    bot.SetChatLine(*Type(), Line(), *text);
+    bot.SetChatLine(*Type(), *Line(), *text);
   });
   lines_->currentItem()->setText(box_->text());
   ShowSpoken();
 }
 
-EditName ChatPage::NameOf(const char* text, std::optional<int> line) const {
+EditName ChatPage::NameOf(const char* text,
+                          std::optional<ChatLineIndex> line) const {
   EditName name = {.text = QLatin1String(text), .place = {}, .merges = false};
   if (const std::optional<ChatTypeId> type = Type()) {
     name.place = ChatPlace{.type = *type, .line = line};
@@ -186,20 +196,21 @@ EditName ChatPage::NameOf(const char* text, std::optional<int> line) const {
 
 void ChatPage::AddSelectedList(int group, int number) {
   if (!Type()) return;
-  const int selected = Line();
-  int line = 0;
+  const std::optional<ChatLineIndex> selected = Line();
+  ChatLineIndex line;
   current_.EditChats(NameOf("Add selected list"), [&](Bot& bot) {
     line = AddGroupMember(bot, *Type(), selected, group, number);
   });
   const QString text = ToQString(current_.bot().ChatLine(*Type(), line));
-  if (line < lines_->count()) {
-    lines_->item(line)->setText(text);
+  const int row = RowOf(line);
+  if (row < lines_->count()) {
+    lines_->item(row)->setText(text);
   } else {
     const QSignalBlocker silence(lines_);
     AddRow(text);
   }
-  lines_->scrollToItem(lines_->item(line));
-  if (selected < 0 || selected == line) SelectLine(line);
+  lines_->scrollToItem(lines_->item(row));
+  if (!selected || *selected == line) SelectLine(line);
 }
 
 void ChatPage::AddWord() {
@@ -211,7 +222,7 @@ void ChatPage::AddWord() {
 
 void ChatPage::AddLine() {
   if (!Type()) return;
-  int line = 0;
+  ChatLineIndex line;
   current_.EditChats(NameOf("New line"),
                      [&](Bot& bot) { line = AddEmptyChatLine(bot, *Type()); });
   {
@@ -223,25 +234,25 @@ void ChatPage::AddLine() {
 }
 
 void ChatPage::RemoveLine() {
-  const int line = Line();
-  if (!Type() || line < 0) return;
+  const std::optional<ChatLineIndex> line = Line();
+  if (!Type() || !line) return;
   current_.EditChats(NameOf("Remove line"),
-                     [&](Bot& bot) { bot.RemoveChatLine(*Type(), line); });
+                     [&](Bot& bot) { bot.RemoveChatLine(*Type(), *line); });
   {
     const QSignalBlocker silence(lines_);
-    delete lines_->takeItem(line);
+    delete lines_->takeItem(RowOf(*line));
   }
-  SelectLine(std::min(line, lines_->count() - 1));
+  SelectLine(std::min(RowOf(*line), lines_->count() - 1));
 }
 
 void ChatPage::AddRandomList() {
   if (!Type()) return;
-  int line = 0;
+  ChatLineIndex line;
   current_.EditChats(NameOf("Add random list"), [&](Bot& bot) {
     line = AddRandomChatLine(bot, *Type(), random_);
   });
   ShowType();
-  lines_->scrollToItem(lines_->item(line));
+  lines_->scrollToItem(lines_->item(RowOf(line)));
 }
 
 void ChatPage::AddExtraChatsToBot() {
@@ -261,7 +272,7 @@ void ChatPage::DeleteAllChats() {
 void ChatPage::Insert(const QString& variable) {
   const std::optional<std::string> text = ToGameText(box_->text());
   const std::optional<std::string> inserted = ToGameText(variable);
-  if (Line() < 0 || box_->isReadOnly() || !text || !inserted) return;
+  if (!Line() || box_->isReadOnly() || !text || !inserted) return;
   // A character of the box is a byte of the text.
   const LineText line = InsertVariable(
       {*text, static_cast<std::size_t>(box_->cursorPosition())}, *inserted);
@@ -276,7 +287,7 @@ void ChatPage::InsertTyped(int from, const QString& variable) {
   QString text = box_->text();
   text.replace(from, box_->cursorPosition() - from, variable);
   const std::optional<std::string> game_text = ToGameText(text);
-  if (Line() < 0 || box_->isReadOnly() || !game_text) return;
+  if (!Line() || box_->isReadOnly() || !game_text) return;
   is_inserting_ = true;
   ReplaceText(*game_text);
   is_inserting_ = false;
@@ -290,7 +301,7 @@ void ChatPage::ReplaceText(const std::string& game_text) {
 
 void ChatPage::CheckSynonyms() {
   const std::optional<std::string> text = ToGameText(box_->text());
-  if (Line() < 0 || !text) return;
+  if (!Line() || !text) return;
   const std::string marked = MarkSynonyms(*text, synonyms_, prompts_);
   if (marked == *text) return;
   const int cursor = CursorAmongMarks(*text, marked, box_->cursorPosition());
@@ -304,7 +315,7 @@ void ChatPage::StoreTyping() {
 }
 
 void ChatPage::CheckSynonymsByItself() {
-  if (is_checking_ || !checks_by_itself_->isChecked() || Line() < 0 ||
+  if (is_checking_ || !checks_by_itself_->isChecked() || !Line() ||
       box_->isReadOnly()) {
     return;
   }

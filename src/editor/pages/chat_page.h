@@ -11,6 +11,7 @@
 
 #include "chat/synonym_list.h"
 #include "editor/controls/caption_mark.h"
+#include "editor/pages/chat_type_rows.h"
 #include "editor/pages/pointer_buttons.h"
 #include "editor/pages/ready_made_picker.h"
 #include "editor/pages/scrolling_page.h"
@@ -79,18 +80,20 @@ class ChatPage : public ScrollingPage {
   std::optional<ChatTypeId> Type() const {
     return ChatTypeOfIndex(types_->currentRow());
   }
-  /// The selected one; -1 for none.
-  int Line() const { return lines_->currentRow(); }
+  /// The selected one.
+  std::optional<ChatLineIndex> Line() const;
 
   /// The name of an edit of the selected type, or of one line of it.
   EditName NameOf(const char* text,
-                  std::optional<int> line = std::nullopt) const;
+                  std::optional<ChatLineIndex> line = std::nullopt) const;
 
   void ShowType();
   /// What goes with a type whatever its lines are.
   void ShowOffers();
   void AddRow(const QString& line);
-  void SelectLine(int line);
+  /// By its row; -1 for none.
+  void SelectLine(int row);
+  void SelectLine(ChatLineIndex line);
   void ShowLine();
   void StoreLine();
   void ShowSpoken();
@@ -131,7 +134,7 @@ class ChatPage : public ScrollingPage {
   QCheckBox* checks_by_itself_ = nullptr;
   SpokenPreview* spoken_ = nullptr;
   /// By type and line.
-  std::map<std::pair<ChatTypeId, std::optional<int>>, MarkText> marks_;
+  ChatMarks marks_;
   /// True until the message of the automatic check is closed: that takes the
   /// focus from the line box and would set the check off again.
   bool is_checking_ = false;

@@ -117,19 +117,19 @@ void ChatPage::MakeLines(QGridLayout& grid) {
   buttons->addWidget(add_random);
   auto* const order = new LineOrder(*lines_);
   const auto edit = [this](const char* name, int step, auto change) {
-    const int line = Line();
+    const int row = lines_->currentRow();
     current_.EditChats(NameOf(name), [&](Bot& bot) {
-      change(bot, *Type(), line, line + step);
+      change(bot, *Type(), LineOfRow(row), LineOfRow(row + step));
     });
     ShowType();
-    SelectLine(line + step);
+    SelectLine(row + step);
   };
   connect(order, &LineOrder::Moved, this,
           [edit](int step) { edit("Move line", step, MoveChatLine); });
   // The list shows it already, and is in the middle of it.
-  connect(order, &LineOrder::Dragged, this, [this](int line, int place) {
+  connect(order, &LineOrder::Dragged, this, [this](int row, int to_row) {
     current_.EditChats(NameOf("Move line"), [&](Bot& bot) {
-      MoveChatLine(bot, *Type(), line, place);
+      MoveChatLine(bot, *Type(), LineOfRow(row), LineOfRow(to_row));
     });
     MarkLines();
   });

@@ -8,13 +8,21 @@
 #include <QShortcut>
 #include <QString>
 #include <QStyledItemDelegate>
+#include <cstddef>
 #include <string_view>
 
 #include "editor/toolkit/code_page_validator.h"
+#include "model/chat_line_index.h"
 
 namespace fragsmith {
 
 // What the chat page is put together from.
+
+/// The list shows a type's lines in their order.
+inline ChatLineIndex LineOfRow(int row) {
+  return ChatLineIndex(static_cast<std::size_t>(row));
+}
+inline int RowOf(ChatLineIndex line) { return static_cast<int>(line.index()); }
 
 /// The same words for the tool tip, the help and assistive tools.
 void SetHelp(QWidget& widget, const QString& help);

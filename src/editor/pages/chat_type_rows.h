@@ -32,7 +32,8 @@ class TypeDelegate : public MarkedDelegate {
 void FillTypes(QListWidget& types);
 
 /// What is told of types and lines.
-using ChatMarks = std::map<std::pair<ChatTypeId, std::optional<int>>, MarkText>;
+using ChatMarks =
+    std::map<std::pair<ChatTypeId, std::optional<ChatLineIndex>>, MarkText>;
 
 /// Marks the types of which something graver than a hint is told. True when
 /// there is any.

@@ -20,10 +20,10 @@ LineOrder::LineOrder(QListWidget& lines, QWidget* parent)
   lines.setDragDropMode(QAbstractItemView::InternalMove);
   lines.setDefaultDropAction(Qt::MoveAction);
   connect(lines.model(), &QAbstractItemModel::rowsMoved, this,
-          [this](const QModelIndex& /*from*/, int line, int /*last*/,
+          [this](const QModelIndex& /*from*/, int from_row, int /*last*/,
                  const QModelIndex& /*to*/, int before) {
             ShowWhatCanBeDone();
-            emit Dragged(line, before > line ? before - 1 : before);
+            emit Dragged(from_row, before > from_row ? before - 1 : before);
           });
   // The list's own signals are silent while the page fills it.
   connect(lines.selectionModel(), &QItemSelectionModel::currentChanged, this,

@@ -19,8 +19,8 @@ class LineOrder : public QWidget {
   /// By -1 or 1; there is such a place.
   void Moved(int step);
   void Doubled();
-  /// The list has moved one of its lines to another place.
-  void Dragged(int line, int place);
+  /// The list has moved one of its lines to another row.
+  void Dragged(int row, int to_row);
 
  private:
   QToolButton* AddButton(const char* name, Qt::ArrowType arrow,
