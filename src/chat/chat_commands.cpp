@@ -58,10 +58,10 @@ ChatLineIndex AddEmptyChatLine(Bot& bot, ChatTypeId type) {
 }
 
 void MoveChatLine(Bot& bot, ChatTypeId type, ChatLineIndex line,
-                  ChatLineIndex place) {
+                  ChatLineIndex to) {
   std::string text = bot.ChatLine(type, line);
   bot.RemoveChatLine(type, line);
-  bot.InsertChatLine(type, place, std::move(text));
+  bot.InsertChatLine(type, to, std::move(text));
 }
 
 void DoubleChatLine(Bot& bot, ChatTypeId type, ChatLineIndex line,

@@ -37,7 +37,7 @@ ChatLineIndex AddEmptyChatLine(Bot& bot, ChatTypeId type);
 
 /// Moves a line to the place of another; those between make room.
 void MoveChatLine(Bot& bot, ChatTypeId type, ChatLineIndex line,
-                  ChatLineIndex place);
+                  ChatLineIndex to);
 
 /// Puts a copy of the line in a place behind it.
 void DoubleChatLine(Bot& bot, ChatTypeId type, ChatLineIndex line,

@@ -65,12 +65,10 @@ MatchRunEnd PlayStep(const TuneOptions& options, const MatchServer& server,
 ExitStatus TellTuned(const TuneOptions& options, const Tuner& tuner,
                      const Bot& bot, CommandContext& context) {
   const TuneStep& last = tuner.steps().back();
-  std::size_t matches = 0;
-  for (const TuneStep& step : tuner.steps()) matches += step.matches.size();
   context.out << '\n'
               << TuneInWords(tuner, options.share / kPercent) << " It took "
               << ShownShare(last.Share()) << " at the last strength; "
-              << matches << " matches were played.\n\n";
+              << tuner.MatchCount() << " matches were played.\n\n";
   const Bot tuned = WithStrength(bot, last.strength);
   for (const BotDifference& difference : CompareBots(bot, tuned)) {
     context.out << difference.title << ": " << Printable(difference.left)

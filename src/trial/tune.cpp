@@ -83,6 +83,12 @@ bool Tuner::Take(const MatchTally& match) {
   return false;
 }
 
+std::size_t Tuner::MatchCount() const {
+  std::size_t count = 0;
+  for (const TuneStep& step : steps_) count += step.matches.size();
+  return count;
+}
+
 void Tuner::Begin(double strength) {
   steps_.push_back({.strength = strength});
   test_.emplace(0, 1, question_);

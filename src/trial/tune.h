@@ -71,6 +71,8 @@ class Tuner {
 
   TuneState state() const { return state_; }
   const std::vector<TuneStep>& steps() const { return steps_; }
+  /// Those of all steps.
+  std::size_t MatchCount() const;
 
  private:
   void EndStep();

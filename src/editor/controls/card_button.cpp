@@ -53,14 +53,14 @@ void CardButton::paintEvent(QPaintEvent* /*event*/) {
   const QRect inside = rect().adjusted(kMargin, kMargin, -kMargin, -kMargin);
   DrawLineIcon(painter, QRectF(inside.x(), inside.y(), kIcon, kIcon), icon_,
                palette().color(QPalette::Text));
-  QRect place = inside.adjusted(0, kIcon + kGap, 0, 0);
+  QRect area = inside.adjusted(0, kIcon + kGap, 0, 0);
   painter.setFont(TitleFont());
   painter.setPen(palette().color(QPalette::Text));
-  painter.drawText(place, Qt::AlignLeft | Qt::AlignTop, text());
-  place.setTop(place.top() + painter.fontMetrics().lineSpacing() + kGap);
+  painter.drawText(area, Qt::AlignLeft | Qt::AlignTop, text());
+  area.setTop(area.top() + painter.fontMetrics().lineSpacing() + kGap);
   painter.setFont(font());
   painter.setPen(palette().color(QPalette::PlaceholderText));
-  painter.drawText(place, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap,
+  painter.drawText(area, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap,
                    about_);
   if (hasFocus()) {
     QStyleOptionFocusRect focus;

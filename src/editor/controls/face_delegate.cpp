@@ -39,8 +39,8 @@ void FaceDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
   const bool is_selected = (option.state & QStyle::State_Selected) != 0;
   const QVariant own = index.data(Qt::ForegroundRole);
   const QStringList lines = index.data(Qt::DisplayRole).toString().split(u'\n');
-  QRect place(inside.left(), face.bottom() + kInside, inside.width(),
-              option.fontMetrics.lineSpacing());
+  QRect area(inside.left(), face.bottom() + kInside, inside.width(),
+             option.fontMetrics.lineSpacing());
   for (const QString& line : lines) {
     const bool is_first = &line == &lines.front();
     painter->setPen(
@@ -50,9 +50,9 @@ void FaceDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
             : option.palette.color(is_first ? QPalette::Text
                                             : QPalette::PlaceholderText));
     painter->drawText(
-        place, Qt::AlignHCenter | Qt::AlignVCenter,
-        option.fontMetrics.elidedText(line, Qt::ElideRight, place.width()));
-    place.translate(0, place.height());
+        area, Qt::AlignHCenter | Qt::AlignVCenter,
+        option.fontMetrics.elidedText(line, Qt::ElideRight, area.width()));
+    area.translate(0, area.height());
   }
   painter->restore();
 }

@@ -27,9 +27,9 @@ const SkinEntry* FaceReader::Next() const {
   const QRect sight = view_.viewport()->rect();
   for (int row = 0; row < rows.rowCount(); ++row) {
     const QModelIndex index = rows.index(row, 0);
-    const QRect place = view_.visualRect(index);
-    if (place.top() > sight.bottom()) break;
-    if (!place.intersects(sight)) continue;
+    const QRect area = view_.visualRect(index);
+    if (area.top() > sight.bottom()) break;
+    if (!area.intersects(sight)) continue;
     const SkinEntry* const skin = skin_of_(index);
     if (skin != nullptr && faces_.Find(*skin) == nullptr) return skin;
   }

@@ -97,7 +97,7 @@ void frmFaces::Filter(const QString& text) {
 CatalogueSelection frmFaces::Chosen() const {
   const QModelIndex current = list_->currentIndex();
   return current.isValid()
-             ? model_->PlaceAt(matches_->mapToSource(current).row())
+             ? model_->SelectionAt(matches_->mapToSource(current).row())
              : CatalogueSelection();
 }
 

@@ -37,13 +37,13 @@ class FunNameDelegate : public QStyledItemDelegate {
     option.widget->style()->drawPrimitive(QStyle::PE_PanelItemViewItem, &ground,
                                           painter, option.widget);
     constexpr int kInside = 4;
-    const QRect place =
+    const QRect area =
         option.rect.adjusted(kInside, kInside, -kInside, -kInside);
     name_.setFont(option.font);
-    name_.resize(place.size());
+    name_.resize(area.size());
     name_.DrawFunName(index.data().toString());
     painter->save();
-    painter->translate(place.topLeft());
+    painter->translate(area.topLeft());
     name_.render(painter, {}, {}, QWidget::DrawChildren);
     painter->restore();
   }

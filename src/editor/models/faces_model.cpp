@@ -19,13 +19,13 @@ FacesModel::FacesModel(const ModelCatalogue& models, FaceOf face_of,
   const std::vector<ModelEntry>& entries = models.models();
   for (std::size_t model = 0; model < entries.size(); ++model) {
     for (std::size_t skin = 0; skin < entries[model].Skins.size(); ++skin) {
-      places_.push_back({.modelIndex = model, .skinIndex = skin});
+      selections_.push_back({.modelIndex = model, .skinIndex = skin});
     }
   }
 }
 
 int FacesModel::rowCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : static_cast<int>(places_.size());
+  return parent.isValid() ? 0 : static_cast<int>(selections_.size());
 }
 
 QVariant FacesModel::data(const QModelIndex& index, int role) const {
@@ -33,7 +33,7 @@ QVariant FacesModel::data(const QModelIndex& index, int role) const {
   const SkinEntry& skin = SkinAt(index.row());
   const QString skin_name = ToQString(skin.Name);
   const QString model_name =
-      ToQString(models_.models()[PlaceAt(index.row()).modelIndex].Name);
+      ToQString(models_.models()[SelectionAt(index.row()).modelIndex].Name);
   switch (role) {
     case Qt::DisplayRole:
       return model_name + u'\n' + skin_name;
@@ -63,20 +63,23 @@ QVariant FacesModel::data(const QModelIndex& index, int role) const {
   }
 }
 
-CatalogueSelection FacesModel::PlaceAt(int row) const {
-  return places_.at(static_cast<std::size_t>(row));
+CatalogueSelection FacesModel::SelectionAt(int row) const {
+  return selections_.at(static_cast<std::size_t>(row));
 }
 
 const SkinEntry& FacesModel::SkinAt(int row) const {
-  const CatalogueSelection place = PlaceAt(row);
-  return models_.models().at(place.modelIndex).Skins.at(place.skinIndex);
+  const CatalogueSelection selection = SelectionAt(row);
+  return models_.models()
+      .at(selection.modelIndex)
+      .Skins.at(selection.skinIndex);
 }
 
-int FacesModel::RowOf(const CatalogueSelection& place) const {
-  const auto found = std::find(places_.begin(), places_.end(), place);
-  return found == places_.end()
+int FacesModel::RowOf(const CatalogueSelection& selection) const {
+  const auto found =
+      std::find(selections_.begin(), selections_.end(), selection);
+  return found == selections_.end()
              ? 0
-             : static_cast<int>(std::distance(places_.begin(), found));
+             : static_cast<int>(std::distance(selections_.begin(), found));
 }
 
 }  // namespace fragsmith

@@ -34,15 +34,15 @@ class FacesModel : public QAbstractListModel {
   int rowCount(const QModelIndex& parent) const override;
   QVariant data(const QModelIndex& index, int role) const override;
 
-  CatalogueSelection PlaceAt(int row) const;
+  CatalogueSelection SelectionAt(int row) const;
   const SkinEntry& SkinAt(int row) const;
-  /// The row of the place; 0 where there is none.
-  int RowOf(const CatalogueSelection& place) const;
+  /// The row of a model and skin; 0 where there is none.
+  int RowOf(const CatalogueSelection& selection) const;
 
  private:
   const ModelCatalogue& models_;
   FaceOf face_of_;
-  std::vector<CatalogueSelection> places_;
+  std::vector<CatalogueSelection> selections_;
 };
 
 }  // namespace fragsmith

@@ -138,8 +138,8 @@ void ModelSelector::ModelChosen(int index) {
   Choose({.modelIndex = static_cast<std::size_t>(index), .skinIndex = 0});
 }
 
-void ModelSelector::Choose(const CatalogueSelection& place) {
-  Select(place.modelIndex, place.skinIndex);
+void ModelSelector::Choose(const CatalogueSelection& selection) {
+  Select(selection.modelIndex, selection.skinIndex);
   StoreSelection();
   ShowChosenIcon();
 }

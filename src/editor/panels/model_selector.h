@@ -49,7 +49,7 @@ class ModelSelector : public QWidget {
   CatalogueSelection Selection() const;
 
   /// Gives the bot the model and skin of these places, as one edit.
-  void Choose(const CatalogueSelection& place);
+  void Choose(const CatalogueSelection& selection);
 
   /// After the check of the folders or a scan: shows the icon, or why there is
   /// none.

@@ -12,7 +12,7 @@ constexpr int kStepMilliseconds = 20;
 std::string VerdictOf(const StrengthSearch& search,
                       const std::optional<MatchRunEnd>& end) {
   const Tuner& tuner = search.tuner;
-  const std::size_t matches = search.Matches();
+  const std::size_t matches = tuner.MatchCount();
   std::string text;
   if (end && matches == 0) {
     text = "No match was played to its end.";
@@ -50,12 +50,6 @@ std::string VerdictOf(const MatchSession& session) {
   return text + ", " + session.names.front() + " took " +
          ShownShare(session.shares.back()) +
          " of the points. That is no result yet.";
-}
-
-std::size_t StrengthSearch::Matches() const {
-  std::size_t matches = 0;
-  for (const TuneStep& step : tuner.steps()) matches += step.matches.size();
-  return matches;
 }
 
 bool MatchSession::IsOf(const std::shared_ptr<BotHome>& other) const {
@@ -130,7 +124,7 @@ void MatchRunner::End(MatchRunEnd end) {
 std::optional<Match> MatchRunner::MatchAt(int number) {
   std::size_t before = 0;
   if (session_->search) {
-    before = session_->search->Matches() -
+    before = session_->search->tuner.MatchCount() -
              session_->search->tuner.steps().back().matches.size();
   }
   if (static_cast<std::size_t>(number) + before >=

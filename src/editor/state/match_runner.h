@@ -27,9 +27,6 @@ struct StrengthSearch {
   /// The bot of that strength, for the game.
   std::function<Result<MatchBot>(double strength)> bot_at;
   Tuner tuner;
-
-  /// At all strengths together.
-  std::size_t Matches() const;
 };
 
 /// A run of matches between a bot of the window and another one, as far as it
@@ -57,7 +54,7 @@ struct MatchSession {
 
   bool is_until_sure() const { return !report.tests.empty(); }
   std::size_t Matches() const {
-    return search ? search->Matches() : report.played.size();
+    return search ? search->tuner.MatchCount() : report.played.size();
   }
   /// True for the bot that played, however it was edited or loaded anew since.
   bool IsOf(const std::shared_ptr<BotHome>& other) const;
