@@ -1,9 +1,12 @@
 #include <algorithm>
+#include <filesystem>
 #include <iterator>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
+#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -174,7 +177,17 @@ std::string JobOf(const std::vector<std::string>& bots,
 
 ExitStatus RunMerge(const MatchOptions& options, CommandContext& context) {
   std::vector<MatchReport> reports;
+  std::set<std::filesystem::path> known;
   for (const std::string& file : options.to_merge) {
+    std::error_code error;
+    // A pattern and a name may well give the same file.
+    if (!known
+             .insert(
+                 std::filesystem::weakly_canonical(PathFromBytes(file), error))
+             .second) {
+      context.err << file << ": given twice, counted once.\n";
+      continue;
+    }
     constexpr std::size_t kMaxBytes = std::size_t{256} << 20U;
     const Result<std::string> bytes = ReadFile(PathFromBytes(file), kMaxBytes);
     if (!bytes) return Fail(context, bytes.error());

@@ -293,8 +293,9 @@ TEST_F(ProcessTest, PlaysMatchesAndTellsWhatCameOfThem) {
                            "4 --print-jobs >jobs && wc -l <jobs;"
                            " sed \"s|^fragsmith-cli|$cli|; s/ --program-folder"
                            " [^ ]*//\" jobs | sh >results;"
-                           " $cli match --merge results");
-  EXPECT_EQ(jobs.out, "4\n" + whole) << jobs.err;
+                           " $cli match --merge results ./results");
+  EXPECT_EQ(jobs.out, "4\n" + whole);
+  EXPECT_THAT(jobs.err, HasSubstr("./results: given twice, counted once.\n"));
   EXPECT_EQ(Run("echo '{\"bots\": 1}' >odd; $cli match --merge odd").status, 1);
 
   const Outcome ladder =
