@@ -73,9 +73,15 @@ frmMain::frmMain(ProgramState& state) : state_(state) {
   draft_->SetSource([this] { return typed_text_->WithIt(); });
   connect(typed_text_, &TypedText::Typed, draft_, &DraftKeeper::Schedule);
   model_list_ = std::make_unique<ModelListCommands>(state_, *models_, *this);
-  library_ =
-      new LibraryCommands(*commands_, state_, model_list_->faces(), *this);
+  library_ = new LibraryCommands(*commands_, current_, state_,
+                                 model_list_->faces(), *this);
   connect(library_, &LibraryCommands::CompareWanted, this, &frmMain::Compare);
+  connect(library_, &LibraryCommands::PackagesRemoved, this,
+          [this](const QString& text) {
+            DropGoneAddOns();
+            ReadGame();
+            Say(text);
+          });
   Connect();
   // Behind the connections: it checks a bot once the window has shown it, and
   // perhaps asked about its model.

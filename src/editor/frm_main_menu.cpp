@@ -34,7 +34,7 @@ void frmMain::NameActions() {
          if (other) Compare(other->first, other->second);
        }},
       {QStringLiteral("mnuLibrary"),
-       [this] { library_->Show(checker_->game()); }},
+       [this] { library_->Show(checker_->installed()); }},
       {QStringLiteral("mnuFindings"), [this] { findings_->Toggle(); }},
       {QStringLiteral("mnuChanges"), [this] { commands_->ShowChanges(); }},
       {QStringLiteral("mnuUndo"), [this] { edits_->Undo(); }},

@@ -101,7 +101,7 @@ constexpr std::array kItems = {
     Item("mnuCompareOther", "With another &bot..."),
     kEnd,
     Item("mnuLibrary", "&Bot library...", "",
-         "All bots that are known of: open, duplicate, compare"),
+         "All bots that are known of: open, duplicate, compare, remove"),
     kEnd,
     Menu("mnuHelp", "&Help"),
     Item("mnuManual", "&Manual", "F1"),

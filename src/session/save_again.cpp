@@ -295,6 +295,14 @@ std::string WhatGoes(std::size_t other_files) {
          ".";
 }
 
+bool IsPackageOf(const fs::path& package, const Bot& bot) {
+  Notes odd_entries;
+  const auto entries = ListPackageEntries(package, odd_entries);
+  return IsSameName(package.filename(), PackageNameOf(bot)) && entries &&
+         !entries->empty() && odd_entries.empty() &&
+         OtherFilesIn(package, bot) == 0;
+}
+
 std::optional<PackageBeside> FindPackageBeside(const SavePlan& plan,
                                                const Bot& bot) {
   if (plan.package) return std::nullopt;

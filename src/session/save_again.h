@@ -66,6 +66,10 @@ std::size_t OtherFilesIn(const std::filesystem::path& package, const Bot& bot);
 /// The sentence about those files; UTF-8.
 std::string WhatGoes(std::size_t other_files);
 
+/// True for a package that is called by the bot's name and has none but the
+/// bot's files in it.
+bool IsPackageOf(const std::filesystem::path& package, const Bot& bot);
+
 /// A package of the bot's name that lies where the game takes it before the
 /// files of the plan.
 struct PackageBeside {

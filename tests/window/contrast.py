@@ -7,13 +7,14 @@ import collections
 import os
 import pathlib
 import shutil
+import subprocess
 import sys
 import tempfile
 import time
 import warnings
 
 from screen import (Atspi, Editor, is_showing, key, walk, with_picture,
-                    xdotool)
+                    write, xdotool)
 from themes import GROUNDS, write_themes
 
 # The bus has two sets of names for the same calls.
@@ -26,9 +27,23 @@ MIN_SHARE = 0.01
 PAGES = ["General characteristics", "Chat texts"]
 # A check box that is an arrow, without a box.
 UNBOXED = "More"
-TEXTS = {"label", "push button", "check box", "radio button", "text"}
+# A row is a cell of its view.
+ROWS = {"list item", "table cell", "tree item", "table column header"}
+TEXTS = ROWS | {"label", "push button", "check box", "radio button", "text",
+                "page tab"}
 # A push button is known by its text, whatever is around it.
-OUTLINED = {"check box", "text", "combo box", "list"}
+OUTLINED = {"check box", "text", "combo box", "list", "tree", "table",
+            "spin button"}
+# The keys that open each dialog, and its title.
+DIALOGS = [
+    (["alt+t", "b"], "Bot library"), (["ctrl+f"], "Find"),
+    (["ctrl+comma"], "Fragsmith options"),
+    (["ctrl+shift+s"], "Make botfiles for Vixen"),
+    (["alt+t", "p", "z"], "Compare with All zeros"),
+    (["alt+t", "f"], "Check a bot's files"), (["alt+t", "s"], "Show changes"),
+    (["F5"], "Try Vixen in game"), (["F6"], "Play it out"),
+    (["F1"], "Fragsmith manual"), (["alt+p", "a"], "About vexlor's Fragsmith"),
+    ([], "Choose a model and skin")]
 # The shades of a button's ground do not count as its text.
 MIN_INK = 1.5
 
@@ -124,6 +139,17 @@ def is_whole(box, screen):
             box.y + box.height + 4 <= screen.height)
 
 
+def is_in_sight(row):
+    """A row may be scrolled away, or its list may not be there at all."""
+    view = row.get_parent()
+    if not is_showing(view) or view.get_component_iface() is None:
+        return False
+    own, whole = Box(row), Box(view)
+    return (own.x >= whole.x and own.y >= whole.y and
+            own.x + own.width <= whole.x + whole.width and
+            own.y + own.height <= whole.y + whole.height)
+
+
 def measure(nodes, page):
     """What is too faint of these, as lines of text; how many were measured."""
     xdotool("mousemove", "1279", "1023")
@@ -133,15 +159,19 @@ def measure(nodes, page):
     for node in nodes:
         role = node.get_role_name()
         states = node.get_state_set()
-        if not states.contains(Atspi.StateType.ENABLED) or states.contains(
-                Atspi.StateType.FOCUSED):
+        if (role not in TEXTS | OUTLINED or
+                not states.contains(Atspi.StateType.ENABLED) or
+                states.contains(Atspi.StateType.FOCUSED) or
+                role in ROWS and not is_in_sight(node)):
             continue
         figures = []
-        if role in TEXTS and is_whole(Box(node, 5), screen):
-            figures.append(("text", TEXT,
-                            text_contrast(screen.rows(Box(node, 5)))))
+        inner = Box(node, 1 if role in ROWS else 5)
+        if role in TEXTS and is_whole(inner, screen):
+            figures.append(("text", TEXT, text_contrast(screen.rows(inner))))
+        # The box in a combo box has none of its own.
+        is_inner = node.get_parent().get_role_name() == "combo box"
         if (role in OUTLINED and node.get_name() != UNBOXED and
-                is_whole(Box(node), screen)):
+                not is_inner and is_whole(Box(node), screen)):
             box = Box(node)
             if role == "check box":
                 box = marker(box)
@@ -157,6 +187,32 @@ def measure(nodes, page):
     return faint, measured
 
 
+def make_bots(cli, folder):
+    """Two for the library."""
+    folder.mkdir()
+    for preset in ("average", "sniper"):
+        made = subprocess.check_output(
+            [cli, "new", "--preset", preset, "--name", preset.title()])
+        subprocess.run([cli, "make", "-", "--into", str(folder)], input=made,
+                       stdout=subprocess.DEVNULL, check=True)
+
+
+def measure_dialogs(editor, ground):
+    """One after the other, over the page that is in sight."""
+    for keys, title in DIALOGS:
+        if keys:
+            key(*keys)
+        else:
+            editor.click("Choose a model and skin by its face",
+                         "push button")
+        window = editor.window(title)
+        time.sleep(0.5)  # What comes behind the events.
+        nodes = [node for node in walk(window) if is_showing(node)]
+        yield measure(nodes, f"{ground}, {title}")
+        key("Escape")
+        editor.gone(title)
+
+
 def main():
     built = pathlib.Path(sys.argv[1]).resolve()
     program = str(built / "fragsmith")
@@ -166,8 +222,12 @@ def main():
         home = pathlib.Path(scratch)
         own = home / "own"
         own.mkdir()
-        for file in [*built.glob("*.tga"), built / "fgs.ini"]:
+        for file in built.glob("*.tga"):
             shutil.copy(file, own)
+        make_bots(str(built / "fragsmith-cli"), home / "bots")
+        settings = (built / "fgs.ini").read_text()
+        (own / "fgs.ini").write_text(settings.replace(
+            "WorkDir = ", f"WorkDir = {home}/bots"))
         write_themes(home)
         for ground in GROUNDS:
             os.environ["XDG_CONFIG_HOME"] = str(home / ground)
@@ -181,6 +241,10 @@ def main():
                 editor.click(page, "page tab")
                 results.append(measure(list(editor.controls()),
                                        f"{ground}, {page}"))
+            editor.focus("Name", "text")
+            key("ctrl+a")
+            write("Vixen")
+            results += measure_dialogs(editor, ground)
             key("ctrl+q", "alt+y")
             editor.end()
             for lines, count in results:

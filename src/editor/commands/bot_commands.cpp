@@ -7,6 +7,7 @@
 #include "checks/bot_location.h"
 #include "editor/dialogs/changes_dialog.h"
 #include "editor/toolkit/game_text_conversion.h"
+#include "editor/toolkit/shown_path.h"
 #include "install/program/game_folder.h"
 #include "session/bot_sources.h"
 #include "session/presets.h"
@@ -21,10 +22,6 @@ namespace {
 constexpr const char* kLoadQuestion =
     "The current bot has changed. Do want to load a new bot and lose unsaved "
     "work on this one?";
-
-QString Shown(const fs::path& path) {
-  return QString::fromStdString(Utf8FromPath(path));
-}
 
 /// What a load by the dialog reads.
 LoadedPart PartOf(OpenKind kind) {
@@ -192,7 +189,7 @@ std::optional<LoadedBot> BotCommands::Load(const LoadedPart& part,
         std::holds_alternative<BotFile>(part) ? std::get<BotFile>(part)
                                               : BotFile::kCharacteristics,
         file);
-    QString text = tr("%1 was not loaded").arg(Shown(file.filename()));
+    QString text = tr("%1 was not loaded").arg(ShownPath(file.filename()));
     if (!fault.empty()) text += ": " + QString::fromUtf8(fault);
     emit StatusText(text + '.');
   }
@@ -255,7 +252,7 @@ void BotCommands::OpenPath(const fs::path& path) {
   if (!IsFile(whole) || !(is_package || BotNameOfFile(whole))) {
     emit StatusText(tr("%1 is no bot: give a folder, a *_c.c file "
                        "or a *.pk3 package.")
-                        .arg(Shown(whole)));
+                        .arg(ShownPath(whole)));
     return;
   }
   if (is_package) return OpenPackage(whole, {});
@@ -287,7 +284,7 @@ void BotCommands::OpenFolder(const fs::path& folder) {
 
 /// In a box where there is something to do about it.
 void BotCommands::TellNoBot(const fs::path& path) {
-  const QString text = tr("There is no bot in %1.").arg(Shown(path));
+  const QString text = tr("There is no bot in %1.").arg(ShownPath(path));
   const std::string why = WhyNoBots(path);
   if (why.empty()) {
     emit StatusText(text);

@@ -9,6 +9,7 @@
 
 #include "checks/bot_location.h"
 #include "checks/location_checks.h"
+#include "editor/toolkit/shown_path.h"
 #include "game/game_lookup.h"
 #include "inplace/described_bots.h"
 #include "inplace/game_macro_files.h"
@@ -364,11 +365,10 @@ std::optional<BotSaver::Outcome> BotSaver::SaveIntoPackage() {
   }
   if (!*saved) return Outcome{};
   if (!(*saved)->leaves_changes) current_.SetChanged(false);
-  return Outcome{
-      .text = QStringLiteral("The bot was written into %1.")
-                  .arg(QString::fromStdString(Utf8FromPath(package))),
-      .saved = {},
-      .notes = (*saved)->notes};
+  return Outcome{.text = QStringLiteral("The bot was written into %1.")
+                             .arg(ShownPath(package)),
+                 .saved = {},
+                 .notes = (*saved)->notes};
 }
 
 std::string BotSaver::Changes() {

@@ -1,24 +1,25 @@
 #include "editor/commands/library_commands.h"
 
-#include <QDir>
 #include <algorithm>
 #include <string>
+#include <system_error>
 #include <utility>
 
-#include "editor/dialogs/library_dialog.h"
 #include "editor/toolkit/game_text_conversion.h"
+#include "editor/toolkit/shown_path.h"
+#include "game/given_files.h"
+#include "install/program/game_folder.h"
 #include "model/file_names.h"
+#include "session/bot_file.h"
 #include "session/bot_sources.h"
+#include "session/save_again.h"
+#include "support/code_page.h"
 #include "support/files.h"
 #include "support/text.h"
 
 namespace fragsmith {
 namespace fs = std::filesystem;
 namespace {
-
-QString Shown(const fs::path& path) {
-  return QDir::toNativeSeparators(QString::fromStdString(Utf8FromPath(path)));
-}
 
 /// What the description of the bot beside its other files says.
 std::optional<KnownBot> DescriptionBeside(const fs::path& folder,
@@ -28,7 +29,7 @@ std::optional<KnownBot> DescriptionBeside(const fs::path& folder,
     const std::optional<fs::path> path =
         FindFile(place, name + std::string(kDescriptionEnd));
     if (!path) continue;
-    const Result<std::string> bytes = ReadFile(*path);
+    const Result<std::string> bytes = ReadFile(*path, kMaxBotFileBytes);
     if (!bytes) continue;
     const auto bots = BotsInDescriptions(*bytes);
     if (!bots.empty()) return bots.begin()->second;
@@ -38,10 +39,12 @@ std::optional<KnownBot> DescriptionBeside(const fs::path& folder,
 
 }  // namespace
 
-LibraryCommands::LibraryCommands(BotCommands& commands, ProgramState& state,
-                                 FaceStore& faces, QWidget& window)
+LibraryCommands::LibraryCommands(BotCommands& commands, CurrentBot& current,
+                                 ProgramState& state, FaceStore& faces,
+                                 QWidget& window)
     : QObject(&window),
       commands_(commands),
+      current_(current),
       state_(state),
       faces_(faces),
       window_(window) {}
@@ -90,7 +93,7 @@ void LibraryCommands::AddBotsIn(const fs::path& folder,
     Entry entry = {.shown = {.name = ToQString(*name),
                              .fun_name = ToQString(*name),
                              .model = {},
-                             .where = Shown(folder)},
+                             .where = ShownPath(folder)},
                    .source = RecentBot{folder / file, {}}};
     if (const auto known = DescriptionBeside(folder, *name)) {
       Describe(*known, entry.shown);
@@ -114,28 +117,143 @@ std::vector<LibraryCommands::Entry> LibraryCommands::Find(
   for (const RecentBot& bot : commands_.recent().Present()) {
     const bool is_of_list = std::ranges::any_of(entries, [&](const Entry& has) {
       return std::holds_alternative<std::size_t>(has.source) &&
-             has.shown.where == Shown(bot.path.filename()) &&
+             has.shown.where == ShownPath(bot.path.filename()) &&
              has.shown.name == ToQString(bot.name);
     });
     if (bot.name.empty() || is_of_list) continue;
     entries.push_back({.shown = {.name = ToQString(bot.name),
                                  .fun_name = ToQString(bot.name),
                                  .model = {},
-                                 .where = Shown(bot.path)},
+                                 .where = ShownPath(bot.path)},
                        .source = bot});
   }
   return entries;
 }
 
-void LibraryCommands::Show(const GameData* game) {
-  const std::vector<Entry> entries = Find(game);
+std::optional<BotLocation> LibraryCommands::LocationOf(
+    const Entry& entry) const {
+  if (const auto* const bot = std::get_if<std::size_t>(&entry.source)) {
+    const BotListEntry& listed = state_.lists.bots.entries()[*bot];
+    std::optional<fs::path> package =
+        FindPackage(PathFromBytes(state_.settings.Q3Baseq3), listed.PK3File);
+    if (!package) return std::nullopt;
+    return BotLocation{.name = listed.Name,
+                       .folder = {},
+                       .package = *std::move(package),
+                       .has_description = listed.HasBotScript};
+  }
+  const RecentBot& bot = std::get<RecentBot>(entry.source);
+  if (!bot.name.empty()) {
+    return BotLocation{.name = bot.name, .folder = {}, .package = bot.path};
+  }
+  const fs::path folder = bot.path.parent_path();
+  return BotLocation{.name = BotNameOfFile(bot.path).value_or(""),
+                     .folder = folder,
+                     .package = {},
+                     .uses_layout = GivenFiles::IsInGame(folder)};
+}
+
+FindingCounts LibraryCommands::Check(const Entry& entry,
+                                     const InstalledGame* game) const {
+  const std::optional<BotLocation> location = LocationOf(entry);
+  if (!location) return FindingCounts();
+  // As the window tells it once the bot is open.
+  const LocationCheck check(*location, false, game);
+  const Bot bot = check.Read();
+  std::vector<Finding> findings = check.InFilesAlone(bot);
+  const std::vector<Finding> in_memory = check.InMemory(bot, true);
+  findings.insert(findings.end(), in_memory.begin(), in_memory.end());
+  return FindingCounts(findings);
+}
+
+bool LibraryCommands::IsOpen(const fs::path& package) const {
+  return std::ranges::any_of(
+      current_.origin().home->files, [&package](const auto& file) {
+        std::error_code reason;
+        return !file.second.is_on_disk() &&
+               fs::equivalent(file.second.path, package, reason);
+      });
+}
+
+frmLibrary::Removal LibraryCommands::Remove(const Entry& entry) {
+  const std::optional<BotLocation> location = LocationOf(entry);
+  if (!location) return {};
+  const fs::path& package = location->package;
+  const QString name = ShownPath(package.filename());
+  const QString kept = tr("%1 was not removed.").arg(name);
+  Bot bot;
+  bot.Put(kNameField, location->name);
+  if (!IsPackageOf(package, bot)) {
+    state_.prompts.Show(
+        {.title = std::string(kProgramTitle),
+         .text = "'" + Utf8FromPath(package) +
+                 "' has other files than those of " +
+                 Utf8FromGameText(location->name) +
+                 " in it, or cannot be read. Only packages that hold a bot and "
+                 "nothing else are removed here.",
+         .icon = MessageIcon::kExclamation});
+    return {.text = kept};
+  }
+  std::string question =
+      "Do you want to remove '" + Utf8FromPath(package) + "' from the disk? " +
+      Utf8FromGameText(location->name) + " is then not in the game any more.";
+  if (IsOpen(package)) {
+    question += " It stays open in the window, unsaved.";
+  }
+  if (!state_.prompts.Confirm(std::string(kProgramTitle), question)) {
+    return {.text = kept};
+  }
+  std::error_code reason;
+  if (!fs::remove(package, reason)) {
+    state_.prompts.Show(
+        {.title = std::string(kProgramTitle),
+         .text = "'" + Utf8FromPath(package) + "' cannot be removed" +
+                 (reason ? ": " + reason.message() : std::string()) + ".",
+         .icon = MessageIcon::kExclamation});
+    return {.text = kept};
+  }
+  current_.ForgetGonePackages();
+  return {.is_done = true,
+          .text = tr("%1 was removed from %2.")
+                      .arg(name, ShownPath(package.parent_path()))};
+}
+
+void LibraryCommands::Show(const InstalledGame* game) {
+  std::vector<Entry> entries = Find(game == nullptr ? nullptr : &game->data);
   std::vector<LibraryBot> shown;
   shown.reserve(entries.size());
-  for (const Entry& entry : entries) shown.push_back(entry.shown);
-  frmLibrary dialog(std::move(shown), faces_, &window_);
-  if (dialog.exec() != QDialog::Accepted) return;
-  const BotSource& source = entries.at(dialog.Chosen()).source;
-  switch (dialog.WantedAction()) {
+  for (const Entry& entry : entries) {
+    shown.push_back(entry.shown);
+    const std::optional<BotLocation> location = LocationOf(entry);
+    shown.back().has_own_package =
+        location &&
+        EqualIgnoringCase(BytesFromPath(location->package.filename()),
+                          BotPackageName(location->name));
+  }
+  QString removed;
+  frmLibrary dialog(
+      std::move(shown),
+      {.check =
+           [&](std::size_t place) { return Check(entries.at(place), game); },
+       .remove =
+           [&](std::size_t place) {
+             frmLibrary::Removal removal = Remove(entries.at(place));
+             if (removal.is_done) {
+               entries.erase(entries.begin() +
+                             static_cast<std::ptrdiff_t>(place));
+               removed = removal.text;
+             }
+             return removal;
+           }},
+      faces_, &window_);
+  if (dialog.exec() == QDialog::Accepted) {
+    Do(dialog.WantedAction(), entries.at(dialog.Chosen()).source);
+  }
+  if (!removed.isEmpty()) emit PackagesRemoved(removed);
+}
+
+void LibraryCommands::Do(frmLibrary::Action action, const BotSource& source) {
+  switch (action) {
     case frmLibrary::Action::kOpen:
       return commands_.Open(source);
     case frmLibrary::Action::kDuplicate:

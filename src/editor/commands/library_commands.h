@@ -2,11 +2,18 @@
 #define FRAGSMITH_EDITOR_COMMANDS_LIBRARY_COMMANDS_H_
 
 #include <QObject>
+#include <QString>
 #include <QWidget>
+#include <filesystem>
+#include <optional>
 #include <vector>
 
+#include "checks/bot_location.h"
+#include "checks/location_checks.h"
 #include "editor/commands/bot_commands.h"
+#include "editor/dialogs/library_dialog.h"
 #include "editor/models/library_model.h"
+#include "editor/state/current_bot.h"
 #include "editor/state/face_store.h"
 #include "editor/state/program_state.h"
 #include "game/game_data.h"
@@ -20,14 +27,16 @@ class LibraryCommands : public QObject {
 
  public:
   /// All of them outlive it.
-  LibraryCommands(BotCommands& commands, ProgramState& state, FaceStore& faces,
-                  QWidget& window);
+  LibraryCommands(BotCommands& commands, CurrentBot& current,
+                  ProgramState& state, FaceStore& faces, QWidget& window);
 
   /// Of the bots of the list only those that the game has; null for no game.
-  void Show(const GameData* game);
+  void Show(const InstalledGame* game);
 
  signals:
   void CompareWanted(const fragsmith::Bot& other, const QString& title);
+  /// Packages were removed: what is known of the game is not true any more.
+  void PackagesRemoved(const QString& text);
 
  private:
   struct Entry {
@@ -35,6 +44,11 @@ class LibraryCommands : public QObject {
     BotSource source;
   };
   std::vector<Entry> Find(const GameData* game);
+  std::optional<BotLocation> LocationOf(const Entry& entry) const;
+  FindingCounts Check(const Entry& entry, const InstalledGame* game) const;
+  frmLibrary::Removal Remove(const Entry& entry);
+  void Do(frmLibrary::Action action, const BotSource& source);
+  bool IsOpen(const std::filesystem::path& package) const;
   void AddBotsOfList(const GameData& game, std::vector<Entry>& entries) const;
   void AddBotsIn(const std::filesystem::path& folder,
                  std::vector<Entry>& entries) const;
@@ -42,6 +56,7 @@ class LibraryCommands : public QObject {
   void Describe(const KnownBot& known, LibraryBot& bot) const;
 
   BotCommands& commands_;
+  CurrentBot& current_;
   ProgramState& state_;
   FaceStore& faces_;
   QWidget& window_;

@@ -16,6 +16,7 @@
 #include <system_error>
 #include <utility>
 
+#include "editor/toolkit/shown_path.h"
 #include "editor/toolkit/wheel_guard.h"
 #include "support/files.h"
 #include "support/text.h"
@@ -23,10 +24,6 @@
 namespace fragsmith {
 namespace fs = std::filesystem;
 namespace {
-
-QString ShownPath(const fs::path& path) {
-  return QDir::toNativeSeparators(QString::fromStdString(Utf8FromPath(path)));
-}
 
 bool IsWithin(const fs::path& folder, const fs::path& drive) {
   const fs::path rest = folder.lexically_relative(drive);
@@ -39,12 +36,12 @@ bool IsDrive([[maybe_unused]] const fs::path& root) {
 #ifdef Q_OS_WIN
   return true;
 #else
-  constexpr std::ptrdiff_t kMostParts = 2;
+  constexpr std::ptrdiff_t kMaxParts = 2;
   constexpr std::array kFolders = {"/media", "/mnt", "/run/media", "/Volumes"};
   const auto holds = [&root](const char* folder) {
     const fs::path rest = root.lexically_relative(folder);
     return IsWithin(root, folder) &&
-           std::distance(rest.begin(), rest.end()) <= kMostParts;
+           std::distance(rest.begin(), rest.end()) <= kMaxParts;
   };
   return !root.has_relative_path() ||
          std::any_of(kFolders.begin(), kFolders.end(), holds);

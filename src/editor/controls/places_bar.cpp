@@ -6,17 +6,10 @@
 #include <algorithm>
 #include <iterator>
 
+#include "editor/toolkit/shown_path.h"
 #include "support/files.h"
 
 namespace fragsmith {
-namespace {
-
-QString ShownPath(const std::filesystem::path& path) {
-  return QDir::toNativeSeparators(QString::fromStdString(Utf8FromPath(path)));
-}
-
-}  // namespace
-
 PlacesBar::PlacesBar(QWidget* parent) : QWidget(parent) {
   auto* const row = new QHBoxLayout(this);
   row->setContentsMargins(0, 0, 0, 0);

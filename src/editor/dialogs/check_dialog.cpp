@@ -12,6 +12,7 @@
 
 #include "checks/bot_checks.h"
 #include "editor/toolkit/game_text_conversion.h"
+#include "editor/toolkit/shown_path.h"
 #include "editor/toolkit/wheel_guard.h"
 #include "support/files.h"
 
@@ -129,8 +130,7 @@ void frmCheck::FindBots() {
   for (const BotLocation& bot : bots_) {
     QString name = ToQString(bot.name);
     if (are_in_packages) {
-      name += QStringLiteral(" (%1)").arg(
-          QString::fromStdString(Utf8FromPath(bot.package.filename())));
+      name += QStringLiteral(" (%1)").arg(ShownPath(bot.package.filename()));
     }
     bot_->addItem(name);
   }
@@ -143,7 +143,7 @@ void frmCheck::FindBots() {
   }
   const std::string why = WhyNoBots(chosen);
   verdict_->Say(tr("There is no bot in %1. %2")
-                    .arg(QString::fromStdString(Utf8FromPath(chosen)),
+                    .arg(ShownPath(chosen),
                          why.empty()
                              ? tr("The files of a bot end in _c.c, _w.c, "
                                   "_i.c, _t.c and .bot; of many packages "

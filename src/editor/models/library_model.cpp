@@ -1,9 +1,12 @@
 #include "editor/models/library_model.h"
 
+#include <QApplication>
 #include <QRegularExpression>
 #include <QStringList>
-#include <array>
+#include <limits>
 #include <utility>
+
+#include "editor/toolkit/severity_icon.h"
 
 namespace fragsmith {
 namespace {
@@ -11,6 +14,19 @@ namespace {
 QString WithoutColors(QString fun_name) {
   static const QRegularExpression kCode(QStringLiteral("\\^[0-7]"));
   return fun_name.remove(kCode);
+}
+
+const QString& TextIn(int column, const LibraryBot& bot) {
+  switch (column) {
+    case LibraryModel::kName:
+      return bot.name;
+    case LibraryModel::kFunName:
+      return bot.fun_name;
+    case LibraryModel::kModel:
+      return bot.model;
+    default:
+      return bot.where;
+  }
 }
 
 }  // namespace
@@ -29,6 +45,46 @@ int LibraryModel::columnCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : kColumnCount;
 }
 
+void LibraryModel::SetFindings(int row, const FindingCounts& findings) {
+  bots_.at(static_cast<std::size_t>(row)).findings = findings;
+  emit dataChanged(index(row, kFindings), index(row, kFindings));
+}
+
+void LibraryModel::Remove(int row) {
+  beginRemoveRows({}, row, row);
+  bots_.erase(bots_.begin() + row);
+  endRemoveRows();
+}
+
+QVariant LibraryModel::FindingsData(const LibraryBot& bot, int role) {
+  if (role == kSortRole) {
+    // The gravest first; nothing is known of the last.
+    return bot.findings ? -bot.findings->Gravity()
+                        : std::numeric_limits<qlonglong>::max();
+  }
+  if (!bot.findings) {
+    return role == Qt::AccessibleTextRole ? tr("Not looked at yet")
+                                          : QVariant();
+  }
+  QStyle& style = *QApplication::style();
+  switch (role) {
+    case Qt::DisplayRole:
+      return bot.findings->WorstText();
+    case Qt::ToolTipRole:
+    case Qt::AccessibleTextRole:
+      return bot.findings->Text();
+    case Qt::DecorationRole: {
+      const std::optional<Severity> worst = bot.findings->Worst();
+      if (!worst) return {};
+      // The view's icons are faces.
+      return SeverityIcon(*worst, style)
+          .pixmap(style.pixelMetric(QStyle::PM_SmallIconSize));
+    }
+    default:
+      return {};
+  }
+}
+
 QVariant LibraryModel::data(const QModelIndex& index, int role) const {
   if (!index.isValid()) return {};
   const LibraryBot& bot = At(index.row());
@@ -40,14 +96,15 @@ QVariant LibraryModel::data(const QModelIndex& index, int role) const {
   if (role == Qt::DecorationRole && index.column() == kName) {
     return icon_of_(bot.skin);
   }
-  const std::array texts = {&bot.name, &bot.fun_name, &bot.model, &bot.where};
-  const QString& text = *texts.at(static_cast<std::size_t>(index.column()));
+  if (index.column() == kFindings) return FindingsData(bot, role);
+  const QString& text = TextIn(index.column(), bot);
   switch (role) {
     case Qt::DisplayRole:
       return text;
     case Qt::ToolTipRole:
       return WithoutColors(text).toHtmlEscaped();
     case Qt::AccessibleTextRole:
+    case kSortRole:
       return WithoutColors(text);
     default:
       return {};
@@ -64,6 +121,8 @@ QVariant LibraryModel::headerData(int section, Qt::Orientation orientation,
       return tr("Fun name");
     case kModel:
       return tr("Model and skin");
+    case kFindings:
+      return tr("What the game will do");
     case kWhere:
       return tr("Where");
     default:

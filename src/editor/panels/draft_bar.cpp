@@ -4,7 +4,7 @@
 #include <filesystem>
 
 #include "editor/toolkit/game_text_conversion.h"
-#include "support/files.h"
+#include "editor/toolkit/shown_path.h"
 
 namespace fragsmith {
 namespace {
@@ -35,10 +35,9 @@ DraftBar::DraftBar(QWidget* parent) : ListBar(QStringLiteral("Draft"), parent) {
 
 void DraftBar::Offer(const DraftKeeper::Found& found) {
   const std::filesystem::path place = PlaceOf(*found.draft.origin.home);
-  const QString from =
-      place.empty() ? tr("it has no files yet")
-                    : tr("it is from %1")
-                          .arg(QString::fromStdString(Utf8FromPath(place)));
+  const QString from = place.empty()
+                           ? tr("it has no files yet")
+                           : tr("it is from %1").arg(ShownPath(place));
   Say(tr("The bot %1 was not saved when Fragsmith last ended. It was kept on "
          "%2; %3.")
           .arg(ToQString(found.draft.bot.Name()),

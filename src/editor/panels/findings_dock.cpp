@@ -5,22 +5,12 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "checks/bot_checks.h"
 #include "checks/mend_all.h"
 #include "editor/pages/page_strip.h"
+#include "editor/toolkit/finding_counts.h"
 #include "editor/toolkit/severity_icon.h"
 
 namespace fragsmith {
-namespace {
-
-/// "2 errors", "1 hint"; nothing for none.
-void AddCount(QStringList& counts, qsizetype count, const char* word) {
-  if (count == 0) return;
-  counts << QStringLiteral("%1 %2%3").arg(count).arg(
-      QLatin1String(word), count == 1 ? QString() : QStringLiteral("s"));
-}
-
-}  // namespace
 
 FindingsDock::FindingsDock(QWidget* parent)
     : QDockWidget(tr("What the game will do"), parent),
@@ -156,24 +146,14 @@ void FindingsDock::MendOrAsk(const Finding& finding) {
 }
 
 void FindingsDock::ShowCounts() {
-  const std::vector<Finding>& findings = list_->findings();
-  const auto count = [&findings](Severity severity) {
-    return std::count_if(findings.begin(), findings.end(),
-                         [severity](const Finding& finding) {
-                           return finding.severity == severity;
-                         });
-  };
-  QStringList counts;
-  AddCount(counts, count(Severity::kError), "error");
-  AddCount(counts, count(Severity::kWarning), "warning");
-  AddCount(counts, count(Severity::kHint), "hint");
-  const QString text = counts.isEmpty() ? tr("Nothing to tell")
-                                        : counts.join(QStringLiteral(", "));
+  const FindingCounts counts(list_->findings());
+  const QString text = counts.Text();
   // Styles leave hardly any room between icon and text.
   counter_->setText(u' ' + text);
-  counter_->setIcon(findings.empty()
-                        ? style()->standardIcon(QStyle::SP_DialogApplyButton)
-                        : SeverityIcon(findings.front().severity, *style()));
+  const std::optional<Severity> worst = counts.Worst();
+  counter_->setIcon(worst
+                        ? SeverityIcon(*worst, *style())
+                        : style()->standardIcon(QStyle::SP_DialogApplyButton));
   counter_->setAccessibleName(windowTitle() + QStringLiteral(": ") + text);
 }
 

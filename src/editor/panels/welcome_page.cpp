@@ -9,7 +9,7 @@
 #include <algorithm>
 #include <array>
 
-#include "support/files.h"
+#include "editor/toolkit/shown_path.h"
 
 namespace fragsmith {
 namespace {
@@ -229,7 +229,7 @@ QWidget* WelcomePage::MakeGame(const Game& game) {
   card->setBackgroundRole(QPalette::Base);
   auto* const row = new QHBoxLayout(card);
   auto* const texts = new QVBoxLayout;
-  const QString folder = QString::fromStdString(Utf8FromPath(game.folder));
+  const QString folder = ShownPath(game.folder);
   texts->addWidget(
       MakeHeading(game.is_set ? game.name : tr("%1 found").arg(game.name)));
   QLabel* const about =

@@ -2,9 +2,12 @@
 
 #include <QGuiApplication>
 #include <QUndoCommand>
+#include <cstddef>
+#include <set>
 #include <utility>
 
 #include "chat/vocabulary.h"
+#include "support/files.h"
 
 namespace fragsmith {
 namespace {
@@ -184,6 +187,23 @@ void CurrentBot::Replace(Bot bot, bool is_changed, const QString& name,
 void CurrentBot::SetReport(LoadReport report) {
   *state_.origin.report = std::move(report);
   emit OriginChanged();
+}
+
+void CurrentBot::ForgetGonePackages() {
+  std::set<std::shared_ptr<BotHome>> homes = {state_.origin.home};
+  for (const auto& [home, bot] : unchanged_) homes.insert(home);
+  for (const std::shared_ptr<BotHome>& home : homes) {
+    const std::size_t gone = std::erase_if(home->files, [](const auto& file) {
+      return !file.second.is_on_disk() && !IsFile(file.second.path);
+    });
+    if (gone == 0) continue;
+    unchanged_.erase(home);
+    // No step leads to it as it was saved.
+    steps_.resetClean();
+    if (home != state_.origin.home) continue;
+    SetChanged(true);
+    emit OriginChanged();
+  }
 }
 
 void CurrentBot::ForgetSteps() {

@@ -89,6 +89,10 @@ class CurrentBot : public QObject {
   void Replace(Bot bot, bool is_changed, const QString& name,
                BotOrigin origin = {});
 
+  /// Of bots that were read out of packages which are not there any more: their
+  /// files are in none now, and what is in none is not saved.
+  void ForgetGonePackages();
+
   /// What is edited next is an edit of its own.
   void EndStep() { ++step_; }
 

@@ -1,10 +1,10 @@
 #include "editor/state/recent_bots.h"
 
-#include <QDir>
 #include <algorithm>
 #include <optional>
 
 #include "editor/toolkit/game_text_conversion.h"
+#include "editor/toolkit/shown_path.h"
 #include "session/bot_sources.h"
 #include "support/files.h"
 
@@ -70,9 +70,7 @@ QStringList RecentBots::ToStrings() const {
 QString MenuText(const RecentBot& bot) {
   const std::string name =
       bot.name.empty() ? BotNameOfFile(bot.path).value_or("") : bot.name;
-  const QString path =
-      QDir::toNativeSeparators(QString::fromStdString(Utf8FromPath(bot.path)));
-  QString text = ToQString(name) + QStringLiteral(" - ") + path;
+  QString text = ToQString(name) + QStringLiteral(" - ") + ShownPath(bot.path);
   return text.replace(u'&', QStringLiteral("&&"));
 }
 

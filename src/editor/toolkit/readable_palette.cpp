@@ -4,6 +4,8 @@
 #include <QPalette>
 #include <QStyle>
 
+#include "editor/toolkit/contrast.h"
+
 namespace fragsmith {
 namespace {
 
@@ -22,6 +24,28 @@ void MakeHintsReadable() {
   QApplication::setPalette(palette);
 }
 
+/// Many themes have white on a light blue for what is selected.
+void MakeSelectionReadable() {
+  // Strokes are thin: few of their points have the whole colour.
+  constexpr double kReadable = 5;
+  constexpr int kPercent = 104;
+  QPalette palette = QApplication::palette();
+  for (const QPalette::ColorGroup group : kGroups) {
+    const QColor text = palette.color(group, QPalette::HighlightedText);
+    QColor ground = palette.color(group, QPalette::Highlight);
+    const bool is_text_light = text.lightness() > ground.lightness();
+    // The number of steps is bounded for what gets no better.
+    constexpr int kMaxSteps = 50;
+    for (int step = 0; step < kMaxSteps && Contrast(text, ground) < kReadable;
+         ++step) {
+      ground =
+          is_text_light ? ground.darker(kPercent) : ground.lighter(kPercent);
+    }
+    palette.setColor(group, QPalette::Highlight, ground);
+  }
+  QApplication::setPalette(palette);
+}
+
 /// Fusion draws the outlines of these darker than the window. On a dark one
 /// nothing is then to be seen of an empty check box, and on any little of where
 /// a text box or a list ends. None of them shows the window's colour otherwise;
@@ -33,10 +57,11 @@ void MakeOutlinesVisible() {
   const bool is_dark =
       ground.lightness() < base.color(QPalette::WindowText).lightness();
   // What is darkened again by the style.
-  const float share = is_dark ? 0.7F : 0.4F;
+  const float share = is_dark ? 0.85F : 0.4F;
   for (const char* const widget :
-       {"QCheckBox", "QRadioButton", "QLineEdit", "QComboBox", "QListView",
-        "QTreeView", "QProgressBar"}) {
+       {"QCheckBox", "QRadioButton", "QLineEdit", "QComboBox",
+        "QAbstractSpinBox", "QListView", "QTreeView", "QPlainTextEdit",
+        "QProgressBar"}) {
     QPalette palette = QApplication::palette(widget);
     for (const QPalette::ColorGroup group : kGroups) {
       const QColor window = palette.color(group, QPalette::Window);
@@ -59,6 +84,7 @@ void MakeOutlinesVisible() {
 
 void MakePaletteReadable() {
   MakeHintsReadable();
+  MakeSelectionReadable();
   MakeOutlinesVisible();
 }
 
