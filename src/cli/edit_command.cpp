@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "chat/vocabulary.h"
 #include "cli/bot_source.h"
 #include "cli/command.h"
 #include "cli/terminal.h"
@@ -39,6 +40,21 @@ struct WishedBot {
   bool is_whole = true;
 };
 
+/// A document may well be of another bot, and all else in it can be used.
+void TakeOutRefused(const std::string& document, EditedBot& edited) {
+  std::erase_if(edited.texts, [&](const auto& text) {
+    const std::optional<Message> refusal = BoxRefusal(text.first, text.second);
+    if (!refusal) return false;
+    edited.refused.push_back({.what = QuotedName(text.first) + " cannot be \"" +
+                                      ShownText(text.second) + "\". " +
+                                      refusal->text,
+                              .file = document,
+                              .line = 0,
+                              .advice = {}});
+    return true;
+  });
+}
+
 /// Nothing, told, where there can be none.
 std::optional<WishedBot> EditedBotOf(const EditOptions& options,
                                      const std::vector<ValueAtPath>& values,
@@ -60,6 +76,7 @@ std::optional<WishedBot> EditedBotOf(const EditOptions& options,
     Fail(context, edited.error());
     return std::nullopt;
   }
+  if (!options.document.empty()) TakeOutRefused(options.document, *edited);
   if (CheckAllIn(edited->texts, edited->bot, context.prompts)) {
     return std::nullopt;
   }

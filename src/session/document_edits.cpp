@@ -114,16 +114,6 @@ void CheckNumbers(const Json& old, Json& wanted, const std::string& path,
   }
 }
 
-std::vector<Error> CheckAllNumbers(const Json& old, Json& wanted) {
-  std::vector<Error> refused;
-  for (const char* const group : kNumberGroups) {
-    if (wanted.contains(group)) {
-      CheckNumbers(old.at(group), wanted[group], group, refused);
-    }
-  }
-  return refused;
-}
-
 /// In a patch a null would take the key out, and the bot would get what a new
 /// one has.
 void RefuseNulls(const Json& patch, const std::string& path) {
@@ -152,15 +142,72 @@ void CheckArenaLord(const Json& old, const Json& wanted) {
 }
 
 /// No file has a line that says nothing.
-void CheckChatLines(const Json& old, const Json& wanted) {
-  if (!wanted.is_object()) return;
-  for (const auto& [key, lines] : wanted.items()) {
+void CheckChatLines(const Json& old, const Json& lines,
+                    const std::string& path) {
+  if (lines != old && lines.is_array() &&
+      std::find(lines.begin(), lines.end(), "") != lines.end()) {
+    RefuseField(path, "a chat line is empty.",
+                "Leave it out; a type without lines is [].");
+  }
+}
+
+/// Why values are none for a bot. Each of them gets its old value back.
+std::vector<Error> PutBackRefused(const Json& old, Json& wanted) {
+  std::vector<Error> refused;
+  const auto check = [&refused](const Json& before, Json& value, auto test) {
+    try {
+      test();
+    } catch (const JsonFault& fault) {
+      refused.push_back(fault.error);
+      value = before;
+    }
+  };
+  for (const char* const group : kNumberGroups) {
+    if (wanted.contains(group)) {
+      CheckNumbers(old.at(group), wanted[group], group, refused);
+    }
+  }
+  if (wanted.contains("arenaLord")) {
+    const Json& before = old.at("arenaLord");
+    Json& value = wanted["arenaLord"];
+    check(before, value, [&] { CheckArenaLord(before, value); });
+  }
+  if (!wanted.contains("chats") || !wanted["chats"].is_object()) return refused;
+  for (const auto& [key, before] : old.at("chats").items()) {
+    Json& value = wanted["chats"][key];
+    check(before, value,
+          [&] { CheckChatLines(before, value, "chats." + key); });
+  }
+  return refused;
+}
+
+/// Why the document cannot be read.
+std::optional<Error> ReadFault(const Json& json) {
+  Notes untold;
+  try {
+    BotDocumentFromJson(json, {.are_slips = true, .file = {}, .notes = untold});
+  } catch (const JsonFault& fault) {
+    return fault.error;
+  }
+  return std::nullopt;
+}
+
+/// The same of what no bot can have at all, value by value.
+void PutBackUnread(const Json& own, const Json::json_pointer& at, Json& wanted,
+                   std::vector<Error>& refused) {
+  const Json& old = own.at(at);
+  for (const auto& [key, value] : wanted.items()) {
     const auto known = old.find(key);
-    const bool is_new = known == old.end() || *known != lines;
-    if (is_new && lines.is_array() &&
-        std::find(lines.begin(), lines.end(), "") != lines.end()) {
-      RefuseField("chats." + key, "a chat line is empty.",
-                  "Leave it out; a type without lines is [].");
+    if (known == old.end() || *known == value) continue;
+    if (known->is_object() && value.is_object()) {
+      PutBackUnread(own, at / key, value, refused);
+      continue;
+    }
+    Json tried = own;
+    tried[at / key] = value;
+    if (std::optional<Error> fault = ReadFault(tried)) {
+      refused.push_back(*std::move(fault));
+      value = *known;
     }
   }
 }
@@ -206,20 +253,16 @@ Result<EditedBot> EditByDocument(const Bot& bot, std::string_view json,
     RefuseNulls(patch, {});
     Json wanted = own;
     wanted.merge_patch(patch);
-    EditedBot edited = {bot, {}, CheckAllNumbers(own, wanted)};
+    EditedBot edited = {bot, {}, PutBackRefused(own, wanted)};
+    if (ReadFault(wanted))
+      PutBackUnread(own, Json::json_pointer(), wanted, edited.refused);
     for (Error& error : edited.refused) error.file = file;
     for (const ValueAtPath& value : values) {
       Json& place = AtPath(wanted, value.path);
       place = ValueFor(place, value, IsTextField(value.path));
     }
-    if (const auto refused = CheckAllNumbers(own, wanted); !refused.empty()) {
+    if (const auto refused = PutBackRefused(own, wanted); !refused.empty()) {
       throw JsonFault{refused.front()};
-    }
-    if (wanted.contains("arenaLord")) {
-      CheckArenaLord(own.at("arenaLord"), wanted["arenaLord"]);
-    }
-    if (wanted.contains("chats")) {
-      CheckChatLines(own.at("chats"), wanted["chats"]);
     }
     TakeDifference(BotDocumentFromJson(own, unknown),
                    BotDocumentFromJson(std::move(wanted), unknown), edited);

@@ -16,16 +16,6 @@ bool IsEnclosedInQuotes(const std::string& text) {
   return text.size() >= 2 && text.front() == '"' && text.back() == '"';
 }
 
-std::optional<Message> BoxRefusal(ParameterId field, const std::string& text) {
-  if (field == kNameField) return NameRefusal(text);
-  const bool is_version =
-      field == kVersionMajorField || field == kVersionMinorField;
-  if (is_version && !NumberFromText(text)) {
-    return Refusal("Error!", "Value must be a number!");
-  }
-  return std::nullopt;
-}
-
 }  // namespace
 
 std::optional<Message> NameRefusal(const std::string& name) {
@@ -44,6 +34,16 @@ std::optional<Message> NameRefusal(const std::string& name) {
       text += letter;
     }
     return Refusal("Name error!", std::move(text));
+  }
+  return std::nullopt;
+}
+
+std::optional<Message> BoxRefusal(ParameterId field, const std::string& text) {
+  if (field == kNameField) return NameRefusal(text);
+  const bool is_version =
+      field == kVersionMajorField || field == kVersionMinorField;
+  if (is_version && !NumberFromText(text)) {
+    return Refusal("Error!", "Value must be a number!");
   }
   return std::nullopt;
 }

@@ -18,6 +18,9 @@ using IdentityTexts = std::map<ParameterId, std::string>;
 /// one. The files are called after the name, so it must be a file name.
 std::optional<Message> NameRefusal(const std::string& name);
 
+/// The same for the text of any of the boxes.
+std::optional<Message> BoxRefusal(ParameterId field, const std::string& text);
+
 /// Tests the text of one box and stores it in the bot. A text that is refused
 /// is not stored; the user is told why. A fun name with a space is stored in
 /// double quotes, for the game reads but one word without them.

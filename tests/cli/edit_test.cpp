@@ -205,6 +205,41 @@ TEST_F(EditCommand, WritesWhatItCanOfADocument) {
   EXPECT_EQ(folder_.Read("rook_w.c"), weights);
 }
 
+TEST_F(EditCommand, NamesWhatOfADocumentNoBotCanHaveAndTakesTheRest) {
+  constexpr const char* kDescription =
+      "{\nname Rook\nmodel sarge\naifile bots/rook_c.c\n}\n";
+  struct Case {
+    const char* json;
+    const char* reason;
+  };
+  for (const Case& one : {
+           Case{R"("name": "../evil")",
+                "\"Name\" cannot be \"../evil\". Bot "
+                "name can't have any of these"},
+           Case{R"("name": "two words")", "Bot name can't have any spaces."},
+           Case{R"("name": "")", "Bot must have a name!"},
+           Case{R"("name": "\u0416")", "name: the text has a character that"},
+           Case{R"("versionMajor": "x")", "Value must be a number!"},
+           Case{R"("arenaLord": "yes")", "a whole number is wanted here."},
+           Case{R"("chats": {"kill_rail": [""]})", "a chat line is empty."},
+           Case{R"("chats": {"kill_rail": ["a", 1]})", "a text is wanted"},
+       }) {
+    folder_.Write("rook.bot", kDescription);
+    folder_.Write("rook_w.c", kWeights);
+    const Outcome part =
+        Run({"--from", "-"},
+            "{" + std::string(one.json) +
+                R"(, "skin": "Red", "weaponWeights": {"W_GAUNTLET": 45}})");
+    EXPECT_EQ(part.status, 1) << one.json;
+    EXPECT_THAT(part.err, HasSubstr(one.reason));
+    EXPECT_THAT(folder_.Read("rook.bot"),
+                HasSubstr("name Rook\nmodel sarge/red\n"))
+        << one.json;
+    EXPECT_THAT(folder_.Read("rook_w.c"), HasSubstr("W_GAUNTLET 45\n"));
+    EXPECT_THAT(folder_.Read("rook_t.c"), HasSubstr("\t\t\"one\";\n"));
+  }
+}
+
 TEST_F(EditCommand, NamesFilesInTheDifferenceFromTheirRoot) {
   folder_.Write("set/botfiles/bots/rook_c.c",
                 "#include \"chars.h\"\nskill 4\n{\n"
