@@ -69,14 +69,16 @@ Result<void> SaveFile(const fs::path& path, std::string_view bytes) {
   return done;
 }
 
-std::string Utf8FromPath(const fs::path& path) { return BytesFromPath(path); }
+std::string Utf8FromPath(const fs::path& path) {
+  return BytesFromPath(fs::path(path).make_preferred());
+}
 
 fs::path PathFromGameText(std::string_view text) {
   return PathFromBytes(Utf8FromGameText(text));
 }
 
 std::optional<std::string> GameTextFromPath(const fs::path& path) {
-  return GameTextFromUtf8(Utf8FromPath(path));
+  return GameTextFromUtf8(BytesFromPath(path));
 }
 
 bool IsFileName(std::string_view name) {

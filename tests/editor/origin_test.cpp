@@ -83,8 +83,9 @@ class Origin : public WindowFixture {
     for (const auto& entry :
          fs::recursive_directory_iterator(folder_ / place)) {
       if (!entry.is_regular_file()) continue;
-      contents[BytesFromPath(entry.path().lexically_relative(
-          folder_ / place))] = *ReadFile(entry.path());
+      contents
+          [entry.path().lexically_relative(folder_ / place).generic_string()] =
+              *ReadFile(entry.path());
     }
     return contents;
   }
@@ -255,7 +256,7 @@ TEST_F(Origin, LeavesADescriptionThatWasNotRead) {
     Choose("mnuSaveAgain");
     EXPECT_EQ(Contents("a"), old_files);
     EXPECT_THAT(prompts_.log,
-                ElementsAre(AllOf(HasSubstr(BytesFromPath(description)),
+                ElementsAre(AllOf(HasSubstr(Utf8FromPath(description)),
                                   HasSubstr("was not read with this bot"))));
     EXPECT_EQ(*ReadFile(description), before);
     EXPECT_TRUE(is_changed());
@@ -316,7 +317,7 @@ TEST_F(Origin, OffersAPackageThatHidesTheFilesAnew) {
   Open(file);
   Press(Qt::Key_End);
   Choose("mnuSaveAgain");
-  EXPECT_THAT(prompts_.log, ElementsAre(AllOf(HasSubstr(BytesFromPath(package)),
+  EXPECT_THAT(prompts_.log, ElementsAre(AllOf(HasSubstr(Utf8FromPath(package)),
                                               HasSubstr("make it anew?"),
                                               Not(HasSubstr("Other files")))));
   EXPECT_FALSE(is_changed());

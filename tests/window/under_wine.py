@@ -45,12 +45,24 @@ def settings(work, unzip):
 def make_the_bot(command, made, picture):
     process = subprocess.Popen(command)
     window(TITLE)
-    key("ctrl+shift+n")
+    # No line of it is drawn by chance.
+    key("ctrl+n")
     write("Winnie")
     key("Tab")
     write("Winnie ^1the ^7Pooh")
-    key("Tab")
-    key(*["ctrl+Tab"] * 3)
+    key("ctrl+f")
+    window("Find")
+    write("game entry")
+    key("Return")
+    window(TITLE)
+    key("alt+i")
+    write("Who took {{the}} honey?")
+    key("ctrl+f")
+    window("Find")
+    write("rocket launcher")
+    key("Return")
+    window(TITLE)
+    key("End")
     if shutil.which("import"):
         subprocess.run(["import", "-window", "root", picture], check=False)
     # From the first menu, opened with the mouse, to the third.
