@@ -2,7 +2,9 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractItemModelTester>
+#include <QContextMenuEvent>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPushButton>
 #include <QStatusBar>
 #include <QTest>
@@ -84,6 +86,18 @@ TEST_F(Library, FindsSortsAndFiltersBots) {
     QTest::keyClicks(filter, "!");
     EXPECT_THAT(Rows(dialog), ElementsAre());
     EXPECT_FALSE(dialog.findChild<QPushButton*>("cmdOpenBot")->isEnabled());
+    filter->clear();
+    // The menu of a row offers what the buttons do.
+    QContextMenuEvent by_key(QContextMenuEvent::Keyboard, {5, 5},
+                             list->viewport()->mapToGlobal(QPoint(5, 5)));
+    QApplication::sendEvent(list->viewport(), &by_key);
+    auto* const menu = dialog.findChild<QMenu*>();
+    ASSERT_NE(menu, nullptr);
+    EXPECT_TRUE(menu->isVisible());
+    ASSERT_EQ(menu->actions().size(), 4);
+    EXPECT_TRUE(menu->actions().front()->isEnabled());
+    EXPECT_FALSE(menu->actions().back()->isEnabled());
+    menu->close();
     dialog.reject();
   });
 }

@@ -8,6 +8,7 @@
 #include <QListWidget>
 #include <QMenuBar>
 #include <QSlider>
+#include <QTextBrowser>
 #include <algorithm>
 #include <array>
 #include <string>
@@ -197,6 +198,8 @@ TEST_F(Menu, OpensWhatStaysBesideTheWindow) {
     Choose(item);
     auto* const manual = Find<QDialog>("frmManual");
     EXPECT_TRUE(manual->isVisible()) << item;
+    EXPECT_FALSE(manual->findChild<QTextBrowser*>()->toHtml().contains(
+        QLatin1String("<img")));
     const auto* const current =
         manual->findChild<QListWidget*>()->currentItem();
     std::string text =

@@ -38,12 +38,20 @@ CHATS = {
 }
 # What the other bots of the list are called, and by whom they are packed.
 SERVER = "/usr/games/openarena-server"
-OTHERS = ["Anvil", "Bellows", "Clinker", "Rivet", "Tongs"]
+OTHERS = {"Anvil": ("^7An^5vil", "Clinker", "blue"),
+          "Bellows": ("^2Bellows", "Tinker", "default"),
+          "Hammer": ("^1Ham^7mer", "Clinker", "red"),
+          "Rivet": ("^6Ri^7vet", "Tinker", "red"),
+          "Tongs": ("^4Tongs ^7of ^4Ice", "Cinder", "blue")}
+# The glow of the heads: blue, green, red.
+MODELS = {"Cinder": (0x2d, 0x8c, 0xf8), "Clinker": (0x9a, 0xb4, 0xc8),
+          "Tinker": (0x5a, 0xc8, 0x6e)}
+TEAMS = {"default": None, "red": (0x30, 0x30, 0xe0), "blue": (0xf0, 0x80, 0x40)}
 
 
-def icon():
+def icon(glow):
     """A targa file: the glowing head of a bot."""
-    ground, glow, eye = (0x26, 0x20, 0x1b), (0x2d, 0x8c, 0xf8), (0, 0, 0)
+    ground, eye = (0x26, 0x20, 0x1b), (0, 0, 0)
     parts = [((20, 20, 44, 44), glow), ((30, 12, 34, 20), glow),
              ((14, 26, 18, 38), glow), ((46, 26, 50, 38), glow),
              ((26, 27, 30, 31), eye), ((34, 27, 38, 31), eye),
@@ -106,25 +114,36 @@ def prepare(built, cli):
     (own / "fgs.ini").write_bytes("\r\n".join([*lines, ""]).encode())
     (HOME / "tools").symlink_to(built)
     with zipfile.ZipFile(packages / "md3-cinder.pk3", "w") as package:
-        package.writestr("models/players/Cinder/icon_default.tga", icon())
+        for model, glow in MODELS.items():
+            for skin, color in TEAMS.items():
+                package.writestr(f"models/players/{model}/icon_{skin}.tga",
+                                 icon(color or glow))
     arguments = ["--program-folder", str(own)]
     document = cinder(cli)
     make(cli, document, "--into", str(HOME / "bots"), *arguments)
-    for name in OTHERS:
-        make(cli, {**document, "name": name, "funName": name},
+    for name, (fun_name, model, skin) in OTHERS.items():
+        make(cli, {**document, "name": name, "funName": fun_name,
+                   "model": model, "skin": skin},
              "--into", str(packages), "--layout", "--pk3", *arguments)
     return arguments
 
 
-def take(name, folder, title):
-    """A picture of the window of this title, which is active."""
+def take(name, folder, title, part=None):
+    """A picture of the window of this title, which is active, or of a part of
+    it and of what lies over that: its size and place, such as 9x9+1+1."""
     xdotool("mousemove", "1279", "1023")
     time.sleep(0.4)
-    window = subprocess.check_output(["xdotool", "getactivewindow"],
-                                     text=True).strip()
+    window = xdotool("getactivewindow")
+    what = ["-frame", "-window", window]
+    if part:
+        place = dict(line.split("=") for line in xdotool(
+            "getwindowgeometry", "--shell", window).splitlines())
+        size, left, top = part.split("+")
+        left, top = int(place["X"]) + int(left), int(place["Y"]) + int(top)
+        what = ["-window", "root", "-crop", f"{size}+{left}+{top}", "+repage"]
     picture = folder / f"{name}.png"
     subprocess.run(
-        ["import", "-frame", "-window", window, "-strip", "-depth", "8",
+        ["import", *what, "-strip", "-depth", "8",
          "-quality", "91", "-define", "png:exclude-chunks=date,time",
          f"png24:{picture}"], check=True)
     print(f"{picture.name}: {title}, {picture.stat().st_size // 1024} KiB")
@@ -208,6 +227,30 @@ def main():
     key(*["ctrl+Tab"] * 7)
     editor.click("Death by rail", "list item")
     take("chat", folder, TITLE)
+
+    editor.focus("Text of the selected line", "text")
+    key("End")
+    write(" {")
+    time.sleep(0.5)
+    take("completion", folder, TITLE + "*", part="720x520+480+190")
+    key("Escape")
+    key("ctrl+z")
+    editor.window(TITLE)
+
+    key("alt+t", "b")
+    editor.window("Bot library")
+    time.sleep(2)  # Its faces and findings come behind the events.
+    take("library", folder, "Bot library")
+    key("Escape")
+    editor.window(TITLE)
+
+    editor.click("Choose a model and skin by its face", "push button")
+    editor.window("Choose a model and skin")
+    write("in")
+    time.sleep(1)
+    take("faces", folder, "Choose a model and skin")
+    key("Escape")
+    editor.window(TITLE)
 
     key("ctrl+f")
     editor.window("Find")

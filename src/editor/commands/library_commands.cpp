@@ -142,7 +142,7 @@ std::optional<BotLocation> LibraryCommands::LocationOf(
                        .package = *std::move(package),
                        .has_description = listed.HasBotScript};
   }
-  const RecentBot& bot = std::get<RecentBot>(entry.source);
+  const auto& bot = std::get<RecentBot>(entry.source);
   if (!bot.name.empty()) {
     return BotLocation{.name = bot.name, .folder = {}, .package = bot.path};
   }

@@ -2,6 +2,7 @@
 
 #include <QAccessible>
 #include <QCoreApplication>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QPushButton>
 
@@ -74,6 +75,17 @@ void HintLine::Say(const QString& hint) {
 
 void LetBoxLeadList(QLineEdit* box, QAbstractItemView* list) {
   new ListKeys(box, list);
+}
+
+void SetUpRows(QTreeWidget& list, const char* name,
+               const QString& accessible_name, const QStringList& headings) {
+  list.setObjectName(QLatin1String(name));
+  list.setAccessibleName(accessible_name);
+  list.setHeaderLabels(headings);
+  list.setRootIsDecorated(false);
+  list.setUniformRowHeights(true);
+  list.setAllColumnsShowFocus(true);
+  list.header()->setSectionResizeMode(QHeaderView::ResizeToContents);
 }
 
 void RefuseForeignCharacters(QLineEdit* box, HintLine* hint) {

@@ -6,6 +6,9 @@
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QString>
+#include <QStringList>
+#include <QTreeWidget>
 
 namespace fragsmith {
 
@@ -29,6 +32,10 @@ class HintLine : public QLabel {
 /// Up, Down and the keys of pages move in the list while the box, in which one
 /// looks for its rows, keeps the focus.
 void LetBoxLeadList(QLineEdit* box, QAbstractItemView* list);
+
+/// A list of rows with columns, whose widths follow from what is in them.
+void SetUpRows(QTreeWidget& list, const char* name,
+               const QString& accessible_name, const QStringList& headings);
 
 /// Refuses what the game's texts cannot hold; the line says so.
 void RefuseForeignCharacters(QLineEdit* box, HintLine* hint);

@@ -2,6 +2,7 @@
 
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QMenu>
 #include <QPainter>
 #include <QStyledItemDelegate>
 #include <QVBoxLayout>
@@ -106,6 +107,9 @@ frmLibrary::frmLibrary(std::vector<LibraryBot> bots, Work work,
   connect(filter_, &QLineEdit::textChanged, this, &frmLibrary::Filter);
   connect(list_, &QTreeView::doubleClicked, this,
           [this] { Finish(Action::kOpen); });
+  list_->setContextMenuPolicy(Qt::CustomContextMenu);
+  connect(list_, &QWidget::customContextMenuRequested, this,
+          &frmLibrary::ShowMenu);
   connect(list_->selectionModel(), &QItemSelectionModel::currentChanged, this,
           &frmLibrary::ShowButtons);
   checking_.setSingleShot(true);
@@ -186,6 +190,19 @@ void frmLibrary::ShowButtons() {
   for (QPushButton* const button : actions_) button->setEnabled(has_bot);
   remove_->setEnabled(has_bot &&
                       model_->At(static_cast<int>(Chosen())).has_own_package);
+}
+
+void frmLibrary::ShowMenu(const QPoint& place) {
+  auto* const menu = new QMenu(this);
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  std::vector<QPushButton*> buttons = actions_;
+  buttons.push_back(remove_);
+  for (QPushButton* const button : buttons) {
+    QAction* const action = menu->addAction(button->text());
+    action->setEnabled(button->isEnabled());
+    connect(action, &QAction::triggered, button, &QPushButton::click);
+  }
+  menu->popup(list_->viewport()->mapToGlobal(place));
 }
 
 void frmLibrary::Finish(Action action) {

@@ -53,6 +53,7 @@ class frmLibrary : public QDialog {
   void MakeList(FaceStore& faces);
   void Filter(const QString& text);
   void ShowButtons();
+  void ShowMenu(const QPoint& place);
   void Finish(Action action);
   void Remove();
   /// Checks a bot that was not checked yet, those in sight first.

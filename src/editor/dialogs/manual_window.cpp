@@ -24,7 +24,7 @@ QString Text() {
   QFile file(QStringLiteral(":/manual/manual.md"));
   if (!file.open(QIODevice::ReadOnly)) return {};
   static const QRegularExpression kPicture(
-      QStringLiteral("^!\\[[^\\]]*\\]\\([^)]*\\)\\n"),
+      QStringLiteral("^ *!\\[[^\\]]*\\]\\([^)]*\\)\\n"),
       QRegularExpression::MultilineOption);
   return QString::fromUtf8(file.readAll()).remove(kPicture);
 }

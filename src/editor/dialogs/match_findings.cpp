@@ -3,6 +3,8 @@
 #include <QHeaderView>
 #include <cstddef>
 
+#include "editor/dialogs/dialog_parts.h"
+
 namespace fragsmith {
 namespace {
 
@@ -11,14 +13,9 @@ enum Column { kVerdict, kSeen, kFound, kColumns };
 }  // namespace
 
 MatchFindings::MatchFindings(QWidget* parent) : QTreeWidget(parent) {
-  setObjectName(QStringLiteral("lstEvidence"));
-  setAccessibleName(tr("Findings and what the matches show"));
-  setHeaderLabels({tr("Matches"), tr("What was seen"), tr("Finding")});
-  setRootIsDecorated(false);
-  setUniformRowHeights(true);
-  setAllColumnsShowFocus(true);
-  header()->setSectionResizeMode(kVerdict, QHeaderView::ResizeToContents);
-  header()->setSectionResizeMode(kSeen, QHeaderView::ResizeToContents);
+  SetUpRows(*this, "lstEvidence", tr("Findings and what the matches show"),
+            {tr("Matches"), tr("What was seen"), tr("Finding")});
+  header()->setSectionResizeMode(kFound, QHeaderView::Interactive);
   connect(this, &QTreeWidget::itemActivated, this,
           [this](QTreeWidgetItem* item) {
             const int row = indexOfTopLevelItem(item);

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "chat/chat_catalogue.h"
+#include "editor/dialogs/dialog_parts.h"
 #include "editor/toolkit/game_text_conversion.h"
 #include "trial/match_words.h"
 
@@ -25,12 +26,7 @@ constexpr int kLineRole = Qt::UserRole;
 QTreeWidget* MakeList(const char* name, const QString& accessible_name,
                       const QStringList& headings, QWidget* parent) {
   auto* const list = new QTreeWidget(parent);
-  list->setObjectName(QLatin1String(name));
-  list->setAccessibleName(accessible_name);
-  list->setHeaderLabels(headings);
-  list->setRootIsDecorated(false);
-  list->setUniformRowHeights(true);
-  list->setAllColumnsShowFocus(true);
+  SetUpRows(*list, name, accessible_name, headings);
   list->setSortingEnabled(true);
   list->sortByColumn(0, Qt::DescendingOrder);
   return list;
@@ -115,14 +111,10 @@ QWidget* MatchResults::MakeLists() {
   connect(evidence_, &MatchFindings::PlaceWanted, this,
           &MatchResults::PlaceWanted);
   said_->header()->setStretchLastSection(false);
-  said_->header()->setSectionResizeMode(kTimes, QHeaderView::ResizeToContents);
   said_->header()->setSectionResizeMode(kLine, QHeaderView::Stretch);
-  said_->header()->setSectionResizeMode(kSituation,
-                                        QHeaderView::ResizeToContents);
   said_->setToolTip(tr("Double click or Enter leads to the line"));
   connect(said_, &QTreeWidget::itemActivated, this,
           [this](const QTreeWidgetItem* item) { GoToLine(*item); });
-  took_->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
   return lists_;
 }
 

@@ -5,7 +5,6 @@
 #include <QFileDialog>
 #include <QGuiApplication>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QMenu>
 #include <QScreen>
@@ -128,17 +127,12 @@ QWidget* frmMatch::MakeRuns() {
   heading->setBuddy(runs_);
   column->addWidget(heading);
   column->addWidget(runs_, 1);
-  runs_->setObjectName(QStringLiteral("lstRuns"));
-  runs_->setAccessibleName(tr("Runs of this session"));
-  runs_->setHeaderLabels(
+  SetUpRows(
+      *runs_, "lstRuns", tr("Runs of this session"),
       {tr("Bot"), tr("Against"), tr("Share"), tr("Matches"), tr("Skill, map")});
-  runs_->setRootIsDecorated(false);
-  runs_->setAllColumnsShowFocus(true);
   runs_->setSelectionMode(QAbstractItemView::ExtendedSelection);
   runs_->setToolTip(tr("Those that are selected stand in one picture"));
   runs_->setMinimumHeight(6 * fontMetrics().lineSpacing());
-  runs_->header()->setStretchLastSection(false);
-  runs_->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
   connect(runs_, &QTreeWidget::currentItemChanged, this,
           &frmMatch::ShowSelected);
   connect(runs_, &QTreeWidget::itemSelectionChanged, this,

@@ -1,8 +1,7 @@
 #include "editor/dialogs/strength_list.h"
 
-#include <QHeaderView>
-
 #include "chat/vocabulary.h"
+#include "editor/dialogs/dialog_parts.h"
 #include "editor/toolkit/game_text_conversion.h"
 #include "model/level.h"
 #include "trial/match_words.h"
@@ -16,14 +15,9 @@ enum Column { kValue, kWeak, kBefore, kNow, kStrong, kColumns };
 }  // namespace
 
 StrengthList::StrengthList(QWidget* parent) : QTreeWidget(parent) {
-  setObjectName(QStringLiteral("lstStrength"));
-  setAccessibleName(tr("Values that make it weaker or stronger"));
-  setHeaderLabels({tr("Value"), tr("Weak end"), tr("As it was"), tr("Now"),
-                   tr("Strong end")});
-  setRootIsDecorated(false);
-  setUniformRowHeights(true);
-  setAllColumnsShowFocus(true);
-  header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  SetUpRows(*this, "lstStrength", tr("Values that make it weaker or stronger"),
+            {tr("Value"), tr("Weak end"), tr("As it was"), tr("Now"),
+             tr("Strong end")});
   for (const StrengthEnds& ends : AllStrengthEnds()) {
     for (const Level level : kLevels) {
       auto* const item = new QTreeWidgetItem(this);

@@ -200,11 +200,11 @@ void PageTabs::paintEvent(QPaintEvent* event) {
   if (!IsList()) {
     QTabBar::paintEvent(event);
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
     for (const auto& [index, mark] : marks_) {
-      painter.setBrush(SeverityColor(mark.gravest, palette()));
-      painter.drawEllipse(tabRect(index).topRight() + QPoint(-8, 7), 3, 3);
+      // Above the caption, which takes the whole width.
+      const QRect tab = tabRect(index).adjusted(kInside, 3, -kInside, 0);
+      painter.fillRect(QRect(tab.topLeft(), QSize(tab.width(), 2)),
+                       SeverityColor(mark.gravest, palette()));
     }
     return;
   }

@@ -76,8 +76,12 @@ void MakeOutlinesVisible() {
     }
     QApplication::setPalette(palette, widget);
   }
-  QApplication::setPalette(QApplication::palette("QAbstractItemView"),
-                           "QComboBoxListView");
+  // What is inside of views of these kinds.
+  for (const char* const widget : {"QComboBoxListView", "QHeaderView"}) {
+    QPalette palette = QApplication::palette("QAbstractItemView");
+    palette.setColor(QPalette::Window, ground);
+    QApplication::setPalette(palette, widget);
+  }
 }
 
 }  // namespace
