@@ -7,6 +7,7 @@
 
 #include "botfiles/value_format.h"
 #include "chat/vocabulary.h"
+#include "game/description_reader.h"
 #include "inplace/attempt.h"
 #include "model/characteristic_catalogue.h"
 #include "session/identity_rules.h"
@@ -19,18 +20,39 @@ namespace {
 constexpr std::string_view kNotLoaded =
     "It would not be read from there when the bot is loaded.";
 
-/// Why a value of this kind cannot stand in a file at all; empty where it can.
+/// Of a value of a characteristic or weight file.
 std::string OddValueRefusal(const Value& value) {
   const std::optional<double> number = ToNumber(value);
-  if (!number) {
-    return Contains(ToText(value), "\"")
-               ? "The game's files have no double quote within a text. Take it "
-                 "out."
-               : std::string();
+  if (number) {
+    return *number < 0 ? "The game's files have no negative numbers. Use 0 or "
+                         "more."
+                       : std::string();
   }
-  return *number < 0 ? "The game's files have no negative numbers. Use "
-                       "0 or more."
-                     : std::string();
+  const std::string text = ToText(value);
+  if (Contains(text, "\"")) {
+    return "The game's files have no double quote within a text. Take it out.";
+  }
+  return Contains(text, "\\")
+             ? "The game takes a backslash in a text and the letter behind it "
+               "for one sign. Take it out."
+             : std::string();
+}
+
+/// Of the texts of a description.
+std::string RefusedSign(ParameterId field, const Bot& after) {
+  std::string text = ToText(after.Parameter(field));
+  if (field == kFunNameField) text = FunNameForBox(text);
+  if (field == kModelField) text += after.Text(kSkinField);
+  const std::size_t sign = text.find_first_of(kThrownAway);
+  if (sign != std::string::npos) {
+    return "The game throws away a line with " + text.substr(sign, 1) +
+           " in its value. Take it out.";
+  }
+  if (field == kModelField && text.find_first_of(" \t") != std::string::npos) {
+    return "No model and no skin of the game has a blank in its name. Take it "
+           "out.";
+  }
+  return {};
 }
 
 /// A better reason than that the number would not be loaded.
@@ -217,10 +239,9 @@ Plan PlanFor(const PlanContext& context, const FileChange& change) {
     return PlanChat(context, *type);
   }
   const ParameterId id = std::get<ParameterId>(change);
-  std::string refusal = OddValueRefusal(context.after.Parameter(id));
-  const bool is_description =
-      context.readers.file().kind == BotFile::kDescription;
-  if (!is_description && !refusal.empty()) {
+  std::string refusal =
+      ValueRefusal(context.readers.file().kind, change, context.after);
+  if (!refusal.empty()) {
     return {.attempts = {}, .refusal = std::move(refusal)};
   }
   switch (context.readers.file().kind) {
@@ -285,6 +306,14 @@ std::vector<FileChange> ChangesIn(BotFile kind, const Bot& before,
   return changes;
 }
 
+std::string ValueRefusal(BotFile kind, const FileChange& change,
+                         const Bot& after) {
+  const auto* const id = std::get_if<ParameterId>(&change);
+  if (id == nullptr) return {};
+  return kind == BotFile::kDescription ? RefusedSign(*id, after)
+                                       : OddValueRefusal(after.Parameter(*id));
+}
+
 std::vector<ParameterId> ChangesInNoFile(const Bot& before, const Bot& after) {
   std::vector<ParameterId> changes;
   for (const ParameterId id :
@@ -328,7 +357,11 @@ Result<std::string> EditInPlace(const BothReaders& readers,
         reading = std::move(read);
         break;
       }
-      if (refusal.empty()) refusal = std::move(*fault);
+      if (!refusal.empty()) continue;
+      const std::size_t line =
+          LineNumberAt(edited, attempt.splices.front().span.begin);
+      refusal = line == reading.first_error_line ? BrokenRefusal(reading)
+                                                 : *std::move(fault);
     }
     if (is_done) {
       if (readers.file().kind != BotFile::kDescription) {

@@ -12,6 +12,7 @@
 #include "chat/vocabulary.h"
 #include "game/lexer.h"
 #include "inplace/file_reading.h"
+#include "inplace/game_weights.h"
 #include "model/characteristic_catalogue.h"
 #include "support/numbers.h"
 #include "support/text.h"
@@ -137,6 +138,17 @@ void TakeGameNumbers(BotFile kind, const std::string& shown,
     if (reading.report.spans.contains(found.parameter) && !is_one_of_many) {
       numbers.Take(found.parameter, found.own.number);
     }
+  }
+  // Without the weight code our own macros are weights by themselves.
+  for (const auto& [id, spans] : reading.report.spans) {
+    if (kind == BotFile::kCharacteristics ||
+        std::ranges::count(reading.found, id, &FoundWeight::parameter) > 0) {
+      continue;
+    }
+    const OwnMacro* const macro = MacroOf(reading.weights, id);
+    const std::optional<double> number =
+        macro == nullptr ? std::nullopt : GameNumberOf(*macro, bytes);
+    if (number) numbers.Take(id, *number);
   }
   numbers.Tell(shown);
 }
