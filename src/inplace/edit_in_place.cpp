@@ -175,6 +175,28 @@ std::optional<std::string> FaultOf(const Attempt& attempt,
   return std::nullopt;
 }
 
+/// True for a value in the very line that the game stumbles over.
+bool IsWhereItBreaks(const Attempt& attempt, std::string_view bytes,
+                     const FileReading& reading) {
+  return reading.first_error_line ==
+         LineNumberAt(bytes, attempt.splices.front().span.begin);
+}
+
+/// Why a change that was tried in vain stays out, as its error.
+Error RefusalOf(const FileChange& change, const PlanContext& context,
+                std::string refusal) {
+  if (refusal.empty()) refusal = kNoNeighbours;
+  if (const auto* const id = std::get_if<ParameterId>(&change);
+      id != nullptr && refusal == kNotLoaded) {
+    std::string better = RefusedDigits(context.after.Parameter(*id));
+    if (!better.empty()) refusal = std::move(better);
+  }
+  return {.what = NameOf(change) + " cannot be changed in place. " + refusal,
+          .file = context.readers.file().shown,
+          .line = 0,
+          .advice = {}};
+}
+
 /// Our reader takes a comment behind a number along, and has a text then.
 void NoteComment(const FileReading& reading, std::string_view bytes,
                  const FileChange& change, const Bot& after, Plan& plan) {
@@ -337,8 +359,9 @@ Result<std::string> EditInPlace(const BothReaders& readers,
   spellings.insert(readers.file().spellings.begin(),
                    readers.file().spellings.end());
   for (const FileChange& change : changes) {
-    Plan plan =
-        PlanFor({readers, reading, edited, after, chooser, spellings}, change);
+    const PlanContext context = {readers, reading, edited,
+                                 after,   chooser, spellings};
+    Plan plan = PlanFor(context, change);
     std::string refusal = plan.refusal;
     bool is_done = plan.is_needless;
     const std::vector<TextSpan> comments = CommentsIn(edited);
@@ -358,10 +381,9 @@ Result<std::string> EditInPlace(const BothReaders& readers,
         break;
       }
       if (!refusal.empty()) continue;
-      const std::size_t line =
-          LineNumberAt(edited, attempt.splices.front().span.begin);
-      refusal = line == reading.first_error_line ? BrokenRefusal(reading)
-                                                 : *std::move(fault);
+      refusal = IsWhereItBreaks(attempt, edited, reading)
+                    ? BrokenRefusal(reading)
+                    : *std::move(fault);
     }
     if (is_done) {
       if (readers.file().kind != BotFile::kDescription) {
@@ -370,17 +392,7 @@ Result<std::string> EditInPlace(const BothReaders& readers,
       TakeNotes(plan, readers.file().shown, told.notes);
       continue;
     }
-    if (refusal.empty()) refusal = kNoNeighbours;
-    if (const auto* const id = std::get_if<ParameterId>(&change);
-        id != nullptr && refusal == kNotLoaded) {
-      std::string better = RefusedDigits(after.Parameter(*id));
-      if (!better.empty()) refusal = std::move(better);
-    }
-    Error error = {
-        .what = NameOf(change) + " cannot be changed in place. " + refusal,
-        .file = readers.file().shown,
-        .line = 0,
-        .advice = {}};
+    Error error = RefusalOf(change, context, std::move(refusal));
     if (told.refused == nullptr) return Failure(std::move(error));
     told.refused->push_back({change, std::move(error)});
   }
