@@ -4,6 +4,9 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <array>
+#include <charconv>
 #include <cstdio>
 #include <fstream>
 
@@ -41,6 +44,30 @@ std::vector<std::string> ReadLines(const std::filesystem::path& path) {
     lines.push_back(line);
   }
   return lines;
+}
+
+std::vector<PlainWord> SplitWords(std::string_view text) {
+  constexpr auto kIsBetween = [] {
+    std::array<bool, 256> is_between{};
+    for (const char sign : std::string_view(" \t\r\n\",;{}")) {
+      is_between.at(static_cast<unsigned char>(sign)) = true;
+    }
+    return is_between;
+  }();
+  const auto is_between = [&kIsBetween](char letter) {
+    return kIsBetween[static_cast<unsigned char>(letter)];
+  };
+  std::vector<PlainWord> words;
+  const char* const end = text.data() + text.size();
+  for (const char* at = text.data();;) {
+    at = std::find_if_not(at, end, is_between);
+    if (at == end) return words;
+    const char* const behind = std::find_if(at, end, is_between);
+    PlainWord& word = words.emplace_back();
+    word.text = std::string_view(at, static_cast<std::size_t>(behind - at));
+    std::from_chars(at, behind, word.number);
+    at = behind;
+  }
 }
 
 bool WriteWhole(const std::filesystem::path& target, std::string_view bytes) {

@@ -22,6 +22,14 @@ std::vector<std::string_view> SplitLines(std::string_view text);
 /// string for each line.
 std::vector<std::string> ReadLines(const std::filesystem::path& path);
 
+/// The words between blanks, quotation marks and signs, each with its number
+/// where it is one: what has to be done before anything is understood.
+struct PlainWord {
+  std::string_view text;
+  double number = 0;
+};
+std::vector<PlainWord> SplitWords(std::string_view text);
+
 /// Writes the bytes to a new file beside the target, flushes it to the disk
 /// and renames it over the target. False when a step fails.
 bool WriteWhole(const std::filesystem::path& target, std::string_view bytes);

@@ -30,6 +30,8 @@ PAIRS = [
     ("Read a bot's five files", [
         ("BotRead", "BotReadPlain", "read and split, standard library", 3),
         ("BotRead", "BotReadFloor", "read and split, bare system calls", 3),
+        ("BotRead", "BotReadTwice",
+         "read, and split into words and numbers twice", 3),
         ("BotParse", "BotParseFloor", "split, all in memory", None),
     ]),
     ("Write a bot's five files", [

@@ -82,9 +82,12 @@ void ValueReader::AddNote(std::size_t line, std::string text, NoteKind kind) {
 }
 
 ValueReader::Seen& ValueReader::SeenOf(ParameterId id) {
-  const auto [seen, is_new] = seen_.try_emplace(id);
-  if (is_new) seen->second.before = bot_.Parameter(id);
-  return seen->second;
+  std::uint16_t& place = seen_at_.at(static_cast<std::size_t>(id.number()));
+  if (place == 0) {
+    seen_.push_back({.id = id, .before = bot_.Parameter(id)});
+    place = static_cast<std::uint16_t>(seen_.size());
+  }
+  return seen_[place - 1U];
 }
 
 void ValueReader::Take(const KeyedLine& line, ParameterId id, IsTold is_told) {
@@ -144,9 +147,10 @@ void ValueReader::TakeAsGame(std::size_t line, ParameterId id, Value value,
 }
 
 void ValueReader::Finish() {
-  for (const auto& [id, seen] : seen_) {
-    report_.given.insert(report_.given.end(), id);
-    Compare(id, seen);
+  std::ranges::sort(seen_, {}, &Seen::id);
+  for (const Seen& seen : seen_) {
+    report_.given.insert(report_.given.end(), seen.id);
+    Compare(seen);
   }
   TellOverwritten();
   for (const auto& [level, zeros] : zeros_) {
@@ -163,10 +167,11 @@ void ValueReader::Finish() {
   notes_.clear();
 }
 
-void ValueReader::Compare(ParameterId id, const Seen& seen) {
+void ValueReader::Compare(const Seen& seen) {
+  const ParameterId id = seen.id;
   const Value& read = bot_.Parameter(id);
   const Value& plain = seen.plain ? *seen.plain : seen.before;
-  if (IsSameValue(read, plain)) return CompareWithSaved(id, seen);
+  if (IsSameValue(read, plain)) return CompareWithSaved(seen);
   report_.plain_values.insert_or_assign(id, plain);
   if (seen.is_told) return;
   const std::string what = Describe(id) + ": ";
@@ -189,7 +194,8 @@ void ValueReader::Compare(ParameterId id, const Seen& seen) {
   }
 }
 
-void ValueReader::CompareWithSaved(ParameterId id, const Seen& seen) {
+void ValueReader::CompareWithSaved(const Seen& seen) {
+  const ParameterId id = seen.id;
   if (IsIdentity(id)) return;
   const Value& read = bot_.Parameter(id);
   const bool is_optional = id.level() && kOptionalRange.Contains(id.index());

@@ -1,7 +1,9 @@
 #ifndef FRAGSMITH_BOTFILES_KEYED_LINE_H_
 #define FRAGSMITH_BOTFILES_KEYED_LINE_H_
 
+#include <array>
 #include <cstddef>
+#include <cstdint>
 #include <map>
 #include <optional>
 #include <string>
@@ -76,6 +78,7 @@ class ValueReader {
 
  private:
   struct Seen {
+    ParameterId id;
     Value before;
     std::size_t line = 0;  ///< That gave the bot its value; 0 for none.
     bool is_comment = false;
@@ -85,16 +88,21 @@ class ValueReader {
     bool is_told = false;
   };
 
+  /// All numbers of parameters are below it.
+  static constexpr std::size_t kNumbers = 600;
+
   Seen& SeenOf(ParameterId id);
-  void Compare(ParameterId id, const Seen& seen);
-  void CompareWithSaved(ParameterId id, const Seen& seen);
+  void Compare(const Seen& seen);
+  void CompareWithSaved(const Seen& seen);
   void TellOverwritten();
 
   std::string file_;
   Bot& bot_;
   ReadReport& report_;
   std::vector<Note> notes_;
-  std::map<ParameterId, Seen> seen_;
+  std::vector<Seen> seen_;
+  /// By the number of the parameter: its place among these, from 1.
+  std::array<std::uint16_t, kNumbers> seen_at_{};
   std::size_t first_overwritten_ = 0;
   /// What the note says of each.
   std::map<ParameterId, std::string> overwritten_;

@@ -204,7 +204,8 @@ class ChatReader {
       return AddOddity({"An empty chat line", ": a save leaves it out."});
     }
     const std::string saved = ChatLineToFile(type_, text);
-    if (saved == code) return;
+    // A variable at the start has a blank in front.
+    if (TrimBlanksAndTabs(saved) == code) return;
     const bool says_the_same =
         Contains(code, "\"") && Condensed(saved) == Condensed(code);
     if (!says_the_same) {

@@ -119,7 +119,8 @@ class SetReader {
     while (true) {
       const bool is_end = words_.at_end();
       const std::string key = words_.Next(false);
-      set_.span.end = words_.span().end;
+      key_span_ = words_.span();
+      set_.span.end = key_span_.end;
       const int last_line = std::exchange(line_, words_.line());
       if (key == "}") break;
       if (is_end) {
@@ -318,8 +319,11 @@ class SetReader {
     has_two_files_ = has_two_files_ || (EqualIgnoringCase(key, "aifile") &&
                                         !set_.Text("aifile").empty());
     if (!is_too_long && !IsThrownAway(key) && !IsThrownAway(value)) {
-      set_.values[ToLower(key)] = {std::move(value), line_, span};
+      set_.values[ToLower(key)] = {std::move(value), line_, span, key_span_};
       return;
+    }
+    if (!is_too_long && !IsThrownAway(key)) {
+      set_.thrown_away[ToLower(key)] = {value, line_, span, key_span_};
     }
     const bool is_told = is_stray && told_line_ == line_;
     if (is_told && !is_too_long) return;
@@ -341,6 +345,7 @@ class SetReader {
   DescriptionSet set_;
   std::size_t size_ = 0;
   int line_ = 0;
+  TextSpan key_span_;
   int told_line_ = 0;  ///< The last of which all that follows was told.
   std::string last_key_;
   std::string last_value_;

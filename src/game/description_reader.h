@@ -20,11 +20,14 @@ struct DescriptionSet {
     std::string text;
     int line = 0;
     TextSpan span;  ///< With its quotes; empty where nothing stands.
+    TextSpan key;
   };
   std::map<std::string, Value, std::less<>> values;  ///< Keys in lower case.
-  int line = 0;                                      ///< Of its {.
-  TextSpan span;                                     ///< From { to }.
-  int last_line = 0;                                 ///< Of its }.
+  /// The last values that the game throws away for a sign in them.
+  std::map<std::string, Value, std::less<>> thrown_away;
+  int line = 0;       ///< Of its {.
+  TextSpan span;      ///< From { to }.
+  int last_line = 0;  ///< Of its }.
   /// A value runs on behind the end of the file, into what the game read
   /// before, and so does what the game takes for this bot.
   bool is_open = false;

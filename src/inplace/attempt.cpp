@@ -96,7 +96,7 @@ std::string TwoPlacesRefusal(std::string_view bytes, TextSpan of_game,
 }
 
 std::string BrokenRefusal(const FileReading& reading) {
-  return "The game does not take this file as it is. " + reading.first_error;
+  return "The game does not take this file as it is: " + reading.first_error;
 }
 
 std::vector<Splice> Insertions(std::string_view bytes,

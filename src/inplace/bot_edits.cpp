@@ -94,6 +94,13 @@ void Edit(const BothReaders& readers, Result<std::string> old,
   if (is_changed) {
     edit.origin.spellings.merge(SpellingsIn(edit.old_bytes, reading));
   }
+  // A file written anew could not have such a value either.
+  const BotFile kind = readers.file().kind;
+  const bool is_hopeless = std::ranges::any_of(
+      ChangesIn(kind, before, after), [&](const FileChange& change) {
+        return !ValueRefusal(kind, change, after).empty();
+      });
+  if (is_hopeless) return;
   for (const Note& note : reading.report.notes.list()) {
     edit.losses.push_back(
         (note.line > 0 ? "Line " + std::to_string(note.line) + ": " : "") +
@@ -220,6 +227,18 @@ BothReaders ReadersOf(const OriginFiles& files, BotFile kind,
   return {std::move(file), LookUpBeside(origin, game)};
 }
 
+/// What is written has the values that it was to have, and for the game may be
+/// no good all the same.
+void NoteFault(const BothReaders& readers, FileEdit& edit) {
+  const std::optional<Complaint> fault = readers.FaultInGame(edit.bytes);
+  if (!fault) return;
+  edit.notes.Add({fault->place.file,
+                  static_cast<std::size_t>(std::max(fault->place.line, 0)),
+                  "The game does not take the file as it is, with this edit or "
+                  "without: " +
+                      fault->text});
+}
+
 BotEdits EditAll(const OriginFiles& files, const Bot& before, const Bot& after,
                  const IncludeLookup& game, const EditRules& rules) {
   BotEdits edits;
@@ -261,6 +280,7 @@ BotEdits EditAll(const OriginFiles& files, const Bot& before, const Bot& after,
         changes.empty() ? std::string() : NamedInstead(files, kind);
     if (edit.outcome == FileEdit::Outcome::kEdited) {
       NoteOthers(files, kind, before.Name(), edit.shown, edit.notes);
+      if (!is_broken) NoteFault(readers, edit);
     }
     const bool is_refused = edit.outcome == FileEdit::Outcome::kNotEditable;
     std::string reason;

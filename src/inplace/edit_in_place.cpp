@@ -7,6 +7,7 @@
 
 #include "botfiles/value_format.h"
 #include "chat/vocabulary.h"
+#include "game/description_reader.h"
 #include "inplace/attempt.h"
 #include "model/characteristic_catalogue.h"
 #include "session/identity_rules.h"
@@ -19,18 +20,39 @@ namespace {
 constexpr std::string_view kNotLoaded =
     "It would not be read from there when the bot is loaded.";
 
-/// Why a value of this kind cannot stand in a file at all; empty where it can.
+/// Of a value of a characteristic or weight file.
 std::string OddValueRefusal(const Value& value) {
   const std::optional<double> number = ToNumber(value);
-  if (!number) {
-    return Contains(ToText(value), "\"")
-               ? "The game's files have no double quote within a text. Take it "
-                 "out."
-               : std::string();
+  if (number) {
+    return *number < 0 ? "The game's files have no negative numbers. Use 0 or "
+                         "more."
+                       : std::string();
   }
-  return *number < 0 ? "The game's files have no negative numbers. Use "
-                       "0 or more."
-                     : std::string();
+  const std::string text = ToText(value);
+  if (Contains(text, "\"")) {
+    return "The game's files have no double quote within a text. Take it out.";
+  }
+  return Contains(text, "\\")
+             ? "The game takes a backslash in a text and the letter behind it "
+               "for one sign. Take it out."
+             : std::string();
+}
+
+/// Of the texts of a description.
+std::string RefusedSign(ParameterId field, const Bot& after) {
+  std::string text = ToText(after.Parameter(field));
+  if (field == kFunNameField) text = FunNameForBox(text);
+  if (field == kModelField) text += after.Text(kSkinField);
+  const std::size_t sign = text.find_first_of(kThrownAway);
+  if (sign != std::string::npos) {
+    return "The game throws away a line with " + text.substr(sign, 1) +
+           " in its value. Take it out.";
+  }
+  if (field == kModelField && text.find_first_of(" \t") != std::string::npos) {
+    return "No model and no skin of the game has a blank in its name. Take it "
+           "out.";
+  }
+  return {};
 }
 
 /// A better reason than that the number would not be loaded.
@@ -153,6 +175,28 @@ std::optional<std::string> FaultOf(const Attempt& attempt,
   return std::nullopt;
 }
 
+/// True for a value in the very line that the game stumbles over.
+bool IsWhereItBreaks(const Attempt& attempt, std::string_view bytes,
+                     const FileReading& reading) {
+  return reading.first_error_line ==
+         LineNumberAt(bytes, attempt.splices.front().span.begin);
+}
+
+/// Why a change that was tried in vain stays out, as its error.
+Error RefusalOf(const FileChange& change, const PlanContext& context,
+                std::string refusal) {
+  if (refusal.empty()) refusal = kNoNeighbours;
+  if (const auto* const id = std::get_if<ParameterId>(&change);
+      id != nullptr && refusal == kNotLoaded) {
+    std::string better = RefusedDigits(context.after.Parameter(*id));
+    if (!better.empty()) refusal = std::move(better);
+  }
+  return {.what = NameOf(change) + " cannot be changed in place. " + refusal,
+          .file = context.readers.file().shown,
+          .line = 0,
+          .advice = {}};
+}
+
 /// Our reader takes a comment behind a number along, and has a text then.
 void NoteComment(const FileReading& reading, std::string_view bytes,
                  const FileChange& change, const Bot& after, Plan& plan) {
@@ -217,10 +261,9 @@ Plan PlanFor(const PlanContext& context, const FileChange& change) {
     return PlanChat(context, *type);
   }
   const ParameterId id = std::get<ParameterId>(change);
-  std::string refusal = OddValueRefusal(context.after.Parameter(id));
-  const bool is_description =
-      context.readers.file().kind == BotFile::kDescription;
-  if (!is_description && !refusal.empty()) {
+  std::string refusal =
+      ValueRefusal(context.readers.file().kind, change, context.after);
+  if (!refusal.empty()) {
     return {.attempts = {}, .refusal = std::move(refusal)};
   }
   switch (context.readers.file().kind) {
@@ -285,6 +328,14 @@ std::vector<FileChange> ChangesIn(BotFile kind, const Bot& before,
   return changes;
 }
 
+std::string ValueRefusal(BotFile kind, const FileChange& change,
+                         const Bot& after) {
+  const auto* const id = std::get_if<ParameterId>(&change);
+  if (id == nullptr) return {};
+  return kind == BotFile::kDescription ? RefusedSign(*id, after)
+                                       : OddValueRefusal(after.Parameter(*id));
+}
+
 std::vector<ParameterId> ChangesInNoFile(const Bot& before, const Bot& after) {
   std::vector<ParameterId> changes;
   for (const ParameterId id :
@@ -308,8 +359,9 @@ Result<std::string> EditInPlace(const BothReaders& readers,
   spellings.insert(readers.file().spellings.begin(),
                    readers.file().spellings.end());
   for (const FileChange& change : changes) {
-    Plan plan =
-        PlanFor({readers, reading, edited, after, chooser, spellings}, change);
+    const PlanContext context = {readers, reading, edited,
+                                 after,   chooser, spellings};
+    Plan plan = PlanFor(context, change);
     std::string refusal = plan.refusal;
     bool is_done = plan.is_needless;
     const std::vector<TextSpan> comments = CommentsIn(edited);
@@ -328,7 +380,10 @@ Result<std::string> EditInPlace(const BothReaders& readers,
         reading = std::move(read);
         break;
       }
-      if (refusal.empty()) refusal = std::move(*fault);
+      if (!refusal.empty()) continue;
+      refusal = IsWhereItBreaks(attempt, edited, reading)
+                    ? BrokenRefusal(reading)
+                    : *std::move(fault);
     }
     if (is_done) {
       if (readers.file().kind != BotFile::kDescription) {
@@ -337,17 +392,7 @@ Result<std::string> EditInPlace(const BothReaders& readers,
       TakeNotes(plan, readers.file().shown, told.notes);
       continue;
     }
-    if (refusal.empty()) refusal = kNoNeighbours;
-    if (const auto* const id = std::get_if<ParameterId>(&change);
-        id != nullptr && refusal == kNotLoaded) {
-      std::string better = RefusedDigits(after.Parameter(*id));
-      if (!better.empty()) refusal = std::move(better);
-    }
-    Error error = {
-        .what = NameOf(change) + " cannot be changed in place. " + refusal,
-        .file = readers.file().shown,
-        .line = 0,
-        .advice = {}};
+    Error error = RefusalOf(change, context, std::move(refusal));
     if (told.refused == nullptr) return Failure(std::move(error));
     told.refused->push_back({change, std::move(error)});
   }

@@ -39,6 +39,11 @@ struct EditTold {
 std::vector<FileChange> ChangesIn(BotFile kind, const Bot& before,
                                   const Bot& after);
 
+/// Why what the bot has there can stand in no file of the kind, however it is
+/// written; empty where it can. Of chat lines it is not known.
+std::string ValueRefusal(BotFile kind, const FileChange& change,
+                         const Bot& after);
+
 /// In what they differ that no file holds in a way that is read again: version
 /// and comment.
 std::vector<ParameterId> ChangesInNoFile(const Bot& before, const Bot& after);

@@ -287,25 +287,23 @@ void BothReaders::ReadAsWeDo(std::string_view bytes,
   AddOurFacts(file_.kind, reading);
 }
 
-void BothReaders::ReadAsGame(std::string_view bytes,
+bool BothReaders::ReadAsGame(std::string_view bytes, Complaints& complaints,
                              FileReading& reading) const {
   const GameFile file = AsGameFile(bytes);
-  Complaints complaints;
   switch (file_.kind) {
     case BotFile::kDescription:
       reading.descriptions = ReadGameDescription(file, complaints);
-      break;
+      return true;
     case BotFile::kCharacteristics:
       for (const Level level : kLevels) {
         std::optional<CharacterBlock> block =
             ReadCharacterBlock(file, NumberOf(level), game_, complaints);
         if (block) reading.levels.emplace(level, std::move(*block));
       }
-      break;
+      return reading.levels.size() == kLevels.size();
     case BotFile::kChat:
-      ReadGameChat(file, ChatNameIn(bytes, file_.chat_names), game_, complaints,
-                   &reading.chat);
-      break;
+      return ReadGameChat(file, ChatNameIn(bytes, file_.chat_names), game_,
+                          complaints, &reading.chat);
     case BotFile::kItemWeights:
     case BotFile::kWeaponWeights:
       reading.weights = ReadGameWeights(file, game_, complaints);
@@ -316,20 +314,40 @@ void BothReaders::ReadAsGame(std::string_view bytes,
                                            : kWeaponWeightRange);
       break;
   }
-  for (const Complaint& complaint : complaints.list()) {
-    if (complaint.severity == Severity::kError) {
-      ++reading.errors[std::string(complaint.id)];
-      if (reading.first_error.empty()) reading.first_error = complaint.text;
-    }
-  }
-  AddGameFacts(reading);
+  return reading.weights.is_loaded;
 }
 
 FileReading BothReaders::Read(std::string_view bytes) const {
   FileReading reading;
   ReadAsWeDo(bytes, reading);
-  ReadAsGame(bytes, reading);
+  Complaints complaints;
+  ReadAsGame(bytes, complaints, reading);
+  for (const Complaint& complaint : complaints.list()) {
+    if (complaint.severity != Severity::kError) continue;
+    ++reading.errors[std::string(complaint.id)];
+    if (!reading.first_error.empty()) continue;
+    const FilePlace& place = complaint.place;
+    if (place.file != file_.shown) {
+      reading.first_error = place.file + ", ";
+    } else if (place.line > 0) {
+      reading.first_error_line = static_cast<std::size_t>(place.line);
+    }
+    if (place.line > 0) {
+      reading.first_error += "line " + std::to_string(place.line) + ": ";
+    }
+    reading.first_error += complaint.text;
+  }
+  AddGameFacts(reading);
   return reading;
+}
+
+std::optional<Complaint> BothReaders::FaultInGame(
+    std::string_view bytes) const {
+  // Every game has it, and nothing stands in for it.
+  Complaints complaints(game_("rnd.c").has_value());
+  FileReading reading;
+  const bool is_taken = ReadAsGame(bytes, complaints, reading);
+  return is_taken ? std::nullopt : complaints.FirstError(0);
 }
 
 ChatSpellings SpellingsIn(std::string_view bytes, const FileReading& reading) {

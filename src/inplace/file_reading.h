@@ -79,7 +79,8 @@ struct FileReading {
 
   Facts facts;
   std::map<std::string, int, std::less<>> errors;  ///< By the kind of fault.
-  std::string first_error;  ///< What the game says of it; empty without one.
+  std::string first_error;  ///< Where and what it is; empty without one.
+  std::size_t first_error_line = 0;  ///< In the file; 0 for no single one.
 };
 
 FactKey RuleFact(ParameterId id);
@@ -119,6 +120,10 @@ class BothReaders {
 
   FileReading Read(std::string_view bytes) const;
 
+  /// Why the game takes the file not at all, or not at every level; nothing
+  /// where it does. Without a game no file of its own is missing.
+  std::optional<Complaint> FaultInGame(std::string_view bytes) const;
+
   /// The lists of chat lines that the game has; empty without a game.
   const WordLists& lists() const { return lists_; }
 
@@ -127,7 +132,9 @@ class BothReaders {
 
  private:
   void ReadAsWeDo(std::string_view bytes, FileReading& reading) const;
-  void ReadAsGame(std::string_view bytes, FileReading& reading) const;
+  /// False where the game throws something of it away.
+  bool ReadAsGame(std::string_view bytes, Complaints& complaints,
+                  FileReading& reading) const;
   GameFile AsGameFile(std::string_view bytes) const;
 
   FileOfBot file_;

@@ -151,6 +151,17 @@ void TakeGameNumbers(BotFile kind, const std::string& shown,
       numbers.Take(found.parameter, found.own.number);
     }
   }
+  // Without the weight code our own macros are weights by themselves.
+  for (const auto& [id, spans] : reading.report.spans) {
+    if (kind == BotFile::kCharacteristics ||
+        std::ranges::count(reading.found, id, &FoundWeight::parameter) > 0) {
+      continue;
+    }
+    const OwnMacro* const macro = MacroOf(reading.weights, id);
+    const std::optional<double> number =
+        macro == nullptr ? std::nullopt : GameNumberOf(*macro, bytes);
+    if (number) numbers.Take(id, *number);
+  }
   numbers.Tell(shown);
 }
 

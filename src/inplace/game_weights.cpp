@@ -8,6 +8,7 @@
 #include "botfiles/left_out.h"
 #include "botfiles/weight_file.h"
 #include "chat/vocabulary.h"
+#include "game/lexer.h"
 #include "inplace/attempt.h"
 #include "inplace/splice.h"
 #include "model/characteristic_catalogue.h"
@@ -21,16 +22,6 @@ namespace {
 IndexRange RangeOf(BotFile kind) {
   return kind == BotFile::kWeaponWeights ? kWeaponWeightRange
                                          : kItemWeightRange;
-}
-
-/// The number of a plain macro, as the game takes it.
-double GameNumberOf(const OwnMacro& macro, const WeightsRead& weights) {
-  for (const GameWeight& weight : weights.weights) {
-    for (const WeightReturn& way : weight.returns) {
-      if (way.own && way.own->span == macro.value) return way.own->number;
-    }
-  }
-  return NumberFromText(macro.text).value_or(0);
 }
 
 /// Macros of the file that are no weights of the bot.
@@ -91,6 +82,20 @@ const OwnMacro* MacroOf(const WeightsRead& weights, ParameterId id) {
   return found == weights.macros.end() ? nullptr : &*found;
 }
 
+std::optional<double> GameNumberOf(const OwnMacro& macro,
+                                   std::string_view bytes) {
+  GameLexer lexer(TextAt(bytes, macro.value));
+  GameToken token;
+  GameToken behind;
+  lexer.Next(token);
+  if (token.Is("-")) lexer.Next(token);
+  if (token.kind != GameToken::Kind::kNumber ||
+      lexer.Next(behind) != GameLexer::Outcome::kEnd) {
+    return std::nullopt;
+  }
+  return token.number;
+}
+
 std::vector<FoundWeight> UnreadWeights(BotFile kind, std::string_view bytes,
                                        const FileReading& reading) {
   std::vector<FoundWeight> unread;
@@ -99,13 +104,15 @@ std::vector<FoundWeight> UnreadWeights(BotFile kind, std::string_view bytes,
     if (reading.report.spans.contains(id)) continue;
     const auto found =
         std::ranges::find(reading.found, id, &FoundWeight::parameter);
-    const OwnMacro* const macro = MacroOf(reading.weights, id);
     if (found != reading.found.end()) {
       unread.push_back(*found);
-    } else if (macro != nullptr && IsNumericText(macro->text) &&
-               IsOneLine(bytes, macro->value)) {
-      unread.push_back(
-          {id, {macro->value, GameNumberOf(*macro, reading.weights)}, {}});
+      continue;
+    }
+    const OwnMacro* const macro = MacroOf(reading.weights, id);
+    const std::optional<double> number =
+        macro == nullptr ? std::nullopt : GameNumberOf(*macro, bytes);
+    if (number && IsOneLine(bytes, macro->value)) {
+      unread.push_back({id, {macro->value, *number}, {}});
     }
   }
   return unread;

@@ -1,6 +1,7 @@
 #ifndef FRAGSMITH_INPLACE_GAME_WEIGHTS_H_
 #define FRAGSMITH_INPLACE_GAME_WEIGHTS_H_
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -19,6 +20,11 @@ std::string SourceOf(const OwnNumber& own, const WeightsRead& weights,
 
 /// The file's macro by which our files give the weight; null without one.
 const OwnMacro* MacroOf(const WeightsRead& weights, ParameterId id);
+
+/// What the game makes of a macro of the bytes that is a number and nothing
+/// else.
+std::optional<double> GameNumberOf(const OwnMacro& macro,
+                                   std::string_view bytes);
 
 /// The weights that our reader finds in no line of the file, and the game does:
 /// under other macros, as numbers, or in a spelling of the line that is its

@@ -8,11 +8,13 @@
 #include <utility>
 
 #include "botfiles/characteristic_file.h"
+#include "botfiles/description_file.h"
 #include "botfiles/left_out.h"
 #include "game/character_reader.h"
 #include "game/description_reader.h"
 #include "game/stand_ins.h"
 #include "inplace/origin_files.h"
+#include "inplace/splice.h"
 #include "model/file_names.h"
 #include "support/code_page.h"
 #include "support/files.h"
@@ -114,12 +116,17 @@ void NoteListedBots(const OriginFiles& files, const std::string& bot,
   if (!bytes) return;
   Complaints untold;
   NameList bots;
+  // The game's name of the bot itself may be another than its character's.
+  Bot own;
+  own.Put(kNameField, bot);
+  const TextSpan block =
+      ReadDescriptionFile(*bytes, {}, own, CalledBy(files)).block;
   for (const DescriptionSet& set :
        ReadGameDescription({{}, {}, *bytes}, untold)) {
     const std::string_view name = set.Text("name");
     if (EqualIgnoringCase(set.Text("aifile"),
                           InBots(NameAt(character->second))) &&
-        !EqualIgnoringCase(name, bot)) {
+        !EqualIgnoringCase(name, bot) && !Overlap(set.span, block)) {
       bots.Add(ShownText(name));
     }
   }

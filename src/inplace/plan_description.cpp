@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "botfiles/description_file.h"
+#include "botfiles/game_text.h"
 #include "chat/vocabulary.h"
 #include "game/limits.h"
 #include "inplace/attempt.h"
@@ -62,25 +63,24 @@ class DescriptionPlan {
 
   Plan Make() {
     const std::string key = Key();
-    const auto old = set_.values.find(key);
-    const bool is_there = old != set_.values.end() && !old->second.span.empty();
+    const DescriptionSet::Value* const old = LastOf(key);
+    const bool is_there = old != nullptr && !old->span.empty();
     const std::optional<std::string> text =
-        NewText(is_there ? old->second.text : std::string());
+        NewText(is_there ? old->text : std::string());
     Attempt attempt;
     attempt.expected[DescriptionFact(set_at_, key)] = text;
     ExpectFields(attempt);
-    if (is_there && old->second.text.ends_with('}')) {
+    if (is_there && old->text.ends_with('}')) {
       return {.attempts = {},
               .refusal =
                   "The game takes the brace behind the value for a part "
                   "of it. Put the brace into a line of its own first."};
     }
     if (is_there) {
-      attempt.splices.push_back(text ? Replacement(old->second.span, *text)
-                                     : LineRemoval(old->second.span, key));
-      Plan plan = {.attempts = {attempt},
-                   .refusal = text ? RefusedSign(*text) : std::string()};
-      if (text && plan.refusal.empty() && HasCommentBeside(old->second.span)) {
+      attempt.splices.push_back(text ? Replacement(old->span, *text)
+                                     : LineRemoval(old->span, key));
+      Plan plan = {.attempts = {attempt}, .refusal = {}};
+      if (text && HasCommentBeside(old->span)) {
         plan.refusal =
             "A load takes the comment in its line for a part of it. Put that "
             "into a line of its own first.";
@@ -100,15 +100,25 @@ class DescriptionPlan {
         plan.refusal = OtherLineRefusal(key, !text);
       }
       if (text) {
-        attempt.splices = {WithoutBlanks(old->second.span, *text)};
+        attempt.splices = {WithoutBlanks(old->span, *text)};
+        plan.attempts.push_back(attempt);
+      }
+      if (text && field_ == kModelField && !Contains(*text, "/")) {
+        // Behind another "/" in the line a load wants one of the model's own.
+        const std::string with_skin = *text + "/" + std::string(kDefaultSkin);
+        attempt.expected[DescriptionFact(set_at_, key)] = with_skin;
+        attempt.splices = {Replacement(old->span, with_skin)};
         plan.attempts.push_back(std::move(attempt));
       }
       return plan;
     }
     if (!text) return {.attempts = {}, .refusal = {}, .is_needless = true};
-    Plan plan = {.attempts = {}, .refusal = RefusedSign(*text)};
-    if (plan.refusal.empty()) {
-      plan.refusal = OtherLineRefusal(key, false);
+    Plan plan = {.attempts = {}, .refusal = OtherLineRefusal(key, false)};
+    if (old != nullptr) {
+      // The key stands there alone.
+      const std::size_t behind = old->key.end;
+      attempt.splices = {{{behind, behind}, "\t" + InFile(*text)}};
+      plan.attempts.push_back(attempt);
     }
     for (Splice& splice : NewLines(key, *text)) {
       attempt.splices = {std::move(splice)};
@@ -118,35 +128,30 @@ class DescriptionPlan {
   }
 
  private:
-  /// Why a text with this sign does not come back; empty without one.
-  std::string RefusedSign(std::string_view text) const {
-    const std::size_t sign = text.find_first_of(";\"\\");
-    if (sign != std::string_view::npos) {
-      return "The game throws away a line with " +
-             std::string(text.substr(sign, 1)) + " in its value. Take it out.";
+  /// The last line of the key. Its value may be one that the game throws away.
+  const DescriptionSet::Value* LastOf(const std::string& key) const {
+    const auto value = set_.values.find(key);
+    const auto thrown = set_.thrown_away.find(key);
+    if (value == set_.values.end() && thrown == set_.thrown_away.end()) {
+      return nullptr;
     }
-    if (field_ == kModelField &&
-        text.find_first_of(" \t") != std::string_view::npos) {
-      return "No model and no skin of the game has a blank in its name. Take "
-             "it out.";
-    }
-    return {};
+    const bool is_thrown = thrown != set_.thrown_away.end() &&
+                           (value == set_.values.end() ||
+                            value->second.key.begin < thrown->second.key.begin);
+    return is_thrown ? &thrown->second : &value->second;
   }
 
   /// Why a load does not have the value of the key from its line: it takes
   /// what stands behind the word in any line, up to the line's end. Empty where
   /// nothing is in the way.
   std::string OtherLineRefusal(const std::string& key, bool is_removal) const {
-    const auto own = set_.values.find(key);
-    const bool is_there = own != set_.values.end() && !own->second.span.empty();
+    const DescriptionSet::Value* const own = LastOf(key);
+    const bool is_there = own != nullptr && !own->span.empty();
     TextSpan line;
-    if (is_there) {
-      line = LineAround(context_.bytes, own->second.span.begin).text;
-    }
+    if (own != nullptr) line = LineAround(context_.bytes, own->key.begin).text;
     const bool shares_line =
         is_there &&
-        (Contains(TextAt(context_.bytes, {own->second.span.end, line.end}),
-                  "}") ||
+        (Contains(TextAt(context_.bytes, {own->span.end, line.end}), "}") ||
          std::ranges::any_of(set_.values, [&](const auto& other) {
            return other.first != key && Overlap(other.second.span, line);
          }));
@@ -163,16 +168,22 @@ class DescriptionPlan {
     if (spans == context_.reading.report.spans.end()) return {};
     std::optional<TextSpan> other;
     for (const TextSpan read : spans->second) {
-      if (!is_there || !Overlap(read, line)) {
+      if (own == nullptr || !Overlap(read, line)) {
         other = read;
       } else if (!is_removal) {
         other.reset();
       }
     }
     if (!other) return {};
-    return "A load takes it from line " +
-           std::to_string(LineNumberAt(context_.bytes, other->begin)) +
-           (is_removal ? " then" : "") +
+    const std::string number =
+        std::to_string(LineNumberAt(context_.bytes, other->begin));
+    const std::string_view other_line = TrimBlanksAndTabs(
+        TextAt(context_.bytes, LineAround(context_.bytes, other->begin).text));
+    if (EqualIgnoringCase(FirstToken(other_line), key)) {
+      return "Its key stands in line " + number +
+             ", too, and that line would count then. Take it out first.";
+    }
+    return "A load takes it from line " + number + (is_removal ? " then" : "") +
            ", where its key stands in another word. Take that line out" +
            (is_removal ? "" : ", or put it further up,") + " first.";
   }
@@ -260,9 +271,13 @@ class DescriptionPlan {
            Contains(text, "/*");
   }
 
+  static std::string InFile(const std::string& text) {
+    return NeedsQuotes(text) ? '"' + text + '"' : text;
+  }
+
   Splice Replacement(TextSpan span, const std::string& text) const {
     const bool is_quoted = context_.bytes[span.begin] == '"';
-    return {span, is_quoted || NeedsQuotes(text) ? '"' + text + '"' : text};
+    return {span, is_quoted ? '"' + text + '"' : InFile(text)};
   }
 
   bool HasCommentBeside(TextSpan span) const {
@@ -323,8 +338,7 @@ class DescriptionPlan {
         !spiral->second.span.empty()) {
       neighbours.before.insert(neighbours.before.begin(), spiral->second.span);
     }
-    return Insertions(context_.bytes, neighbours, padded,
-                      NeedsQuotes(text) ? '"' + text + '"' : text);
+    return Insertions(context_.bytes, neighbours, padded, InFile(text));
   }
 
   void ExpectFields(Attempt& attempt) const {

@@ -87,7 +87,7 @@ void AddReplacement(const PlanContext& context, ParameterId id, TextSpan span,
   attempt.splices.push_back({span, std::move(token)});
 }
 
-/// What the game reads once there is a macro that was missing is free.
+/// What the game reads once there is a number that was missing is free.
 void FreeWithNewMacro(const FileReading& reading, ParameterId id,
                       Attempt& attempt) {
   // Weight code that stopped at the lack reads on now.
@@ -138,6 +138,9 @@ std::vector<FactKey> GivenFactsOf(const FileReading& reading, ParameterId id) {
 Plan PlanNewMacro(const PlanContext& context, ParameterId id,
                   std::string_view name) {
   const FileReading& reading = context.reading;
+  if (!reading.found.empty() && !reading.first_error.empty()) {
+    return {.attempts = {}, .refusal = BrokenRefusal(reading)};
+  }
   if (!reading.found.empty()) {
     return {.attempts = {},
             .refusal =
@@ -238,9 +241,21 @@ Plan PlanOneOfMany(const PlanContext& context, const FoundWeight& found) {
   return plan;
 }
 
+/// True for "280", which the game takes for a text.
+bool IsQuotedNumber(std::string_view bytes, const OwnMacro& macro) {
+  return IsNumericText(macro.text) &&
+         TextAt(bytes, macro.value).starts_with('"');
+}
+
 /// Why a macro may not take a new number; empty where it has a plain one.
 std::string OddValueRefusal(const PlanContext& context, const OwnMacro* macro) {
-  if (macro == nullptr || IsNumericText(macro->text)) return {};
+  if (macro == nullptr) return {};
+  if (IsQuotedNumber(context.bytes, *macro)) {
+    return "The file gives " + macro->name +
+           " its number in quotation marks, and so the game does not take it. "
+           "Take them out first.";
+  }
+  if (IsNumericText(macro->text)) return {};
   if (macro->value.empty()) {
     return "The file gives " + macro->name +
            " no value. Write a number behind it first, such as 50.";
@@ -329,6 +344,9 @@ Plan PlanWeight(const PlanContext& context, ParameterId id) {
     ExpectOurs(id, FactOf(value), attempt);
     if (macro != nullptr) {
       attempt.expected[MacroFact(name)] = attempt.splices.front().text;
+      if (IsQuotedNumber(context.bytes, *macro)) {
+        FreeWithNewMacro(reading, id, attempt);
+      }
     }
     if (game_spans.empty()) attempt.moving = GivenFactsOf(reading, id);
     const bool is_of_game =

@@ -173,10 +173,11 @@ std::vector<Error> PutBackRefused(const Json& old, Json& wanted) {
     check(before, value, [&] { CheckArenaLord(before, value); });
   }
   if (!wanted.contains("chats") || !wanted["chats"].is_object()) return refused;
-  for (const auto& [key, before] : old.at("chats").items()) {
-    Json& value = wanted["chats"][key];
+  for (const auto& lines : old.at("chats").items()) {
+    const Json& before = lines.value();
+    Json& value = wanted["chats"][lines.key()];
     check(before, value,
-          [&] { CheckChatLines(before, value, "chats." + key); });
+          [&] { CheckChatLines(before, value, "chats." + lines.key()); });
   }
   return refused;
 }

@@ -112,6 +112,12 @@ TEST_F(EditCommand, RefusesWithTheReasonAndWritesNothing) {
   EXPECT_THAT(refused.err, HasSubstr("would lose or change:\n  Line "));
   EXPECT_EQ(folder_.Read("rook_w.c"), kWeights);
 
+  // A file written anew could not have it either.
+  refused = Run({"--set", "weaponWeights.W_GAUNTLET=-4"});
+  EXPECT_EQ(refused.status, 1);
+  EXPECT_THAT(refused.err, AllOf(HasSubstr("no negative numbers. Use 0 or"),
+                                 Not(HasSubstr("would lose or change"))));
+
   refused = Run({"--set", "comment=mine"});
   EXPECT_EQ(refused.status, 1);
   EXPECT_THAT(refused.err, HasSubstr("stands in none of the bot's files"));

@@ -7,8 +7,10 @@
 #include <string>
 
 #include "game/stand_ins.h"
+#include "inplace/file_reading.h"
 #include "inplace/origin_files.h"
 #include "install/packages/package_writer.h"
+#include "model/characteristic_catalogue.h"
 #include "tests/support/ids.h"
 #include "tests/support/test_folder.h"
 
@@ -93,8 +95,7 @@ TEST(EditBotFilesTest, SaysWhatReadsAnotherFileAndWhoReadsThis) {
     }
     return text;
   };
-  const std::string weights =
-      "#define W_GAUNTLET\t\t\t\t50\n#include \"fw_weap.c\"\n";
+  const std::string weights = "#define W_GAUNTLET\t\t\t\t50\n";
   TestFolder folder;
   folder.Write("rook_c.c", character("rook_w.c", "hard_w.c"));
   folder.Write("rook_w.c", weights);
@@ -132,6 +133,56 @@ TEST(EditBotFilesTest, SaysWhatReadsAnotherFileAndWhoReadsThis) {
   EXPECT_EQ(edits.files.at(BotFile::kWeaponWeights).notes.list().at(0).text,
             "The edit changes other bots too, which have the same files by "
             "bots.txt: Twin.");
+  // The bot itself, which its description calls otherwise.
+  const std::string own = "{\nname Tower\naifile bots/rook_c.c\n}\n";
+  folder.Write("rook.bot", own);
+  files[BotFile::kDescription] = {.path = folder / "rook.bot",
+                                  .fingerprint = FingerprintOf(own)};
+  edits = EditBotFiles(files, before, after, StandInGameFile);
+  EXPECT_EQ(edits.files.at(BotFile::kWeaponWeights).notes.list().size(), 2U);
+}
+
+TEST(EditBotFilesTest, SaysThatTheGameDoesNotTakeWhatIsEdited) {
+  const auto weights = [](const std::string& shotgun) {
+    std::string text = "#include \"inv.h\"\n";
+    for (const int index : kWeaponWeightRange) {
+      text += std::string(PaddedKey(index)) +
+              (index == 45   ? shotgun
+               : index == 50 ? "100"
+                             : "50") +
+              "\n";
+    }
+    return text + "#include \"fw_weap.c\"\n";
+  };
+  const auto notes_on = [&weights](const std::string& shotgun, int edited) {
+    TestFolder folder;
+    folder.Write("rook_w.c", weights(shotgun));
+    const OriginFiles files = {
+        {BotFile::kWeaponWeights,
+         {.path = folder / "rook_w.c",
+          .fingerprint = FingerprintOf(weights(shotgun))}}};
+    const Bot before =
+        BothReaders({BotFile::kWeaponWeights, {}, "rook"}, StandInGameFile)
+            .Read(weights(shotgun))
+            .bot;
+    Bot after = before;
+    after.Put(Id(edited), 70.0);
+    const BotEdits edits = EditBotFiles(files, before, after, StandInGameFile);
+    const FileEdit& edit = edits.files.at(BotFile::kWeaponWeights);
+    EXPECT_EQ(edit.outcome, FileEdit::Outcome::kEdited) << edit.reason.what;
+    std::string told;
+    for (const Note& note : edit.notes.list()) {
+      told += std::to_string(note.line) + ": " + note.text + "\n";
+    }
+    return told;
+  };
+  EXPECT_EQ(notes_on("(280)", 50),
+            "3: The game does not take the file as it is, with this edit or "
+            "without: The value of W_SHOTGUN must be one plain number, and "
+            "not \"(280)\". Write 280 and nothing else.\n");
+  EXPECT_EQ(notes_on("280", 50), "");
+  // The edit mends it.
+  EXPECT_EQ(notes_on("\"280\"", 45), "");
 }
 
 }  // namespace

@@ -258,12 +258,17 @@ TEST(EditInPlaceTest, SaysWhyAWeightThatIsNoPlainNumberStays) {
   EXPECT_EQ(plain.Difference(plain.Edited(kShotgun, -5.0)),
             "\"Shotgun usage\" cannot be changed in place. The game's files "
             "have no negative numbers. Use 0 or more.");
+  const LoadedFile open(BotFile::kWeaponWeights, "#define W_SHOTGUN 5\"0\n");
+  EXPECT_THAT(open.Difference(open.Edited(kShotgun, 60.0)),
+              HasSubstr("take this file as it is: line 1: A quotation mark"));
 }
 
 TEST(EditInPlaceTest, SaysInPlainWordsWhatTheFilesCannotHold) {
   const LoadedFile character(BotFile::kCharacteristics, kUglyCharacter);
   EXPECT_THAT(character.Difference(character.Edited(kGenderField, "x\"y")),
               EndsWith("no double quote within a text. Take it out."));
+  EXPECT_THAT(character.Difference(character.Edited(kGenderField, "x\\y")),
+              EndsWith("the letter behind it for one sign. Take it out."));
   const LoadedFile weights(
       BotFile::kWeaponWeights,
       "#define W_RAILGUN\t\t\t\t50\n#include \"fw_weap.c\"\n");
@@ -471,6 +476,40 @@ TEST(EditInPlaceTest, ReplacesAndTakesOutFieldsOfADescription) {
   }
   EXPECT_THAT(file.Difference(file.Edited(kModelField, "my model")),
               HasSubstr("has a blank in its name. Take it out."));
+}
+
+TEST(EditInPlaceTest, EditsLinesOfADescriptionThatSayNothingOrSayItAgain) {
+  struct Case {
+    const char* lines;
+    ParameterId field;
+    const char* value;
+    const char* difference;
+  };
+  for (const Case& one : {
+           // The game throws a value with a ; away, and knows the one before.
+           Case{"funname x;y\n", kFunNameField, "Joe",
+                "-funname x;y\n+funname\tJoe\n"},
+           Case{"funname a\nfunname x;y\n", kFunNameField, "Joe",
+                "-funname x;y\n+funname\tJoe\n"},
+           Case{"funname x;y\n", kFunNameField, "", "-funname x;y\n"},
+           Case{"funname a\nfunname b\n", kFunNameField, "",
+                "\"Funname\" cannot be changed in place. Its key stands in "
+                "line 4, too, and that line would count then. Take it out "
+                "first."},
+           Case{"funname\n", kFunNameField, "Joe", "-funname\n+funname\tJoe\n"},
+           Case{"color 4\ncolor 3\n", kRailColorField, "2",
+                "-color 3\n+color 2\n"},
+           // A load wants a "/" behind the key where one stands before it.
+           Case{"gender a/b model sarge\n", kModelField, "Major",
+                "-gender a/b model sarge\n+gender a/b model major/default\n"},
+       }) {
+    const LoadedFile file(BotFile::kDescription,
+                          "{\nname rook\naifile bots/rook_c.c\n" +
+                              std::string(one.lines) + "}\n");
+    EXPECT_EQ(file.Difference(file.Edited(one.field, std::string(one.value))),
+              one.difference)
+        << one.lines;
+  }
 }
 
 TEST(EditInPlaceTest, RefusesADescriptionWhoseLinesHoldMore) {

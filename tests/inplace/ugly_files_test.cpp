@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "chat/chat_catalogue.h"
+#include "inplace/game_values.h"
 #include "model/characteristic_catalogue.h"
 #include "tests/inplace/editing.h"
 #include "tests/inplace/game_view.h"
@@ -159,6 +160,23 @@ TEST(UglyFilesTest, RefusesALevelThatTheGameDoesNotRead) {
 }
 
 /// A value for all levels, which a load takes from where it stands last.
+TEST(UglyFilesTest, TakesNumbersOfOurMacrosAsTheGameDoes) {
+  const std::string bytes = std::string(PaddedKey(45)) + "0430\n" +
+                            std::string(PaddedKey(46)) + "0x10\n" +
+                            std::string(PaddedKey(47)) + "08\n" +
+                            "#define\tW_RAILGUN 0430\n#include \"fw_weap.c\"\n";
+  const LoadedFile file(BotFile::kWeaponWeights, bytes);
+  LoadedBot loaded;
+  loaded.bot = file.before();
+  TakeGameNumbers(BotFile::kWeaponWeights, "file", bytes, StandInGameFile,
+                  loaded);
+  EXPECT_EQ(loaded.plain_values,
+            (std::map<ParameterId, Value>{{Id(45), 280.0}, {Id(46), 16.0}}));
+  EXPECT_EQ(file.before().Parameter(kRailgun), Value(280.0));
+  EXPECT_EQ(file.Difference(file.Edited(kRailgun, 430.0)),
+            "-#define\tW_RAILGUN 0430\n+#define\tW_RAILGUN 430\n");
+}
+
 TEST(UglyFilesTest, LeavesLinesThatTheGamePassesOver) {
   const std::string half = Characteristic("CHAT_KILL", "0.5");
   const std::string more = Characteristic("CHAT_KILL", "0.7");
