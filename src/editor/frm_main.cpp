@@ -24,6 +24,7 @@
 #include "editor/panels/finding_marks.h"
 #include "editor/state/window_state.h"
 #include "editor/toolkit/game_text_conversion.h"
+#include "editor/toolkit/menu_key.h"
 #include "editor/toolkit/page_table.h"
 #include "support/files.h"
 #include "support/program_version.h"
@@ -83,6 +84,7 @@ frmMain::frmMain(ProgramState& state) : state_(state) {
             Say(text);
           });
   Connect();
+  OpenMenusByShiftF10(this);
   // Behind the connections: it checks a bot once the window has shown it, and
   // perhaps asked about its model.
   checker_ = new BotChecker(current_, this);

@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractItemModelTester>
-#include <QContextMenuEvent>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
@@ -88,9 +87,8 @@ TEST_F(Library, FindsSortsAndFiltersBots) {
     EXPECT_FALSE(dialog.findChild<QPushButton*>("cmdOpenBot")->isEnabled());
     filter->clear();
     // The menu of a row offers what the buttons do.
-    QContextMenuEvent by_key(QContextMenuEvent::Keyboard, {5, 5},
-                             list->viewport()->mapToGlobal(QPoint(5, 5)));
-    QApplication::sendEvent(list->viewport(), &by_key);
+    list->setFocus();
+    QTest::keyClick(list, Qt::Key_F10, Qt::ShiftModifier);
     auto* const menu = dialog.findChild<QMenu*>();
     ASSERT_NE(menu, nullptr);
     EXPECT_TRUE(menu->isVisible());
