@@ -36,7 +36,7 @@ constexpr std::array<std::string_view, 16> kGameFiles = {
     "botfiles/fw_items.c",
     "botfiles/bots/default_c.c",
     "botfiles/bots/default_w.c",
-    "scripts/bots.txt"};
+    kBotListPath};
 
 std::string FolderOf(const BotFileMember& row) {
   const bool is_description = row.file == BotFile::kDescription;

@@ -21,8 +21,8 @@ bool HasWeapon(const Bot& bot) {
 
 Mend UseMachinegun() {
   constexpr double kModest = 10;
-  return Safe(
-      SetTo(kMachinegunUsage, kModest, "Set \"Machinegun usage\" to 10"));
+  return Safe(SetTo(kMachinegunUsage, kModest,
+                    "Set " + QuotedName(kMachinegunUsage) + " to 10"));
 }
 
 }  // namespace
@@ -49,8 +49,9 @@ void CheckWeaponAtStart(const CheckContext& context, FindingList& findings) {
   }
   std::string text =
       HasWeapon(context.bot)
-          ? std::string(kWeaponlessText) +
-                R"( Set "Gauntlet usage" or "Machinegun usage" above 0.)"
+          ? std::string(kWeaponlessText) + " Set " +
+                QuotedName(kGauntletUsage) + " or " +
+                QuotedName(kMachinegunUsage) + " above 0."
           : "No weapon has a weight above 0 yet: the bot has none that it "
             "may draw, aims badly, and the game fills its console with "
             "errors. Give weights to the weapons that it is to use.";
@@ -70,8 +71,10 @@ void CheckGauntletFighter(const CheckContext& context, FindingList& findings) {
                            "the bot";
   text +=
       " fights with nothing else, whatever it carries. Give each weapon that "
-      "it is to use a larger weight than \"Gauntlet usage\".";
-  Mend mend = SetTo(kGauntletUsage, 1.0, "Set \"Gauntlet usage\" to 1");
+      "it is to use a larger weight than " +
+      QuotedName(kGauntletUsage) + ".";
+  Mend mend =
+      SetTo(kGauntletUsage, 1.0, "Set " + QuotedName(kGauntletUsage) + " to 1");
   // A larger weight of its own may be what its author wants.
   mend.is_safe = are_all_equal;
   findings.Add(kGauntletUsage, std::move(text), {std::move(mend)});

@@ -78,6 +78,21 @@ constexpr std::array<NamedWeight, 45> kNamedWeights = {{
     {"team_CTF_neutralflag", 80, Ways::kAll},
 }};
 
+static_assert(
+    [] {
+      for (int index = kWeaponWeightRange.first; index <= kItemWeightRange.last;
+           ++index) {
+        if (std::none_of(kNamedWeights.begin(), kNamedWeights.end(),
+                         [index](const NamedWeight& named) {
+                           return named.parameter == index;
+                         })) {
+          return false;
+        }
+      }
+      return true;
+    }(),
+    "A weight has no name in the game's weight code.");
+
 /// Less than one is none.
 bool IsForLacking(const WeightReturn::Case& way) {
   return way.below && *way.below <= 1;

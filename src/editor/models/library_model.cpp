@@ -6,6 +6,7 @@
 #include <limits>
 #include <utility>
 
+#include "chat/vocabulary.h"
 #include "editor/toolkit/severity_icon.h"
 
 namespace fragsmith {
@@ -118,7 +119,7 @@ QVariant LibraryModel::headerData(int section, Qt::Orientation orientation,
     case kName:
       return tr("Bot");
     case kFunName:
-      return tr("Fun name");
+      return QString::fromUtf8(ParameterName(kFunNameField));
     case kModel:
       return tr("Model and skin");
     case kFindings:

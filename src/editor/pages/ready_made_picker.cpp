@@ -11,6 +11,11 @@
 #include "game/spoken_line.h"
 
 namespace fragsmith {
+namespace {
+
+constexpr int kNumberRole = kRemarkRole + 1;
+
+}  // namespace
 
 ReadyMadePicker::ReadyMadePicker(QGridLayout& grid, int column, QObject* parent)
     : QObject(parent) {
@@ -67,7 +72,8 @@ void ReadyMadePicker::ShowNumbers() {
   const int group = groups_->currentRow();
   if (group < 0) return;
   for (const int number : MemberNumbers(group)) {
-    numbers_->addItem(QString::number(number));
+    auto* const item = new QListWidgetItem(QString::number(number), numbers_);
+    item->setData(kNumberRole, number);
   }
   numbers_->setCurrentRow(0);
   ShowRemarks();
@@ -79,9 +85,11 @@ void ReadyMadePicker::ShowRemarks() {
     QString remark;
     if (words_ != nullptr) {
       // The first of its lines, so that it reads the same each time.
-      const SpokenLine line = SpeakLine(
-          type_, GroupMember(groups_->currentRow(), item.text().toStdString()),
-          {}, *words_, [] { return 0.0; });
+      const SpokenLine line =
+          SpeakLine(type_,
+                    GroupMember(groups_->currentRow(),
+                                std::to_string(item.data(kNumberRole).toInt())),
+                    {}, *words_, [] { return 0.0; });
       remark = line.unknown_lists.empty() ? ToQString(line.text)
                                           : tr("(not in this game)");
     }
@@ -94,7 +102,7 @@ void ReadyMadePicker::ShowRemarks() {
 void ReadyMadePicker::Choose() {
   const QListWidgetItem* const number = numbers_->currentItem();
   if (groups_->currentRow() < 0 || number == nullptr) return;
-  emit Chosen(groups_->currentRow(), number->text().toInt());
+  emit Chosen(groups_->currentRow(), number->data(kNumberRole).toInt());
 }
 
 }  // namespace fragsmith

@@ -18,27 +18,28 @@ class NewFile {
   NewFile& operator=(NewFile&& other) = delete;
   NewFile(const NewFile&) = delete;
   NewFile& operator=(const NewFile&) = delete;
+  /// What was wanted whole was closed before.
   ~NewFile() { (void)Close(); }
 
   /// Makes an empty file that did not exist before (never through a link),
   /// with the permissions of the model file where that exists.
-  std::error_code Make(const std::filesystem::path& path,
-                       const std::filesystem::path& model);
+  [[nodiscard]] std::error_code Make(const std::filesystem::path& path,
+                                     const std::filesystem::path& model);
 
-  std::error_code Append(std::string_view bytes) const;
+  [[nodiscard]] std::error_code Append(std::string_view bytes) const;
 
-  std::error_code FlushToDisk() const;
+  [[nodiscard]] std::error_code FlushToDisk() const;
 
   /// Some file systems report only here that bytes could not be written.
-  std::error_code Close();
+  [[nodiscard]] std::error_code Close();
 
  private:
   static constexpr std::intptr_t kNone = -1;
   std::intptr_t handle_ = kNone;
 };
 
-std::error_code RenameOver(const std::filesystem::path& from,
-                           const std::filesystem::path& to);
+[[nodiscard]] std::error_code RenameOver(const std::filesystem::path& from,
+                                         const std::filesystem::path& to);
 
 /// RenameOver() failed since a program holds the file open; only on Windows is
 /// that a reason.
