@@ -209,7 +209,7 @@ class CharacterReader {
     if (IsPassedOver(line.text)) return;
     const std::optional<int> key = KeyIn(line.text);
     if (!key) return;
-    if (const std::optional<ParameterId> id = PlaceOf(*key, line.number)) {
+    if (const std::optional<ParameterId> id = IdOf(*key, line.number)) {
       reader_.Take(line, *id, ToldOf(*id));
     }
   }
@@ -217,13 +217,13 @@ class CharacterReader {
   /// A key that is the game's number for it says as plainly what is meant.
   void TakeNumbered(const CharacterWords::Found& found) {
     if (found.key >= kChatFileField.index()) return;
-    if (const auto id = PlaceOf(found.key, found.line)) {
+    if (const auto id = IdOf(found.key, found.line)) {
       reader_.TakeText(found.line, *id, found.word, ToldOf(*id));
     }
   }
 
   /// Where a bot has the value of a key; nothing for one that is passed over.
-  std::optional<ParameterId> PlaceOf(int key, std::size_t line) {
+  std::optional<ParameterId> IdOf(int key, std::size_t line) {
     if (key <= kGenderField.index() && identity_ == ReadIdentity::kNo) {
       return std::nullopt;
     }

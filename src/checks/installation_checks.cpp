@@ -55,8 +55,8 @@ void CheckNameIsTaken(const CheckContext& context, FindingList& findings) {
   }
 }
 
-std::string NameTakenText(std::string_view name, const std::string& place) {
-  return "The game has a bot " + Quoted(name) + " already, in " + place +
+std::string NameTakenText(std::string_view name, const std::string& where) {
+  return "The game has a bot " + Quoted(name) + " already, in " + where +
          ", and adds that one in place of this bot. Choose another name.";
 }
 

@@ -13,7 +13,7 @@ namespace fragsmith {
 void CheckGameIsKnown(const CheckContext& context, FindingList& findings);
 void CheckNameIsTaken(const CheckContext& context, FindingList& findings);
 /// What is said of a bot whose name another one has, which wins.
-std::string NameTakenText(std::string_view name, const std::string& place);
+std::string NameTakenText(std::string_view name, const std::string& where);
 /// What is said of a package that has files of the same names and wins.
 inline constexpr std::string_view kFilesShadowed = "files-shadowed";
 std::string ShadowedText(const std::string& winner, const std::string& own);

@@ -287,7 +287,7 @@ std::optional<Finding> InPlaceOfGameFiles(
     const std::optional<GamePackage>& package, const GameFiles* game) {
   std::vector<std::string> hidden;
   std::vector<std::string> passed_over;
-  std::string place;
+  std::string first;
   for (const std::string& path : PathsOfGame(given)) {
     const std::optional<GameFile> own = given.OpenInAnyCase(path);
     if (!own) continue;
@@ -309,7 +309,7 @@ std::optional<Finding> InPlaceOfGameFiles(
       continue;
     }
     (wins ? hidden : passed_over).push_back(ShownText(path));
-    if (place.empty()) place = own->name;
+    if (first.empty()) first = own->name;
   }
   std::string text;
   if (!hidden.empty()) {
@@ -331,7 +331,7 @@ std::optional<Finding> InPlaceOfGameFiles(
   return Finding{
       .id = "in-place-of-game-file",
       .severity = hidden.empty() ? Severity::kHint : Severity::kWarning,
-      .place = FilePlace{.file = std::move(place)},
+      .place = FilePlace{.file = std::move(first)},
       .text = std::move(text),
       .mends = {}};
 }

@@ -21,8 +21,8 @@ void TakeNamesOfGame(const GameData& game,
                      const std::optional<GamePackage>& package, bool hides_list,
                      BotFileSet& files) {
   if (!files.description) return;
-  const DescriptionPlace own = {.path = files.description->game_path,
-                                .package = package};
+  const DescriptionSource own = {.path = files.description->game_path,
+                                 .package = package};
   for (const auto& [name, known] : game.known_bots) {
     const KnownBot* const winner = BotThatWins(game, name, own);
     if (winner == nullptr || (hides_list && winner->is_of_list())) continue;

@@ -109,7 +109,7 @@ std::multimap<std::string, KnownBot, std::less<>> BotsInDescriptions(
 }
 
 const KnownBot* BotThatWins(const GameData& game, std::string_view name,
-                            const DescriptionPlace& own) {
+                            const DescriptionSource& own) {
   const auto [first, last] = game.known_bots.equal_range(ToLower(name));
   const auto wins = std::find_if(first, last, [&own](const auto& known) {
     const KnownBot& other = known.second;

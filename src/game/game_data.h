@@ -67,7 +67,7 @@ std::multimap<std::string, KnownBot, std::less<>> BotsInDescriptions(
     std::string_view bytes);
 
 /// Where the descriptions of a bot lie or will lie.
-struct DescriptionPlace {
+struct DescriptionSource {
   std::string path;  ///< "scripts/sarge.bot"
   /// Loose ones are read before those of all packages.
   std::optional<GamePackage> package = {};
@@ -77,7 +77,7 @@ struct DescriptionPlace {
 /// description lies there; null when there is none. Another version of the
 /// same description is none.
 const KnownBot* BotThatWins(const GameData& game, std::string_view name,
-                            const DescriptionPlace& own);
+                            const DescriptionSource& own);
 
 }  // namespace fragsmith
 

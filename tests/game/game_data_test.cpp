@@ -71,7 +71,7 @@ TEST(GameData, TellsWhatTheGameHolds) {
                {"scripts/other.bot", "{\nname One\n}\n{\nname GRISM\n}\n"}}));
   const GameData game = ReadGameData(GameFiles::Open(folder / "game"));
   const auto winner = [&game](std::string_view name,
-                              const DescriptionPlace& own) {
+                              const DescriptionSource& own) {
     const KnownBot* const bot = BotThatWins(game, name, own);
     return bot == nullptr ? "" : ShownPlace(*bot);
   };

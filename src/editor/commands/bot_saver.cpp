@@ -310,12 +310,12 @@ BotSaver::Outcome BotSaver::Write(const SavePlan& plan, bool leaves_changes,
   const fs::path& first = plan.files.contains(BotFile::kCharacteristics)
                               ? plan.files.at(BotFile::kCharacteristics)
                               : plan.left_alone.at(BotFile::kCharacteristics);
-  std::string place = Utf8FromPath(FolderOf(plan));
+  std::string where = Utf8FromPath(FolderOf(plan));
   if (saved.package && !has_box) {
-    place += ", with " + Utf8FromPath(saved.package->path.filename());
+    where += ", with " + Utf8FromPath(saved.package->path.filename());
   }
   Outcome outcome = {.text = QStringLiteral("The bot was written to %1.")
-                                 .arg(QString::fromStdString(place)),
+                                 .arg(QString::fromStdString(where)),
                      .saved = {}};
   if (!leaves_changes) {
     outcome.saved = first;

@@ -22,12 +22,12 @@ namespace fs = std::filesystem;
 namespace {
 
 /// What the description of the bot beside its other files says.
-std::optional<KnownBot> DescriptionBeside(const fs::path& folder,
+std::optional<KnownBot> DescriptionBeside(const fs::path& beside,
                                           const std::string& name) {
-  for (const fs::path& place :
-       {folder, folder.parent_path().parent_path() / "scripts"}) {
+  for (const fs::path& folder :
+       {beside, beside.parent_path().parent_path() / "scripts"}) {
     const std::optional<fs::path> path =
-        FindFile(place, name + std::string(kDescriptionEnd));
+        FindFile(folder, name + std::string(kDescriptionEnd));
     if (!path) continue;
     const Result<std::string> bytes = ReadFile(*path, kMaxBotFileBytes);
     if (!bytes) continue;
@@ -234,13 +234,13 @@ void LibraryCommands::Show(const InstalledGame* game) {
   frmLibrary dialog(
       std::move(shown),
       {.check =
-           [&](std::size_t place) { return Check(entries.at(place), game); },
+           [&](std::size_t index) { return Check(entries.at(index), game); },
        .remove =
-           [&](std::size_t place) {
-             frmLibrary::Removal removal = Remove(entries.at(place));
+           [&](std::size_t index) {
+             frmLibrary::Removal removal = Remove(entries.at(index));
              if (removal.is_done) {
                entries.erase(entries.begin() +
-                             static_cast<std::ptrdiff_t>(place));
+                             static_cast<std::ptrdiff_t>(index));
                removed = removal.text;
              }
              return removal;

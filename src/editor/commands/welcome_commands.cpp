@@ -12,7 +12,7 @@
 namespace fragsmith {
 namespace {
 
-GamePlaces PlacesOfGames() {
+GameRoots RootsOfGames() {
   return {.home = PathFromBytes(QDir::homePath().toStdString()),
           .root = PathFromBytes(QDir::rootPath().toStdString()),
           .installed = GamesAmong(InstalledPrograms())};
@@ -53,7 +53,7 @@ void WelcomeCommands::Fill(const GameData* game) {
                      .is_set = true,
                      .is_scanned = state_.settings.BaseQ3Check});
   }
-  for (const FoundGame& found : FindGames(PlacesOfGames())) {
+  for (const FoundGame& found : FindGames(RootsOfGames())) {
     if (found.folder == set) continue;
     games.push_back({.name = QString::fromStdString(found.name),
                      .folder = found.folder,

@@ -19,13 +19,13 @@ constexpr std::size_t kMaxAlone = 2;
 QString FindingsModel::TextOf(const Finding& finding) const {
   const QString text = QString::fromUtf8(finding.text);
   const auto* const file = std::get_if<FilePlace>(&finding.place);
-  QString place = QString::fromUtf8(
+  QString where = QString::fromUtf8(
       file != nullptr ? FilePlaceText(*file) : ChatPlaceText(finding.place));
   if (file != nullptr && !is_of_files_alone_) {
-    place.prepend(place.isEmpty() ? QStringLiteral("In the files")
+    where.prepend(where.isEmpty() ? QStringLiteral("In the files")
                                   : QStringLiteral("In the files, "));
   }
-  return place.isEmpty() ? text : place + QStringLiteral(": ") + text;
+  return where.isEmpty() ? text : where + QStringLiteral(": ") + text;
 }
 
 QString FindingsModel::FoldedText(const Finding& first,

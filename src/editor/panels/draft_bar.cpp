@@ -10,7 +10,7 @@ namespace fragsmith {
 namespace {
 
 /// The file, package or folder of the bot; empty where it has none.
-std::filesystem::path PlaceOf(const BotHome& home) {
+std::filesystem::path PathOf(const BotHome& home) {
   if (home.target) return home.target->folder;
   const auto first = home.files.find(BotFile::kCharacteristics);
   if (first != home.files.end()) return first->second.path;
@@ -34,10 +34,9 @@ DraftBar::DraftBar(QWidget* parent) : ListBar(QStringLiteral("Draft"), parent) {
 }
 
 void DraftBar::Offer(const DraftKeeper::Found& found) {
-  const std::filesystem::path place = PlaceOf(*found.draft.origin.home);
-  const QString from = place.empty()
-                           ? tr("it has no files yet")
-                           : tr("it is from %1").arg(ShownPath(place));
+  const std::filesystem::path path = PathOf(*found.draft.origin.home);
+  const QString from = path.empty() ? tr("it has no files yet")
+                                    : tr("it is from %1").arg(ShownPath(path));
   Say(tr("The bot %1 was not saved when Fragsmith last ended. It was kept on "
          "%2; %3.")
           .arg(ToQString(found.draft.bot.Name()),

@@ -94,24 +94,24 @@ void AddSteam(const fs::path& steam, std::vector<fs::path>& folders) {
   }
 }
 
-std::vector<fs::path> Candidates(const GamePlaces& places) {
-  std::vector<fs::path> folders = places.installed;
+std::vector<fs::path> Candidates(const GameRoots& roots) {
+  std::vector<fs::path> folders = roots.installed;
   const auto add = [&folders](const fs::path& top, const auto& steams,
                               const auto& names) {
     if (top.empty()) return;
     for (const std::string_view steam : steams) AddSteam(top / steam, folders);
     for (const std::string_view name : names) folders.push_back(top / name);
   };
-  add(places.root, kSteamInRoot, kInRoot);
-  add(places.home, kSteamInHome, kInHome);
+  add(roots.root, kSteamInRoot, kInRoot);
+  add(roots.home, kSteamInHome, kInHome);
   return folders;
 }
 
 }  // namespace
 
-std::vector<FoundGame> FindGames(const GamePlaces& places) {
+std::vector<FoundGame> FindGames(const GameRoots& roots) {
   std::vector<FoundGame> games;
-  for (const fs::path& folder : Candidates(places)) {
+  for (const fs::path& folder : Candidates(roots)) {
     if (!IsFolder(folder) || !FolderToInstallInto(folder) ||
         !HasGameProgram(folder)) {
       continue;

@@ -10,7 +10,7 @@
 namespace fragsmith {
 
 /// Where the search for games begins.
-struct GamePlaces {
+struct GameRoots {
   std::filesystem::path home;  ///< The user's; empty where it is not known.
   /// The top of the file system, or the drive that has the programs.
   std::filesystem::path root;
@@ -26,7 +26,7 @@ struct FoundGame {
 
 /// The game folders in the places where shops, systems and the game itself put
 /// them, each once. Looks at names alone and reads no package.
-std::vector<FoundGame> FindGames(const GamePlaces& places);
+std::vector<FoundGame> FindGames(const GameRoots& roots);
 
 /// The folders of those that are called as the game or its relatives are.
 std::vector<std::filesystem::path> GamesAmong(
