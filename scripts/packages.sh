@@ -3,7 +3,7 @@
 
 packages_build=(g++ cmake ninja-build pkg-config libzip-dev libstb-dev
   libexpected-dev libcli11-dev nlohmann-json3-dev libgtest-dev libgmock-dev
-  qt6-base-dev libgl-dev fonts-dejavu-core)
+  qt6-base-dev qt6-l10n-tools libgl-dev fonts-dejavu-core)
 packages_checks=(clang clang-format clang-tidy libclang-rt-dev libclang-dev
   llvm-dev python3-clang ccache git python3)
 packages_bench=(libbenchmark-dev libarchive-dev libminizip-dev unzip)

@@ -13,6 +13,7 @@
 
 #include "editor/frm_main.h"
 #include "editor/state/program_state.h"
+#include "editor/toolkit/language.h"
 #include "editor/toolkit/qt_prompts.h"
 #include "editor/toolkit/readable_palette.h"
 #include "install/program/program_folder.h"
@@ -123,6 +124,7 @@ int main(int count, char** words) try {
   const fragsmith::Interruption interruption;
   const QApplication application(count, words);
   const Arguments arguments = ReadArguments();
+  fragsmith::SpeakLanguage();
   QApplication::setWindowIcon(ProgramIcon());
   QApplication::setDesktopFileName(QStringLiteral("fragsmith"));
   NameFontsToFallBackOn();
