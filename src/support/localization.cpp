@@ -15,8 +15,7 @@ Translation& Chosen() {
 
 std::string Localized(std::string_view english,
                       std::initializer_list<std::string_view> values) {
-  const std::string text =
-      Chosen() ? Chosen()(english) : std::string(english);
+  const std::string text = Chosen() ? Chosen()(english) : std::string(english);
   std::string filled;
   filled.reserve(text.size());
   for (std::size_t i = 0; i < text.size(); ++i) {
