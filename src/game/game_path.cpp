@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "model/file_names.h"
+#include "support/files.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -13,12 +14,6 @@ std::string WithSlashes(std::string_view path) {
   std::replace(text.begin(), text.end(), '\\', '/');
   return text;
 }
-
-#ifdef _WIN32
-constexpr bool kCaseCounts = false;
-#else
-constexpr bool kCaseCounts = true;
-#endif
 
 }  // namespace
 

@@ -94,7 +94,8 @@ std::optional<fs::path> FindFile(const fs::path& folder,
                                  std::string_view name) {
   if (!IsFileName(name)) return std::nullopt;
   fs::path exact = folder / PathFromGameText(name);
-  if (IsFile(exact)) return exact;
+  // Elsewhere it may be there in another spelling, which it is to keep.
+  if (kCaseCounts && IsFile(exact)) return exact;
   for (const fs::path& other : ListFiles(folder, name)) {
     const std::optional<std::string> text = GameTextFromPath(other);
     if (text && EqualIgnoringCase(*text, name)) return folder / other;

@@ -43,6 +43,13 @@ std::string BytesFromPath(const std::filesystem::path& path);
 /// no path separator, no control character, neither "." nor "..".
 bool IsFileName(std::string_view name);
 
+/// Whether names of files that differ in case alone are two on this system.
+#ifdef _WIN32
+inline constexpr bool kCaseCounts = false;
+#else
+inline constexpr bool kCaseCounts = true;
+#endif
+
 /// Characters that a file name cannot have on this system, besides control
 /// characters.
 extern const std::string_view kForbiddenInFileNames;
