@@ -95,8 +95,9 @@ TEST_F(Library, FindsSortsAndFiltersBots) {
       QTest::keyClick(list, Qt::Key_F10, Qt::ShiftModifier);
     } else {
       // There the system makes this of the key.
-      QContextMenuEvent event(QContextMenuEvent::Keyboard,
-                              list->viewport()->rect().center());
+      const QPoint middle = list->viewport()->rect().center();
+      QContextMenuEvent event(QContextMenuEvent::Keyboard, middle,
+                              list->viewport()->mapToGlobal(middle));
       QApplication::sendEvent(list->viewport(), &event);
     }
     auto* const menu = dialog.findChild<QMenu*>();
