@@ -17,6 +17,7 @@
 #include "botfiles/value_format.h"
 #include "model/characteristic_catalogue.h"
 #include "model/file_names.h"
+#include "support/localization.h"
 #include "support/numbers.h"
 #include "support/text.h"
 
@@ -161,8 +162,35 @@ std::optional<int> KeyIn(std::string_view line) {
   return std::countr_zero(stands);
 }
 
-std::string LevelText(std::optional<int> level) {
-  return level ? "level " + std::to_string(*level) : "no level";
+std::string PassedOverText(std::optional<int> level) {
+  return level ? Localized(
+                     "A bot holds the levels 1, 4 and 5 only: the values of "
+                     "level %1 are passed over.",
+                     {std::to_string(*level)})
+               : Localized(
+                     "Values before the first \"skill\" line belong to no "
+                     "level and are passed over.");
+}
+
+/// Of the two one at least is there.
+std::string OtherLevelText(std::optional<int> read,
+                           std::optional<int> of_game) {
+  if (!of_game) {
+    return Localized(
+        "The values from here on are read as those of level %1, but the game "
+        "takes them for no level.",
+        {std::to_string(read.value())});
+  }
+  if (!read) {
+    return Localized(
+        "The values from here on are read as those of no level, but the game "
+        "takes them for level %1.",
+        {std::to_string(*of_game)});
+  }
+  return Localized(
+      "The values from here on are read as those of level %1, but the game "
+      "takes them for level %2.",
+      {std::to_string(*read), std::to_string(*of_game)});
 }
 
 /// One characteristic file on its way into a bot: line by line by the reading
@@ -193,9 +221,10 @@ class CharacterReader {
     for (const CharacterWords::Found& value : words_.Finish()) TakeFound(value);
     if (!bare_.empty()) {
       reader_.AddNote(first_bare_,
-                      "Without quotes around these texts the game does not "
-                      "read the file; a save puts them on: " +
-                          bare_.Text() + ".");
+                      Localized("Without quotes around these texts the game "
+                                "does not read the file; a save puts them on: "
+                                "%1.",
+                                {bare_.Text()}));
     }
     reader_.Finish();
     left_out_.Tell(report_.notes);
@@ -230,13 +259,7 @@ class CharacterReader {
     if (!kPerLevelRange.Contains(key)) return ParameterId(key);
     if (const auto level = KnownLevel(level_)) return {{*level, key}};
     if (!is_skip_noted_) {
-      reader_.AddNote(
-          line,
-          level_ ? "A bot holds " + std::string(kLevelsInWords) +
-                       " only: the values of " + LevelText(level_) +
-                       " are passed over."
-                 : "Values before the first \"skill\" line belong to no level "
-                   "and are passed over.");
+      reader_.AddNote(line, PassedOverText(level_));
       is_skip_noted_ = true;
     }
     return std::nullopt;
@@ -252,9 +275,10 @@ class CharacterReader {
       opened = SkillLevelOf(WithoutBraces(line.code));
       if (!opened) return false;
       reader_.AddNote(line.number,
-                      "As in the game, " + LevelText(opened) +
-                          " begins here, though something stands in front of "
-                          "\"skill\". A save leaves that out.");
+                      Localized("As in the game, level %1 begins here, though "
+                                "something stands in front of \"skill\". A "
+                                "save leaves that out.",
+                                {std::to_string(*opened)}));
     }
     level_ = opened;
     level_line_ = line.number;
@@ -300,13 +324,12 @@ class CharacterReader {
         is_other ? std::max(block.line, level_line_) : level_line_;
     if (std::exchange(told_line_, line) == line) return IsTold::kYes;
     reader_.AddNote(
-        line, is_other
-                  ? "The values from here on are read as those of " +
-                        LevelText(level_) + ", but the game takes them for " +
-                        LevelText(block.level) + "."
-                  : "There was a block of " + LevelText(level_) +
-                        " before. The values of this one count here, but the "
-                        "game takes the first.");
+        line,
+        is_other
+            ? OtherLevelText(level_, block.level)
+            : Localized("There was a block of level %1 before. The values of "
+                        "this one count here, but the game takes the first.",
+                        {std::to_string(level_.value_or(0))}));
     return IsTold::kYes;
   }
 

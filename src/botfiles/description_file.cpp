@@ -12,6 +12,7 @@
 #include "model/characteristic_catalogue.h"
 #include "model/file_names.h"
 #include "support/code_page.h"
+#include "support/localization.h"
 #include "support/numbers.h"
 #include "support/text.h"
 
@@ -110,8 +111,9 @@ class DescriptionReader {
     for (const DescriptionPair& pair : block.pairs) {
       const DescriptionPair*& earlier = seen[pair.key];
       if (earlier != nullptr && earlier->text != pair.text) {
-        overwritten.Add(pair.key + " \"" + ShownText(earlier->text) +
-                        "\" (line " + std::to_string(earlier->line) + ")");
+        overwritten.Add(Localized("%1 \"%2\" (line %3)",
+                                  {pair.key, ShownText(earlier->text),
+                                   std::to_string(earlier->line)}));
         if (first_overwritten == 0) first_overwritten = earlier->line;
       }
       earlier = &pair;
@@ -119,22 +121,24 @@ class DescriptionReader {
     }
     if (!overwritten.empty()) {
       AddNote(first_overwritten,
-              "The file has several values where a bot has one. The last one "
-              "counts, and a save leaves out the others: " +
-                  overwritten.Text() + ".");
+              Localized("The file has several values where a bot has one. The "
+                        "last one counts, and a save leaves out the others: "
+                        "%1.",
+                        {overwritten.Text()}));
     }
     const auto lacks = [&seen](const char* key) { return !seen.contains(key); };
     if (lacks("model") && !fed_by_.contains(kModelField)) {
       AddNote(block.first_line,
-              "There is no model, so the game takes its own (visor, or sarge "
-              "in OpenArena). A save writes \"" +
-                  ShownText(bot_.Text(kModelField)) + "\".");
+              Localized("There is no model, so the game takes its own (visor, "
+                        "or sarge in OpenArena). A save writes \"%1\".",
+                        {ShownText(bot_.Text(kModelField))}));
     }
     for (const char* const key : {"name", "aifile"}) {
       if (lacks(key)) {
-        AddNote(block.first_line, "There is no " + std::string(key) +
-                                      ", without which the game cannot add the "
-                                      "bot. A save writes it.");
+        AddNote(block.first_line,
+                Localized("There is no %1, without which the game cannot add "
+                          "the bot. A save writes it.",
+                          {key}));
       }
     }
   }
@@ -152,8 +156,9 @@ class DescriptionReader {
     if (ToNumber(bot_.Parameter(kArenaLordField)) != 0.0 &&
         ToNumber(bot_.Parameter(kArenaLordField)) != 1.0) {
       AddNote(fed_by_[kArenaLordField],
-              "arenaLord: " + bot_.Text(kArenaLordField) +
-                  " is neither 0 nor 1, and a save leaves it out.");
+              Localized("arenaLord: %1 is neither 0 nor 1, and a save leaves "
+                        "it out.",
+                        {bot_.Text(kArenaLordField)}));
     }
     left_out_.Tell(report_.notes);
     return std::move(report_);
@@ -175,18 +180,20 @@ class DescriptionReader {
     const auto fed = fed_by_.find(field);
     const auto& [plain, plain_line] = plain_.at(field);
     const Value& read = bot_.Parameter(field);
-    const std::string what(FieldName(field));
+    const std::string_view what = FieldName(field);
     if (IsSameValue(read, plain)) {
       if (const auto refused = refused_.find(field);
           refused != refused_.end()) {
         const auto& [line, reason] = refused->second;
-        AddNote(line, what + ": " + reason + " The bot keeps its value.");
+        AddNote(line,
+                Localized("%1: %2 The bot keeps its value.", {what, reason}));
       }
       return;
     }
-    AddNote(fed == fed_by_.end() ? plain_line : fed->second,
-            what + ": read as \"" + ShownText(ToText(read)) +
-                "\", but the game takes \"" + ShownText(ToText(plain)) + "\".");
+    AddNote(
+        fed == fed_by_.end() ? plain_line : fed->second,
+        Localized("%1: read as \"%2\", but the game takes \"%3\".",
+                  {what, ShownText(ToText(read)), ShownText(ToText(plain))}));
     report_.plain_values.insert_or_assign(field, plain);
   }
 
@@ -210,9 +217,9 @@ class DescriptionReader {
                               (key == "color" && text == kNoRailColor) ||
                               (key == "arenalord" && text == "0");
     if (says_nothing) {
-      AddNote(line, key + ": \"" + text +
-                        "\" is what a bot has without the line, and a save "
-                        "leaves it out.");
+      AddNote(line, Localized("%1: \"%2\" is what a bot has without the line, "
+                              "and a save leaves it out.",
+                              {key, text}));
     }
     if (key == "funname") {
       SetPlain(kFunNameField, text, line);
@@ -278,14 +285,15 @@ void TellOthers(const DescriptionBlocks& file, const DescriptionBlock& own,
   NameList others;
   for (const DescriptionBlock& block : file.blocks) {
     if (&block == &own) continue;
-    others.Add("\"" + ShownText(block.Text("name")) + "\" (lines " +
-               std::to_string(block.first_line) + "-" +
-               std::to_string(block.last_line) + ")");
+    others.Add(Localized(
+        "\"%1\" (lines %2-%3)",
+        {ShownText(block.Text("name")), std::to_string(block.first_line),
+         std::to_string(block.last_line)}));
   }
   reader.AddNote(own.first_line,
-                 "The file describes several bots; this one is read from "
-                 "here. A save leaves out the others: " +
-                     others.Text() + ".");
+                 Localized("The file describes several bots; this one is read "
+                           "from here. A save leaves out the others: %1.",
+                           {others.Text()}));
 }
 
 }  // namespace
@@ -358,8 +366,8 @@ DescriptionReport ReadDescriptionFile(std::string_view bytes,
     reader.TakePairs(*own);
   } else {
     reader.AddNote(1,
-                   "The game finds no bot in this file, as nothing stands "
-                   "between { and }. A save writes one.");
+                   Localized("The game finds no bot in this file, as nothing "
+                             "stands between { and }. A save writes one."));
   }
   return reader.Finish();
 }

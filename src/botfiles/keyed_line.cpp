@@ -8,6 +8,7 @@
 #include "model/characteristic_catalogue.h"
 #include "support/code_page.h"
 #include "support/game_blank.h"
+#include "support/localization.h"
 #include "support/numbers.h"
 #include "support/text.h"
 
@@ -23,14 +24,17 @@ Value WithoutBlanks(const Value& value) { return RemoveBlanks(ToText(value)); }
 
 /// The key and its level as the user reads them in a note.
 std::string Describe(ParameterId id) {
-  std::string text(BareKey(id.index()));
-  if (id.level()) text += " of level " + std::to_string(NumberOf(*id.level()));
-  return text;
+  const std::string_view key = BareKey(id.index());
+  if (!id.level()) return std::string(key);
+  return Localized("%1 of level %2",
+                   {key, std::to_string(NumberOf(*id.level()))});
 }
 
 /// A value in a note.
 std::string Shown(const Value& value) {
-  if (std::holds_alternative<std::monostate>(value)) return "nothing";
+  if (std::holds_alternative<std::monostate>(value)) {
+    return Localized("nothing");
+  }
   if (!std::holds_alternative<std::string>(value)) return ToText(value);
   return '"' + ShownText(ToText(value)) + '"';
 }
@@ -113,9 +117,9 @@ void ValueReader::TakeText(std::size_t line, ParameterId id,
     const std::string whole = ToText(value);
     value = WithoutBlanks(value);
     if (whole != ToText(value)) {
-      AddNote(line, Describe(id) + ": " + Shown(whole) +
-                        " cannot have blanks here; it is read as " +
-                        Shown(value) + ".");
+      AddNote(line,
+              Localized("%1: %2 cannot have blanks here; it is read as %3.",
+                        {Describe(id), Shown(whole), Shown(value)}));
     }
   }
 
@@ -124,8 +128,9 @@ void ValueReader::TakeText(std::size_t line, ParameterId id,
   bot_.Put(id, std::move(value));
   if (seen.line != 0 && !IsSameValue(bot_.Parameter(id), old)) {
     if (overwritten_.empty()) first_overwritten_ = seen.line;
-    overwritten_[id] = Describe(id) + ": " + Shown(old) + " gives way to " +
-                       Shown(bot_.Parameter(id));
+    overwritten_[id] =
+        Localized("%1: %2 gives way to %3",
+                  {Describe(id), Shown(old), Shown(bot_.Parameter(id))});
   }
   seen.line = line;
   seen.is_shortened = IsShortened(text, bot_.Parameter(id));
@@ -155,9 +160,10 @@ void ValueReader::Finish() {
   TellOverwritten();
   for (const auto& [level, zeros] : zeros_) {
     AddNote(zeros.first,
-            zeros.second.Text() +
-                ": 0 in the file. A save leaves out what is 0 here, and the "
-                "game then takes the value of its default character.");
+            Localized("%1: 0 in the file. A save leaves out what is 0 here, "
+                      "and the game then takes the value of its default "
+                      "character.",
+                      {zeros.second.Text()}));
   }
   std::stable_sort(notes_.begin(), notes_.end(),
                    [](const Note& left, const Note& right) {
@@ -174,23 +180,29 @@ void ValueReader::Compare(const Seen& seen) {
   if (IsSameValue(read, plain)) return CompareWithSaved(seen);
   report_.plain_values.insert_or_assign(id, plain);
   if (seen.is_told) return;
-  const std::string what = Describe(id) + ": ";
   if (seen.line == 0) {
     AddNote(seen.plain_line,
-            what + "not read from this line, where the game takes " +
-                Shown(plain) + ".",
+            Localized("%1: not read from this line, where the game takes %2.",
+                      {Describe(id), Shown(plain)}),
             NoteKind::kUnreadLine);
   } else if (!seen.plain) {
-    AddNote(seen.line, what + "read as " + Shown(read) + ", but the line " +
-                           (seen.is_comment ? "is a comment for the game."
-                                            : "does not set it for the game."));
+    AddNote(seen.line,
+            Localized(seen.is_comment
+                          ? Localizable("%1: read as %2, but the line is a "
+                                        "comment for the game.")
+                          : Localizable("%1: read as %2, but the line does not "
+                                        "set it for the game."),
+                      {Describe(id), Shown(read)}));
   } else {
     const bool is_behind = seen.line == seen.plain_line;
     AddNote(seen.line,
-            what + "read as " + Shown(read) + ", but " +
-                (is_behind ? Shown(plain) + " stands behind the key."
-                           : "the game takes " + Shown(plain) + " from line " +
-                                 std::to_string(seen.plain_line) + "."));
+            Localized(is_behind
+                          ? Localizable("%1: read as %2, but %3 stands behind "
+                                        "the key.")
+                          : Localizable("%1: read as %2, but the game takes %3 "
+                                        "from line %4."),
+                      {Describe(id), Shown(read), Shown(plain),
+                       std::to_string(seen.plain_line)}));
   }
 }
 
@@ -202,23 +214,26 @@ void ValueReader::CompareWithSaved(const Seen& seen) {
   const std::optional<double> number = ToNumber(read);
   std::string oddity;
   if (std::holds_alternative<std::monostate>(read)) {
-    oddity = ": no value, so it counts as 0.";
+    oddity = Localized("%1: no value, so it counts as 0.", {Describe(id)});
   } else if (!number) {
-    oddity = ": " + Shown(read) +
-             " is not a number; it is kept as text, and a save puts quotes "
-             "around it.";
+    oddity = Localized(
+        "%1: %2 is not a number; it is kept as text, and a save puts quotes "
+        "around it.",
+        {Describe(id), Shown(read)});
   } else if (is_optional && *number <= 0) {
     auto& [line, names] = zeros_[*id.level()];
     if (line == 0) line = seen.line;
     names.Add(Describe(id));
   } else if (std::holds_alternative<std::string>(read)) {
-    oddity = ": " + Shown(read) +
-             " is no number for the game as it is "
-             "written; a save makes the number of it.";
+    oddity = Localized(
+        "%1: %2 is no number for the game as it is written; a save makes the "
+        "number of it.",
+        {Describe(id), Shown(read)});
   } else if (seen.is_shortened) {
-    oddity =
-        ": of so long a number a save keeps the first digits, and writes " +
-        FormatValue(read) + ".";
+    oddity = Localized(
+        "%1: of so long a number a save keeps the first digits, and writes "
+        "%2.",
+        {Describe(id), FormatValue(read)});
   } else if (const std::string saved = FormatValue(read);
              NumberFromText(saved) != ToNumber(seen.plain.value_or(read))) {
     const Value given = seen.plain.value_or(read);
@@ -227,9 +242,10 @@ void ValueReader::CompareWithSaved(const Seen& seen) {
       shown = PlainDecimal(ToNumber(given).value_or(0),
                            std::numeric_limits<double>::max_digits10);
     }
-    oddity = ": a save writes " + saved + " for " + shown + ".";
+    oddity =
+        Localized("%1: a save writes %2 for %3.", {Describe(id), saved, shown});
   }
-  if (!oddity.empty()) AddNote(seen.line, Describe(id) + oddity);
+  if (!oddity.empty()) AddNote(seen.line, std::move(oddity));
 }
 
 void ValueReader::TellOverwritten() {
@@ -237,9 +253,9 @@ void ValueReader::TellOverwritten() {
   NameList names;
   for (const auto& [id, text] : overwritten_) names.Add(text);
   AddNote(first_overwritten_,
-          "The file has several values where a bot has one. The last one "
-          "counts, and a save writes it everywhere: " +
-              names.Text() + ".");
+          Localized("The file has several values where a bot has one. The "
+                    "last one counts, and a save writes it everywhere: %1.",
+                    {names.Text()}));
 }
 
 }  // namespace fragsmith

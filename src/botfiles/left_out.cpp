@@ -5,6 +5,7 @@
 
 #include "botfiles/game_text.h"
 #include "support/code_page.h"
+#include "support/localization.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -25,18 +26,19 @@ std::string NameList::Text() const {
     if (!text.empty()) text += ", ";
     text += name;
   }
-  if (left_out_ > 0) text += " and " + std::to_string(left_out_) + " more";
-  return text;
+  if (left_out_ == 0) return text;
+  return Localized("%1 and %2 more", {text, std::to_string(left_out_)});
 }
 
 Note AlsoInFile(const std::string& file, std::size_t line, std::size_t count,
                 const std::string& what) {
   return {.file = file,
           .line = line,
-          .text = "Also in this file, what a bot here has no place for (" +
-                  std::to_string(count) + "): " + what +
-                  ". It stays when values are changed in place, and is left "
-                  "out of a file made anew.",
+          .text = Localized(
+              "Also in this file, what a bot here has no place for (%1): %2. "
+              "It stays when values are changed in place, and is left out of "
+              "a file made anew.",
+              {std::to_string(count), what}),
           .kind = NoteKind::kAlsoInFile};
 }
 
@@ -66,7 +68,7 @@ void LeftOut::AddText(std::string_view text, std::size_t line) {
   }
 }
 
-std::string LeftOut::TextLines() const {
+std::string LeftOut::Texts() const {
   NameList list;
   for (const auto& [first, last] : texts_) {
     std::string lines = std::to_string(first);
@@ -74,8 +76,9 @@ std::string LeftOut::TextLines() const {
     list.Add(std::move(lines));
   }
   const bool is_one = texts_.size() == 1 && texts_[0].first == texts_[0].last;
-  return is_one ? " (line " + list.Text() + ")"
-                : " and more (lines " + list.Text() + ")";
+  return Localized(is_one ? Localizable("%1 (line %2)")
+                          : Localizable("%1 and more (lines %2)"),
+                   {first_text_, list.Text()});
 }
 
 void LeftOut::AddInclude(std::string_view directive, std::size_t line) {
@@ -101,14 +104,19 @@ void LeftOut::AddInclude(std::string_view directive, std::size_t line) {
 void LeftOut::Tell(Notes& notes) const {
   if (comments_.count > 0) {
     notes.Add({file_, comments_.first_line,
-               "Comments are not read, and a file made anew leaves them out (" +
-                   std::to_string(comments_.count) +
-                   (comments_.count == 1 ? " line)." : " lines).")});
+               Localized(comments_.count == 1
+                             ? Localizable("Comments are not read, and a file "
+                                           "made anew leaves them out (%1 "
+                                           "line).")
+                             : Localizable("Comments are not read, and a file "
+                                           "made anew leaves them out (%1 "
+                                           "lines)."),
+                         {std::to_string(comments_.count)})});
   }
   std::string others = names_.Text();
   if (!texts_.empty()) {
     if (!others.empty()) others += "; ";
-    others += first_text_ + TextLines();
+    others += Texts();
   }
   if (others.empty()) return;
   notes.Add(AlsoInFile(file_, others_.first_line, others_.count, others));

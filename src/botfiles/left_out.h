@@ -70,7 +70,8 @@ class LeftOut {
   };
 
   static void Count(Kind& kind, std::size_t line);
-  std::string TextLines() const;
+  /// The first of the texts, and the lines of all.
+  std::string Texts() const;
 
   std::string file_;
   std::vector<std::string> includes_;

@@ -7,6 +7,7 @@
 #include <limits>
 #include <optional>
 
+#include "support/localization.h"
 #include "support/numbers.h"
 #include "support/text.h"
 
@@ -87,20 +88,23 @@ Value CleanValue(std::string_view text) {
 }
 
 Result<double> NumberForFiles(std::string_view text) {
-  const auto refuse = [](const char* why) -> Result<double> {
-    return Failure({.what = why, .file = {}, .line = 0, .advice = {}});
+  const auto refuse = [](std::string_view why) -> Result<double> {
+    return Failure(
+        {.what = Localized(why), .file = {}, .line = 0, .advice = {}});
   };
   if (!IsNumericText(text)) {
-    return refuse("A number is wanted here, such as 0.35 or 120.");
+    return refuse(Localizable("A number is wanted here, such as 0.35 or 120."));
   }
   const std::optional<double> number = NumberFromText(text);
-  if (!number) return refuse("The number is too large.");
+  if (!number) return refuse(Localizable("The number is too large."));
   if (*number == 0) return 0.0;
-  if (*number < 0) return refuse("The files hold no number below 0.");
+  if (*number < 0) {
+    return refuse(Localizable("The files hold no number below 0."));
+  }
   if (ToNumber(CleanValue(FormatValue(*number))) != *number) {
     return refuse(
-        "The files keep three digits behind the point, and seven digits of a "
-        "number with a fraction.");
+        Localizable("The files keep three digits behind the point, and seven "
+                    "digits of a number with a fraction."));
   }
   return *number;
 }

@@ -9,6 +9,7 @@
 #include "botfiles/left_out.h"
 #include "botfiles/value_format.h"
 #include "model/characteristic_catalogue.h"
+#include "support/localization.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -106,8 +107,9 @@ class WeightReader {
       report_.notes.Add(
           {.file = left_out_.file(),
            .line = 0,
-           .text = "The file sets none of the weights that a bot has here. "
-                   "Writing it anew would lose what it says.",
+           .text = Localized(
+               "The file sets none of the weights that a bot has here. Writing "
+               "it anew would lose what it says."),
            .kind = NoteKind::kNoWeights});
     } else {
       report_.missing_includes = left_out_.missing_includes();

@@ -5,6 +5,7 @@
 
 #include "botfiles/game_text.h"
 #include "model/characteristic_catalogue.h"
+#include "support/localization.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -86,17 +87,20 @@ std::string TwoPlacesRefusal(std::string_view bytes, TextSpan of_game,
   if (game_line == load_line) return {};
   const LineOfFile line = LineAround(bytes, of_load.begin);
   if (TrimBlanksAndTabs(TextAt(bytes, line.text)).ends_with('\\')) {
-    return "Line " + std::to_string(load_line) +
-           " goes on in the next one, and a load reads no further than the "
-           "line. Join the lines first.";
+    return Localized(
+        "Line %1 goes on in the next one, and a load reads no further than the "
+        "line. Join the lines first.",
+        {std::to_string(load_line)});
   }
-  return "The game takes the value from line " + std::to_string(game_line) +
-         " of the file, and a load takes that of line " +
-         std::to_string(load_line) + ". Remove one of them first.";
+  return Localized(
+      "The game takes the value from line %1 of the file, and a load takes "
+      "that of line %2. Remove one of them first.",
+      {std::to_string(game_line), std::to_string(load_line)});
 }
 
 std::string BrokenRefusal(const FileReading& reading) {
-  return "The game does not take this file as it is: " + reading.first_error;
+  return Localized("The game does not take this file as it is: %1",
+                   {reading.first_error});
 }
 
 std::vector<Splice> Insertions(std::string_view bytes,

@@ -12,6 +12,7 @@
 #include "inplace/file_reading.h"
 #include "inplace/splice.h"
 #include "model/bot.h"
+#include "support/localization.h"
 
 namespace fragsmith {
 
@@ -44,9 +45,9 @@ struct Plan {
 /// The most ways to put a line into a file.
 inline constexpr std::size_t kMaxInsertions = 6;
 
-/// Why there is no attempt, where no better reason is known.
+/// Why there is no attempt, where no better reason is known; for Localized().
 inline constexpr std::string_view kNoNeighbours =
-    "The file has none of the lines beside which it belongs.";
+    Localizable("The file has none of the lines beside which it belongs.");
 
 /// A file as it is before a change, and the change: to what the bot has.
 struct PlanContext {

@@ -25,6 +25,7 @@
 #include "session/bot_difference.h"
 #include "support/code_page.h"
 #include "support/files.h"
+#include "support/localization.h"
 #include "support/text.h"
 #include "support/unified_diff.h"
 
@@ -103,8 +104,9 @@ void Edit(const BothReaders& readers, Result<std::string> old,
   if (is_hopeless) return;
   for (const Note& note : reading.report.notes.list()) {
     edit.losses.push_back(
-        (note.line > 0 ? "Line " + std::to_string(note.line) + ": " : "") +
-        note.text);
+        note.line == 0
+            ? note.text
+            : Localized("Line %1: %2", {std::to_string(note.line), note.text}));
   }
 }
 
@@ -179,9 +181,10 @@ Error PutBack(const std::vector<const FileEdit*>& written, Error error) {
     kept += (kept.empty() ? "" : ", ") + edit->shown;
   }
   if (!kept.empty()) {
-    error.advice += " Written already, and not put back: " + kept + ".";
+    error.advice +=
+        " " + Localized("Written already, and not put back: %1.", {kept});
   } else if (!written.empty()) {
-    error.advice += " The other files are as they were.";
+    error.advice += " " + Localized("The other files are as they were.");
   }
   return error;
 }
@@ -234,9 +237,9 @@ void NoteFault(const BothReaders& readers, FileEdit& edit) {
   if (!fault) return;
   edit.notes.Add({fault->place.file,
                   static_cast<std::size_t>(std::max(fault->place.line, 0)),
-                  "The game does not take the file as it is, with this edit or "
-                  "without: " +
-                      fault->text});
+                  Localized("The game does not take the file as it is, with "
+                            "this edit or without: %1",
+                            {fault->text})});
 }
 
 BotEdits EditAll(const OriginFiles& files, const Bot& before, const Bot& after,
@@ -285,21 +288,23 @@ BotEdits EditAll(const OriginFiles& files, const Bot& before, const Bot& after,
     const bool is_refused = edit.outcome == FileEdit::Outcome::kNotEditable;
     std::string reason;
     if (!other.empty()) {
-      reason =
+      reason = Localized(
           "The game does not read this file for the bot, whose characteristic "
-          "file names " +
-          Utf8FromGameText(other) + ".";
+          "file names %1.",
+          {Utf8FromGameText(other)});
     } else if (is_broken && !is_refused) {
-      reason = "The game does not take this file as it is. " + fault->second;
+      reason = Localized("The game does not take this file as it is.") + " " +
+               fault->second;
     }
     if (reason.empty()) continue;
     edit.outcome = FileEdit::Outcome::kNotEditable;
     edit.reason = {.what = std::move(reason),
                    .file = edit.shown,
                    .line = 0,
-                   .advice = other.empty() ? std::string()
-                                           : "Name this file there, or edit "
-                                             "the one that it names."};
+                   .advice = other.empty()
+                                 ? std::string()
+                                 : Localized("Name this file there, or edit "
+                                             "the one that it names.")};
   }
   for (const ParameterId id : ChangesInNoFile(before, after)) {
     add_homeless(QuotedName(id));
@@ -355,6 +360,19 @@ BotEdits EditWhatCanBe(const OriginFiles& files, const Bot& before,
   return edits;
 }
 
+namespace {
+
+constexpr std::string_view kLineKept = Localizable(
+    "%1 keeps a line that stands in the block \"%2\" and that the new list has "
+    "not: no edit of a list takes anything from the block of another type. "
+    "Remove them by hand where you want them gone.");
+constexpr std::string_view kLinesKept = Localizable(
+    "%1 keeps %3 lines that stand in the block \"%2\" and that the new list "
+    "has not: no edit of a list takes anything from the block of another type. "
+    "Remove them by hand where you want them gone.");
+
+}  // namespace
+
 Notes KeepLinesElsewhere(const OriginFiles& files, const Bot& before,
                          Bot& after, const IncludeLookup& game) {
   Notes notes;
@@ -370,15 +388,11 @@ Notes KeepLinesElsewhere(const OriginFiles& files, const Bot& before,
     const auto type = std::get<ChatTypeId>(change);
     const std::vector<LineThere> kept = AddLinesElsewhere(reading, type, after);
     if (kept.empty()) continue;
-    notes.Add({ShownAt(origin->second), 0,
-               QuotedChatType(type) + " keeps " +
-                   (kept.size() == 1
-                        ? "a line that stands"
-                        : std::to_string(kept.size()) + " lines that stand") +
-                   " in the block \"" + ShownText(kept.front().elsewhere) +
-                   "\" and that the new list has not: no edit of a list "
-                   "takes anything from the block of another type. Remove "
-                   "them by hand where you want them gone."});
+    notes.Add(
+        {ShownAt(origin->second), 0,
+         Localized(kept.size() == 1 ? kLineKept : kLinesKept,
+                   {QuotedChatType(type), ShownText(kept.front().elsewhere),
+                    std::to_string(kept.size())})});
   }
   return notes;
 }

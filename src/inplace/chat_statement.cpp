@@ -5,6 +5,7 @@
 
 #include "chat/chat_line.h"
 #include "support/code_page.h"
+#include "support/localization.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -71,27 +72,28 @@ ChatStatement StatementFor(ChatTypeId type, const std::string& line,
   }
   if (!IsWord(line) || name != '"' + line + '"')
     return {std::move(written), {}};
-  const std::string shown = "The new line \"" + ShownText(line) + "\" is ";
   const bool has_list = lists.Find(line) != nullptr && says_it(line + ';');
   if (has_list && LooksLikeText(line)) {
     return {std::move(written),
-            shown +
-                "written as a text. The game has a list of that name, too; for "
-                "a random line of it write the word there by hand, without the "
-                "quotation marks."};
+            Localized("The new line \"%1\" is written as a text. The game has "
+                      "a list of that name, too; for a random line of it write "
+                      "the word there by hand, without the quotation marks.",
+                      {ShownText(line)})};
   }
   if (has_list) {
-    return {line + ';', shown +
-                            "written as the game's list of that name, of which "
-                            "a random line is said. Where the word itself is "
-                            "to be said, write it there by hand, in quotation "
-                            "marks."};
+    return {line + ';',
+            Localized("The new line \"%1\" is written as the game's list of "
+                      "that name, of which a random line is said. Where the "
+                      "word itself is to be said, write it there by hand, in "
+                      "quotation marks.",
+                      {ShownText(line)})};
   }
   if (lists.empty() && LooksLikeList(line)) {
     return {std::move(written),
-            shown +
-                "written as a text. Where a list of the game is meant, give "
-                "the folder of that game."};
+            Localized("The new line \"%1\" is written as a text. Where a "
+                      "list of the game is meant, give the folder of that "
+                      "game.",
+                      {ShownText(line)})};
   }
   return {std::move(written), {}};
 }

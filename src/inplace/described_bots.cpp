@@ -19,6 +19,7 @@
 #include "session/save_again.h"
 #include "support/code_page.h"
 #include "support/files.h"
+#include "support/localization.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -129,8 +130,9 @@ void TakeListedIdentity(LoadedBot& loaded, const ModelCatalogue& models) {
   loaded.has_arena_lord = report.has_arena_lord;
   UseCatalogueSpelling(loaded.bot, models);
   loaded.notes.Add({ShownAt(*list), 0,
-                    "The bot has no description of its own; its model, fun "
-                    "name and the rest are those of this file."});
+                    Localized("The bot has no description of its own; its "
+                              "model, fun name and the rest are those of this "
+                              "file.")});
   loaded.files.emplace(BotFile::kDescription, std::move(*list));
 }
 
@@ -152,12 +154,14 @@ std::ptrdiff_t CountOfName(const std::string& file, const std::string& bytes,
 std::string NameDescribedTwice(const SavePlan& plan, const Bot& bot) {
   const auto target = plan.files.find(BotFile::kDescription);
   if (target == plan.files.end()) return {};
-  const std::string own = "'" + Utf8FromPath(target->second.filename()) + "'";
+  const std::string own = Utf8FromPath(target->second.filename());
   if (const auto content = plan.contents.find(BotFile::kDescription);
       content != plan.contents.end() &&
       CountOfName({}, content->second, bot.Name()) > 1) {
-    return own + " then describes two bots \"" + ShownText(bot.Name()) +
-           "\": the game takes the first and passes over the other.";
+    return Localized(
+        "'%1' then describes two bots \"%2\": the game takes the "
+        "first and passes over the other.",
+        {own, ShownText(bot.Name())});
   }
   fs::path other;
   bool is_list = false;
@@ -176,14 +180,16 @@ std::string NameDescribedTwice(const SavePlan& plan, const Bot& bot) {
     is_list = EqualIgnoringCase(name, kBotList);
   }
   if (other.empty()) return {};
-  return "'" + Utf8FromPath(other) + "' describes a bot \"" +
-         ShownText(bot.Name()) + "\" too. " +
-         (is_list ? "The game takes that one, as it reads the list first, and "
-                    "never the one of " +
-                        own + "."
-                  : "Of that one and the one of " + own +
-                        " the game takes the one that it reads first, which "
-                        "may be either.");
+  return Localized("'%1' describes a bot \"%2\" too.",
+                   {Utf8FromPath(other), ShownText(bot.Name())}) +
+         " " +
+         Localized(is_list
+                       ? Localizable("The game takes that one, as it reads the "
+                                     "list first, and never the one of '%1'.")
+                       : Localizable("Of that one and the one of '%1' the game "
+                                     "takes the one that it reads first, which "
+                                     "may be either."),
+                   {own});
 }
 
 }  // namespace fragsmith

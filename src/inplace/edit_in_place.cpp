@@ -12,29 +12,30 @@
 #include "model/characteristic_catalogue.h"
 #include "session/identity_rules.h"
 #include "support/code_page.h"
+#include "support/localization.h"
 #include "support/text.h"
 
 namespace fragsmith {
 namespace {
 
-constexpr std::string_view kNotLoaded =
-    "It would not be read from there when the bot is loaded.";
-
 /// Of a value of a characteristic or weight file.
 std::string OddValueRefusal(const Value& value) {
   const std::optional<double> number = ToNumber(value);
   if (number) {
-    return *number < 0 ? "The game's files have no negative numbers. Use 0 or "
-                         "more."
+    return *number < 0 ? Localized(
+                             "The game's files have no negative numbers. "
+                             "Use 0 or more.")
                        : std::string();
   }
   const std::string text = ToText(value);
   if (Contains(text, "\"")) {
-    return "The game's files have no double quote within a text. Take it out.";
+    return Localized(
+        "The game's files have no double quote within a text. Take it out.");
   }
   return Contains(text, "\\")
-             ? "The game takes a backslash in a text and the letter behind it "
-               "for one sign. Take it out."
+             ? Localized(
+                   "The game takes a backslash in a text and the letter "
+                   "behind it for one sign. Take it out.")
              : std::string();
 }
 
@@ -45,26 +46,39 @@ std::string RefusedSign(ParameterId field, const Bot& after) {
   if (field == kModelField) text += after.Text(kSkinField);
   const std::size_t sign = text.find_first_of(kThrownAway);
   if (sign != std::string::npos) {
-    return "The game throws away a line with " + text.substr(sign, 1) +
-           " in its value. Take it out.";
+    return Localized(
+        "The game throws away a line with %1 in its value. Take it out.",
+        {text.substr(sign, 1)});
   }
   if (field == kModelField && text.find_first_of(" \t") != std::string::npos) {
-    return "No model and no skin of the game has a blank in its name. Take it "
-           "out.";
+    return Localized(
+        "No model and no skin of the game has a blank in its name. Take it "
+        "out.");
   }
   return {};
 }
 
-/// A better reason than that the number would not be loaded.
+/// Of a number that a load would round; empty for any other value.
 std::string RefusedDigits(const Value& value) {
   constexpr std::size_t kMaxDigits = 3;
   const std::string text = FormatValue(value);
   const std::size_t point = text.find('.');
   const bool is_long = ToNumber(value) && point != std::string::npos &&
                        text.size() - point - 1 > kMaxDigits;
-  return is_long ? "A load reads three digits behind the point, no more, and " +
-                       text + " has more. Round it."
+  return is_long ? Localized(
+                       "A load reads three digits behind the point, no "
+                       "more, and %1 has more. Round it.",
+                       {text})
                  : std::string();
+}
+
+/// Why a load would not have the new value.
+std::string NotLoaded(const FileChange& change, const Bot& after) {
+  const auto* const id = std::get_if<ParameterId>(&change);
+  std::string better =
+      id == nullptr ? std::string() : RefusedDigits(after.Parameter(*id));
+  if (!better.empty()) return better;
+  return Localized("It would not be read from there when the bot is loaded.");
 }
 
 bool IsSame(ParameterId id, const Bot& before, const Bot& after) {
@@ -112,7 +126,7 @@ bool IsUnread(const Attempt& attempt, const FileReading& before,
 
 /// Why the attempt cannot stand; nothing where it can.
 std::optional<std::string> FaultOf(const Attempt& attempt,
-                                   const std::string& own_name,
+                                   const FileChange& change, const Bot& bot,
                                    const FileReading& before,
                                    const FileReading& after) {
   Facts wanted = before.facts;
@@ -139,18 +153,22 @@ std::optional<std::string> FaultOf(const Attempt& attempt,
   const auto fault_at = [&](const FactKey& key) -> std::string {
     if (!attempt.expected.contains(key)) {
       const std::string other = NameOfFact(key, before);
-      if (!other.empty() && other == own_name) {
-        return "The line does not give it in a plain way. Write it as key and "
-               "number there first, without comments between them.";
+      if (other.empty()) {
+        return Localized("Another value would change with it.");
       }
-      return "Another value would change with it" +
-             (other.empty() ? "." : ": " + other + ".");
+      return other == NameOf(change)
+                 ? Localized(
+                       "The line does not give it in a plain way. Write "
+                       "it as key and number there first, without "
+                       "comments between them.")
+                 : Localized("Another value would change with it: %1.",
+                             {other});
     }
     const bool is_ours = key.kind == FactKind::kRule ||
                          key.kind == FactKind::kRuleChat ||
                          key.kind == FactKind::kPlain;
-    return is_ours ? std::string(kNotLoaded)
-                   : "The game would not read it from there.";
+    return is_ours ? NotLoaded(change, bot)
+                   : Localized("The game would not read it from there.");
   };
   for (const auto& [key, fact] : left) {
     const auto found = right.find(key);
@@ -160,8 +178,9 @@ std::optional<std::string> FaultOf(const Attempt& attempt,
     if (!left.contains(key)) return fault_at(key);
   }
   if (IsUnread(attempt, before, after)) {
-    return "The game takes the weight from another file or number, and would "
-           "not read this one.";
+    return Localized(
+        "The game takes the weight from another file or number, and would not "
+        "read this one.");
   }
   if (std::optional<std::string> fault = NewlyUnmixed(before, after)) {
     return fault;
@@ -169,7 +188,8 @@ std::optional<std::string> FaultOf(const Attempt& attempt,
   for (const auto& [kind, count] : after.errors) {
     const auto known = before.errors.find(kind);
     if (known == before.errors.end() || known->second < count) {
-      return "The game would find a fault in the file that it has not now.";
+      return Localized(
+          "The game would find a fault in the file that it has not now.");
     }
   }
   return std::nullopt;
@@ -185,13 +205,9 @@ bool IsWhereItBreaks(const Attempt& attempt, std::string_view bytes,
 /// Why a change that was tried in vain stays out, as its error.
 Error RefusalOf(const FileChange& change, const PlanContext& context,
                 std::string refusal) {
-  if (refusal.empty()) refusal = kNoNeighbours;
-  if (const auto* const id = std::get_if<ParameterId>(&change);
-      id != nullptr && refusal == kNotLoaded) {
-    std::string better = RefusedDigits(context.after.Parameter(*id));
-    if (!better.empty()) refusal = std::move(better);
-  }
-  return {.what = NameOf(change) + " cannot be changed in place. " + refusal,
+  if (refusal.empty()) refusal = Localized(kNoNeighbours);
+  return {.what = Localized("%1 cannot be changed in place. %2",
+                            {NameOf(change), refusal}),
           .file = context.readers.file().shown,
           .line = 0,
           .advice = {}};
@@ -210,12 +226,11 @@ void NoteComment(const FileReading& reading, std::string_view bytes,
       spans == reading.report.spans.end()) {
     return;
   }
-  plan.notes.push_back(
-      QuotedName(id) + " is now " + FormatValue(value) +
-      " for the game, but a load reads \"" + ShownText(ToText(read)) +
-      "\" from line " +
-      std::to_string(LineNumberAt(bytes, spans->second.back().begin)) +
-      ". Put the comment in a line of its own.");
+  plan.notes.push_back(Localized(
+      "%1 is now %2 for the game, but a load reads \"%3\" from line %4. Put "
+      "the comment in a line of its own.",
+      {QuotedName(id), FormatValue(value), ShownText(ToText(read)),
+       std::to_string(LineNumberAt(bytes, spans->second.back().begin))}));
 }
 
 void TakeNotes(const Plan& plan, const std::string& shown, Notes* notes) {
@@ -367,13 +382,15 @@ Result<std::string> EditInPlace(const BothReaders& readers,
     const std::vector<TextSpan> comments = CommentsIn(edited);
     for (const Attempt& attempt : plan.attempts) {
       if (TouchesComment(attempt, comments)) {
-        if (refusal.empty()) refusal = "A comment stands in its place.";
+        if (refusal.empty()) {
+          refusal = Localized("A comment stands in its place.");
+        }
         continue;
       }
       std::string tried = Spliced(edited, attempt.splices);
       FileReading read = readers.Read(tried);
       std::optional<std::string> fault =
-          FaultOf(attempt, NameOf(change), reading, read);
+          FaultOf(attempt, change, after, reading, read);
       if (!fault) {
         is_done = true;
         edited = std::move(tried);
@@ -399,10 +416,11 @@ Result<std::string> EditInPlace(const BothReaders& readers,
   if (told.notes != nullptr && LooksLikeUtf8(bytes) && !LooksLikeUtf8(edited)) {
     told.notes->Add(
         {readers.file().shown, 0,
-         "Letters were written in Windows-1252, in a file that was in UTF-8 so "
-         "far. The game knows no UTF-8 and has each of its bytes as a letter. "
-         "For letters as the file has them, give them as they are shown here, "
-         "such as \u00C3\u00A9 for \u00E9."});
+         Localized("Letters were written in Windows-1252, in a file that was "
+                   "in UTF-8 so far. The game knows no UTF-8 and has each of "
+                   "its bytes as a letter. For letters as the file has them, "
+                   "give them as they are shown here, such as %1 for %2.",
+                   {"\u00C3\u00A9", "\u00E9"})});
   }
   return edited;
 }

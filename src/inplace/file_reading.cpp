@@ -19,6 +19,7 @@
 #include "model/characteristic_catalogue.h"
 #include "model/file_names.h"
 #include "support/code_page.h"
+#include "support/localization.h"
 #include "support/numbers.h"
 #include "support/text.h"
 
@@ -59,24 +60,15 @@ void AddUnmixedFacts(FileReading& reading) {
         continue;
       }
       const std::string shown = FactOf(other->second.number);
-      std::string fact = "At skills between the levels ";
-      fact += at_lower;
-      fact += " and ";
-      fact += at_upper;
-      fact +=
-          " the game would have no value: it mixes a number that has a "
-          "point, as at level ";
-      fact += at_lower;
-      fact += ", with none that has not, as ";
-      fact += shown;
-      fact += " at level ";
-      fact += at_upper;
-      fact += ". Write ";
-      fact += shown;
-      fact += ".0 there first.";
       reading.facts[{.kind = FactKind::kUnmixed,
                      .group = static_cast<std::size_t>(NumberOf(lower)),
-                     .name = std::to_string(number)}] = std::move(fact);
+                     .name = std::to_string(number)}] =
+          Localized(
+              "At skills between the levels %1 and %2 the game would "
+              "have no value: it mixes a number that has a point, as at "
+              "level %1, with none that has not, as %3 at level %2. Write "
+              "%3.0 there first.",
+              {at_lower, at_upper, shown});
     }
   }
 }
@@ -317,6 +309,24 @@ bool BothReaders::ReadAsGame(std::string_view bytes, Complaints& complaints,
   return reading.weights.is_loaded;
 }
 
+namespace {
+
+/// What is wrong and where, which in another file than the shown one is told
+/// with its name.
+std::string FirstErrorText(const Complaint& complaint, std::string_view shown) {
+  const FilePlace& place = complaint.place;
+  const std::string line = std::to_string(place.line);
+  if (place.file == shown) {
+    return place.line > 0 ? Localized("line %1: %2", {line, complaint.text})
+                          : complaint.text;
+  }
+  return place.line > 0
+             ? Localized("%1, line %2: %3", {place.file, line, complaint.text})
+             : place.file + ", " + complaint.text;
+}
+
+}  // namespace
+
 FileReading BothReaders::Read(std::string_view bytes) const {
   FileReading reading;
   ReadAsWeDo(bytes, reading);
@@ -327,15 +337,10 @@ FileReading BothReaders::Read(std::string_view bytes) const {
     ++reading.errors[std::string(complaint.id)];
     if (!reading.first_error.empty()) continue;
     const FilePlace& place = complaint.place;
-    if (place.file != file_.shown) {
-      reading.first_error = place.file + ", ";
-    } else if (place.line > 0) {
+    if (place.file == file_.shown && place.line > 0) {
       reading.first_error_line = static_cast<std::size_t>(place.line);
     }
-    if (place.line > 0) {
-      reading.first_error += "line " + std::to_string(place.line) + ": ";
-    }
-    reading.first_error += complaint.text;
+    reading.first_error = FirstErrorText(complaint, file_.shown);
   }
   AddGameFacts(reading);
   return reading;

@@ -16,6 +16,7 @@
 #include "inplace/game_weights.h"
 #include "inplace/origin_files.h"
 #include "model/characteristic_catalogue.h"
+#include "support/localization.h"
 #include "support/numbers.h"
 #include "support/text.h"
 
@@ -65,9 +66,9 @@ class OddNumbers {
   void Tell(const std::string& shown) {
     if (names_.empty()) return;
     loaded_.notes.Add({shown, 0,
-                       "The game takes other numbers than stand in the file, "
-                       "or those of another line: " +
-                           names_.Text() + "."});
+                       Localized("The game takes other numbers than stand in "
+                                 "the file, or those of another line: %1.",
+                                 {names_.Text()})});
   }
 
  private:

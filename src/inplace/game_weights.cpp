@@ -13,6 +13,7 @@
 #include "inplace/splice.h"
 #include "model/characteristic_catalogue.h"
 #include "support/code_page.h"
+#include "support/localization.h"
 #include "support/numbers.h"
 #include "support/text.h"
 
@@ -129,10 +130,10 @@ std::string SourceOf(const OwnNumber& own, const WeightsRead& weights,
   const std::string line = std::to_string(LineNumberAt(bytes, own.span.begin));
   for (const OwnMacro& macro : weights.macros) {
     if (macro.value.Holds(own.span)) {
-      return ShownText(macro.name) + " (line " + line + ")";
+      return Localized("%1 (line %2)", {ShownText(macro.name), line});
     }
   }
-  return "the number in line " + line;
+  return Localized("the number in line %1", {line});
 }
 
 void TakeGameWeights(BotFile kind, const std::string& shown,
@@ -151,15 +152,16 @@ void TakeGameWeights(BotFile kind, const std::string& shown,
     has_own_way =
         has_own_way || !reading.report.given.contains(found.parameter);
     const std::string name = QuotedName(found.parameter);
-    pairs.Add(name + " from " + SourceOf(found.own, reading.weights, bytes));
+    pairs.Add(Localized("%1 from %2",
+                        {name, SourceOf(found.own, reading.weights, bytes)}));
     if (!found.others.empty()) unsure.Add(name);
   }
   if (!pairs.empty()) {
     loaded.notes.Remove(shown, NoteKind::kNoWeights);
     loaded.notes.Add({shown, 0,
-                      "Weights that the file sets in its own way, as the "
-                      "game's weight code takes them: " +
-                          pairs.Text() + "."});
+                      Localized("Weights that the file sets in its own way, "
+                                "as the game's weight code takes them: %1.",
+                                {pairs.Text()})});
   }
   if (has_own_way) {
     loaded.notes.Remove(shown, NoteKind::kMissingWeights);
@@ -172,22 +174,23 @@ void TakeGameWeights(BotFile kind, const std::string& shown,
   }
   if (!missing.empty()) {
     loaded.notes.Add({shown, 0,
-                      "The weight code takes no number of the file, or no "
-                      "single one, for " +
-                          missing.Text() +
-                          ". The 0 shown there is none of the bot's values."});
+                      Localized("The weight code takes no number of the file, "
+                                "or no single one, for %1. The 0 shown there "
+                                "is none of the bot's values.",
+                                {missing.Text()})});
   }
   if (!unsure.empty()) {
     loaded.notes.Add({shown, 0,
-                      "Of these the weight code has several numbers, and the "
-                      "largest is shown: " +
-                          unsure.Text() + "."});
+                      Localized("Of these the weight code has several "
+                                "numbers, and the largest is shown: %1.",
+                                {unsure.Text()})});
   }
   if (reading.report.given.empty() && pairs.empty()) {
     loaded.notes.Add({shown, 0,
-                      "What the file says is only understood together with the "
-                      "weight code of the game that it was made for. Give the "
-                      "folder of that game in the options."});
+                      Localized("What the file says is only understood "
+                                "together with the weight code of the game "
+                                "that it was made for. Give the folder of that "
+                                "game in the options.")});
   }
 }
 

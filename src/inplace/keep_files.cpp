@@ -22,6 +22,7 @@
 #include "model/file_names.h"
 #include "support/code_page.h"
 #include "support/files.h"
+#include "support/localization.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -170,13 +171,14 @@ Notes Keep(const Bot& bot, const BotHome& home, const IncludeLookup& game,
   for (const auto& [kind, edit] : edits.files) {
     if (!plan.files.contains(kind)) continue;
     const auto refuse = [&notes, &edit = edit](const std::string& why) {
-      notes.Add({edit.shown, 0, "The file was written anew. " + why});
+      notes.Add(
+          {edit.shown, 0, Localized("The file was written anew.") + " " + why});
     };
     if (edit.origin.is_on_disk() && !IsFile(edit.origin.path)) {
       notes.Add({edit.shown, 0,
-                 "The file is not there any more. '" +
-                     Utf8FromPath(plan.files.at(kind).filename()) +
-                     "' was made without what its author wrote."});
+                 Localized("The file is not there any more. '%1' was made "
+                           "without what its author wrote.",
+                           {Utf8FromPath(plan.files.at(kind).filename())})});
       continue;
     }
     if (edit.outcome == FileEdit::Outcome::kNotEditable) {
@@ -201,11 +203,14 @@ Notes Keep(const Bot& bot, const BotHome& home, const IncludeLookup& game,
     if (text) {
       plan.contents.insert_or_assign(kind, *std::move(text));
     } else {
-      refuse("Under its new name it would say something else.");
+      refuse(Localized("Under its new name it would say something else."));
     }
   }
   for (const ParameterId id : ChangesInNoFile(before, bot)) {
-    notes.Add({{}, 0, QuotedName(id) + " has no place in the author's files."});
+    notes.Add({{},
+               0,
+               Localized("%1 has no place in the author's files.",
+                         {QuotedName(id)})});
   }
   return notes;
 }

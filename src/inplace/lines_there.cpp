@@ -8,6 +8,7 @@
 #include "chat/vocabulary.h"
 #include "inplace/attempt.h"
 #include "support/code_page.h"
+#include "support/localization.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -38,16 +39,16 @@ std::vector<Statement> StatementsOf(const GameChat& chat) {
 }
 
 std::string WhyElsewhere(const LineThere& line, std::string_view key) {
-  const std::string shown =
-      "The line \"" + ShownText(line.text) + "\" stands in ";
   if (!EqualIgnoringCase(line.elsewhere, key)) {
-    return shown + "the block of the type \"" + ShownText(line.elsewhere) +
-           "\", and that is what the game takes it for: it has to stay in "
-           "the list.";
+    return Localized(
+        "The line \"%1\" stands in the block of the type \"%2\", and that is "
+        "what the game takes it for: it has to stay in the list.",
+        {ShownText(line.text), ShownText(line.elsewhere)});
   }
-  return shown +
-         "a block that the game does not use, as another one of this type "
-         "follows: it has to stay in the list.";
+  return Localized(
+      "The line \"%1\" stands in a block that the game does not use, as "
+      "another one of this type follows: it has to stay in the list.",
+      {ShownText(line.text)});
 }
 
 }  // namespace
@@ -78,10 +79,11 @@ std::vector<LineThere> LinesThere(const FileReading& reading, ChatTypeId type) {
       line.why_fixed =
           is_behind_fault
               ? BrokenRefusal(reading)
-              : "The game does not read the line as one of this type.";
+              : Localized(
+                    "The game does not read the line as one of this type.");
     } else if (std::distance(first, last) > 1) {
       line.why_fixed =
-          "Several lines of the game stand in one line of the file.";
+          Localized("Several lines of the game stand in one line of the file.");
     } else if (first->type != used) {
       line.elsewhere = reading.chat.types[first->type].name;
       line.why_fixed = WhyElsewhere(line, key);

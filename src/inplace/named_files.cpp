@@ -18,6 +18,7 @@
 #include "model/file_names.h"
 #include "support/code_page.h"
 #include "support/files.h"
+#include "support/localization.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -72,9 +73,11 @@ void NoteOtherLevels(const std::vector<NamedFile>& names,
         !told.insert(name.level).second) {
       continue;
     }
-    notes.Add({shown, 0,
-               "At level " + std::to_string(name.level) + " the game reads " +
-                   Utf8FromGameText(name.text) + ", which stays as it is."});
+    notes.Add(
+        {shown, 0,
+         Localized("At level %1 the game reads %2, which stays as it "
+                   "is.",
+                   {std::to_string(name.level), Utf8FromGameText(name.text)})});
   }
 }
 
@@ -101,9 +104,9 @@ void NoteOtherBots(const fs::path& character, ParameterId field,
   }
   if (bots.empty()) return;
   notes.Add({shown, 0,
-             "The edit changes other bots too, whose characteristic files name "
-             "this file: " +
-                 bots.Text() + "."});
+             Localized("The edit changes other bots too, whose characteristic "
+                       "files name this file: %1.",
+                       {bots.Text()})});
 }
 
 /// Bots that the same description gives the same characteristic file.
@@ -132,9 +135,9 @@ void NoteListedBots(const OriginFiles& files, const std::string& bot,
   }
   if (bots.empty()) return;
   notes.Add({shown, 0,
-             "The edit changes other bots too, which have the same files by " +
-                 Utf8FromGameText(NameAt(list->second)) + ": " + bots.Text() +
-                 "."});
+             Localized("The edit changes other bots too, which have the same "
+                       "files by %1: %2.",
+                       {Utf8FromGameText(NameAt(list->second)), bots.Text()})});
 }
 
 }  // namespace

@@ -15,6 +15,7 @@
 #include "inplace/number_style.h"
 #include "model/characteristic_catalogue.h"
 #include "support/code_page.h"
+#include "support/localization.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -86,12 +87,15 @@ class CharacteristicPlan {
     if (levels.empty()) {
       return has_value && !context_.reading.first_error.empty()
                  ? BrokenRefusal(context_.reading)
-                 : "The file has no block of this level that the game reads.";
+                 : Localized(
+                       "The file has no block of this level that the "
+                       "game reads.");
     }
     for (const Level level : levels) {
       if (!IsIncluded(level)) continue;
-      return "At level " + std::to_string(NumberOf(level)) +
-             " the game takes the value from a file that is included.";
+      return Localized(
+          "At level %1 the game takes the value from a file that is included.",
+          {std::to_string(NumberOf(level))});
     }
     // There may be more levels in a file that nobody could look at.
     const bool is_missing_one =
@@ -123,9 +127,9 @@ class CharacteristicPlan {
     const std::string& plain = context_.reading.facts.at(PlainFact(id_));
     // Texts have a quotation mark in front.
     if (!plain.starts_with("\"$")) return;
-    plan_.refusal =
+    plan_.refusal = Localized(
         "The file has the game calculate it, and only a plain number can be "
-        "changed. Write one there first, such as 0.5.";
+        "changed. Write one there first, such as 0.5.");
   }
 
   /// What a bot has once may stand there with another value at each level.
@@ -138,16 +142,19 @@ class CharacteristicPlan {
                   : context_.reading.facts.end();
       const bool has_value = fact != context_.reading.facts.end();
       // Texts have a quotation mark in front.
-      std::string shown = has_value ? ShownText(fact->second) : "no value";
+      std::string shown =
+          has_value ? ShownText(fact->second) : Localized("no value");
       if (shown.starts_with('"')) shown += '"';
-      text += (text.empty() ? "" : ", ") + shown + " at level " +
-              std::to_string(NumberOf(level));
+      if (!text.empty()) text += ", ";
+      text +=
+          Localized("%1 at level %2", {shown, std::to_string(NumberOf(level))});
       values.insert(std::move(shown));
     }
     if (values.size() < 2) return;
-    plan_.notes.push_back(QuotedName(id_) +
-                          " is one value for all levels here. The file had " +
-                          text + "; now each of them has the new one.");
+    plan_.notes.push_back(
+        Localized("%1 is one value for all levels here. The file had %2; now "
+                  "each of them has the new one.",
+                  {QuotedName(id_), text}));
   }
 
   std::vector<Level> OwnLevels() const {
@@ -289,15 +296,16 @@ class CharacteristicPlan {
     if (!IsOurs(last)) {
       const std::string line =
           std::to_string(LineNumberAt(context_.bytes, last.begin));
-      plan_.refusal =
+      plan_.refusal = Localized(
           IsInCondition(context_.bytes, last.begin)
-              ? "A load takes the value from line " + line +
-                    ", which the game passes over. Change that line, or "
-                    "take it out, first."
-              : "A load reads line " + line +
-                    " otherwise than the game does, and takes that value. Take "
-                    "the line out, or write it as a file made here has it, "
-                    "first.";
+              ? Localizable("A load takes the value from line %1, which the "
+                            "game passes over. Change that line, or take it "
+                            "out, first.")
+              : Localizable(
+                    "A load reads line %1 otherwise than the game does, "
+                    "and takes that value. Take the line out, or write "
+                    "it as a file made here has it, first."),
+          {line});
       return false;
     }
     attempt.splices.push_back(Replacement(last));

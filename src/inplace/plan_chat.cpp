@@ -13,6 +13,7 @@
 #include "inplace/line_steps.h"
 #include "inplace/lines_there.h"
 #include "support/code_page.h"
+#include "support/localization.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -162,11 +163,10 @@ class ChatPlan {
       const std::string later =
           StatementFor(type_, line.text, {}, context_.readers.lists()).text;
       if (written.starts_with('"') == later.starts_with('"')) continue;
-      notes_.push_back("The line \"" + ShownText(line.text) +
-                       "\" goes, which was written as " + ShownText(written) +
-                       ". Given again by a later edit it would be " +
-                       ShownText(later) +
-                       ", which the game takes for something else.");
+      notes_.push_back(Localized(
+          "The line \"%1\" goes, which was written as %2. Given again by a "
+          "later edit it would be %3, which the game takes for something else.",
+          {ShownText(line.text), ShownText(written), ShownText(later)}));
     }
   }
 
@@ -184,17 +184,18 @@ class ChatPlan {
     GameChat chat;
     if (!ReadGameChat(file, "c", context_.readers.game(), complaints, &chat) ||
         chat.types.size() != 1 || chat.types.front().lines.size() != 1) {
-      Refuse("The game would not read the new line.");
+      Refuse(Localized("The game would not read the new line."));
       return std::nullopt;
     }
     const auto& list = complaints.list();
     if (std::any_of(list.begin(), list.end(), [](const Complaint& complaint) {
           return complaint.id == "unknown-escape";
         })) {
-      Refuse(
-          "The game does not know what the backslash in \"" + ShownText(text) +
-          "\" is to mean, complains and cuts the text there. Take it out, or "
-          "write two of them.");
+      Refuse(Localized(
+          "The game does not know what the backslash in \"%1\" is to mean, "
+          "complains and cuts the text there. Take it out, or write two of "
+          "them.",
+          {ShownText(text)}));
       return std::nullopt;
     }
     line.words = std::move(chat.types.front().lines.front().words);
@@ -272,18 +273,19 @@ class ChatPlan {
     const GameChatType& block = chat_.types[*used_];
     if (block.open.empty()) {
       return Refuse(
-          "The game takes the lines of this type from a file that is included "
-          "here.");
+          Localized("The game takes the lines of this type from a file that is "
+                    "included here."));
     }
     if (!block.lines.empty()) {
-      return Refuse("The lines of this type are not where they should be.");
+      return Refuse(
+          Localized("The lines of this type are not where they should be."));
     }
     const LineOfFile line = LineAround(context_.bytes, block.open.begin);
     const std::string indent(IndentOf(context_.bytes, line));
     if (line.text.Holds(block.close)) {
       return Refuse(
-          "The braces of this type stand in one line. Put each of them into a "
-          "line of its own first.");
+          Localized("The braces of this type stand in one line. Put each of "
+                    "them into a line of its own first."));
     }
     AddAttempt(
         LinesBehind(context_.bytes, line, Statements(fresh_, indent + '\t')));
@@ -314,7 +316,7 @@ class ChatPlan {
     }
     if (last.empty() && !chat_.open.empty()) AddNewBlock(chat_.open, "\t");
     if (plan_.attempts.empty()) {
-      plan_.refusal = "The file has no chat that the game reads.";
+      plan_.refusal = Localized("The file has no chat that the game reads.");
     }
   }
 
@@ -361,9 +363,9 @@ class ChatPlan {
   void NoteOrder(const Lines& texts) {
     Lines wanted = context_.after.ChatLines(type_);
     std::erase(wanted, std::string());
-    const std::string note =
+    const std::string note = Localized(
         "The lines of this situation stand in several blocks of the file, and "
-        "each stays in its own: they come back in another order than given.";
+        "each stays in its own: they come back in another order than given.");
     if (texts != wanted && std::ranges::find(notes_, note) == notes_.end()) {
       notes_.push_back(note);
     }

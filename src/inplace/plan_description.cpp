@@ -14,6 +14,7 @@
 #include "session/identity_rules.h"
 #include "support/code_page.h"
 #include "support/game_blank.h"
+#include "support/localization.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -72,27 +73,27 @@ class DescriptionPlan {
     ExpectFields(attempt);
     if (is_there && old->text.ends_with('}')) {
       return {.attempts = {},
-              .refusal =
-                  "The game takes the brace behind the value for a part "
-                  "of it. Put the brace into a line of its own first."};
+              .refusal = Localized(
+                  "The game takes the brace behind the value for a part of it. "
+                  "Put the brace into a line of its own first.")};
     }
     if (is_there) {
       attempt.splices.push_back(text ? Replacement(old->span, *text)
                                      : LineRemoval(old->span, key));
       Plan plan = {.attempts = {attempt}, .refusal = {}};
       if (text && HasCommentBeside(old->span)) {
-        plan.refusal =
+        plan.refusal = Localized(
             "A load takes the comment in its line for a part of it. Put that "
-            "into a line of its own first.";
-        plan.notes.emplace_back(
-            "The comment behind " + QuotedName(field_) +
-            " stays. A load here takes it for a part of the text, as before; "
-            "the game does not.");
+            "into a line of its own first.");
+        plan.notes.push_back(Localized(
+            "The comment behind %1 stays. A load here takes it for a part of "
+            "the text, as before; the game does not.",
+            {QuotedName(field_)}));
       }
       if (text && key == kReadColor) {
-        plan.notes.emplace_back(
+        plan.notes.push_back(Localized(
             "The game reads color1, of which a load here takes the 1 for a "
-            "part of the value, as before.");
+            "part of the value, as before."));
       }
       if (plan.refusal.empty() && field_ == kNameField) {
         plan.refusal = SharedFilesRefusal();
@@ -156,13 +157,15 @@ class DescriptionPlan {
            return other.first != key && Overlap(other.second.span, line);
          }));
     if (shares_line) {
-      return "More than this value stands in its line, and a load takes all up "
-             "to the line's end for it. Put each key and each brace into a "
-             "line of its own first.";
+      return Localized(
+          "More than this value stands in its line, and a load takes all up to "
+          "the line's end for it. Put each key and each brace into a line of "
+          "its own first.");
     }
     if (!is_there && IsOneLine(context_.bytes, set_.span)) {
-      return "The description stands in one line. Put each key and each brace "
-             "into a line of its own first.";
+      return Localized(
+          "The description stands in one line. Put each key and each brace "
+          "into a line of its own first.");
     }
     const auto spans = context_.reading.report.spans.find(field_);
     if (spans == context_.reading.report.spans.end()) return {};
@@ -180,12 +183,19 @@ class DescriptionPlan {
     const std::string_view other_line = TrimBlanksAndTabs(
         TextAt(context_.bytes, LineAround(context_.bytes, other->begin).text));
     if (EqualIgnoringCase(FirstToken(other_line), key)) {
-      return "Its key stands in line " + number +
-             ", too, and that line would count then. Take it out first.";
+      return Localized(
+          "Its key stands in line %1, too, and that line would count then. "
+          "Take it out first.",
+          {number});
     }
-    return "A load takes it from line " + number + (is_removal ? " then" : "") +
-           ", where its key stands in another word. Take that line out" +
-           (is_removal ? "" : ", or put it further up,") + " first.";
+    return Localized(
+        is_removal
+            ? Localizable("A load takes it from line %1 then, where its key "
+                          "stands in another word. Take that line out first.")
+            : Localizable("A load takes it from line %1, where its key stands "
+                          "in another word. Take that line out, or put it "
+                          "further up, first."),
+        {number});
   }
 
   /// Why the name of one of several bots with the same files has to stay.
@@ -195,10 +205,11 @@ class DescriptionPlan {
       if (&other == &set_ || !EqualIgnoringCase(other.Text("aifile"), file)) {
         continue;
       }
-      return "\"" + ShownText(other.Text("name")) +
-             "\" has the same files, and without the old name a load takes "
-             "that one's description for this bot's. Give it files of its own "
-             "first.";
+      return Localized(
+          "\"%1\" has the same files, and without the old name a load takes "
+          "that one's description for this bot's. Give it files of its own "
+          "first.",
+          {ShownText(other.Text("name"))});
     }
     return {};
   }
@@ -373,17 +384,17 @@ Plan PlanDescription(const PlanContext& context, ParameterId field) {
   const std::string limit = std::to_string(limits::kRefusedDescription);
   if (context.bytes.size() >= limits::kRefusedDescription) {
     return {.attempts = {},
-            .refusal =
-                "The file is too large: the game reads no description "
-                "of " +
-                limit + " bytes or more. Shorten it."};
+            .refusal = Localized(
+                "The file is too large: the game reads no description of %1 "
+                "bytes or more. Shorten it.",
+                {limit})};
   }
   const std::optional<std::size_t> set = OwnSet(context.reading);
   if (!set) {
     return {.attempts = {},
-            .refusal =
-                "The game reads no description of this bot there that "
-                "stands in lines of its own."};
+            .refusal = Localized(
+                "The game reads no description of this bot there that stands "
+                "in lines of its own.")};
   }
   Plan plan = DescriptionPlan(context, field, *set).Make();
   const auto is_too_large = [&context](const Attempt& attempt) {
@@ -393,10 +404,10 @@ Plan PlanDescription(const PlanContext& context, ParameterId field) {
   if (!plan.attempts.empty() &&
       std::ranges::all_of(plan.attempts, is_too_large)) {
     return {.attempts = {},
-            .refusal =
-                "With that the file would be too large: the game reads "
-                "no description of " +
-                limit + " bytes or more. Shorten it."};
+            .refusal = Localized(
+                "With that the file would be too large: the game reads no "
+                "description of %1 bytes or more. Shorten it.",
+                {limit})};
   }
   return plan;
 }

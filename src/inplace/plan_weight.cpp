@@ -12,6 +12,7 @@
 #include "inplace/number_style.h"
 #include "model/characteristic_catalogue.h"
 #include "support/code_page.h"
+#include "support/localization.h"
 #include "support/numbers.h"
 #include "support/text.h"
 
@@ -145,10 +146,10 @@ Plan PlanNewMacro(const PlanContext& context, ParameterId id,
     return {.attempts = {},
             .refusal =
                 GivenFactsOf(reading, id).empty()
-                    ? "The weight code that the file includes does not ask for "
-                      "it."
-                    : "The weight code takes its number from another file, or "
-                      "makes it out of several."};
+                    ? Localized("The weight code that the file includes does "
+                                "not ask for it.")
+                    : Localized("The weight code takes its number from another "
+                                "file, or makes it out of several.")};
   }
   const auto span_of = [&](int index) {
     const OwnMacro* const macro = MacroOf(reading.weights, ParameterId(index));
@@ -169,7 +170,7 @@ Plan PlanNewMacro(const PlanContext& context, ParameterId id,
     }
   }
   if (neighbours.before.empty() && neighbours.behind.empty()) {
-    return {.attempts = {}, .refusal = std::string(kNoNeighbours)};
+    return {.attempts = {}, .refusal = Localized(kNoNeighbours)};
   }
   const Value& value = context.after.Parameter(id);
   Plan plan;
@@ -198,11 +199,10 @@ std::vector<std::string> NotesOnRest(const PlanContext& context,
   }
   const double value = ToNumber(context.after.Parameter(weight)).value_or(0);
   if (!largest || *largest <= value) return {};
-  return {QuotedName(weight) +
-          " has other numbers too that stay as they are. "
-          "The next load shows the largest of them, " +
-          ShownNumber(*largest) + ", and not the " + ShownNumber(value) +
-          " that is written now."};
+  return {Localized(
+      "%1 has other numbers too that stay as they are. The next load shows the "
+      "largest of them, %2, and not the %3 that is written now.",
+      {QuotedName(weight), ShownNumber(*largest), ShownNumber(value)})};
 }
 
 /// Of a weight that our macros do not give, the number or numbers of the file
@@ -223,10 +223,12 @@ Plan PlanOneOfMany(const PlanContext& context, const FoundWeight& found) {
         context.chooser ? context.chooser(found.parameter, shown)
                         : std::nullopt;
     if (!chosen) {
-      return {.attempts = {},
-              .refusal =
-                  "The weight code of the file has several numbers for it (" +
-                  all + "), and nobody said which one is meant."};
+      return {
+          .attempts = {},
+          .refusal = Localized(
+              "The weight code of the file has several numbers for it (%1), "
+              "and nobody said which one is meant.",
+              {all})};
     }
     if (*chosen < numbers.size()) {
       plan.notes = NotesOnRest(context, found.parameter, numbers, *chosen);
@@ -251,19 +253,23 @@ bool IsQuotedNumber(std::string_view bytes, const OwnMacro& macro) {
 std::string OddValueRefusal(const PlanContext& context, const OwnMacro* macro) {
   if (macro == nullptr) return {};
   if (IsQuotedNumber(context.bytes, *macro)) {
-    return "The file gives " + macro->name +
-           " its number in quotation marks, and so the game does not take it. "
-           "Take them out first.";
+    return Localized(
+        "The file gives %1 its number in quotation marks, and so the game does "
+        "not take it. Take them out first.",
+        {macro->name});
   }
   if (IsNumericText(macro->text)) return {};
   if (macro->value.empty()) {
-    return "The file gives " + macro->name +
-           " no value. Write a number behind it first, such as 50.";
+    return Localized(
+        "The file gives %1 no value. Write a number behind it first, such as "
+        "50.",
+        {macro->name});
   }
   const std::string_view text = TextAt(context.bytes, macro->value);
-  return "The file gives " + macro->name + " the value \"" + ShownText(text) +
-         "\", and only a plain number can be changed. Write one there first, "
-         "such as 50.";
+  return Localized(
+      "The file gives %1 the value \"%2\", and only a plain number can be "
+      "changed. Write one there first, such as 50.",
+      {macro->name, ShownText(text)});
 }
 
 /// Beside our macros the file may set those of other weight code, and without
@@ -285,12 +291,11 @@ void NoteOtherMacros(const PlanContext& context, ParameterId id,
     }
   }
   if (others.empty()) return;
-  plan.notes.push_back(
-      macro->name + " is changed alone. The file sets other macros too (" +
-      others.Text() +
-      "), and the game may take the weight from one of them: the weight code "
-      "that the file includes is not there to tell. Give the folder of its "
-      "game.");
+  plan.notes.push_back(Localized(
+      "%1 is changed alone. The file sets other macros too (%2), and the game "
+      "may take the weight from one of them: the weight code that the file "
+      "includes is not there to tell. Give the folder of its game.",
+      {macro->name, others.Text()}));
 }
 
 }  // namespace
@@ -323,8 +328,9 @@ Plan PlanWeight(const PlanContext& context, ParameterId id) {
   if (macro == nullptr && game_spans.empty()) {
     return {.attempts = {},
             .refusal = reading.first_error.empty()
-                           ? "The game does not take it from this file, or "
-                             "takes it from one that is included."
+                           ? Localized("The game does not take it from this "
+                                       "file, or takes it from one that is "
+                                       "included.")
                            : BrokenRefusal(reading)};
   }
   Plan plan = {.attempts = {}, .refusal = OddValueRefusal(context, macro)};

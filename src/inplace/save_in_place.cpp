@@ -15,6 +15,7 @@
 #include "session/load_bot.h"
 #include "session/save_again.h"
 #include "support/files.h"
+#include "support/localization.h"
 #include "support/no_prompts.h"
 #include "support/text.h"
 #include "support/unified_diff.h"
@@ -55,19 +56,24 @@ Answer Ask(const FileEdit& edit, Prompts& prompts) {
   constexpr std::size_t kMaxShown = 8;
   std::string text = "'" + edit.shown + "': " + edit.reason.what;
   if (!edit.losses.empty()) {
-    text += "\n\nA file written anew would lose or change:";
+    text += "\n\n" + Localized("A file written anew would lose or change:");
     for (std::size_t at = 0; at < edit.losses.size() && at < kMaxShown; ++at) {
       text += "\n- " + edit.losses[at];
     }
     if (edit.losses.size() > kMaxShown) {
-      text += "\n- and " + std::to_string(edit.losses.size() - kMaxShown) +
-              " more.";
+      text +=
+          "\n- " + Localized("and %1 more.",
+                             {std::to_string(edit.losses.size() - kMaxShown)});
     }
   }
-  text += "\n\nThe old file is kept as NAME.bak when it is written anew.";
-  const std::vector<std::string> buttons = {
-      "Cancel", edit.bytes.empty() ? "Leave this file" : "Edit it in place",
-      "Write it anew"};
+  text +=
+      "\n\n" +
+      Localized("The old file is kept as NAME.bak when it is written anew.");
+  const std::vector<std::string> buttons = {Localized("Cancel"),
+                                            edit.bytes.empty()
+                                                ? Localized("Leave this file")
+                                                : Localized("Edit it in place"),
+                                            Localized("Write it anew")};
   return static_cast<Answer>(
       prompts.Choose(std::string(kProgramTitle), text, buttons));
 }
@@ -173,13 +179,14 @@ NumberChooser AskForNumber(Prompts& prompts, bool& is_cancelled) {
                                    const std::vector<std::string>& numbers)
              -> std::optional<std::size_t> {
     if (is_cancelled) return std::nullopt;
-    std::vector<std::string> buttons = {"Cancel"};
+    std::vector<std::string> buttons = {Localized("Cancel")};
     buttons.insert(buttons.end(), numbers.begin(), numbers.end());
-    buttons.emplace_back("All of them");
+    buttons.push_back(Localized("All of them"));
     const std::size_t answer = prompts.Choose(
         std::string(kProgramTitle),
-        "The weight code of the bot's file has several numbers for " +
-            QuotedName(weight) + ". Which one do you want to change?",
+        Localized("The weight code of the bot's file has several numbers for "
+                  "%1. Which one do you want to change?",
+                  {QuotedName(weight)}),
         buttons);
     is_cancelled = answer == 0;
     if (is_cancelled) return std::nullopt;
@@ -277,10 +284,11 @@ bool MayEdit(const BotEdits& edits, Prompts& prompts) {
   }
   return names.empty() ||
          prompts.Confirm(std::string(kProgramTitle),
-                         "Changed since the bot was read or saved here:\n" +
-                             names +
-                             "Do you want to write what you changed all the "
-                             "same?");
+                         Localized("Changed since the bot was read or saved "
+                                   "here:") +
+                             "\n" + names +
+                             Localized("Do you want to write what you changed "
+                                       "all the same?"));
 }
 
 }  // namespace
@@ -383,11 +391,11 @@ std::string ChangesToShow(const SaveInPlace& save) {
     if (edit.outcome != FileEdit::Outcome::kNotEditable) continue;
     text += edit.shown + ": " + edit.reason.what + "\n";
     for (const std::string& loss : edit.losses) {
-      text += "  Written anew: " + loss + "\n";
+      text += "  " + Localized("Written anew: %1", {loss}) + "\n";
     }
   }
   for (const std::string& name : edits.homeless) {
-    text += name + " stands in none of the bot's files.\n";
+    text += Localized("%1 stands in none of the bot's files.", {name}) + "\n";
   }
   return text;
 }

@@ -6,7 +6,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
-#include <string_view>
 
 namespace fragsmith {
 
@@ -20,9 +19,6 @@ inline constexpr std::array<Level, 3> kLevels = {Level::k1, Level::k4,
 
 /// The same as the game counts them.
 inline constexpr std::array<int, kLevels.size()> kLevelNumbers = {1, 4, 5};
-
-/// The same in words.
-inline constexpr std::string_view kLevelsInWords = "the levels 1, 4 and 5";
 
 constexpr std::size_t IndexOf(Level level) {
   return static_cast<std::size_t>(level);

@@ -10,6 +10,7 @@
 #include "chat/vocabulary.h"
 #include "model/characteristic_catalogue.h"
 #include "support/code_page.h"
+#include "support/localization.h"
 
 namespace fragsmith {
 namespace {
@@ -147,8 +148,8 @@ class ChatAligner {
         .right = {}};
     const ChatLineIndex shown =
         takes_left ? difference.left_line : difference.right_line;
-    difference.title =
-        QuotedChatType(type_) + ", line " + std::to_string(shown.number());
+    difference.title = Localized(
+        "%1, line %2", {QuotedChatType(type_), std::to_string(shown.number())});
     if (takes_left) {
       difference.left = Utf8FromGameText(*left_[left_at_++].text);
     }

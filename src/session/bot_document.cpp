@@ -15,6 +15,7 @@
 #include "model/characteristic_catalogue.h"
 #include "session/bot_document_json.h"
 #include "support/code_page.h"
+#include "support/localization.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -126,23 +127,26 @@ OrderedJson ChatsToJson(const Bot& bot) {
 // Reading.
 
 std::string ReadText(const Json& json, const std::string& field) {
-  if (!json.is_string()) RefuseField(field, "a text is wanted here.");
+  if (!json.is_string())
+    RefuseField(field, Localized("a text is wanted here."));
   const std::optional<std::string> text =
       GameTextFromUtf8(json.get_ref<const std::string&>());
   if (!text) {
     RefuseField(field,
-                "the text has a character that the game's code page lacks.",
-                "Only characters of Windows-1252 can be used.");
+                Localized("the text has a character that the game's code page "
+                          "lacks."),
+                Localized("Only characters of Windows-1252 can be used."));
   }
   if (text->find_first_of("\r\n") != std::string::npos) {
-    RefuseField(field, "the text has a line break.",
-                "The game's files hold each text on one line.");
+    RefuseField(field, Localized("the text has a line break."),
+                Localized("The game's files hold each text on one line."));
   }
   return *text;
 }
 
 const Json& Object(const Json& json, const std::string& field) {
-  if (!json.is_object()) RefuseField(field, "an object is wanted here.");
+  if (!json.is_object())
+    RefuseField(field, Localized("an object is wanted here."));
   return json;
 }
 
@@ -184,7 +188,7 @@ void ReadParameters(const Json& json, IndexRange range,
     path += key;
     const auto found = indices.find(key);
     if (found == indices.end()) {
-      unknown.Meet(path, "there is no such key.");
+      unknown.Meet(path, Localized("there is no such key."));
       continue;
     }
     Store(bot, IdOf(level, found->second), ValueFromJson(value, path), path);
@@ -199,8 +203,7 @@ void ReadLevels(const Json& json, const UnknownKeys& unknown, Bot& bot) {
           return std::to_string(NumberOf(one)) == name;
         });
     if (level == kLevels.end()) {
-      unknown.Meet(field,
-                   "a bot has " + std::string(kLevelsInWords) + " only.");
+      unknown.Meet(field, Localized("a bot has the levels 1, 4 and 5 only."));
       continue;
     }
     ReadParameters(value, kPerLevelRange, *level, field, unknown, bot);
@@ -216,11 +219,11 @@ void ReadChats(const Json& json, const UnknownKeys& unknown, Bot& bot) {
     const std::string field = "chats." + key;
     const auto type = types.find(key);
     if (type == types.end()) {
-      unknown.Meet(field, "there is no such chat type.");
+      unknown.Meet(field, Localized("there is no such chat type."));
       continue;
     }
     if (!lines.is_array())
-      RefuseField(field, "a list of texts is wanted here.");
+      RefuseField(field, Localized("a list of texts is wanted here."));
     ChatLineIndex next;
     for (const Json& line : lines) {
       bot.SetChatLine(
@@ -246,7 +249,7 @@ void ReadKey(const std::string& key, const Json& value,
   }
   if (key == "levels") return ReadLevels(value, unknown, document.bot);
   if (key == "chats") return ReadChats(value, unknown, document.bot);
-  unknown.Meet(key, "there is no such key.");
+  unknown.Meet(key, Localized("there is no such key."));
 }
 
 }  // namespace
@@ -260,8 +263,9 @@ OrderedJson ValueToJson(const Value& value) {
 
 Value ValueFromJson(const Json& json, const std::string& field) {
   if (json.is_number()) return json.get<double>();
-  if (!json.is_string())
-    RefuseField(field, "a number or a text is wanted here.");
+  if (!json.is_string()) {
+    RefuseField(field, Localized("a number or a text is wanted here."));
+  }
   return ReadText(json, field);
 }
 

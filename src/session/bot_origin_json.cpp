@@ -17,6 +17,7 @@
 #include "session/bot_document_json.h"
 #include "support/code_page.h"
 #include "support/files.h"
+#include "support/localization.h"
 
 namespace fragsmith {
 namespace {
@@ -194,7 +195,7 @@ void ReadReport(const Json& json, const UnknownKeys& unknown,
     const auto kind = note.value("kind", std::string());
     const bool is_also = kind == kAlsoInFile;
     if (!is_also && !kind.empty()) {
-      unknown.Meet(path + ".notes.kind", "there is no such kind.");
+      unknown.Meet(path + ".notes.kind", Localized("there is no such kind."));
     }
     report.notes.Add(
         {.file = note.at("file").get<std::string>(),
@@ -204,7 +205,9 @@ void ReadReport(const Json& json, const UnknownKeys& unknown,
   }
   for (const Json& odd : json.at("oddValues")) {
     const auto parameter = ParameterOfNumber(odd.at("parameter").get<int>());
-    if (!parameter) RefuseField("oddValues", "there is no such parameter.");
+    if (!parameter) {
+      RefuseField("oddValues", Localized("there is no such parameter."));
+    }
     report.odd_values.emplace(
         *parameter, OddValue{.read = ValueFromJson(odd.at("read"), "read"),
                              .plain = ValueFromJson(odd.at("plain"), "plain")});

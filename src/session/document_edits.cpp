@@ -12,6 +12,7 @@
 #include "session/bot_difference.h"
 #include "session/bot_document_json.h"
 #include "session/json_format.h"
+#include "support/localization.h"
 #include "support/numbers.h"
 
 namespace fragsmith {
@@ -27,13 +28,13 @@ Json& AtPath(Json& document, const std::string& path) {
     const std::size_t point = std::min(path.find('.', start), path.size());
     const std::string key = path.substr(start, point - start);
     if (!value->is_object() || !value->contains(key)) {
-      RefuseField(path, "there is no such key.");
+      RefuseField(path, Localized("there is no such key."));
     }
     value = &(*value)[key];
     start = point + 1;
   }
   if (value->is_object() || path == kFormatKey) {
-    RefuseField(path, "this is no value of a bot.");
+    RefuseField(path, Localized("this is no value of a bot."));
   }
   return *value;
 }
@@ -43,8 +44,9 @@ Json ValueFor(const Json& old, const ValueAtPath& edit, bool is_text) {
   Json parsed = Json::parse(edit.value, nullptr, false);
   if (old.is_array()) {
     if (!parsed.is_array()) {
-      RefuseField(edit.path, "a list of texts is wanted here.",
-                  R"(Write it as in JSON: ["a line", "another"].)");
+      RefuseField(
+          edit.path, Localized("a list of texts is wanted here."),
+          Localized("Write it as in JSON: %1.", {R"(["a line", "another"])"}));
     }
     return parsed;
   }
@@ -82,12 +84,13 @@ bool IsPlainNumber(const Json& value) {
 
 void CheckNumber(const Json& value, const std::string& path) {
   if (IsPlainNumber(value)) {
-    RefuseField(path, "this number has more digits than can be held.",
-                "Write a smaller one.");
+    RefuseField(path,
+                Localized("this number has more digits than can be held."),
+                Localized("Write a smaller one."));
   }
   if (!IsNumber(value)) {
-    RefuseField(path, "a number is wanted here.",
-                "Write it with digits and a point, such as 0.5.");
+    RefuseField(path, Localized("a number is wanted here."),
+                Localized("Write it with digits and a point, such as 0.5."));
   }
 }
 
@@ -118,8 +121,8 @@ void CheckNumbers(const Json& old, Json& wanted, const std::string& path,
 /// one has.
 void RefuseNulls(const Json& patch, const std::string& path) {
   if (patch.is_null()) {
-    RefuseField(path, "null is no value.",
-                "Leave the key out where nothing is to change.");
+    RefuseField(path, Localized("null is no value."),
+                Localized("Leave the key out where nothing is to change."));
   }
   if (!patch.is_object()) return;
   for (const auto& [key, value] : patch.items()) {
@@ -137,8 +140,8 @@ void CheckArenaLord(const Json& old, const Json& wanted) {
     number = NumberFromText(wanted.get_ref<const std::string&>());
   }
   if (wanted == old || (number && std::trunc(*number) == *number)) return;
-  RefuseField("arenaLord", "a whole number is wanted here.",
-              "Write 1 for yes or 0 for no.");
+  RefuseField("arenaLord", Localized("a whole number is wanted here."),
+              Localized("Write 1 for yes or 0 for no."));
 }
 
 /// No file has a line that says nothing.
@@ -146,8 +149,8 @@ void CheckChatLines(const Json& old, const Json& lines,
                     const std::string& path) {
   if (lines != old && lines.is_array() &&
       std::find(lines.begin(), lines.end(), "") != lines.end()) {
-    RefuseField(path, "a chat line is empty.",
-                "Leave it out; a type without lines is [].");
+    RefuseField(path, Localized("a chat line is empty."),
+                Localized("Leave it out; a type without lines is []."));
   }
 }
 

@@ -7,6 +7,7 @@
 #include "session/bot_document_json.h"
 #include "session/bot_origin_json.h"
 #include "session/json_format.h"
+#include "support/localization.h"
 
 namespace fragsmith {
 namespace {
@@ -39,12 +40,12 @@ Result<Draft> ReadDraft(std::string_view json, const std::string& file,
     if (was_cut) {
       notes.Add({.file = file,
                  .line = 0,
-                 .text = "What is nested too deeply is left out."});
+                 .text = Localized("What is nested too deeply is left out.")});
     }
     BringUpToDate(value, kSteps, unknown);
     const auto bot = value.find(kBotKey);
     if (bot == value.end() || !bot->is_object()) {
-      RefuseField(kBotKey, "the document of a bot is wanted here.");
+      RefuseField(kBotKey, Localized("the document of a bot is wanted here."));
     }
     Draft draft = {
         .bot = UncheckedBot(BotDocumentFromJson(std::move(*bot), unknown))};
@@ -52,7 +53,7 @@ Result<Draft> ReadDraft(std::string_view json, const std::string& file,
       if (key == kOriginKey) {
         draft.origin = BotOriginFromJson(part, unknown);
       } else if (key != kBotKey) {
-        unknown.Meet(key, "there is no such key.");
+        unknown.Meet(key, Localized("there is no such key."));
       }
     }
     return draft;

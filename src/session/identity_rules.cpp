@@ -2,6 +2,7 @@
 
 #include "model/characteristic_catalogue.h"
 #include "support/files.h"
+#include "support/localization.h"
 #include "support/numbers.h"
 #include "support/text.h"
 
@@ -28,12 +29,14 @@ std::optional<Message> NameRefusal(const std::string& name) {
                    "use spaces.");
   }
   if (!IsFileName(name)) {
-    std::string text = "Bot name can't have any of these characters:";
+    std::string letters;
     for (const char letter : kForbiddenInFileNames) {
-      text += ' ';
-      text += letter;
+      if (!letters.empty()) letters += ' ';
+      letters += letter;
     }
-    return Refusal("Name error!", std::move(text));
+    return Refusal(Localized("Name error!"),
+                   Localized("Bot name can't have any of these characters: %1",
+                             {letters}));
   }
   return std::nullopt;
 }

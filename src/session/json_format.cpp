@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "session/bot_document.h"
+#include "support/localization.h"
 
 namespace fragsmith {
 namespace {
@@ -19,7 +20,7 @@ std::string ShownField(const std::string& field) {
 }
 
 std::string AboutField(const std::string& field, const std::string& reason) {
-  return "Field " + ShownField(field) + ": " + reason;
+  return Localized("Field %1: %2", {ShownField(field), reason});
 }
 
 [[noreturn]] void Refuse(std::string what, std::string advice = {}) {
@@ -39,7 +40,9 @@ Json ParseBounded(std::string_view text, bool* was_cut) {
                        event == Json::parse_event_t::array_start;
     const bool is_too_deep = opens && depth > kMaxDepth;
     if (!is_too_deep) return true;
-    if (was_cut == nullptr) Refuse("The document is nested too deeply.");
+    if (was_cut == nullptr) {
+      Refuse(Localized("The document is nested too deeply."));
+    }
     *was_cut = true;
     return false;
   };
@@ -56,9 +59,10 @@ void RefuseField(const std::string& field, const std::string& reason,
 void UnknownKeys::Meet(const std::string& field,
                        const std::string& reason) const {
   if (are_slips) RefuseField(field, reason);
-  notes.Add({.file = file,
-             .line = 0,
-             .text = AboutField(field, reason) + " It is left out."});
+  notes.Add(
+      {.file = file,
+       .line = 0,
+       .text = AboutField(field, reason) + " " + Localized("It is left out.")});
 }
 
 void UnknownKeys::MeetOthers(const Json& json,
@@ -67,7 +71,7 @@ void UnknownKeys::MeetOthers(const Json& json,
   for (const auto& [key, part] : json.items()) {
     if (std::ranges::find(known, key) != known.end()) continue;
     Meet(path.empty() ? key : std::string(path).append(".").append(key),
-         "there is no such key.");
+         Localized("there is no such key."));
   }
 }
 
@@ -76,7 +80,7 @@ void BringUpToDate(Json& value, std::span<const Migration> steps,
   std::uint64_t version = 0;
   if (const auto found = value.find(kFormatKey); found != value.end()) {
     if (!found->is_number_unsigned()) {
-      RefuseField(kFormatKey, "a whole number is wanted here.");
+      RefuseField(kFormatKey, Localized("a whole number is wanted here."));
     }
     version = found->get<std::uint64_t>();
     value.erase(found);
@@ -84,24 +88,24 @@ void BringUpToDate(Json& value, std::span<const Migration> steps,
   const std::uint64_t known = FormatBehind(steps);
   if (version > known) {
     unknown.are_slips = false;
-    unknown.notes.Add({.file = unknown.file,
-                       .line = 0,
-                       .text = "A newer Fragsmith wrote this: it has format " +
-                               std::to_string(version) +
-                               ", and this one knows " + std::to_string(known) +
-                               ". What is known is read."});
+    unknown.notes.Add(
+        {.file = unknown.file,
+         .line = 0,
+         .text = Localized("A newer Fragsmith wrote this: it has format %1, "
+                           "and this one knows %2. What is known is read.",
+                           {std::to_string(version), std::to_string(known)})});
   }
   for (; version < known; ++version) steps[version].Apply(value);
 }
 
 Json ParseObject(std::string_view text, bool* was_cut) {
   if (text.size() > kMaxDocumentBytes) {
-    Refuse("The document is larger than " +
-               std::to_string(kMaxDocumentBytes >> 20U) + " MiB.",
-           "Check that it is the right one.");
+    Refuse(Localized("The document is larger than %1 MiB.",
+                     {std::to_string(kMaxDocumentBytes >> 20U)}),
+           Localized("Check that it is the right one."));
   }
   Json value = ParseBounded(text, was_cut);
-  if (!value.is_object()) Refuse("The document is no JSON object.");
+  if (!value.is_object()) Refuse(Localized("The document is no JSON object."));
   return value;
 }
 
@@ -113,10 +117,11 @@ Error ErrorOf(const Json::exception& exception) {
   if (end != std::string_view::npos) text.remove_prefix(end + 2);
   text = text.substr(0, text.find("; last read: "));
   constexpr std::size_t kMax = 200;
-  return {.what = "This is no valid JSON: " + std::string(text.substr(0, kMax)),
-          .file = {},
-          .line = 0,
-          .advice = {}};
+  return {
+      .what = Localized("This is no valid JSON: %1", {text.substr(0, kMax)}),
+      .file = {},
+      .line = 0,
+      .advice = {}};
 }
 
 }  // namespace fragsmith

@@ -14,6 +14,7 @@
 #include "session/load_losses.h"
 #include "support/code_page.h"
 #include "support/files.h"
+#include "support/localization.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -56,12 +57,16 @@ void EnsureName(const std::string& name, const std::string& shown,
   const std::string read = loaded.bot.Name();
   if (!NameRefusal(read)) return;
   loaded.bot.Put(kNameField, name);
-  const std::string what = read.empty()
-                               ? "The file gives the bot no name"
-                               : "\"" + ShownText(read) + "\" cannot be a name";
-  loaded.notes.Add({shown, 0,
-                    what + "; the bot is called " + Utf8FromGameText(name) +
-                        " after its file."});
+  const std::string called = Utf8FromGameText(name);
+  loaded.notes.Add(
+      {shown, 0,
+       read.empty()
+           ? Localized("The file gives the bot no name; the bot is called %1 "
+                       "after its file.",
+                       {called})
+           : Localized("\"%1\" cannot be a name; the bot is called %2 after "
+                       "its file.",
+                       {ShownText(read), called})});
 }
 
 void ReadCharacteristics(const LoadedPart& part, std::string_view bytes,
@@ -84,8 +89,9 @@ void ReadCharacteristics(const LoadedPart& part, std::string_view bytes,
     loaded.notes.Add(
         {.file = shown,
          .line = 2,
-         .text = "The version and the comment in the head of the file are "
-                 "not read back; type them in again before you save."});
+         .text = Localized(
+             "The version and the comment in the head of the file are not read "
+             "back; type them in again before you save.")});
   }
 }
 
@@ -168,20 +174,20 @@ void ReadBotFile(BotFile file, const LoadedPart& part, std::string_view bytes,
   const bool is_whole = std::holds_alternative<WholeBot>(part);
   Bot& bot = loaded.bot;
   if (WithoutByteOrderMark(bytes).size() < bytes.size()) {
-    loaded.notes.Add({.file = shown,
-                      .line = 1,
-                      .text =
-                          "The file begins with a byte order mark. The "
-                          "game passes over it on PCs; a file made anew has "
-                          "none."});
+    loaded.notes.Add(
+        {.file = shown,
+         .line = 1,
+         .text = Localized("The file begins with a byte order mark. "
+                           "The game passes over it on PCs; a file "
+                           "made anew has none.")});
   }
   if (HasOldLineEnds(bytes)) {
     loaded.notes.Add(
         {.file = shown,
          .line = 1,
-         .text = "The lines end as on old Macintosh computers: for the game "
-                 "the file is all one line. A file made anew has the usual "
-                 "ends."});
+         .text = Localized(
+             "The lines end as on old Macintosh computers: for the game the "
+             "file is all one line. A file made anew has the usual ends.")});
   }
   switch (file) {
     case BotFile::kDescription: {
@@ -218,10 +224,12 @@ void ReadBotFile(BotFile file, const LoadedPart& part, std::string_view bytes,
 
 std::string_view FaultOfName(BotFile file, const fs::path& path) {
   const std::optional<std::string> name = GameTextFromPath(path.filename());
-  if (!name) return "its name has characters that the game does not have";
+  if (!name) {
+    return Localizable("its name has characters that the game does not have");
+  }
   return name->ends_with(FileSuffix(file))
              ? std::string_view()
-             : "its name does not end as it should";
+             : Localizable("its name does not end as it should");
 }
 
 bool LoadSingleFile(BotFile file, const fs::path& path, LoadedBot& loaded,
@@ -258,9 +266,10 @@ LoadedBot LoadBotFromFolder(const std::string& name, const fs::path& folder,
 void NoteOtherAuthor(const Author& author, LoadedBot& loaded) {
   Note note = loaded.author_line;
   if (note.text.empty() || note.text == AuthorLine(author)) return;
-  note.text = "The files name their author (" +
-              ShownText(TrimBlanksAndTabs(note.text)) +
-              "); a save names what stands in the options instead.";
+  note.text = Localized(
+      "The files name their author (%1); a save names what stands in "
+      "the options instead.",
+      {ShownText(TrimBlanksAndTabs(note.text))});
   loaded.notes.Add(std::move(note));
 }
 

@@ -55,7 +55,8 @@ LoadedBot LoadBotFromFolder(const std::string& name,
                             const LoadEnvironment& environment);
 
 /// What in its name keeps a file from being read as one of that kind, as the
-/// end of a sentence, without its full stop. Empty where nothing does.
+/// end of a sentence, without its full stop, for Localized(). Empty where
+/// nothing does.
 std::string_view FaultOfName(BotFile file, const std::filesystem::path& path);
 
 /// Reads one file into a bot that is there already, a chat file in the place

@@ -9,6 +9,7 @@
 #include "install/packages/package.h"
 #include "support/code_page.h"
 #include "support/files.h"
+#include "support/localization.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -68,9 +69,11 @@ class PackageReader {
     const std::optional<fs::path> extracted = FindFile(folder_, BareName(path));
     if (!extracted) {
       return Refuse(SpellingOf(path)
-                        ? "The unzip tool did not take '" + Shown(path) +
-                              "' out of the package. If it is so with every "
-                              "bot, check the WinZip folder in Program/Options."
+                        ? Localized("The unzip tool did not take '%1' out of "
+                                    "the package. If it is so with every bot, "
+                                    "check the WinZip folder in "
+                                    "Program/Options.",
+                                    {Shown(path)})
                         : std::string());
     }
     Result<std::string> bytes = ReadFile(*extracted, kMaxBotFileBytes);

@@ -10,6 +10,7 @@
 #include "botfiles/left_out.h"
 #include "model/file_names.h"
 #include "support/code_page.h"
+#include "support/localization.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -36,15 +37,16 @@ std::string SavedName(const ReadReport::Name& name, const Bot& bot) {
 void NoteMissingLevels(const ReadReport& report, const std::string& file,
                        Notes& notes) {
   for (const Level level : kLevels) {
-    const std::string name = "level " + std::to_string(NumberOf(level));
+    const std::string number = std::to_string(NumberOf(level));
     const bool has_level =
         std::any_of(report.given.begin(), report.given.end(),
                     [level](ParameterId id) { return id.level() == level; });
     if (!has_level) {
       notes.Add({file, 0,
-                 "The file has no " + name +
-                     ", so that its values are 0, and a save writes it so. The "
-                     "game plays its default bot there."});
+                 Localized("The file has no level %1, so that its values are "
+                           "0, and a save writes it so. The game plays its "
+                           "default bot there.",
+                           {number})});
       continue;
     }
     NameList missing;
@@ -54,9 +56,9 @@ void NoteMissingLevels(const ReadReport& report, const std::string& file,
     }
     if (missing.empty()) continue;
     notes.Add({file, 0,
-               "In the file, " + name +
-                   " lacks these, which a save writes as the bot has them: " +
-                   missing.Text() + "."});
+               Localized("In the file, level %1 lacks these, which a save "
+                         "writes as the bot has them: %2.",
+                         {number, missing.Text()})});
   }
 }
 
@@ -71,9 +73,9 @@ void NoteMissingWeights(const ReadReport& report, IndexRange range,
   if (missing.empty()) return;
   notes.Add({.file = file,
              .line = 0,
-             .text = "The file does not set these weights, and a save writes "
-                     "0: " +
-                     missing.Text() + ".",
+             .text = Localized("The file does not set these weights, and a "
+                               "save writes 0: %1.",
+                               {missing.Text()}),
              .kind = NoteKind::kMissingWeights});
 }
 
@@ -83,9 +85,9 @@ void NoteMissingTypes(const ReadReport& report, const std::string& file,
   for (const std::string& type : report.missing_types) missing.Add(type);
   if (missing.empty()) return;
   notes.Add({file, 0,
-             "The file has no block for these types, and a save writes one "
-             "without lines: " +
-                 missing.Text() + "."});
+             Localized("The file has no block for these types, and a save "
+                       "writes one without lines: %1.",
+                       {missing.Text()})});
 }
 
 void NoteMissingIncludes(const ReadReport& report, const std::string& file,
@@ -96,9 +98,9 @@ void NoteMissingIncludes(const ReadReport& report, const std::string& file,
   }
   if (missing.empty()) return;
   notes.Add({file, 0,
-             "The file does not include " + missing.Text() +
-                 ", without which the game cannot use it or uses it in "
-                 "another way. A save does."});
+             Localized("The file does not include %1, without which the game "
+                       "cannot use it or uses it in another way. A save does.",
+                       {missing.Text()})});
 }
 
 void NoteOtherNames(const ReadReport& report, const Bot& bot,
@@ -109,14 +111,15 @@ void NoteOtherNames(const ReadReport& report, const Bot& bot,
     const std::string saved = SavedName(name, bot);
     if (EqualIgnoringCase(name.text, saved)) continue;
     if (first_line == 0) first_line = name.line;
-    others.Add(name.key + " \"" + ShownText(name.text) + "\" becomes \"" +
-               ShownText(saved) + "\"");
+    others.Add(Localized("%1 \"%2\" becomes \"%3\"",
+                         {name.key, ShownText(name.text), ShownText(saved)}));
   }
   if (others.empty()) return;
   notes.Add(
       {file, first_line,
-       "The bot's files are called by its name, and a save writes that: " +
-           others.Text() + "."});
+       Localized("The bot's files are called by its name, and a save writes "
+                 "that: %1.",
+                 {others.Text()})});
 }
 
 }  // namespace fragsmith

@@ -9,6 +9,7 @@
 
 #include "install/packages/package.h"
 #include "support/files.h"
+#include "support/localization.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -291,8 +292,8 @@ std::size_t OtherFilesIn(const fs::path& package, const Bot& bot) {
 }
 
 std::string WhatGoes(std::size_t other_files) {
-  return "Other files in it, which would go: " + std::to_string(other_files) +
-         ".";
+  return Localized("Other files in it, which would go: %1.",
+                   {std::to_string(other_files)});
 }
 
 bool IsPackageOf(const fs::path& package, const Bot& bot) {

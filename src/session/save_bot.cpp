@@ -15,6 +15,7 @@
 #include "model/characteristic_catalogue.h"
 #include "session/identity_rules.h"
 #include "support/files.h"
+#include "support/localization.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -52,10 +53,11 @@ std::optional<Error> MakeFolder(const fs::path& folder) {
   if (IsFolder(folder)) return std::nullopt;
   fs::create_directory(folder, reason);
   if (!reason) return std::nullopt;
-  return Error{.what = "The folder cannot be made: " + reason.message() + ".",
-               .file = Utf8FromPath(folder),
-               .line = 0,
-               .advice = "Choose another folder."};
+  return Error{
+      .what = Localized("The folder cannot be made: %1.", {reason.message()}),
+      .file = Utf8FromPath(folder),
+      .line = 0,
+      .advice = Localized("Choose another folder.")};
 }
 
 /// The bytes of the files by their kind: the new ones, and for those that are
@@ -139,7 +141,7 @@ SavedBot SaveFiles(const Bot& bot, const SavePlan& plan, const Author& author,
     saved.error = Error{.what = refusal->text,
                         .file = {},
                         .line = 0,
-                        .advice = "Give the bot another name."};
+                        .advice = Localized("Give the bot another name.")};
     return saved;
   }
   for (const fs::path& folder : plan.folders) {

@@ -11,6 +11,7 @@
 #include "install/packages/zip_archive.h"
 #include "support/code_page.h"
 #include "support/files.h"
+#include "support/localization.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -33,7 +34,8 @@ Result<void> ForEachName(const std::filesystem::path& path, Notes& notes,
     if (Contains(name, "\r") || Contains(name, "\n")) {
       notes.Add({.file = Utf8FromPath(path.filename()),
                  .line = 0,
-                 .text = "An entry with a line end in its name is skipped."});
+                 .text = Localized(
+                     "An entry with a line end in its name is skipped.")});
     } else if (!name.empty()) {
       function(name);
     }
@@ -61,20 +63,20 @@ bool IsMarkedLocked(const zip_stat_t& state) {
   return state.encryption_method != ZIP_EM_NONE;
 }
 
-/// What the game does not unpack, in words; empty for what it does.
+/// What the game does not unpack, as EntryFault has it; empty for what it does.
 std::string_view UnreadableByGame(const zip_stat_t& state) {
   switch (state.comp_method) {
     case ZIP_CM_STORE:
     case ZIP_CM_DEFLATE:
       return {};
     case ZIP_CM_DEFLATE64:
-      return "by the method Deflate64";
+      return Localizable("by the method Deflate64");
     case ZIP_CM_BZIP2:
-      return "by the method BZip2";
+      return Localizable("by the method BZip2");
     case ZIP_CM_LZMA:
-      return "by the method LZMA";
+      return Localizable("by the method LZMA");
     default:
-      return "by a method of its own";
+      return Localizable("by a method of its own");
   }
 }
 
@@ -132,14 +134,13 @@ Result<std::string> Unpack(zip_t* archive, std::uint64_t index,
   }
   if (state.size > limit) {
     return Failure(
-        {.what = "The file in the package is larger than " +
-                 std::to_string(limit) +
-                 " bytes, the most that is read of one like it: it has " +
-                 std::to_string(state.size) + '.',
+        {.what = Localized("The file in the package is larger than %1 bytes, "
+                           "the most that is read of one like it: it has %2.",
+                           {std::to_string(limit), std::to_string(state.size)}),
          .file = Utf8FromPath(path) + '/' +
                  Utf8FromGameText(EntryNameOf(archive, index)),
          .line = 0,
-         .advice = "Check that it is the right one."});
+         .advice = Localized("Check that it is the right one.")});
   }
   if (IsMarkedLocked(state)) {
     return UnpackMarkedLocked(archive, index, state, path);
@@ -167,7 +168,9 @@ Result<std::string> Unpack(zip_t* archive, std::uint64_t index,
   }
   if (bytes.size() == state.size) return bytes;
   return Failure(PackageError(
-      "The file in the package has another size than the package says.", path));
+      Localized("The file in the package has another size than the package "
+                "says."),
+      path));
 }
 
 /// Some packages are marked so and are not. The game does not look at the
@@ -175,8 +178,8 @@ Result<std::string> Unpack(zip_t* archive, std::uint64_t index,
 Result<std::string> UnpackMarkedLocked(zip_t* archive, std::uint64_t index,
                                        const zip_stat_t& state,
                                        const std::filesystem::path& path) {
-  const Error locked =
-      PackageError("The file in the package is locked with a password.", path);
+  const Error locked = PackageError(
+      Localized("The file in the package is locked with a password."), path);
   const bool has_size = (state.valid & ZIP_STAT_COMP_SIZE) != 0 &&
                         state.comp_size <= kMaxUnpackedBytes;
   const ArchiveFile file(
@@ -238,7 +241,8 @@ Result<std::string> ReadPackageEntry(const std::filesystem::path& path,
   if (!archive) return Failure(archive.error());
   const std::optional<std::uint64_t> index = FindEntry(archive->get(), name);
   if (!index) {
-    return Failure(PackageError("The file is not in the package.", path));
+    return Failure(
+        PackageError(Localized("The file is not in the package."), path));
   }
   if (reading == PackageReading::kStrict) {
     return Unpack(archive->get(), *index, limit, path);
@@ -289,7 +293,7 @@ Result<std::vector<EntryFault>> FindEntryFaults(
     if (!is_read && IsMarkedLocked(state)) {
       faults.push_back({.kind = Kind::kUnreadable,
                         .name = name,
-                        .method = "with a password",
+                        .method = Localizable("with a password"),
                         .is_locked = true});
     } else if (is_read && is_damaged) {
       faults.push_back({.kind = Kind::kDamaged, .name = name, .method = {}});

@@ -50,7 +50,8 @@ struct EntryFault {
   };
   Kind kind;
   std::string name;  ///< As it is spelt in the package.
-  /// How a kUnreadable was packed, such as "by the method LZMA".
+  /// How a kUnreadable was packed, such as "by the method LZMA", for
+  /// Localized().
   std::string_view method;
   bool is_locked = false;  ///< A kUnreadable: it needs a password.
 };

@@ -8,6 +8,7 @@
 
 #include "install/packages/zip_archive.h"
 #include "support/files.h"
+#include "support/localization.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -59,7 +60,7 @@ Result<std::string> Changed(std::string_view bytes, int flags,
   void* const copy = bytes.empty() ? nullptr : std::malloc(bytes.size());
   if (copy != nullptr) std::memcpy(copy, bytes.data(), bytes.size());
   if (copy == nullptr && !bytes.empty()) {
-    return Failure(PackageError("There is not enough memory.", {}));
+    return Failure(PackageError(Localized("There is not enough memory."), {}));
   }
   const ZipSource source(
       ::zip_source_buffer_create(copy, bytes.size(), 1, &error));
@@ -92,13 +93,15 @@ Result<std::uint64_t> FindOnlyEntry(zip_t* archive, std::string_view name) {
       continue;
     }
     if (found) {
-      return Failure(
-          PackageError("The package has the file several times.", {}));
+      return Failure(PackageError(
+          Localized("The package has the file several times."), {}));
     }
     found = index;
   }
-  if (!found)
-    return Failure(PackageError("The file is not in the package.", {}));
+  if (!found) {
+    return Failure(
+        PackageError(Localized("The file is not in the package."), {}));
+  }
   return *found;
 }
 

@@ -13,6 +13,8 @@
 #define STBI_MAX_DIMENSIONS 1024
 #include <stb_image.h>
 
+#include "support/localization.h"
+
 namespace fragsmith {
 namespace {
 
@@ -44,13 +46,15 @@ std::size_t NumberAt(std::string_view bytes, std::size_t at) {
 std::size_t WholeBytes(std::size_t bits) { return (bits + 7) / 8; }
 
 Result<Header> ReadHeader(std::string_view bytes) {
-  if (bytes.size() < kHeaderBytes) return Refusal("The picture is cut.");
+  if (bytes.size() < kHeaderBytes) {
+    return Refusal(Localized("The picture is cut."));
+  }
   const std::size_t width = NumberAt(bytes, 12);
   const std::size_t height = NumberAt(bytes, 14);
   constexpr std::size_t kMax = kMaxPictureSide;
   if (width == 0 || height == 0 || width > kMax || height > kMax) {
-    return Refusal("The picture's size is " + std::to_string(width) + " x " +
-                   std::to_string(height) + ".");
+    return Refusal(Localized("The picture's size is %1 x %2.",
+                             {std::to_string(width), std::to_string(height)}));
   }
   const std::size_t palette_bytes =
       ByteAt(bytes, 1) == 0 ? 0
@@ -93,10 +97,14 @@ struct FreePixels {
 Result<Picture> DecodeTarga(std::string_view bytes) {
   const Result<Header> header = ReadHeader(bytes);
   if (!header) return Failure(header.error());
-  if (!HasAllPixels(*header, bytes)) return Refusal("The picture is cut.");
+  if (!HasAllPixels(*header, bytes)) {
+    return Refusal(Localized("The picture is cut."));
+  }
   // The decoder counts in int; no picture within the bounds is that long.
   constexpr std::size_t kMaxBytes = std::size_t{64} << 20U;
-  if (bytes.size() > kMaxBytes) return Refusal("The picture is too large.");
+  if (bytes.size() > kMaxBytes) {
+    return Refusal(Localized("The picture is too large."));
+  }
   Picture picture;
   constexpr int kChannels = 4;
   int channels_in_file = 0;
@@ -105,7 +113,7 @@ Result<Picture> DecodeTarga(std::string_view bytes) {
                               static_cast<int>(bytes.size()), &picture.width,
                               &picture.height, &channels_in_file, kChannels));
   if (!pixels) {
-    return Refusal("This is no Targa picture that can be decoded.");
+    return Refusal(Localized("This is no Targa picture that can be decoded."));
   }
   const std::size_t count = header->pixel_count * kChannels;
   picture.pixels.assign(pixels.get(), pixels.get() + count);

@@ -6,6 +6,7 @@
 #include "install/packages/package_directory.h"
 #include "support/code_page.h"
 #include "support/files.h"
+#include "support/localization.h"
 
 namespace fragsmith {
 
@@ -25,10 +26,11 @@ std::string TextOf(zip_error_t* error) {
 Result<ZipArchive> OpenArchive(const std::filesystem::path& path) {
   // A pipe or a device would keep the library waiting.
   if (!IsFile(path)) {
-    return Failure(PackageError("There is no such file.", path));
+    return Failure(PackageError(Localized("There is no such file."), path));
   }
   if (!HasBoundedDirectory(path)) {
-    return Failure(PackageError("The table of contents is too large.", path));
+    return Failure(
+        PackageError(Localized("The table of contents is too large."), path));
   }
   zip_error_t error;
   ::zip_error_init(&error);

@@ -13,6 +13,7 @@
 #include "model/file_names.h"
 #include "support/code_page.h"
 #include "support/files.h"
+#include "support/localization.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -120,8 +121,8 @@ class ListingReader {
   /// The lists hold their texts in double quotes and cannot hold one.
   bool IsStorable(std::string_view field) {
     if (!Contains(field, "\"") && !Contains(package_, "\"")) return true;
-    AddNote(ShownText(field) +
-            " is skipped: the lists cannot hold a double quote.");
+    AddNote(Localized("%1 is skipped: the lists cannot hold a double quote.",
+                      {ShownText(field)}));
     return false;
   }
 
@@ -160,8 +161,8 @@ void ScanPackage(const std::filesystem::path& path, BaseLists& lists,
   if (!name) {
     notes.Add({.file = Utf8FromPath(path.filename()),
                .line = 0,
-               .text = "The package is skipped: its name has characters that "
-                       "the game's texts lack."});
+               .text = Localized("The package is skipped: its name has "
+                                 "characters that the game's texts lack.")});
     return;
   }
   const Result<std::string> listing = ListPackage(path, notes);
@@ -237,8 +238,9 @@ bool ScanBaseq3(const std::filesystem::path& gameFolder, BaseLists& lists,
 }
 
 std::string Describe(const ScanSummary& summary) {
-  const auto count = [](std::size_t number, const std::string& what) {
-    return std::to_string(number) + " " + what + (number == 1 ? "" : "s");
+  const auto count = [](std::size_t number, std::string_view one,
+                        std::string_view several) {
+    return Localized(number == 1 ? one : several, {std::to_string(number)});
   };
   const auto names = [](const std::vector<std::string>& all) {
     constexpr std::size_t kMaxNames = 20;
@@ -246,14 +248,21 @@ std::string Describe(const ScanSummary& summary) {
     for (std::size_t at = 0; at < std::min(all.size(), kMaxNames); ++at) {
       text += (at == 0 ? "" : ", ") + Utf8FromGameText(all[at]);
     }
-    if (all.size() <= kMaxNames) return text + ".";
-    return text + " and " + std::to_string(all.size() - kMaxNames) + " more.";
+    if (all.size() <= kMaxNames) return text;
+    return Localized("%1 and %2 more",
+                     {text, std::to_string(all.size() - kMaxNames)});
   };
-  std::string text = "Add-ons: " + count(summary.models, "model") + ", " +
-                     count(summary.skins, "skin") + ", " +
-                     count(summary.bots, "bot") + ".";
-  if (!summary.added.empty()) text += " New: " + names(summary.added);
-  if (!summary.gone.empty()) text += " Gone: " + names(summary.gone);
+  std::string text = Localized(
+      "Add-ons: %1, %2, %3.",
+      {count(summary.models, Localizable("%1 model"), Localizable("%1 models")),
+       count(summary.skins, Localizable("%1 skin"), Localizable("%1 skins")),
+       count(summary.bots, Localizable("%1 bot"), Localizable("%1 bots"))});
+  if (!summary.added.empty()) {
+    text += " " + Localized("New: %1.", {names(summary.added)});
+  }
+  if (!summary.gone.empty()) {
+    text += " " + Localized("Gone: %1.", {names(summary.gone)});
+  }
   return text;
 }
 
@@ -272,8 +281,9 @@ std::optional<ScanSummary> CheckBaseq3(
   }
   const std::filesystem::path game = PathFromBytes(settings.Q3Baseq3);
   if (!IsFolder(PackageFolder(game))) {
-    return refuse("There is no folder baseq3 in '" + Utf8FromPath(game) +
-                  "'. The lists stay as they are.");
+    return refuse(Localized(
+        "There is no folder baseq3 in '%1'. The lists stay as they are.",
+        {Utf8FromPath(game)}));
   }
   BaseLists scanned = lists;
   CatalogueSelection moved = selection;

@@ -4,6 +4,7 @@
 #include <system_error>
 
 #include "support/files.h"
+#include "support/localization.h"
 
 namespace fragsmith {
 namespace {
@@ -19,11 +20,11 @@ Result<void> KeepDamaged(const std::filesystem::path& path,
   std::error_code reason;
   std::filesystem::rename(path, kept, reason);
   if (!reason) return {};
-  return Failure(
-      {.what = "The damaged file cannot be kept: " + reason.message() + ".",
-       .file = Utf8FromPath(path),
-       .line = 0,
-       .advice = "Move it away."});
+  return Failure({.what = Localized("The damaged file cannot be kept: %1.",
+                                    {reason.message()}),
+                  .file = Utf8FromPath(path),
+                  .line = 0,
+                  .advice = Localized("Move it away.")});
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include "support/child_process.h"
 #include "support/code_page.h"
 #include "support/files.h"
+#include "support/localization.h"
 #include "support/numbers.h"
 
 namespace fragsmith {
@@ -18,7 +19,8 @@ Extraction RunUnzipTool(const UnzipTool& tool,
   const auto program = FindUnzipTool(tool.folder);
   if (!program) {
     return {ExtractionEnd::kNotStarted,
-            "There is no unzip tool in '" + Utf8FromPath(tool.folder) + "'."};
+            Localized("There is no unzip tool in '%1'.",
+                      {Utf8FromPath(tool.folder)})};
   }
   Result<ChildProcess> child =
       ChildProcess::Start(*program, {"-o", BytesFromPath(package),
@@ -34,9 +36,9 @@ Extraction RunUnzipTool(const UnzipTool& tool,
       if (tool.silent != nullptr) tool.silent->insert(package);
       const std::chrono::duration<double> seconds = tool.patience;
       return {ExtractionEnd::kTooLong,
-              "'" + Utf8FromPath(*program) +
-                  "' did not come to its end within " +
-                  PlainDecimal(seconds.count(), kFloatDigits) + " seconds."};
+              Localized("'%1' did not come to its end within %2 seconds.",
+                        {Utf8FromPath(*program),
+                         PlainDecimal(seconds.count(), kFloatDigits)})};
     }
     if (tool.keep_going && !tool.keep_going()) {
       return {ExtractionEnd::kCancelled};

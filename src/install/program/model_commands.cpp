@@ -7,6 +7,7 @@
 
 #include "install/program/game_folder.h"
 #include "support/code_page.h"
+#include "support/localization.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -21,7 +22,8 @@ void Refuse(std::string_view title, std::string text, Prompts& prompts) {
 /// The lists hold their texts in double quotes and cannot hold one.
 bool IsStorable(std::string_view name, Prompts& prompts) {
   if (!Contains(name, "\"")) return true;
-  Refuse(kProgramTitle, "A name can't have a double quote in it.", prompts);
+  Refuse(kProgramTitle, Localized("A name can't have a double quote in it."),
+         prompts);
   return false;
 }
 
@@ -80,7 +82,8 @@ bool AddSkin(ModelCatalogue& catalogue, std::size_t modelIndex,
   const std::optional<std::string> name = GameTextFromUtf8(*answer);
   if (!name) {
     Refuse(kProgramTitle,
-           "The game can't show all of the characters in '" + *answer + "'.",
+           Localized("The game can't show all of the characters in '%1'.",
+                     {*answer}),
            prompts);
     return false;
   }

@@ -7,6 +7,7 @@
 #include "install/program/settings_file.h"
 #include "install/program/skin_icon.h"
 #include "support/files.h"
+#include "support/localization.h"
 #include "support/system/program_location_system.h"
 
 namespace fragsmith {
@@ -17,7 +18,7 @@ tl::unexpected<Error> NoProgramFolder(std::string what, const fs::path& path) {
   return Failure({.what = std::move(what),
                   .file = Utf8FromPath(path),
                   .line = 0,
-                  .advice = "Name another with --program-folder."});
+                  .advice = Localized("Name another with --program-folder.")});
 }
 
 fs::path FindDataFolder(const ProgramLocation& location) {
@@ -62,8 +63,9 @@ ProgramLocation FindProgramLocation() {
 
 std::string_view SuperUserWarning() {
   if (!system::IsSuperUser()) return {};
-  return "This runs as root: what it writes belongs to root, and no one else "
-         "can change it. Run it as yourself.";
+  return Localizable(
+      "This runs as root: what it writes belongs to root, and no one else can "
+      "change it. Run it as yourself.");
 }
 
 Result<ProgramFolders> FindProgramFolders(const std::optional<fs::path>& given,
@@ -73,7 +75,7 @@ Result<ProgramFolders> FindProgramFolders(const std::optional<fs::path>& given,
                             .unzip_tool = FindOwnUnzipFolder(location)};
   if (given) {
     if (!IsFolder(*given)) {
-      return NoProgramFolder("There is no such folder.", *given);
+      return NoProgramFolder(Localized("There is no such folder."), *given);
     }
     folders.program = *given;
     std::error_code ignored;
@@ -89,14 +91,15 @@ Result<ProgramFolders> FindProgramFolders(const std::optional<fs::path>& given,
   folders.program = location.user_folder;
   folders.is_hidden = true;
   if (folders.program.empty()) {
-    return NoProgramFolder("There is no folder for the settings.", {});
+    return NoProgramFolder(Localized("There is no folder for the settings."),
+                           {});
   }
   if (IsFolder(folders.program)) return folders;
   std::error_code reason;
   fs::create_directories(folders.program, reason);
   if (reason) {
     return NoProgramFolder(
-        "The folder cannot be made: " + reason.message() + ".",
+        Localized("The folder cannot be made: %1.", {reason.message()}),
         folders.program);
   }
   const Result<void> saved =

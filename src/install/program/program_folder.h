@@ -40,7 +40,7 @@ Result<ProgramFolders> FindProgramFolders(
     const ProgramLocation& location);
 
 /// What is to be told to the super-user, whose settings and bots no one else
-/// can change; empty for anyone else.
+/// can change, for Localized(); empty for anyone else.
 std::string_view SuperUserWarning();
 
 }  // namespace fragsmith

@@ -7,6 +7,7 @@
 
 #include "install/program/game_folder.h"
 #include "support/files.h"
+#include "support/localization.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -103,10 +104,10 @@ Result<Picture> LoadFixedPicture(
   for (const std::filesystem::path& folder : folders) {
     if (const auto path = FindFile(folder, name)) return LoadPicture(*path);
   }
-  return Failure({.what = "The picture is missing.",
+  return Failure({.what = Localized("The picture is missing."),
                   .file = std::string(name),
                   .line = 0,
-                  .advice = "Install the program anew."});
+                  .advice = Localized("Install the program anew.")});
 }
 
 }  // namespace fragsmith
