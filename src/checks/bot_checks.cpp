@@ -16,6 +16,7 @@
 #include "checks/weight_checks.h"
 #include "model/characteristic_catalogue.h"
 #include "session/identity_rules.h"
+#include "support/localization.h"
 
 namespace fragsmith {
 namespace {
@@ -176,8 +177,8 @@ std::string FileOfPlace(const Bot& bot, const BotPlace& place) {
 std::string ChatPlaceText(const BotPlace& place) {
   const auto* const chat = std::get_if<ChatPlace>(&place);
   if (chat == nullptr || !chat->line) return {};
-  return QuotedChatType(chat->type) + ", line " +
-         std::to_string(chat->line->number());
+  return Localized("%1, line %2", {QuotedChatType(chat->type),
+                                   std::to_string(chat->line->number())});
 }
 
 std::string_view SeverityWord(Severity severity) {

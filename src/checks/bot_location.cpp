@@ -16,6 +16,7 @@
 #include "session/bot_file.h"
 #include "session/bot_sources.h"
 #include "support/files.h"
+#include "support/localization.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -141,10 +142,10 @@ std::string WhyNoBots(const fs::path& path) {
     const std::vector<std::string> texts =
         given->PathsLike("", std::string(end) + ".txt");
     if (texts.empty()) continue;
-    return "The name of " +
-           Quoted(texts.front().substr(texts.front().rfind('/') + 1)) +
-           " ends in .txt, so the game does not take it for a file of a bot. "
-           "Remove the .txt from the names of the bot's files.";
+    return Localized(
+        "The name of %1 ends in .txt, so the game does not take it for a file "
+        "of a bot. Remove the .txt from the names of the bot's files.",
+        {Quoted(texts.front().substr(texts.front().rfind('/') + 1))});
   }
   const std::vector<std::string> files = given->PathsLike("", kCharacterEnd);
   if (files.empty()) return {};
@@ -156,17 +157,23 @@ std::string WhyNoBots(const fs::path& path) {
     folder.remove_prefix(std::min(folder.size(), kBotFilesFolder.size() + 1));
     if (folder.empty()) return {};
     folder.remove_suffix(1);
-    return name + " lies in the folder " + Quoted(folder) +
-           " there: give that folder. For the game the files belong into " +
-           std::string(kBotFilesFolder) + ".";
+    return Localized(
+        "%1 lies in the folder %2 there: give that folder. For the game the "
+        "files belong into %3.",
+        {name, Quoted(folder), kBotFilesFolder});
   }
   if (!folder.empty()) folder.remove_suffix(1);
-  return name + " lies " +
-         (folder.empty() ? "at the top of the package"
-                         : "in the folder " + Quoted(folder)) +
-         ", where the game does not look. Make the package anew: the files "
-         "that end in .c belong into its folder botfiles/bots, the one that "
-         "ends in .bot into its folder scripts.";
+  return Localized(
+      folder.empty()
+          ? Localizable("%1 lies at the top of the package, where the game "
+                        "does not look. Make the package anew: the files that "
+                        "end in .c belong into its folder botfiles/bots, the "
+                        "one that ends in .bot into its folder scripts.")
+          : Localizable("%1 lies in the folder %2, where the game does not "
+                        "look. Make the package anew: the files that end in .c "
+                        "belong into its folder botfiles/bots, the one that "
+                        "ends in .bot into its folder scripts."),
+      {name, Quoted(folder)});
 }
 
 std::optional<BotLocation> LocationOf(const BotHome& home) {

@@ -11,6 +11,7 @@
 #include "game/game_path.h"
 #include "model/file_names.h"
 #include "support/code_page.h"
+#include "support/localization.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -132,11 +133,10 @@ Finding LooseFilesHint(const BotOnDisk& bot) {
   return {.id = "loose-files",
           .severity = Severity::kHint,
           .place = std::move(place),
-          .text =
+          .text = Localized(
               "These files lie in a folder. A game that you start and play "
-              "yourself passes over such files unless it was started with "
-              "+set sv_pure 0. Pack the bot into a .pk3 package to be "
-              "safe.",
+              "yourself passes over such files unless it was started with +set "
+              "sv_pure 0. Pack the bot into a .pk3 package to be safe."),
           .mends = {}};
 }
 
@@ -145,12 +145,15 @@ Finding HowToAdd(const std::string& name, BotPlace place,
   const bool needs_quotes =
       name.find_first_of(" \t;") != std::string::npos || name.empty();
   const std::string shown = needs_quotes ? '"' + name + '"' : name;
-  return {.id = "how-to-add",
-          .severity = Severity::kHint,
-          .place = std::move(place),
-          .text = "To add the bot, type /addbot " + ShownText(shown) +
-                  " 3 in the game's console." + files,
-          .mends = {}};
+  return {
+      .id = "how-to-add",
+      .severity = Severity::kHint,
+      .place = std::move(place),
+      .text =
+          Localized("To add the bot, type /addbot %1 3 in the game's console.",
+                    {ShownText(shown)}) +
+          files,
+      .mends = {}};
 }
 
 }  // namespace fragsmith

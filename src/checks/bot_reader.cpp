@@ -15,6 +15,7 @@
 #include "game/plain_letters.h"
 #include "model/file_names.h"
 #include "support/code_page.h"
+#include "support/localization.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -26,15 +27,15 @@ constexpr Severity kError = Severity::kError;
 std::string NameOf(BotFile kind) {
   switch (kind) {
     case BotFile::kDescription:
-      return "description";
+      return Localized("description file");
     case BotFile::kCharacteristics:
-      return "character";
+      return Localized("character file");
     case BotFile::kChat:
-      return "chat";
+      return Localized("chat file");
     case BotFile::kItemWeights:
-      return "item weight";
+      return Localized("item weight file");
     case BotFile::kWeaponWeights:
-      return "weapon weight";
+      return Localized("weapon weight file");
   }
   return {};
 }
@@ -42,8 +43,9 @@ std::string NameOf(BotFile kind) {
 /// A fault that has cost a file all its weights of weapons.
 Complaint WithoutWeights(Complaint fault) {
   fault.severity = kError;
-  fault.text +=
-      " No weapon has a weight then: the bot does not know what to fight with.";
+  fault.text += " " + Localized(
+                          "No weapon has a weight then: the bot does not know "
+                          "what to fight with.");
   return fault;
 }
 
@@ -228,11 +230,11 @@ std::optional<GameFile> BotReader::Find(std::string_view path, BotFile kind,
   if (NormalGamePath(asked).empty()) return GameFile{shown, "", ""};
   if (asked.size() > limits::kMaxPath) {
     Add("path-too-long", kError, file, line,
-        "The path " + Quoted(asked) + " of the " + NameOf(kind) +
-            " file is too long: the game can open " +
-            std::to_string(limits::kMaxPath + kBotFilesPath.size()) +
-            " characters, botfiles/ "
-            "included. Give the bot a shorter name.");
+        Localized(
+            "The path %1 of the %2 is too long: the game can open %3 "
+            "characters, botfiles/ included. Give the bot a shorter name.",
+            {Quoted(asked), NameOf(kind),
+             std::to_string(limits::kMaxPath + kBotFilesPath.size())}));
     return std::nullopt;
   }
   if (const GameFile* const own = OwnFile(asked)) {
@@ -253,19 +255,20 @@ std::optional<GameFile> BotReader::Find(std::string_view path, BotFile kind,
 /// for any other.
 std::string BotReader::AdviceForPath(std::string_view path) const {
   if (ToLower(path).starts_with(kBotFilesPath)) {
-    return "It begins in botfiles by itself: leave botfiles/ out.";
+    return Localized("It begins in botfiles by itself: leave botfiles/ out.");
   }
   if (Contains(path, "..")) {
-    return "It refuses a path with \"..\": write the whole way from botfiles.";
+    return Localized(
+        "It refuses a path with \"..\": write the whole way from botfiles.");
   }
   const std::string whole = std::string(path) + ".c";
-  return OwnFile(whole) != nullptr ? "Write " + Quoted(whole) + "." : "";
+  return OwnFile(whole) != nullptr ? Localized("Write %1.", {Quoted(whole)})
+                                   : "";
 }
 
 void BotReader::TellMissing(const std::string& path, BotFile kind,
                             const std::string& file, int line) {
-  const std::string shown =
-      "The " + NameOf(kind) + " file " + Quoted(InBotFiles(path));
+  const std::string called = NameOf(kind);
   const auto tell = [&](std::string_view id, Severity severity,
                         std::string text) {
     complaints_.Add({.id = id,
@@ -278,43 +281,48 @@ void BotReader::TellMissing(const std::string& path, BotFile kind,
   const std::string on_disk = PathLookedFor(path, FileHome::kLoose);
   if (EndsAtAccent(path, file, line)) {
     Add("path-accent", kError, file, line,
-        "The game reads the path of the " + NameOf(kind) + " file only up to " +
-            Quoted(path) +
-            ", where a letter with an accent follows. Call the bot and its "
-            "files by letters without accents.");
+        Localized("The game reads the path of the %1 only up to %2, where a "
+                  "letter with an accent follows. Call the bot and its files "
+                  "by letters without accents.",
+                  {called, Quoted(path)}));
   } else if (HasLoneBackslash(line)) {
     Add("path-backslash", kError, file, line,
-        "The path of the " + NameOf(kind) +
-            " file has a \\ in this line, and the game takes that and the "
-            "letter behind it for one sign. Write / in its place.");
+        Localized(
+            "The path of the %1 has a \\ in this line, and the game takes that "
+            "and the letter behind it for one sign. Write / in its place.",
+            {called}));
   } else if (other_case != nullptr) {
     Add("path-case", kError, file, line,
-        "The bot names its " + NameOf(kind) + " file " + Quoted(path) +
-            ", but it is called " + Quoted(other_case->game_path) +
-            ". Capitals count for files in a folder on Linux. Spell both "
-            "alike.");
+        Localized("The bot names its %1 %2, but it is called %3. Capitals "
+                  "count for files in a folder on Linux. Spell both alike.",
+                  {called, Quoted(path), Quoted(other_case->game_path)}));
   } else if (files_.home == FileHome::kPacked && OwnFile(on_disk) != nullptr) {
     Add("path-in-package", kError, file, line,
-        "The path " + Quoted(path) + " of the " + NameOf(kind) +
-            " file works for files in a folder only. For a package write " +
-            Quoted(on_disk) + ".");
+        Localized("The path %1 of the %2 works for files in a folder only. For "
+                  "a package write %3.",
+                  {Quoted(path), called, Quoted(on_disk)}));
   } else if (const std::string advice = AdviceForPath(path); !advice.empty()) {
-    tell("file-missing", kError,
-         "The game does not find the " + NameOf(kind) + " file " +
-             Quoted(path) + ". " + advice);
+    tell(
+        "file-missing", kError,
+        Localized("The game does not find the %1 %2.", {called, Quoted(path)}) +
+            " " + advice);
   } else if (!files_.is_game_known) {
     tell("not-looked-at", Severity::kHint,
-         shown +
-             " is not the bot's own. Whether the game has it was not looked "
-             "at, as no game folder is set.");
+         Localized("The %1 %2 is not the bot's own. Whether the game has it "
+                   "was not looked at, as no game folder is set.",
+                   {called, Quoted(InBotFiles(path))}));
   } else {
     const auto* const row =
         std::ranges::find(kBotFileMembers, kind, &BotFileMember::file);
     const std::optional<GameFile>& own = files_.*row->member;
     tell("file-missing", kError,
-         shown + " does not exist. Correct the path or add the file" +
-             (!own ? "."
-                   : "; the bot's own is " + Quoted(own->game_path) + "."));
+         Localized(
+             own ? Localizable("The %1 %2 does not exist. Correct the path or "
+                               "add the file; the bot's own is %3.")
+                 : Localizable("The %1 %2 does not exist. Correct the path or "
+                               "add the file."),
+             {called, Quoted(InBotFiles(path)),
+              own ? Quoted(own->game_path) : ""}));
   }
 }
 
@@ -388,13 +396,13 @@ bool BotReader::Weights(const std::string& path, bool are_weapons,
         .id = "no-weights",
         .severity = kError,
         .place = {.file = file->name, .line = 0},
-        .text =
-            "The file gives no weapon a weight: the bot does not know what "
-            "to fight with. Write #include \"fw_weap.c\" at its end."};
+        .text = Localized(
+            "The file gives no weapon a weight: the bot does not know what to "
+            "fight with. Write #include \"fw_weap.c\" at its end.")};
   } else {
     Add("no-weights", Severity::kWarning, file->name, 0,
-        "The file gives no item a weight: the bot picks nothing up on "
-        "purpose. Write #include \"fw_items.c\" at its end.");
+        Localized("The file gives no item a weight: the bot picks nothing up "
+                  "on purpose. Write #include \"fw_items.c\" at its end."));
   }
   return true;
 }

@@ -15,6 +15,7 @@
 #include "game/skill_mix.h"
 #include "model/characteristic_catalogue.h"
 #include "model/game_characteristics.h"
+#include "support/localization.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -69,12 +70,12 @@ class CharacterFileChecker {
           findings().IsTold({file_.name, block.line}, "no-level")) {
         continue;
       }
-      const std::string number = std::to_string(block.level);
       Add("skill-block-twice", Severity::kWarning, file_.name, block.line,
-          "Skill block " + number + " stands twice, first in line " +
-              std::to_string(first->second) +
-              ": the game takes that one and passes over this. Remove the one "
-              "that is not meant, or correct its number.");
+          Localized(
+              "Skill block %1 stands twice, first in line %2: the game takes "
+              "that one and passes over this. Remove the one that is not "
+              "meant, or correct its number.",
+              {std::to_string(block.level), std::to_string(first->second)}));
     }
   }
 
@@ -111,13 +112,19 @@ class CharacterFileChecker {
     }
     // Of a level that is thrown away it says nothing new.
     if (count == 0 || has_cause_) return;
-    if (count > 3) missing += " and " + std::to_string(count - 3) + " more";
+    if (count > 3) {
+      missing =
+          Localized("%1 and %2 more", {missing, std::to_string(count - 3)});
+    }
     Add("missing-keys", Severity::kHint, file_.name, line,
-        (levels.size() == 1 ? "Skill block " : "The skill blocks ") +
-            Enumeration(levels) +
-            (levels.size() == 1 ? " has no " : " have no ") + missing +
-            ": the game takes what its default character has. Write the lines "
-            "to decide yourself.");
+        Localized(levels.size() == 1
+                      ? Localizable("Skill block %1 has no %2: the game takes "
+                                    "what its default character has. Write the "
+                                    "lines to decide yourself.")
+                      : Localizable("The skill blocks %1 have no %2: the game "
+                                    "takes what its default character has. "
+                                    "Write the lines to decide yourself."),
+                  {Enumeration(levels), missing}));
   }
 
   /// The game takes 0 for a text where a number belongs.
@@ -129,10 +136,11 @@ class CharacterFileChecker {
         continue;
       }
       Add("value-not-a-number", Severity::kWarning, file_.name, value.line,
-          GameKeyName(number) + " of skill " + std::to_string(level) +
-              " is the text " + Quoted(value.text) +
-              ", and a number belongs there: the game takes 0. Write the "
-              "number without quotation marks.");
+          Localized(
+              "%1 of skill %2 is the text %3, and a number belongs there: the "
+              "game takes 0. Write the number without quotation marks.",
+              {GameKeyName(number), std::to_string(level),
+               Quoted(value.text)}));
     }
   }
 
@@ -164,16 +172,16 @@ class CharacterFileChecker {
             (files_.is_game_known && !game_(found->second.text))) {
           continue;
         }
-        std::string text = "Skill " + std::to_string(level) + " takes " +
-                           Quoted(found->second.text) +
-                           ", a file of another bot";
-        text += file ? ", and not " + Quoted(file->game_path) +
-                           ", which is this bot's own. Correct the name in "
-                           "this line."
-                     : ". If that is not meant, write the name of this bot's "
-                       "own file.";
         Add("others-file", file ? Severity::kWarning : Severity::kHint,
-            file_.name, found->second.line, std::move(text));
+            file_.name, found->second.line,
+            Localized(file ? Localizable("Skill %1 takes %2, a file of another "
+                                         "bot, and not %3, which is this bot's "
+                                         "own. Correct the name in this line.")
+                           : Localizable("Skill %1 takes %2, a file of another "
+                                         "bot. If that is not meant, write the "
+                                         "name of this bot's own file."),
+                      {std::to_string(level), Quoted(found->second.text),
+                       file ? Quoted(file->game_path) : ""}));
       }
     }
   }
@@ -193,9 +201,9 @@ class CharacterFileChecker {
         });
     if (!is_of_other_key) return;
     Add("wrong-file", Severity::kWarning, file_.name, value.line,
-        GameKeyName(number) + " names " + Quoted(value.text) +
-            ", which is another file of this bot. Write " +
-            Quoted(file->game_path) + ".");
+        Localized("%1 names %2, which is another file of this bot. Write %3.",
+                  {GameKeyName(number), Quoted(value.text),
+                   Quoted(file->game_path)}));
   }
 
   /// Between two levels the game mixes numbers with a "." only.
@@ -218,12 +226,12 @@ class CharacterFileChecker {
           continue;
         }
         Add("no-mix", SeverityOfMixGap(levels), file_.name, other->second.line,
-            GameKeyName(number) + " is a whole number at skill " +
-                std::to_string(high) + " but has a point at skill " +
-                std::to_string(low) +
-                ", so at the skills between the bot has no value at all and "
-                "the game takes 0. Write a point and a 0 behind the whole "
-                "number.");
+            Localized(
+                "%1 is a whole number at skill %2 but has a point at skill %3, "
+                "so at the skills between the bot has no value at all and the "
+                "game takes 0. Write a point and a 0 behind the whole number.",
+                {GameKeyName(number), std::to_string(high),
+                 std::to_string(low)}));
       }
     }
   }

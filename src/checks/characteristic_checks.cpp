@@ -11,6 +11,7 @@
 #include "game/skill_mix.h"
 #include "model/characteristic_catalogue.h"
 #include "support/code_page.h"
+#include "support/localization.h"
 
 namespace fragsmith {
 namespace {
@@ -41,19 +42,15 @@ bool IsWeight(ParameterId parameter) {
          kItemWeightRange.Contains(parameter);
 }
 
-Mend MendTo(ParameterId parameter, double value) {
-  return SetTo(parameter, value,
-               "Set " + QuotedName(parameter) + " to " + ShownNumber(value));
-}
-
 /// Sets the parameter to the end of the range that it is beyond. Of a per-level
 /// one all levels are set that are beyond it: one alone would be better or
 /// worse than the others, and the game could not mix a 1.0 with a 2.
 Mend MendToEnd(ParameterId parameter, double end, bool is_highest) {
-  if (!parameter.level()) return MendTo(parameter, end);
-  return {"Set \"" + std::string(ParameterName(parameter)) + "\" to " +
-              ShownNumber(end) + " wherever it is " +
-              (is_highest ? "more" : "less"),
+  if (!parameter.level()) return SetTo(parameter, end);
+  return {Localized(is_highest
+                        ? Localizable("Set \"%1\" to %2 wherever it is more")
+                        : Localizable("Set \"%1\" to %2 wherever it is less"),
+                    {ParameterName(parameter), ShownNumber(end)}),
           [parameter, end, is_highest](Bot& bot) {
             for (const Level level : kLevels) {
               const ParameterId id = parameter.At(level);
@@ -75,17 +72,34 @@ std::optional<Mend> MixGapMend(const Bot& bot, ParameterId upper,
   const double low = ToNumber(bot.Parameter(lower)).value_or(0);
   const double high = ToNumber(bot.Parameter(upper)).value_or(0);
   if (high > range.highest) {
-    return MendTo(upper, range.highest);
+    return SetTo(upper, range.highest);
   }
   if (low < range.lowest) {
-    return MendTo(lower, range.lowest);
+    return SetTo(lower, range.lowest);
   }
   return std::nullopt;
 }
 
-std::string BetweenText(LevelPair levels) {
-  return levels.lower == Level::k1 ? "At the skills 2 and 3"
-                                   : "At skills between 4 and 5, such as 4.5,";
+/// What a gap between the levels costs the bot.
+std::string WithoutValueText(ParameterId parameter, LevelPair levels) {
+  const bool is_lower = levels.lower == Level::k1;
+  if (parameter.index() == kReactionTimeIndex) {
+    return Localized(
+        is_lower
+            ? Localizable("At the skills 2 and 3 the bot has no \"%1\" at all, "
+                          "which makes it super-fast:")
+            : Localizable("At skills between 4 and 5, such as 4.5, the bot has "
+                          "no \"%1\" at all, which makes it super-fast:"),
+        {ParameterName(parameter)});
+  }
+  return Localized(
+      is_lower
+          ? Localizable("At the skills 2 and 3 the bot has no \"%1\" at all "
+                        "(the game takes 0 and complains again and again):")
+          : Localizable(
+                "At skills between 4 and 5, such as 4.5, the bot has no \"%1\" "
+                "at all (the game takes 0 and complains again and again):"),
+      {ParameterName(parameter)});
 }
 
 /// The one text that the game finds between the quotes that are put around a
@@ -108,17 +122,14 @@ void CheckLevelMix(const CheckContext& context, FindingList& findings) {
     for (const LevelPair levels : kMixedLevels) {
       const ParameterId upper(levels.upper, index);
       if (!HasMixGap(context.bot, upper, levels)) continue;
-      std::string text = BetweenText(levels) + " the bot has no \"" +
-                         std::string(ParameterName(upper)) + "\" at all";
-      text += index == kReactionTimeIndex
-                  ? ", which makes it super-fast: "
-                  : " (the game takes 0 and complains again and again): ";
-      text += "the game cannot mix the fraction of level " +
-              std::to_string(NumberOf(levels.lower)) +
-              " with the whole number " +
-              ShownValue(context.bot.Parameter(upper)) + " of level " +
-              std::to_string(NumberOf(levels.upper)) +
-              ". Use fractions, or whole numbers from 2 on, for both.";
+      std::string text = WithoutValueText(upper, levels) + " " +
+                         Localized(
+                             "the game cannot mix the fraction of level %1 "
+                             "with the whole number %2 of level %3. Use "
+                             "fractions, or whole numbers from 2 on, for both.",
+                             {std::to_string(NumberOf(levels.lower)),
+                              ShownValue(context.bot.Parameter(upper)),
+                              std::to_string(NumberOf(levels.upper))});
       std::vector<Mend> mends;
       if (auto mend = MixGapMend(context.bot, upper, levels)) {
         mends.push_back(Safe(std::move(*mend)));
@@ -140,22 +151,25 @@ void CheckTextThatBreaksFile(const CheckContext& context,
           parameter != kGenderField) {
         return;
       }
-      findings.Add(parameter,
-                   "The game cuts the gender " + ShownValue(*text) +
-                       " at a backslash that it does not understand: \"" +
-                       ShownText(token->text) +
-                       "\" is all that remains. Take the backslash out.",
-                   {}, Severity::kWarning);
+      findings.Add(
+          parameter,
+          Localized(
+              "The game cuts the gender %1 at a backslash that it does not "
+              "understand: \"%2\" is all that remains. Take the backslash out.",
+              {ShownValue(*text), ShownText(token->text)}),
+          {}, Severity::kWarning);
       return;
     }
-    findings.Add(parameter,
-                 QuotedName(parameter) + " is the text " + ShownValue(*text) +
-                     ", whose quotes, backslashes or control characters break "
-                     "the file: the game plays its default character in place "
-                     "of this bot. Give a plain text or a number.",
-                 parameter == kGenderField
-                     ? std::vector<Mend>{}
-                     : std::vector<Mend>{Safe(MendTo(parameter, 0))});
+    findings.Add(
+        parameter,
+        Localized(
+            "%1 is the text %2, whose quotes, backslashes or control "
+            "characters break the file: the game plays its default character "
+            "in place of this bot. Give a plain text or a number.",
+            {QuotedName(parameter), ShownValue(*text)}),
+        parameter == kGenderField
+            ? std::vector<Mend>{}
+            : std::vector<Mend>{Safe(SetTo(parameter, 0))});
   };
   check(kGenderField);
   ForEachValue(check);
@@ -166,11 +180,12 @@ void CheckTextForNumber(const CheckContext& context, FindingList& findings) {
     const Value& value = context.bot.Parameter(parameter);
     if (IsWeight(parameter) || ToNumber(value)) return;
     if (!TextInFile(ToText(value))) return;
-    findings.Add(parameter,
-                 QuotedName(parameter) + " is the text " + ShownValue(value) +
-                     ", not a number. The game takes 0 in its place and "
-                     "complains again and again. Give a number.",
-                 {Safe(MendTo(parameter, 0))});
+    findings.Add(
+        parameter,
+        Localized("%1 is the text %2, not a number. The game takes 0 in its "
+                  "place and complains again and again. Give a number.",
+                  {QuotedName(parameter), ShownValue(value)}),
+        {Safe(SetTo(parameter, 0))});
   });
 }
 
@@ -182,27 +197,30 @@ void CheckNegativeValue(const CheckContext& context, FindingList& findings) {
     if (IsLeftOut(context.bot, parameter)) return;
     const double read = NumberInFile(value)->value;
     findings.Add(parameter,
-                 QuotedName(parameter) + " is " + ShownNumber(*number) +
-                     ", but the game's files have no negative numbers: the "
-                     "game will read " +
-                     ShownNumber(read) + ". Use 0 or more.",
-                 {MendTo(parameter, 0)});
+                 Localized("%1 is %2, but the game's files have no negative "
+                           "numbers: the game will read %3. Use 0 or more.",
+                           {QuotedName(parameter), ShownNumber(*number),
+                            ShownNumber(read)}),
+                 {SetTo(parameter, 0)});
   });
 }
 
 void CheckReactionTime(const CheckContext& context, FindingList& findings) {
   const double highest = UsedRangeOf(ParameterAt(kReactionTimeIndex)).highest;
-  const std::string shown =
-      ShownNumber(highest) + (highest == 1 ? " second" : " seconds");
-  const std::string clamped =
-      ", but the game takes everything above " + shown + " as " + shown + ".";
   for (const Level level : kLevels) {
     const ParameterId parameter(level, kReactionTimeIndex);
     const double value = ToNumber(context.bot.Parameter(parameter)).value_or(0);
     if (value <= highest) continue;
-    findings.Add(parameter,
-                 QuotedName(parameter) + " is " + ShownNumber(value) + clamped,
-                 {Safe(MendToEnd(parameter, highest, true))});
+    findings.Add(
+        parameter,
+        Localized(
+            highest == 1
+                ? Localizable("%1 is %2, but the game takes everything above "
+                              "%3 second as %3 second.")
+                : Localizable("%1 is %2, but the game takes everything above "
+                              "%3 seconds as %3 seconds."),
+            {QuotedName(parameter), ShownNumber(value), ShownNumber(highest)}),
+        {Safe(MendToEnd(parameter, highest, true))});
   }
 }
 
@@ -214,10 +232,10 @@ void CheckViewChange(const CheckContext& context, FindingList& findings) {
         ToNumber(context.bot.Parameter(parameter));
     if (!value || *value < 0 || *value >= lowest) continue;
     findings.Add(parameter,
-                 QuotedName(parameter) + " is " + ShownNumber(*value) +
-                     ", but the game takes everything below " +
-                     ShownNumber(lowest) + " degrees per second as " +
-                     ShownNumber(lowest) + ".",
+                 Localized("%1 is %2, but the game takes everything below %3 "
+                           "degrees per second as %3.",
+                           {QuotedName(parameter), ShownNumber(*value),
+                            ShownNumber(lowest)}),
                  {Safe(MendToEnd(parameter, lowest, false))});
   }
 }
@@ -230,11 +248,12 @@ void CheckValueBeyondRange(const CheckContext& context, FindingList& findings) {
     const double highest = UsedRangeOf(parameter).highest;
     const double value = ToNumber(context.bot.Parameter(parameter)).value_or(0);
     if (value <= highest) return;
-    findings.Add(parameter,
-                 QuotedName(parameter) + " is " + ShownNumber(value) +
-                     ", but the game takes everything above " +
-                     ShownNumber(highest) + " as " + ShownNumber(highest) + ".",
-                 {Safe(MendToEnd(parameter, highest, true))});
+    findings.Add(
+        parameter,
+        Localized(
+            "%1 is %2, but the game takes everything above %3 as %3.",
+            {QuotedName(parameter), ShownNumber(value), ShownNumber(highest)}),
+        {Safe(MendToEnd(parameter, highest, true))});
   };
   ForEachLevelValue(check);
   ForEachSingle(kChatRange, check);
@@ -249,13 +268,14 @@ void CheckUnreadValue(const CheckContext& context, FindingList& findings) {
     return !value || (*value != 0 && *value != preset);
   };
   const auto add = [&](ParameterId parameter) {
-    findings.Add(
-        parameter,
-        "No known version of the game reads \"" +
-            std::string(ParameterName(parameter)) +
-            "\": whatever you set, the bot plays the same." +
-            (parameter == kChatCpm ? " Typing always takes it 2 seconds."
-                                   : ""));
+    std::string text = Localized(
+        "No known version of the game reads \"%1\": whatever you set, the bot "
+        "plays the same.",
+        {ParameterName(parameter)});
+    if (parameter == kChatCpm) {
+      text += " " + Localized("Typing always takes it 2 seconds.");
+    }
+    findings.Add(parameter, std::move(text));
   };
   for (const int index : kPerLevelRange) {
     if (IsReadByGame(ParameterAt(index))) continue;
@@ -280,14 +300,15 @@ void CheckDefaultCharacter(const CheckContext& context, FindingList& findings) {
       levels.push_back(std::to_string(NumberOf(level)));
     }
     if (!first) continue;
-    std::string text = "\"" + std::string(ParameterName(*first)) +
-                       R"(" is "No" at level )" + Enumeration(levels) +
-                       ": there the game takes the value of its own default "
-                       "character";
-    text += index == kFireThrottleIndex
-                ? "."
-                : ", not the bot's general aim skill or aim accuracy. Set it "
-                  "above 0 to decide yourself.";
+    std::string text = Localized(
+        index == kFireThrottleIndex
+            ? Localizable("\"%1\" is \"No\" at level %2: there the game takes "
+                          "the value of its own default character.")
+            : Localizable("\"%1\" is \"No\" at level %2: there the game takes "
+                          "the value of its own default character, not the "
+                          "bot's general aim skill or aim accuracy. Set it "
+                          "above 0 to decide yourself."),
+        {ParameterName(*first), Enumeration(levels)});
     findings.Add(*first, std::move(text));
   }
 }
@@ -299,11 +320,11 @@ void CheckFireThrottle(const CheckContext& context, FindingList& findings) {
     const double value = ToNumber(context.bot.Parameter(parameter)).value_or(0);
     if (value <= 0 || value > kNoPause) continue;
     findings.Add(parameter,
-                 QuotedName(parameter) + " is " + ShownNumber(value) +
-                     ". So low a value does not make the bot fire slowly: up "
-                     "to 0.1 it never pauses, just as with 1. From 0.3 to "
-                     "0.9 it pauses most.",
-                 {Safe(MendTo(parameter, 1))});
+                 Localized("%1 is %2. So low a value does not make the bot "
+                           "fire slowly: up to 0.1 it never pauses, just as "
+                           "with 1. From 0.3 to 0.9 it pauses most.",
+                           {QuotedName(parameter), ShownNumber(value)}),
+                 {Safe(SetTo(parameter, 1))});
   }
 }
 

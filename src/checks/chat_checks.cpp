@@ -12,6 +12,7 @@
 #include "game/ready_lines.h"
 #include "model/characteristic_catalogue.h"
 #include "session/bot_difference.h"
+#include "support/localization.h"
 
 namespace fragsmith {
 namespace {
@@ -31,7 +32,9 @@ Mend AddLines(const CheckContext& context,
     lines.emplace_back(type,
                        OtherChatLine(context.bot, type, WordsOf(context)));
   }
-  return {.title = types.size() == 1 ? "Add a line" : "Add a line for each",
+  return {.title =
+              Localized(types.size() == 1 ? Localizable("Add a line")
+                                          : Localizable("Add a line for each")),
           .apply = [lines = std::move(lines)](Bot& bot) {
             for (const auto& [type, line] : lines) {
               bot.SetChatLine(type, NextFreeChatLine(bot, type), line);
@@ -46,10 +49,6 @@ std::vector<std::string> Captions(const std::vector<ChatTypeId>& types) {
   return captions;
 }
 
-std::string Chance(ParameterId chance) {
-  return "chat characteristic " + QuotedName(chance);
-}
-
 }  // namespace
 
 void CheckTypeIsNeverHeard(const CheckContext& context, FindingList& findings) {
@@ -59,9 +58,10 @@ void CheckTypeIsNeverHeard(const CheckContext& context, FindingList& findings) {
     // They may be another author's, so that taking them out is no safe mend.
     findings.Add(
         PlaceOfType(type),
-        "Nobody hears the lines of " + QuotedChatType(type) + ": " +
-            std::string(facts.when),
-        {{.title = "Take the lines of " + QuotedChatType(type) + " out",
+        Localized("Nobody hears the lines of %1: %2",
+                  {QuotedChatType(type), Localized(facts.when)}),
+        {{.title =
+              Localized("Take the lines of %1 out", {QuotedChatType(type)}),
           .apply = [type](Bot& bot) { CopyChatType(type, Bot(), bot); }}});
   }
 }
@@ -78,11 +78,11 @@ void CheckLinesWithoutChance(const CheckContext& context,
       if (is_heard && HasLines(context.bot, type)) types.push_back(type);
     }
     if (types.empty()) continue;
-    findings.Add(
-        chance,
-        "There are lines for " + Enumeration(Captions(types)) + ", but the " +
-            Chance(chance) + " is 0: the bot never speaks them.",
-        {SetTo(chance, kMiddling, "Set " + QuotedName(chance) + " to 0.5")});
+    findings.Add(chance,
+                 Localized("There are lines for %1, but the chat "
+                           "characteristic %2 is 0: the bot never speaks them.",
+                           {Enumeration(Captions(types)), QuotedName(chance)}),
+                 {SetTo(chance, kMiddling)});
   }
   for (const ChatTypeId type : kAllChatTypes) {
     const ChatTypeFacts& facts = FactsOfChatType(type);
@@ -91,11 +91,12 @@ void CheckLinesWithoutChance(const CheckContext& context,
         NumberInGame(context.bot, facts.chance.value()) <= 0) {
       continue;
     }
-    findings.Add(PlaceOfType(type),
-                 "The bot never speaks the lines of " + QuotedChatType(type) +
-                     ": by the chat characteristics \"Insult\" and \"Misc\" "
-                     "it always takes the other type. Set that one between 0 "
-                     "and 1 to hear both.");
+    findings.Add(
+        PlaceOfType(type),
+        Localized("The bot never speaks the lines of %1: by the chat "
+                  "characteristics \"Insult\" and \"Misc\" it always takes the "
+                  "other type. Set that one between 0 and 1 to hear both.",
+                  {QuotedChatType(type)}));
   }
 }
 
@@ -113,17 +114,18 @@ void CheckChanceWithoutLines(const CheckContext& context,
     }
     if (empty.empty()) continue;
     const bool has_none = empty.size() == drawn;
-    std::string text = "The " + Chance(chance) +
-                       " is above 0, but there is no line for " +
-                       Enumeration(Captions(empty)) +
-                       ": the bot then stands still for 2 seconds, says "
-                       "nothing, and is silent for 25 seconds more. ";
-    text += has_none ? "Write lines, or set it to 0."
-                     : "Write at least one line for each.";
+    std::string text =
+        Localized(
+            "The chat characteristic %1 is above 0, but there is no line for "
+            "%2: the bot then stands still for 2 seconds, says nothing, and is "
+            "silent for 25 seconds more.",
+            {QuotedName(chance), Enumeration(Captions(empty))}) +
+        " " +
+        Localized(has_none ? Localizable("Write lines, or set it to 0.")
+                           : Localizable("Write at least one line for each."));
     std::vector<Mend> mends;
     if (has_none) {
-      mends.push_back(
-          Safe(SetTo(chance, 0.0, "Set " + QuotedName(chance) + " to 0")));
+      mends.push_back(Safe(SetTo(chance, 0)));
     }
     mends.push_back(AddLines(context, empty));
     findings.Add(chance, std::move(text), std::move(mends));
@@ -132,14 +134,12 @@ void CheckChanceWithoutLines(const CheckContext& context,
 
 void CheckEnemySuicide(const CheckContext& context, FindingList& findings) {
   if (NumberInGame(context.bot, kEnemySuicideChance) <= 0) return;
-  findings.Add(
-      kEnemySuicideChance,
-      "The " + Chance(kEnemySuicideChance) +
-          " only makes the bot fall silent for 25 seconds when "
-          "somebody commits suicide: there is no text for it that the "
-          "game would send.",
-      {Safe(SetTo(kEnemySuicideChance, 0.0,
-                  "Set " + QuotedName(kEnemySuicideChance) + " to 0"))});
+  findings.Add(kEnemySuicideChance,
+               Localized("The chat characteristic %1 only makes the bot fall "
+                         "silent for 25 seconds when somebody commits suicide: "
+                         "there is no text for it that the game would send.",
+                         {QuotedName(kEnemySuicideChance)}),
+               {Safe(SetTo(kEnemySuicideChance, 0))});
 }
 
 }  // namespace fragsmith

@@ -18,6 +18,7 @@
 #include "game/file_faults.h"
 #include "game/word_lists.h"
 #include "support/code_page.h"
+#include "support/localization.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -91,9 +92,9 @@ class ChatFileChecker {
         [&](std::string_view family) { return lower.starts_with(family); });
     if (is_meant && !IsKnownType(lower)) {
       Warn("chat-type-unknown", type.open,
-           "The game never asks for a type " + Quoted(type.name) +
-               ", so nobody hears its lines. Perhaps \"" +
-               std::string(NearestType(lower)) + "\" is meant.");
+           Localized("The game never asks for a type %1, so nobody hears its "
+                     "lines. Perhaps \"%2\" is meant.",
+                     {Quoted(type.name), NearestType(lower)}));
     }
     for (const GameChatLine& line : type.lines) Check(line);
   }
@@ -113,13 +114,20 @@ class ChatFileChecker {
   void TellTwice(const std::string& lower, const GameChatType& type) {
     const GameChatType& last = *last_.at(lower);
     if (&last == &type || type.lines.empty()) return;
-    const std::string where =
-        last.open.empty() ? "in a file that is included below"
-                          : "in line " + std::to_string(LineAt(last.open));
+    const bool is_included = last.open.empty();
     Warn("chat-type-twice", type.open,
-         "The type " + Quoted(type.name) + " stands here and again " + where +
-             ". The game takes the last one alone, so nobody hears the lines "
-             "here. Put all lines into one block.");
+         Localized(
+             is_included
+                 ? Localizable("The type %1 stands here and again in a file "
+                               "that is included below. The game takes the "
+                               "last one alone, so nobody hears the lines "
+                               "here. Put all lines into one block.")
+                 : Localizable(
+                       "The type %1 stands here and again in line %2. The game "
+                       "takes the last one alone, so nobody hears the lines "
+                       "here. Put all lines into one block."),
+             {Quoted(type.name),
+              is_included ? "" : std::to_string(LineAt(last.open))}));
   }
 
   void Check(const GameChatLine& line) {
@@ -129,8 +137,9 @@ class ChatFileChecker {
         bytes.substr(line.span.begin, line.span.end - line.span.begin);
     if (IsMerged(statement)) {
       Warn("chat-lines-merged", line.span,
-           "There is no ; between this text and the one on the next line, so "
-           "the bot speaks both as one. Write a ; at the end of each line.");
+           Localized("There is no ; between this text and the one on the next "
+                     "line, so the bot speaks both as one. Write a ; at the "
+                     "end of each line."));
     }
     const ChatMessage message = ReadChatMessage(statement);
     if (AdviceForLine(statement).empty()) TellLoneWord(line, message);
@@ -138,25 +147,27 @@ class ChatFileChecker {
       if (const std::string_view advice = AdviceForLine(statement);
           item.kind == ChatItem::Kind::kWord && !advice.empty()) {
         Warn("chat-curly-quotes", line.span,
-             "The game takes " + Quoted(item.text) +
-                 " for the name of a word list." + std::string(advice));
+             Localized("The game takes %1 for the name of a word list.",
+                       {Quoted(item.text)}) +
+                 Localized(advice));
       }
       if (item.kind == ChatItem::Kind::kVariable &&
           item.variable >= kFirstUnknownVariable) {
         Warn("chat-variable-out-of-range", line.span,
-             "The game knows no variable " + std::to_string(item.variable) +
-                 " and prints \"variable " + std::to_string(item.variable) +
-                 " out of range\": the bot speaks what stands in front of it "
-                 "and the rest of an earlier line. Take a number from 0 to "
-                 "5.");
+             Localized(
+                 "The game knows no variable %1 and prints \"variable %1 out "
+                 "of range\": the bot speaks what stands in front of it and "
+                 "the rest of an earlier line. Take a number from 0 to 5.",
+                 {std::to_string(item.variable)}));
       }
       if (item.kind == ChatItem::Kind::kText &&
           !BracedPart(item.text).empty()) {
-        Warn("chat-braces", line.span,
-             "The game speaks what stands in braces as it is written: " +
-                 Quoted(item.text) +
-                 ". In the file a variable is a number outside the quotation "
-                 "marks, such as \"well done, \", 0;");
+        Warn(
+            "chat-braces", line.span,
+            Localized("The game speaks what stands in braces as it is written: "
+                      "%1. In the file a variable is a number outside the "
+                      "quotation marks, such as \"well done, \", 0;",
+                      {Quoted(item.text)}));
       }
     }
   }
@@ -178,10 +189,11 @@ class ChatFileChecker {
     }
     if (words_->empty() || words_->Find(word) != nullptr) return;
     Warn("chat-word-unknown", line.span,
-         "Your game has no word list or ready-made line " + Quoted(word) +
-             std::string(kRemainsSpoken) +
-             "Take the name of one that it has, or put the text in quotation "
-             "marks (\").");
+         Localized(
+             "Your game has no word list or ready-made line %1: in its place "
+             "the bot speaks the remains of an earlier line. Take the name of "
+             "one that it has, or put the text in quotation marks (\").",
+             {Quoted(word)}));
   }
 
   const GameFile& file_;

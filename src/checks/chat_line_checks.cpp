@@ -10,7 +10,6 @@
 
 #include "chat/chat_catalogue.h"
 #include "chat/vocabulary.h"
-#include "checks/chat_file_checks.h"
 #include "game/chat_type_facts.h"
 #include "game/lexer.h"
 #include "game/limits.h"
@@ -18,6 +17,7 @@
 #include "game/ready_lines.h"
 #include "game/spoken_line.h"
 #include "support/code_page.h"
+#include "support/localization.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -97,30 +97,34 @@ std::string InGameCharacters(const std::string& line) {
   return std::string(TrimBlanks(text));
 }
 
-/// What happens to the characters of one text, as parts of a sentence.
+/// What happens to the characters of one text, as a sentence goes on.
 void AddChanges(std::string_view text, std::vector<std::string>& changes) {
-  const auto add = [&](bool happens, const char* change) {
-    if (happens && !std::count(changes.begin(), changes.end(), change)) {
-      changes.emplace_back(change);
+  const auto add = [&](bool happens, std::string_view english) {
+    if (!happens) return;
+    std::string change = Localized(english);
+    if (std::ranges::count(changes, change) == 0) {
+      changes.push_back(std::move(change));
     }
   };
   add(HasAccents(text),
-      "letters with accents and other special signs become blanks");
-  add(Contains(text, "%"), "\"%\" becomes a dot");
+      Localizable(
+          "letters with accents and other special signs become blanks"));
+  add(Contains(text, "%"), Localizable("\"%\" becomes a dot"));
   // Between double quotes these stay.
   const std::string shown = AsOnScreen(text);
   add(Contains(text, "//") && !Contains(shown, "//"),
-      "everything from \"//\" on is cut off");
+      Localizable("everything from \"//\" on is cut off"));
   add(Contains(text, "/*") && !Contains(shown, "/*"),
-      R"("/*" takes away all up to "*/")");
-  add(Contains(text, ";"), "a semicolon becomes a blank");
+      Localizable("\"/*\" takes away all up to \"*/\""));
+  add(Contains(text, ";"), Localizable("a semicolon becomes a blank"));
   add((Contains(text, "  ") && !Contains(shown, "  ")) || Contains(text, "\t"),
-      "several blanks become one");
-  add(HasBlankingControl(text), "control characters become blanks");
+      Localizable("several blanks become one"));
+  add(HasBlankingControl(text),
+      Localizable("control characters become blanks"));
   add(Contains(text, {&kMark, 1}),
-      "the control character with the code 1 goes away, and may take what "
-      "follows along");
-  add(Contains(text, "\""), "double quotes are dropped");
+      Localizable("the control character with the code 1 goes away, and may "
+                  "take what follows along"));
+  add(Contains(text, "\""), Localizable("double quotes are dropped"));
 }
 
 /// The variable as the editor writes it, or its number.
@@ -131,7 +135,7 @@ std::string ShownVariable(ChatTypeId type, int variable) {
       return std::string(row.Variable);
     }
   }
-  return "variable " + std::to_string(variable);
+  return Localized("variable %1", {std::to_string(variable)});
 }
 
 std::string ShownList(const std::string& name) {
@@ -153,10 +157,33 @@ std::vector<Mend> ByOtherLine(const CheckContext& context,
                               const CheckedLine& line) {
   if (!IsReadyMade(*line.text)) return {};
   std::string other = OtherChatLine(context.bot, line.type, WordsOf(context));
-  std::string title = IsReadyMade(other)
-                          ? "Use " + ShownText(other) + " in its place"
-                          : "Use the line " + Quoted(other, std::string::npos);
+  std::string title =
+      IsReadyMade(other)
+          ? Localized("Use %1 in its place", {ShownText(other)})
+          : Localized("Use the line %1", {Quoted(other, std::string::npos)});
   return {SetLine(line, std::move(other), std::move(title))};
+}
+
+std::string_view TooLongText(bool is_counted, bool overflows) {
+  if (overflows) {
+    return is_counted
+               ? Localizable(
+                     "The game has room for %1 characters in a line, and this "
+                     "one takes %2, in a way that the game does not notice in "
+                     "time: it may crash. Shorten the line.")
+               : Localizable(
+                     "The game has room for %1 characters in a line, and this "
+                     "one takes too many of them, in a way that the game does "
+                     "not notice in time: it may crash. Shorten the line.");
+  }
+  return is_counted
+             ? Localizable(
+                   "The game has room for %1 characters in a line, and this "
+                   "one takes %2: the bot is not added. Shorten the line.")
+             : Localizable(
+                   "The game has room for %1 characters in a line, and this "
+                   "one takes too many of them: the bot is not added. Shorten "
+                   "the line.");
 }
 
 /// Calls the function with each line that the game can read.
@@ -187,16 +214,19 @@ void CheckLineQuotes(const CheckContext& context, FindingList& findings) {
     const bool has_quote = Contains(*line.text, "\"");
     std::vector<Mend> mends;
     if (has_quote) {
-      mends.push_back(Safe(SetLine(line, Replaced(*line.text, '"', '\''),
-                                   "Use single quotes in the line")));
+      mends.push_back(
+          Safe(SetLine(line, Replaced(*line.text, '"', '\''),
+                       Localized("Use single quotes in the line"))));
     }
-    findings.Add(PlaceOf(line),
-                 has_quote ? "A double quote ends the text early, the game "
-                             "cannot read the chat file and does not add the "
-                             "bot. Use single quotes."
-                           : "The game cannot read this line and does not add "
-                             "the bot. Write it anew.",
-                 std::move(mends));
+    findings.Add(
+        PlaceOf(line),
+        Localized(has_quote
+                      ? Localizable("A double quote ends the text early, the "
+                                    "game cannot read the chat file and does "
+                                    "not add the bot. Use single quotes.")
+                      : Localizable("The game cannot read this line and does "
+                                    "not add the bot. Write it anew.")),
+        std::move(mends));
   }
 }
 
@@ -207,18 +237,22 @@ void CheckLineBackslashes(const CheckContext& context, FindingList& findings) {
       continue;
     }
     const bool is_last = line.text->ends_with('\\') && line.message.is_broken;
-    std::string text =
-        is_last ? "The line ends with a backslash, which swallows the end of "
+    std::string text = Localized(
+        is_last
+            ? Localizable(
+                  "The line ends with a backslash, which swallows the end of "
                   "the text: the game cannot read the chat file and does not "
-                  "add the bot."
-                : "The game does not know what the backslash in this line is "
-                  "to mean, complains and cuts the text there.";
+                  "add the bot. Take it out, or write two of them.")
+            : Localizable("The game does not know what the backslash in this "
+                          "line is to mean, complains and cuts the text there. "
+                          "Take it out, or write two of them."));
     findings.Add(
-        PlaceOf(line), std::move(text) + " Take it out, or write two of them.",
-        {Safe(SetLine(line, WithGoodBackslashes(*line.text),
-                      "Write two backslashes, of which the game speaks one")),
+        PlaceOf(line), std::move(text),
+        {Safe(SetLine(
+             line, WithGoodBackslashes(*line.text),
+             Localized("Write two backslashes, of which the game speaks one"))),
          SetLine(line, ReplacedAll(*line.text, "\\", ""),
-                 "Take the backslashes out")},
+                 Localized("Take the backslashes out"))},
         line.message.is_broken ? Severity::kError : Severity::kWarning);
   }
 }
@@ -226,12 +260,13 @@ void CheckLineBackslashes(const CheckContext& context, FindingList& findings) {
 void CheckLineControls(const CheckContext& context, FindingList& findings) {
   for (const CheckedLine& line : context.lines) {
     if (!line.message.is_broken || !HasLineEnd(*line.text)) continue;
-    findings.Add(PlaceOf(line),
-                 "The line has a line end in it, which breaks the text off: "
-                 "the game cannot read the chat file and does not add the "
-                 "bot. Make two lines of it, or put a blank there.",
-                 {Safe(SetLine(line, WithoutControls(*line.text),
-                               "Put a blank in its place"))});
+    findings.Add(
+        PlaceOf(line),
+        Localized("The line has a line end in it, which breaks the text off: "
+                  "the game cannot read the chat file and does not add the "
+                  "bot. Make two lines of it, or put a blank there."),
+        {Safe(SetLine(line, WithoutControls(*line.text),
+                      Localized("Put a blank in its place")))});
   }
 }
 
@@ -239,17 +274,13 @@ void CheckLineLength(const CheckContext& context, FindingList& findings) {
   ForEachReadable(context, [&](const CheckedLine& line) {
     const ChatSize size = SizeOf(line.message);
     if (size.fit == ChatFit::kFits) return;
-    std::string text = "The game has room for " +
-                       std::to_string(limits::kMaxEncodedBytes) +
-                       " characters in a line, and this one takes ";
+    const bool overflows = size.fit == ChatFit::kOverflows;
     // A variable or a word list needs more room than it takes.
-    text += size.length > limits::kMaxEncodedBytes ? std::to_string(size.length)
-                                                   : "too many of them";
-    text += size.fit == ChatFit::kOverflows
-                ? ", in a way that the game does not notice in time: it may "
-                  "crash"
-                : ": the bot is not added";
-    findings.Add(PlaceOf(line), text + ". Shorten the line.");
+    const bool is_counted = size.length > limits::kMaxEncodedBytes;
+    findings.Add(PlaceOf(line),
+                 Localized(TooLongText(is_counted, overflows),
+                           {std::to_string(limits::kMaxEncodedBytes),
+                            std::to_string(size.length)}));
   });
 }
 
@@ -262,17 +293,24 @@ void CheckLineOnScreen(const CheckContext& context, FindingList& findings) {
     const bool is_always = std::all_of(
         line.message.items.begin(), line.message.items.end(),
         [](const ChatItem& item) { return item.kind == Kind::kText; });
-    std::string text =
-        is_always
-            ? "The line has " + std::to_string(longest) + " characters"
-            : "With the longest names and words the line has " +
-                  (longest > limits::kMaxEncodedBytes
-                       ? "more than " + std::to_string(limits::kMaxEncodedBytes)
-                       : std::to_string(longest)) +
-                  " characters";
-    text += "; the screen shows some " +
-            std::to_string(limits::kSafeSpokenBytes) +
-            " and cuts the rest. Shorten it.";
+    const bool is_beyond = !is_always && longest > limits::kMaxEncodedBytes;
+    std::string_view english = Localizable(
+        "The line has %1 characters; the screen shows some %2 and cuts the "
+        "rest. Shorten it.");
+    if (is_beyond) {
+      english = Localizable(
+          "With the longest names and words the line has more than %1 "
+          "characters; the screen shows some %2 and cuts the rest. Shorten "
+          "it.");
+    } else if (!is_always) {
+      english = Localizable(
+          "With the longest names and words the line has %1 characters; the "
+          "screen shows some %2 and cuts the rest. Shorten it.");
+    }
+    std::string text = Localized(
+        english,
+        {std::to_string(is_beyond ? limits::kMaxEncodedBytes : longest),
+         std::to_string(limits::kSafeSpokenBytes)});
     findings.Add(PlaceOf(line), std::move(text), ByOtherLine(context, line));
   });
 }
@@ -287,13 +325,15 @@ void CheckLineCharacters(const CheckContext& context, FindingList& findings) {
     std::vector<Mend> mends;
     std::string plain = InGameCharacters(*line.text);
     if (plain != *line.text && !plain.empty()) {
-      mends.push_back(Safe(SetLine(line, std::move(plain),
-                                   "Use plain letters and signs in the line")));
+      mends.push_back(
+          Safe(SetLine(line, std::move(plain),
+                       Localized("Use plain letters and signs in the line"))));
     }
-    findings.Add(PlaceOf(line),
-                 "The game changes the line on its way to the screen: " +
-                     Enumeration(changes) + ".",
-                 std::move(mends));
+    findings.Add(
+        PlaceOf(line),
+        Localized("The game changes the line on its way to the screen: %1.",
+                  {Enumeration(changes)}),
+        std::move(mends));
   });
 }
 
@@ -307,22 +347,28 @@ void CheckLineWords(const CheckContext& context, FindingList& findings) {
       }
       const bool is_member = IsReadyMade(*line.text);
       if (is_member && context.game->words.Find(item.text + "0") != nullptr) {
-        findings.Add(PlaceOf(line),
-                     "Your game calls " + ShownText(*line.text) + " " +
-                         item.text + "0, and a file made anew says " +
-                         item.text +
-                         ", which it does not know. A file that says " +
-                         item.text + "0 already stays good.",
-                     ByOtherLine(context, line));
+        findings.Add(
+            PlaceOf(line),
+            Localized(
+                "Your game calls %1 %2, and a file made anew says %3, which it "
+                "does not know. A file that says %2 already stays good.",
+                {ShownText(*line.text), item.text + "0", item.text}),
+            ByOtherLine(context, line));
         return;
       }
-      std::string text = "Your game has no ";
-      text += is_member ? "ready-made line " + ShownText(*line.text)
-                        : "word list " + ShownList(item.text);
-      findings.Add(PlaceOf(line),
-                   text + std::string(kRemainsSpoken) +
-                       "Use another one or write a text.",
-                   ByOtherLine(context, line));
+      findings.Add(
+          PlaceOf(line),
+          Localized(
+              is_member
+                  ? Localizable(
+                        "Your game has no ready-made line %1: in its place the "
+                        "bot speaks the remains of an earlier line. Use "
+                        "another one or write a text.")
+                  : Localizable("Your game has no word list %1: in its place "
+                                "the bot speaks the remains of an earlier "
+                                "line. Use another one or write a text."),
+              {is_member ? ShownText(*line.text) : ShownList(item.text)}),
+          ByOtherLine(context, line));
       return;
     }
   });
@@ -341,16 +387,19 @@ void CheckLineVariables(const CheckContext& context, FindingList& findings) {
       if (Contains(*line.text, variable)) {
         mends.push_back(
             Safe(SetLine(line, ReplacedAll(*line.text, variable, ""),
-                         "Take " + variable + " out of the line")));
+                         Localized("Take %1 out of the line", {variable}))));
       }
-      findings.Add(PlaceOf(line),
-                   "In this situation the game has nothing for " + variable +
-                       (fill == ChatFill::kInvalid
-                            ? ": the bot says \"[invalid var]\" in its place. "
-                              "Take it out of the line."
-                            : ": the bot leaves it out. Take it out of the "
-                              "line, or choose another."),
-                   std::move(mends));
+      findings.Add(
+          PlaceOf(line),
+          Localized(fill == ChatFill::kInvalid
+                        ? Localizable("In this situation the game has nothing "
+                                      "for %1: the bot says \"[invalid var]\" "
+                                      "in its place. Take it out of the line.")
+                        : Localizable("In this situation the game has nothing "
+                                      "for %1: the bot leaves it out. Take it "
+                                      "out of the line, or choose another."),
+                    {variable}),
+          std::move(mends));
       return;
     }
   });
@@ -363,20 +412,23 @@ void CheckLineBraces(const CheckContext& context, FindingList& findings) {
       const std::string_view part = BracedPart(item.text);
       if (part.empty()) continue;
       const std::string shown = ShownText(part);
-      std::string reason = "The game does not know " + shown;
+      std::string_view english = Localizable(
+          "The game does not know %1: the bot speaks it as it stands there, "
+          "braces and all. Take it out of the line.");
       if (part.starts_with("{{")) {
-        reason = "A ready-made line such as " + shown +
-                 " must stand alone, with nothing before or behind it";
+        english = Localizable(
+            "A ready-made line such as %1 must stand alone, with nothing "
+            "before or behind it: the bot speaks it as it stands there, braces "
+            "and all. Take it out of the line.");
       } else if (IsPointerSomewhere(part)) {
-        reason =
-            "The situation " + QuotedChatType(line.type) + " has no " + shown;
+        english = Localizable(
+            "The situation %2 has no %1: the bot speaks it as it stands there, "
+            "braces and all. Take it out of the line.");
       }
       findings.Add(PlaceOf(line),
-                   reason +
-                       ": the bot speaks it as it stands there, braces "
-                       "and all. Take it out of the line.",
+                   Localized(english, {shown, QuotedChatType(line.type)}),
                    {SetLine(line, ReplacedAll(*line.text, part, ""),
-                            "Take " + shown + " out of the line")});
+                            Localized("Take %1 out of the line", {shown}))});
       return;
     }
   });

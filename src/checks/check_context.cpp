@@ -1,5 +1,7 @@
 #include "checks/check_context.h"
 
+#include "chat/vocabulary.h"
+#include "support/localization.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -36,6 +38,12 @@ Mend SetTo(ParameterId parameter, Value value, std::string title) {
           .apply = [parameter, value = std::move(value)](Bot& bot) {
             bot.Put(parameter, value);
           }};
+}
+
+Mend SetTo(ParameterId parameter, double value) {
+  return SetTo(
+      parameter, value,
+      Localized("Set %1 to %2", {QuotedName(parameter), ShownNumber(value)}));
 }
 
 Mend SetLine(const CheckedLine& line, std::string text, std::string title) {

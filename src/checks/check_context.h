@@ -79,8 +79,9 @@ inline Mend Safe(Mend mend) {
 /// The text without any of these letters, for mends.
 std::string Without(std::string text, std::string_view letters);
 
-/// A mend that sets one parameter.
+/// A mend that sets one parameter, to a number where it has no title.
 Mend SetTo(ParameterId parameter, Value value, std::string title);
+Mend SetTo(ParameterId parameter, double value);
 
 /// A mend that sets one chat line.
 Mend SetLine(const CheckedLine& line, std::string text, std::string title);

@@ -12,6 +12,7 @@
 #include "game/file_faults.h"
 #include "game/game_path.h"
 #include "model/file_names.h"
+#include "support/localization.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -61,8 +62,8 @@ void BotReader::ReadDescription() {
       is_defined_ = true;
     } else {
       Add("no-description", kError, CharacterName(), 0,
-          "There is no .bot file, so the game does not know this bot. It must "
-          "lie in the folder scripts itself.");
+          Localized("There is no .bot file, so the game does not know this "
+                    "bot. It must lie in the folder scripts itself."));
     }
     if (!own_path.empty()) {
       character_ =
@@ -96,22 +97,22 @@ void BotReader::ReadDescription() {
       TakeDescription(*set);
       return is_defined_;
     }
-    std::string text =
+    std::string text = Localized(
         "The game finds no bot with a name in this file. It needs a line with "
-        "name and the bot's name between { and }.";
+        "name and the bot's name between { and }.");
     int line = 0;
     for (const DescriptionSet& one : sets) {
       if (one.Text("name") == kNoDescriptionValue) {
         line = one.Line("name");
-        text =
+        text = Localized(
             "There is no value behind \"name\" on its line, so this bot has no "
-            "name. Write the name behind it, on the same line.";
+            "name. Write the name behind it, on the same line.");
       }
       if (one.Text("name:").empty()) continue;
       line = one.Line("name:");
-      text =
+      text = Localized(
           "The game does not know the key \"name:\", so this bot has no name. "
-          "Remove the colon.";
+          "Remove the colon.");
     }
     Add("no-name", kError, file.name, line, std::move(text));
     return false;
@@ -136,17 +137,18 @@ void BotReader::TellSameName(const std::vector<DescriptionSet>& sets,
         !EqualIgnoringCase(set.Text("name"), first.Text("name"))) {
       continue;
     }
-    const std::string name = Quoted(set.Text("name"));
     const bool is_bad = first.Text("aifile").empty();
-    std::string text = "The bot " + name + " stands twice in this file, ";
-    text += is_bad
-                ? "here and in line " + std::to_string(set.line) +
-                      ". The game takes this one, which names no character "
-                      "file with aifile. Remove it, or put all lines of the "
-                      "bot into one."
-                : "first in line " + std::to_string(first.line) +
-                      ": the game takes that one and passes over this. Remove "
-                      "one of them, or give it another name.";
+    std::string text = Localized(
+        is_bad
+            ? Localizable(
+                  "The bot %1 stands twice in this file, here and in line %2. "
+                  "The game takes this one, which names no character file with "
+                  "aifile. Remove it, or put all lines of the bot into one.")
+            : Localizable("The bot %1 stands twice in this file, first in line "
+                          "%2: the game takes that one and passes over this. "
+                          "Remove one of them, or give it another name."),
+        {Quoted(set.Text("name")),
+         std::to_string(is_bad ? set.line : first.line)});
     Add("bot-twice", is_bad ? kError : Severity::kWarning,
         files_.description->name, is_bad ? first.line : set.line,
         std::move(text));
@@ -159,10 +161,10 @@ void BotReader::TakeDescription(const DescriptionSet& set) {
   description_ = set;
   const std::string_view path = set.Text("aifile");
   if (path.empty()) {
-    std::string text =
+    std::string text = Localized(
         "The bot has no line that begins with aifile, or the game has thrown "
         "it away. Without one it does not add the bot. Write aifile and the "
-        "path of the character file, such as bots/name_c.c.";
+        "path of the character file, such as bots/name_c.c.");
     int line = set.line;
     // Where the file ends for the game, that is told in place of this.
     const std::optional<Complaint> fault = FaultOfBytes(file);
@@ -172,15 +174,16 @@ void BotReader::TakeDescription(const DescriptionSet& set) {
     for (const auto& [key, value] : set.values) {
       if (key == "aifile:") {
         line = value.line;
-        text =
+        text = Localized(
             "The game does not know the key \"aifile:\", so it does not find "
-            "the bot's character. Remove the colon.";
+            "the bot's character. Remove the colon.");
       } else if (EqualIgnoringCase(value.text, "aifile")) {
         line = value.line;
-        text = "The game takes the word aifile for the value of " +
-               Quoted(key) +
-               ". Put a text of several words in quotation marks, and each key "
-               "on a line of its own.";
+        text = Localized(
+            "The game takes the word aifile for the value of %1. Put a text of "
+            "several words in quotation marks, and each key on a line of its "
+            "own.",
+            {Quoted(key)});
       }
     }
     Add("no-aifile", kError, file.name, line, std::move(text));
@@ -195,30 +198,29 @@ void BotReader::TakeDescription(const DescriptionSet& set) {
                           PathLookedFor(path, FileHome::kLoose));
     if (!has_same_files && winner.is_by_chance) {
       Add("name-shared", Severity::kWarning, file.name, set.Line("name"),
-          "Two bots are called " + Quoted(set.Text("name")) +
-              ", this one and the one in " + winner.shown_path +
-              ". The game adds one of them, and which is chance. Give one of "
-              "them another name.");
+          Localized("Two bots are called %1, this one and the one in %2. The "
+                    "game adds one of them, and which is chance. Give one of "
+                    "them another name.",
+                    {Quoted(set.Text("name")), winner.shown_path}));
     } else if (!has_same_files) {
       Add("name-taken", kError, file.name, set.Line("name"),
           NameTakenText(set.Text("name"), winner.shown_path));
       return;
     } else {
       Add("description-not-read", Severity::kHint, file.name, set.Line("name"),
-          "The game has a bot " + Quoted(set.Text("name")) + " already, in " +
-              winner.shown_path + ", and takes " + QuotedName(kFunNameField) +
-              " and " + QuotedName(kModelField) +
-              " from there. That bot "
-              "plays with your files.");
+          Localized("The game has a bot %1 already, in %2, and takes %3 and %4 "
+                    "from there. That bot plays with your files.",
+                    {Quoted(set.Text("name")), winner.shown_path,
+                     QuotedName(kFunNameField), QuotedName(kModelField)}));
     }
   }
   // Told of by its reader.
   if (set.is_open) return;
   if (set.HidesCharacter()) {
     Add("fun-name-hides-character", kError, file.name, set.Line("funname"),
-        QuotedName(kFunNameField) +
-            " is so long that the game forgets the path of the "
-            "character file. Shorten it.");
+        Localized("%1 is so long that the game forgets the path of the "
+                  "character file. Shorten it.",
+                  {QuotedName(kFunNameField)}));
     is_defined_ = true;
     description_->values.erase("aifile");
     return;
@@ -230,11 +232,15 @@ void BotReader::TakeDescription(const DescriptionSet& set) {
       (!files_.is_game_known || game_(path));
   if (is_others) {
     Add("other-character", kError, file.name, set.Line("aifile"),
-        "This line names the character file of another bot, " + Quoted(path) +
-            ", so the game never reads " + Quoted(files_.character->game_path) +
-            (file.game_path == kBotListPath
-                 ? ". Give your bot another name, and a .bot file of its own."
-                 : ". Write the path of this bot's own file."));
+        Localized(
+            file.game_path == kBotListPath
+                ? Localizable("This line names the character file of another "
+                              "bot, %1, so the game never reads %2. Give your "
+                              "bot another name, and a .bot file of its own.")
+                : Localizable("This line names the character file of another "
+                              "bot, %1, so the game never reads %2. Write the "
+                              "path of this bot's own file."),
+            {Quoted(path), Quoted(files_.character->game_path)}));
     return;
   }
   is_defined_ = true;

@@ -14,6 +14,7 @@
 #include "game/game_path.h"
 #include "model/file_names.h"
 #include "support/code_page.h"
+#include "support/localization.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -158,10 +159,10 @@ class FileChecker {
     }
     if (name.find_first_of(" \t") != std::string::npos) {
       Add("name-with-blank", Severity::kWarning, file, line,
-          "The name " + Quoted(name) +
-              " has a blank: the game's menus cannot add the bot, and the "
-              "console needs quotation marks: /addbot \"" +
-              ShownText(name) + "\" 3. A name of one word is easier.");
+          Localized("The name %1 has a blank: the game's menus cannot add the "
+                    "bot, and the console needs quotation marks: /addbot "
+                    "\"%2\" 3. A name of one word is easier.",
+                    {Quoted(name), ShownText(name)}));
     }
   }
 
@@ -195,34 +196,44 @@ class FileChecker {
     });
   }
 
+  static std::string ConsequenceAt(const std::string& skills, bool is_refused) {
+    if (skills == kAllSkills) {
+      return Localized(
+          is_refused
+              ? Localizable("The game does not add the bot.")
+              : Localizable("The bot plays, wholly or in part, as the game's "
+                            "default character under its own name."));
+    }
+    return Localized(
+        is_refused
+            ? Localizable("At skill %1 the game does not add the bot.")
+            : Localizable("At skill %1 the bot plays, wholly or in part, as "
+                          "the game's default character under its own name."),
+        {skills});
+  }
+
   /// What becomes of the bot by a fault, a sentence for each way.
   std::string ConsequenceOf(const Cause& cause) const {
-    std::string text;
     const std::optional<DescriptionSet>& set = reader_.description();
     // A path that goes on to the end of the file is that of no file.
     if (cause.complaint.id == "description-quote" && set &&
         cause.complaint.key != "aifile") {
-      return set->Text("aifile").empty()
-                 ? " The game adds the bot with another bot's files, or not at "
-                   "all."
-                 : " The game adds the bot, but it may be with those files.";
+      return Localized(
+          set->Text("aifile").empty()
+              ? Localizable("The game adds the bot with another bot's files, "
+                            "or not at all.")
+              : Localizable(
+                    "The game adds the bot, but it may be with those files."));
     }
     if (cause.complaint.id == "other-character") {
-      return " The game adds the bot, but with the character and the files of "
-             "that one.";
+      return Localized(
+          "The game adds the bot, but with the character and the files of that "
+          "one.");
     }
+    std::string text;
     for (const auto& [verdict, skills] : cause.skills) {
-      const bool is_refused = verdict == Verdict::kRefused;
-      if (skills == kAllSkills) {
-        text += is_refused ? " The game does not add the bot."
-                           : " The bot plays, wholly or in part, as the "
-                             "game's default character under its own name.";
-        continue;
-      }
-      text += " At skill " + skills;
-      text += is_refused ? " the game does not add the bot."
-                         : " the bot plays, wholly or in part, as the game's "
-                           "default character under its own name.";
+      if (!text.empty()) text += " ";
+      text += ConsequenceAt(skills, verdict == Verdict::kRefused);
     }
     return text;
   }
@@ -234,14 +245,15 @@ class FileChecker {
     std::vector<Complaint> list = findings().list();
     for (const Cause& cause : causes_) {
       std::erase(list, cause.complaint);
-      result.push_back({.id = cause.complaint.id,
-                        .severity = Severity::kError,
-                        .place = reader_.WholePlace(cause.complaint.place),
-                        .text = cause.complaint.text + ConsequenceOf(cause),
-                        .mends = {},
-                        .keeps_out = cause.skills.contains(Verdict::kRefused),
-                        .key = cause.complaint.key,
-                        .missing = cause.complaint.missing});
+      result.push_back(
+          {.id = cause.complaint.id,
+           .severity = Severity::kError,
+           .place = reader_.WholePlace(cause.complaint.place),
+           .text = cause.complaint.text + " " + ConsequenceOf(cause),
+           .mends = {},
+           .keeps_out = cause.skills.contains(Verdict::kRefused),
+           .key = cause.complaint.key,
+           .missing = cause.complaint.missing});
     }
     const auto order = [&](const Complaint& complaint) {
       std::size_t at = 0;
@@ -282,8 +294,9 @@ std::string FilePlaceText(const FilePlace& place) {
   const std::size_t slash = place.file.find_last_of("/\\");
   std::string text =
       slash == std::string::npos ? place.file : place.file.substr(slash + 1);
-  if (place.line > 0) text += ", line " + std::to_string(place.line);
-  return text;
+  return place.line > 0
+             ? Localized("%1, line %2", {text, std::to_string(place.line)})
+             : text;
 }
 
 std::vector<Finding> CheckFiles(const BotFileSet& files,

@@ -15,6 +15,7 @@
 #include "model/characteristic_catalogue.h"
 #include "session/identity_rules.h"
 #include "support/code_page.h"
+#include "support/localization.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -22,6 +23,10 @@ namespace {
 
 /// What the window calls the box.
 std::string Field() { return QuotedName(kFunNameField); }
+
+std::string QuotesTitle() {
+  return Localized("Put double quotes around %1", {Field()});
+}
 
 /// The fun name as the bot holds it, quotes included, and what is in them.
 struct FunName {
@@ -99,23 +104,25 @@ void CheckFunNameHidesBot(const CheckContext& context, FindingList& findings) {
   if (!FunNameHidesBot(context.bot)) return;
   const std::string inner = FunName(context.bot).inner;
   const bool is_long = inner.size() > limits::kMaxFunName;
-  const std::string why =
-      is_long ? Field() + " has " + std::to_string(inner.size()) +
-                    " characters, which leave the game no room for the path "
-                    "of the bot's files"
-              : Field() +
-                    " swallows what stands behind it in the bot's "
-                    "description, also the path of the bot's files";
-  const std::string what =
-      is_long ? "Shorten it to " + std::to_string(limits::kMaxPlayerName) +
-                    " characters."
-              : "Take the double quote or the \"/*\" out.";
   std::string plain = Without(inner, is_long ? "" : "\"*");
   plain.resize(std::min(plain.size(), limits::kMaxPlayerName));
   findings.Add(
       kFunNameField,
-      why + ": the game does not add the bot, or adds another one. " + what,
-      {FunNameTo(plain, (is_long ? "Shorten " : "Take it out of ") + Field())});
+      Localized(
+          is_long
+              ? Localizable(
+                    "%1 has %2 characters, which leave the game no room for "
+                    "the path of the bot's files: the game does not add the "
+                    "bot, or adds another one. Shorten it to %3 characters.")
+              : Localizable("%1 swallows what stands behind it in the bot's "
+                            "description, also the path of the bot's files: "
+                            "the game does not add the bot, or adds another "
+                            "one. Take the double quote or the \"/*\" out."),
+          {Field(), std::to_string(inner.size()),
+           std::to_string(limits::kMaxPlayerName)}),
+      {FunNameTo(plain, Localized(is_long ? Localizable("Shorten %1")
+                                          : Localizable("Take it out of %1"),
+                                  {Field()}))});
 }
 
 void CheckFunNameCharacters(const CheckContext& context,
@@ -126,14 +133,17 @@ void CheckFunNameCharacters(const CheckContext& context,
   const std::string_view shown = read.Text("funname");
   findings.Add(
       kFunNameField,
-      Field() +
-          " has a semicolon, a backslash or a double quote "
-          "in it: the game " +
-          (shown.empty() ? "throws it away and shows the bot under its name"
-                         : "reads it as " + Quoted(shown)) +
-          ". Take the character out.",
+      Localized(
+          shown.empty()
+              ? Localizable("%1 has a semicolon, a backslash or a double quote "
+                            "in it: the game throws it away and shows the bot "
+                            "under its name. Take the character out.")
+              : Localizable(
+                    "%1 has a semicolon, a backslash or a double quote in it: "
+                    "the game reads it as %2. Take the character out."),
+          {Field(), Quoted(shown)}),
       {FunNameTo(Without(name.inner, kThrownAway),
-                 "Take it out of " + Field())});
+                 Localized("Take it out of %1", {Field()}))});
 }
 
 void CheckFunNameLength(const CheckContext& context, FindingList& findings) {
@@ -142,17 +152,21 @@ void CheckFunNameLength(const CheckContext& context, FindingList& findings) {
       FunNameHidesBot(context.bot)) {
     return;
   }
+  const bool is_lost = name.inner.size() > limits::kMaxFunName;
+  const std::string most = std::to_string(limits::kMaxPlayerName);
   findings.Add(
       kFunNameField,
-      Field() + " has " + std::to_string(name.inner.size()) +
-          " characters, colour codes included; the game " +
-          (name.inner.size() > limits::kMaxFunName
-               ? "has no room for so many and throws it away. Shorten it."
-               : "shows the first " + std::to_string(limits::kMaxPlayerName) +
-                     " of them and cuts the rest. Shorten it."),
+      Localized(
+          is_lost
+              ? Localizable(
+                    "%1 has %2 characters, colour codes included; the game has "
+                    "no room for so many and throws it away. Shorten it.")
+              : Localizable("%1 has %2 characters, colour codes included; the "
+                            "game shows the first %3 of them and cuts the "
+                            "rest. Shorten it."),
+          {Field(), std::to_string(name.inner.size()), most}),
       {FunNameTo(name.inner.substr(0, limits::kMaxPlayerName),
-                 "Cut " + Field() + " after " +
-                     std::to_string(limits::kMaxPlayerName) + " characters")});
+                 Localized("Cut %1 after %2 characters", {Field(), most}))});
 }
 
 void CheckFunNameBlack(const CheckContext& context, FindingList& findings) {
@@ -161,23 +175,24 @@ void CheckFunNameBlack(const CheckContext& context, FindingList& findings) {
       Contains(name.inner, "^")) {
     findings.Add(
         kFunNameField,
-        Field() +
-            " has colours but no letters: the game calls the "
-            "bot \"UnnamedPlayer\".",
-        {FunNameTo({}, "Empty " + Field() +
-                           ", so that the bot is shown under its name")});
+        Localized("%1 has colours but no letters: the game calls the bot "
+                  "\"UnnamedPlayer\".",
+                  {Field()}),
+        {FunNameTo(
+            {}, Localized("Empty %1, so that the bot is shown under its name",
+                          {Field()}))});
     return;
   }
   for (std::size_t at = 0; at < name.inner.size(); ++at) {
     if (!IsBlackCode(name.inner, at)) continue;
     findings.Add(
         kFunNameField,
-        Field() + " has the colour code \"" +
-            ShownText(name.inner.substr(at, 2)) +
-            "\", which stands for black. The game takes black out of "
-            "names: the letters behind it keep the colour before it. Choose "
-            "another colour.",
-        {FunNameTo(WithoutBlack(name.inner), "Take black out of " + Field())});
+        Localized("%1 has the colour code \"%2\", which stands for black. The "
+                  "game takes black out of names: the letters behind it keep "
+                  "the colour before it. Choose another colour.",
+                  {Field(), ShownText(name.inner.substr(at, 2))}),
+        {FunNameTo(WithoutBlack(name.inner),
+                   Localized("Take black out of %1", {Field()}))});
     return;
   }
 }
@@ -190,20 +205,23 @@ void CheckFunNameIsEmpty(const CheckContext& context, FindingList& findings) {
     return;
   }
   const bool is_blank = TrimBlanksAndTabs(name.inner).empty();
-  const std::string what =
-      is_blank ? Field() + " is nothing but blanks"
-               : Field() + " begins with \"" + name.inner.substr(0, 2) +
-                     "\", which the game takes for a comment";
-  std::vector<Mend> mends = {FunNameTo({}, "Empty " + Field())};
+  std::vector<Mend> mends = {FunNameTo({}, Localized("Empty %1", {Field()}))};
   if (name.inner.starts_with("//")) {
-    mends.push_back(SetTo(kFunNameField, '"' + name.inner + '"',
-                          "Put double quotes around " + Field()));
+    mends.push_back(
+        SetTo(kFunNameField, '"' + name.inner + '"', QuotesTitle()));
   }
   findings.Add(
       kFunNameField,
-      what +
-          ". The game calls the bot \"<NULL>\". Write a name there, or "
-          "leave it empty to show the bot under its own.",
+      Localized(
+          is_blank
+              ? Localizable("%1 is nothing but blanks. The game calls the bot "
+                            "\"<NULL>\". Write a name there, or leave it empty "
+                            "to show the bot under its own.")
+              : Localizable(
+                    "%1 begins with \"%2\", which the game takes for a "
+                    "comment. The game calls the bot \"<NULL>\". Write a name "
+                    "there, or leave it empty to show the bot under its own."),
+          {Field(), name.inner.substr(0, 2)}),
       std::move(mends));
 }
 
@@ -211,11 +229,11 @@ void CheckFunNameDots(const CheckContext& context, FindingList& findings) {
   const FunName name(context.bot);
   if (!HasAccents(name.inner) && !Contains(name.inner, "%")) return;
   findings.Add(kFunNameField,
-               "The game shows letters with accents, other special signs and "
-               "\"%\" in " +
-                   Field() + " as dots. Use plain letters.",
+               Localized("The game shows letters with accents, other special "
+                         "signs and \"%\" in %1 as dots. Use plain letters.",
+                         {Field()}),
                {FunNameTo(Without(InPlainLetters(name.inner), "%"),
-                          "Use plain letters in " + Field())});
+                          Localized("Use plain letters in %1", {Field()}))});
 }
 
 void CheckFunNameQuotes(const CheckContext& context, FindingList& findings) {
@@ -223,12 +241,12 @@ void CheckFunNameQuotes(const CheckContext& context, FindingList& findings) {
   if (name.is_quoted) return;
   const std::string_view read = UnquotedWord(name.inner);
   if (read.size() == name.inner.size() || read.empty()) return;
-  findings.Add(kFunNameField,
-               "Without double quotes around it, the game reads " + Field() +
-                   " only up to \"" + ShownText(read) +
-                   "\". Put double quotes around it.",
-               {Safe(SetTo(kFunNameField, '"' + name.inner + '"',
-                           "Put double quotes around " + Field()))});
+  findings.Add(
+      kFunNameField,
+      Localized("Without double quotes around it, the game reads %1 only up to "
+                "\"%2\". Put double quotes around it.",
+                {Field(), ShownText(read)}),
+      {Safe(SetTo(kFunNameField, '"' + name.inner + '"', QuotesTitle()))});
 }
 
 }  // namespace fragsmith

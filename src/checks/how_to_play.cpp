@@ -12,6 +12,7 @@
 #include "model/file_names.h"
 #include "support/code_page.h"
 #include "support/files.h"
+#include "support/localization.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -36,11 +37,12 @@ void LocationCheck::AddHowToPlay(std::vector<Finding>& findings) const {
       OpenedText()));
   std::string& text = findings.back().text;
   if (is_refused) {
-    text = "Once the errors are mended: " + text;
+    text = Localized("Once the errors are mended: %1", {text});
   } else if (files.character &&
              !EqualIgnoringCase(name, BotOfPath(files.character->game_path))) {
-    text = "In the game the bot is called " + Quoted(name) +
-           ", not as its files are. " + text;
+    text = Localized("In the game the bot is called %1, not as its files are.",
+                     {Quoted(name)}) +
+           " " + text;
   }
 }
 
@@ -79,7 +81,9 @@ std::string LocationCheck::OpenedText() const {
       names.push_back(std::move(name));
     }
   }
-  return names.empty() ? "" : " The game reads " + Enumeration(names) + ".";
+  return names.empty()
+             ? ""
+             : " " + Localized("The game reads %1.", {Enumeration(names)});
 }
 
 }  // namespace fragsmith

@@ -11,6 +11,7 @@
 #include "model/file_names.h"
 #include "session/bot_file.h"
 #include "support/code_page.h"
+#include "support/localization.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -28,10 +29,10 @@ bool IsStandardBot(const CheckContext& context, const std::string& name) {
 void CheckGameIsKnown(const CheckContext& context, FindingList& findings) {
   if (context.game != nullptr) return;
   findings.Add(WholeBot{},
-               "No game folder is set, or there is no game in it, so nobody "
-               "has looked whether the bot's name and model fit the installed "
-               "game and which word lists it has. Set the folder of the game "
-               "in the options.");
+               Localized("No game folder is set, or there is no game in it, so "
+                         "nobody has looked whether the bot's name and model "
+                         "fit the installed game and which word lists it has. "
+                         "Set the folder of the game in the options."));
 }
 
 void CheckNameIsTaken(const CheckContext& context, FindingList& findings) {
@@ -49,24 +50,25 @@ void CheckNameIsTaken(const CheckContext& context, FindingList& findings) {
     findings.Add(kNameField, NameTakenText(name, ShownPlace(*winner)));
   } else if (winner != nullptr || IsStandardBot(context, name)) {
     findings.Add(kNameField,
-                 "The game has a bot " + Quoted(name) +
-                     " of its own and keeps that one: this bot will not "
-                     "appear. Choose a new name.");
+                 Localized("The game has a bot %1 of its own and keeps that "
+                           "one: this bot will not appear. Choose a new name.",
+                           {Quoted(name)}));
   }
 }
 
 std::string NameTakenText(std::string_view name, const std::string& where) {
-  return "The game has a bot " + Quoted(name) + " already, in " + where +
-         ", and adds that one in place of this bot. Choose another name.";
+  return Localized(
+      "The game has a bot %1 already, in %2, and adds that one in place of "
+      "this bot. Choose another name.",
+      {Quoted(name), where});
 }
 
 std::string ShadowedText(const std::string& winner, const std::string& own) {
-  return "The package " + Quoted(winner) +
-         " of your game has bot files of the same names, and the game takes "
-         "those before the ones of " +
-         Quoted(own) +
-         ", since of several packages the last one by name counts. Choose a "
-         "new name.";
+  return Localized(
+      "The package %1 of your game has bot files of the same names, and the "
+      "game takes those before the ones of %2, since of several packages the "
+      "last one by name counts. Choose a new name.",
+      {Quoted(winner), Quoted(own)});
 }
 
 void CheckFilesAreShadowed(const CheckContext& context, FindingList& findings) {
@@ -89,14 +91,14 @@ void CheckDescriptionCount(const CheckContext& context, FindingList& findings) {
         return sum + name.size() + 1;
       });
   if (bytes <= limits::kMaxDescriptionNames) return;
-  findings.Add(kNameField,
-               "Your game has so many bots that the names of their .bot files "
-               "do not fit into the " +
-                   std::to_string(limits::kMaxDescriptionNames) +
-                   " characters that it has for them (" +
-                   std::to_string(bytes) +
-                   " with this bot): some of them will be missing, maybe this "
-                   "one. Take packages of other bots away.");
+  findings.Add(
+      kNameField,
+      Localized("Your game has so many bots that the names of their .bot files "
+                "do not fit into the %1 characters that it has for them (%2 "
+                "with this bot): some of them will be missing, maybe this one. "
+                "Take packages of other bots away.",
+                {std::to_string(limits::kMaxDescriptionNames),
+                 std::to_string(bytes)}));
 }
 
 void CheckModelIsInstalled(const CheckContext& context, FindingList& findings) {
@@ -105,18 +107,20 @@ void CheckModelIsInstalled(const CheckContext& context, FindingList& findings) {
   const std::string skin = ToLower(context.bot.Text(kSkinField));
   if (model.empty()) return;
   if (!context.game->models.contains(model)) {
-    findings.Add(kModelField,
-                 "The packages of your game have no model " + Quoted(model) +
-                     ": the game shows the bot as another model. It plays all "
-                     "the same. Choose a model that your game has, or put its "
-                     "package there.");
+    findings.Add(
+        kModelField,
+        Localized("The packages of your game have no model %1: the game shows "
+                  "the bot as another model. It plays all the same. Choose a "
+                  "model that your game has, or put its package there.",
+                  {Quoted(model)}));
   } else if (!skin.empty() &&
              !context.game->skins.contains(model + "/" + skin)) {
-    findings.Add(kSkinField,
-                 "The packages of your game have no skin " + Quoted(skin) +
-                     " for the model " + Quoted(model) +
-                     ": the game shows the bot as another model. It plays all "
-                     "the same. Choose a skin that your game has.");
+    findings.Add(
+        kSkinField,
+        Localized("The packages of your game have no skin %1 for the model %2: "
+                  "the game shows the bot as another model. It plays all the "
+                  "same. Choose a skin that your game has.",
+                  {Quoted(skin), Quoted(model)}));
   }
 }
 

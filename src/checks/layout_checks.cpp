@@ -14,6 +14,7 @@
 #include "model/file_names.h"
 #include "support/code_page.h"
 #include "support/files.h"
+#include "support/localization.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -79,34 +80,50 @@ bool IsUsed(const GameFile& file, const BotFileSet& files) {
   return is_shared || KindOf(file, files);
 }
 
+std::string UnreadableText(const EntryFault& fault, const std::string& names,
+                           bool is_one) {
+  std::string text = Localized(
+      is_one ? Localizable(
+                   "%1 is packed %2, and the game can unpack no such file.")
+             : Localizable(
+                   "%1 are packed %2, and the game can unpack no such file."),
+      {names, Localized(fault.method)});
+  text += " ";
+  text += Localized(
+      fault.is_locked
+          ? Localizable("Make the package anew, without a password.")
+          : Localizable("Make the package anew, by the method Deflate, which "
+                        "is the usual one of a .zip."));
+  return text;
+}
+
 std::string TextOf(const EntryFault& fault, const std::string& names,
                    bool is_one) {
   using Kind = EntryFault::Kind;
   switch (fault.kind) {
     case Kind::kUnopened:
-      return "The game cannot open this package: what it takes for the end of "
-             "the archive leads to no table of contents. A comment in the "
-             "archive may be the reason, or that it was made in the form for "
-             "very large ones. Make the package anew. The game does not add "
-             "the bot.";
-    case Kind::kUnreadable: {
-      std::string text = names + (is_one ? " is packed " : " are packed ");
-      text += fault.method;
-      text += ", and the game can unpack no such file. Make the package anew, ";
-      text += fault.is_locked
-                  ? "without a password."
-                  : "by the method Deflate, which is the usual one of a .zip.";
-      return text;
-    }
+      return Localized(
+          "The game cannot open this package: what it takes for the end of the "
+          "archive leads to no table of contents. A comment in the archive may "
+          "be the reason, or that it was made in the form for very large ones. "
+          "Make the package anew. The game does not add the bot.");
+    case Kind::kUnreadable:
+      return UnreadableText(fault, names, is_one);
     case Kind::kTwice:
-      return "The package has " + names +
-             " twice, and the game takes the last. Remove the other.";
+      return Localized(
+          "The package has %1 twice, and the game takes the last. Remove the "
+          "other.",
+          {names});
     case Kind::kDamaged:
-      return "The package is damaged: " + names +
-             (is_one ? " is not what its checksum says."
-                     : " are not what their checksums say.") +
-             " The game does not look at that and reads what there is. Make "
-             "the package anew.";
+      return Localized(
+          is_one
+              ? Localizable("The package is damaged: %1 is not what its "
+                            "checksum says. The game does not look at that and "
+                            "reads what there is. Make the package anew.")
+              : Localizable("The package is damaged: %1 are not what their "
+                            "checksums say. The game does not look at that and "
+                            "reads what there is. Make the package anew."),
+          {names});
   }
   return {};
 }
@@ -115,6 +132,38 @@ constexpr std::string_view IdOf(EntryFault::Kind kind) {
   using Kind = EntryFault::Kind;
   if (kind == Kind::kUnreadable) return "packed-unreadably";
   return kind == Kind::kTwice ? "packed-twice" : "package-damaged";
+}
+
+/// Of the game's files that the bot's take the place of.
+std::string HiddenText(const std::vector<std::string>& paths) {
+  if (paths.empty()) return {};
+  return Localized(
+      paths.size() == 1
+          ? Localizable("%1 takes the place of the game's own file, for all "
+                        "bots of the game. What this bot alone needs belongs "
+                        "into a file of another name.")
+          : Localizable("%1 take the place of the game's own files, for all "
+                        "bots of the game. What this bot alone needs belongs "
+                        "into a file of another name."),
+      {Enumeration(paths)});
+}
+
+/// Of those that the game takes its own in place of.
+std::string PassedOverText(const std::vector<std::string>& paths) {
+  if (paths.empty()) return {};
+  return Localized(
+      paths.size() == 1
+          ? Localizable("%1 is never read: the game takes its own, out of a "
+                        "package whose name comes later. What the bot needs "
+                        "belongs into a file of another name. In the player's "
+                        "own folder, such as ~/.q3a/baseq3, this package comes "
+                        "before the game's, whatever its name.")
+          : Localizable("%1 are never read: the game takes its own, out of a "
+                        "package whose name comes later. What the bot needs "
+                        "belongs into a file of another name. In the player's "
+                        "own folder, such as ~/.q3a/baseq3, this package comes "
+                        "before the game's, whatever its name."),
+      {Enumeration(paths)});
 }
 
 }  // namespace
@@ -177,21 +226,18 @@ std::optional<Finding> FilesTooDeep(const GivenFiles& given,
     if (found.empty() || given.OpenInAnyCase(path)) continue;
     std::string_view above = found.front();
     above.remove_suffix(path.size() + 1);
-    const std::string folder = Quoted(above);
-    std::string text;
-    if (above.empty() || above == ".") {
-      text = "The names in the package begin with " +
-             Quoted(std::string(above) + "/") +
-             ", and the game does not find them. Make the package anew, "
-             "without that in front of botfiles and scripts.";
-    } else {
-      text = "The folders botfiles and scripts lie inside a folder ";
-      text += folder;
-      text += ", and the game looks for them at the top alone. Put what is in ";
-      text += folder;
-      text += " at the top, without that folder around it.";
-    }
-    text += " The game does not add the bot.";
+    const bool is_name_alone = above.empty() || above == ".";
+    std::string text = Localized(
+        is_name_alone
+            ? Localizable(
+                  "The names in the package begin with %1, and the game does "
+                  "not find them. Make the package anew, without that in front "
+                  "of botfiles and scripts. The game does not add the bot.")
+            : Localizable("The folders botfiles and scripts lie inside a "
+                          "folder %1, and the game looks for them at the top "
+                          "alone. Put what is in %1 at the top, without that "
+                          "folder around it. The game does not add the bot."),
+        {is_name_alone ? Quoted(std::string(above) + "/") : Quoted(above)});
     const std::optional<GameFile> file = given.OpenInAnyCase(found.front());
     return Finding{.id = "folder-too-deep",
                    .severity = Severity::kError,
@@ -222,15 +268,16 @@ void TellNearbyFiles(const GivenFiles& given, const std::string& name,
       const std::string file = path.substr(path.rfind('/') + 1);
       const std::string meant = file.substr(0, file.size() - kText.size());
       if (meant == (lacks_description ? description : missing)) {
-        advice = " Remove the .txt from the name of " + Quoted(file) + ".";
+        advice =
+            Localized("Remove the .txt from the name of %1.", {Quoted(file)});
       }
     }
     if (lacks_description && advice.empty()) {
       for (const std::string& path : given.PathsLike("", "/" + description)) {
-        advice = " Move " + Quoted(path) + " there.";
+        advice = Localized("Move %1 there.", {Quoted(path)});
       }
     }
-    finding.text += advice;
+    if (!advice.empty()) finding.text += " " + advice;
   }
 }
 
@@ -262,16 +309,17 @@ std::optional<Finding> OthersInDescription(const GivenFiles& given,
     if (line == 0) line = set.Line("name");
   }
   if (own.empty() || shown.empty()) return std::nullopt;
-  return Finding{.id = "other-bot",
-                 .severity = Severity::kHint,
-                 .place = FilePlace{.file = files.description->name,
-                                    .line = line,
-                                    .kind = BotFile::kDescription},
-                 .text = "The file describes " + Enumeration(shown) +
-                         " as well. What is said here is about " +
-                         Quoted(NameToAdd(files)) +
-                         " alone: give the name of another bot to check that.",
-                 .mends = {}};
+  return Finding{
+      .id = "other-bot",
+      .severity = Severity::kHint,
+      .place = FilePlace{.file = files.description->name,
+                         .line = line,
+                         .kind = BotFile::kDescription},
+      .text =
+          Localized("The file describes %1 as well. What is said here is about "
+                    "%2 alone: give the name of another bot to check that.",
+                    {Enumeration(shown), Quoted(NameToAdd(files))}),
+      .mends = {}};
 }
 
 bool GameFileWins(const GameFiles& game,
@@ -311,22 +359,9 @@ std::optional<Finding> InPlaceOfGameFiles(
     (wins ? hidden : passed_over).push_back(ShownText(path));
     if (first.empty()) first = own->name;
   }
-  std::string text;
-  if (!hidden.empty()) {
-    text = Enumeration(hidden) +
-           (hidden.size() == 1 ? " takes the place of the game's own file"
-                               : " take the place of the game's own files") +
-           ", for all bots of the game. What this bot alone needs belongs into "
-           "a file of another name.";
-  }
-  if (!passed_over.empty()) {
-    text += (text.empty() ? "" : " ") + Enumeration(passed_over) +
-            (passed_over.size() == 1 ? " is never read" : " are never read") +
-            ": the game takes its own, out of a package whose name comes "
-            "later. What the bot needs belongs into a file of another name. "
-            "In the player's own folder, such as ~/.q3a/baseq3, this package "
-            "comes before the game's, whatever its name.";
-  }
+  std::string text = HiddenText(hidden);
+  if (!hidden.empty() && !passed_over.empty()) text += " ";
+  text += PassedOverText(passed_over);
   if (text.empty()) return std::nullopt;
   return Finding{
       .id = "in-place-of-game-file",
@@ -353,13 +388,14 @@ std::optional<Finding> PackageInWrongFolder(
       is_below_another) {
     return std::nullopt;
   }
-  return Finding{.id = "package-in-wrong-folder",
-                 .severity = Severity::kWarning,
-                 .place = FilePlace{.file = Utf8FromPath(package.filename())},
-                 .text = "The package lies in '" + Utf8FromPath(lies_in) +
-                         "', where the game does not look. Move it to '" +
-                         Utf8FromPath(wanted) + "'.",
-                 .mends = {}};
+  return Finding{
+      .id = "package-in-wrong-folder",
+      .severity = Severity::kWarning,
+      .place = FilePlace{.file = Utf8FromPath(package.filename())},
+      .text = Localized("The package lies in '%1', where the game does not "
+                        "look. Move it to '%2'.",
+                        {Utf8FromPath(lies_in), Utf8FromPath(wanted)}),
+      .mends = {}};
 }
 
 void TellWhatHides(const BotFileSet& files, const IncludeLookup& given_first,
@@ -369,7 +405,8 @@ void TellWhatHides(const BotFileSet& files, const IncludeLookup& given_first,
   };
   if (keeps_out(findings) || !keeps_out(CheckFiles(files, given_first))) return;
   hiding.severity = Severity::kWarning;
-  hiding.text += " There the game does not add the bot with it.";
+  hiding.text +=
+      " " + Localized("There the game does not add the bot with it.");
 }
 
 void TakeForCause(const BotFileSet& files, const IncludeLookup& with_games_own,
@@ -383,10 +420,16 @@ void TakeForCause(const BotFileSet& files, const IncludeLookup& with_games_own,
   const auto* const place = std::get_if<FilePlace>(&error->place);
   hiding.severity = Severity::kError;
   hiding.keeps_out = std::ranges::any_of(findings, &Finding::keeps_out);
-  hiding.text += " Without it this bot is good; with it the game stumbles";
-  if (place != nullptr) hiding.text += " in " + FilePlaceText(*place);
-  hiding.text += ". Remove it.";
-  if (hiding.keeps_out) hiding.text += " The game does not add the bot.";
+  hiding.text +=
+      " " + Localized(place != nullptr
+                          ? Localizable("Without it this bot is good; with it "
+                                        "the game stumbles in %1. Remove it.")
+                          : Localizable("Without it this bot is good; with it "
+                                        "the game stumbles. Remove it."),
+                      {place != nullptr ? FilePlaceText(*place) : ""});
+  if (hiding.keeps_out) {
+    hiding.text += " " + Localized("The game does not add the bot.");
+  }
   std::erase_if(findings, is_error);
 }
 

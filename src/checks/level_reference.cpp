@@ -14,6 +14,7 @@
 #include "game/file_faults.h"
 #include "model/game_characteristics.h"
 #include "model/level.h"
+#include "support/localization.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -52,18 +53,20 @@ const CharacterValue* BotReader::PathAt(const CharacterLevel& level, int number,
   const auto found = level.block.values.find(number);
   const bool is_own_block = level.origin == CharacterOrigin::kOwn ||
                             level.origin == CharacterOrigin::kOwnOther;
-  const std::string block = "Skill block " + std::to_string(level.block.level);
   if (found == level.block.values.end() || !found->second.is_own) {
     if (is_own_block) {
       const int again = LineOfSameBlock(level.block);
       Add("no-file-key", Severity::kError, CharacterName(), level.block.line,
-          again > 0 ? block + " stands twice, here and in line " +
-                          std::to_string(again) +
-                          ". The game takes this one, which has no " +
-                          MissingPaths(level) + ". Remove one of them."
-                    : block + " has no " + MissingPaths(level) +
-                          ", so the game takes what its default character "
-                          "has. Add what is missing.");
+          Localized(
+              again > 0
+                  ? Localizable("Skill block %1 stands twice, here and in line "
+                                "%3. The game takes this one, which has no %2. "
+                                "Remove one of them.")
+                  : Localizable(
+                        "Skill block %1 has no %2, so the game takes what its "
+                        "default character has. Add what is missing."),
+              {std::to_string(level.block.level), MissingPaths(level),
+               std::to_string(again)}));
     }
     return found == level.block.values.end() ? nullptr : &found->second;
   }
@@ -71,9 +74,9 @@ const CharacterValue* BotReader::PathAt(const CharacterLevel& level, int number,
     return &found->second;
   }
   Add("number-for-text", Severity::kError, CharacterName(), found->second.line,
-      std::string(key) +
-          " must be a text in quotation marks, and the game finds a number. "
-          "Put it in quotation marks.");
+      Localized("%1 must be a text in quotation marks, and the game finds a "
+                "number. Put it in quotation marks.",
+                {key}));
   return nullptr;
 }
 
@@ -111,7 +114,8 @@ const std::optional<CharacterLevel>& BotReader::LoadLevel(int level) {
 void BotReader::TellMissingBlocks(const GameFile& file) {
   const std::vector<BlockAt> blocks = CharacterBlocks(file, game_);
   std::vector<std::string> missing;
-  std::string twice;
+  std::string advice =
+      Localized("Each bot needs the blocks skill 1, skill 4 and skill 5.");
   int line = 0;
   for (const int level : kLevelNumbers) {
     const bool has_it = std::any_of(
@@ -123,8 +127,10 @@ void BotReader::TellMissingBlocks(const GameFile& file) {
   for (const BlockAt& block : blocks) {
     if (levels.insert(block.level).second || line > 0) continue;
     line = block.line;
-    twice = " Skill block " + std::to_string(block.level) +
-            " stands twice, here for the second time: correct its number.";
+    advice = Localized(
+        "Skill block %1 stands twice, here for the second time: correct its "
+        "number.",
+        {std::to_string(block.level)});
   }
   const auto is_unused = [](const BlockAt& block) {
     return !std::ranges::count(kLevelNumbers, block.level);
@@ -132,16 +138,16 @@ void BotReader::TellMissingBlocks(const GameFile& file) {
   const auto unused = std::ranges::find_if(blocks, is_unused);
   if (line == 0 && unused != blocks.end()) {
     line = unused->line;
-    twice = " At no skill it asks for block " + std::to_string(unused->level) +
-            ", which stands here: perhaps its number is wrong.";
+    advice = Localized(
+        "At no skill it asks for block %1, which stands here: perhaps its "
+        "number is wrong.",
+        {std::to_string(unused->level)});
   }
-  complaints_.Add(
-      "no-level", Severity::kError, file.name, line,
-      "This file has no block for skill " + Enumeration(missing) +
-          ", and the game takes the default character's, or another block." +
-          (line > 0 ? twice
-                    : " Each bot needs the blocks skill 1, skill 4 and skill "
-                      "5."));
+  complaints_.Add("no-level", Severity::kError, file.name, line,
+                  Localized("This file has no block for skill %1, and the game "
+                            "takes the default character's, or another block.",
+                            {Enumeration(missing)}) +
+                      " " + advice);
 }
 
 }  // namespace fragsmith

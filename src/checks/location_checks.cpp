@@ -21,6 +21,7 @@
 #include "session/save_bot.h"
 #include "support/code_page.h"
 #include "support/files.h"
+#include "support/localization.h"
 #include "support/no_prompts.h"
 #include "support/text.h"
 
@@ -257,7 +258,8 @@ BrokenFiles LocationCheck::BrokenOnes(const Bot& bot) const {
     const int line = std::get<FilePlace>(found->place).line;
     broken.emplace(
         row.file,
-        (line > 0 ? "Line " + std::to_string(line) + ": " : "") + found->text);
+        line > 0 ? Localized("Line %1: %2", {std::to_string(line), found->text})
+                 : found->text);
   }
   return broken;
 }
@@ -326,10 +328,10 @@ std::optional<std::string> LocationCheck::LookUp(std::string_view path) const {
 }
 
 std::string LocationCheck::PackageOf(const std::string& path) const {
-  if (game_ == nullptr) return "not among these files";
+  if (game_ == nullptr) return Localized("not among these files");
   const auto& entries = game_->files.entries();
   const auto found = entries.find(ToLower(path));
-  return found == entries.end() ? "the game's"
+  return found == entries.end() ? Localized("the game's")
                                 : Utf8FromGameText(found->second.name);
 }
 

@@ -17,6 +17,7 @@
 #include "game/stand_ins.h"
 #include "game/weight_reader.h"
 #include "inplace/game_weights.h"
+#include "support/localization.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -91,9 +92,10 @@ void LocationCheck::AddUnnumbered(const Bot& bot,
         {.id = "weight-set-elsewhere",
          .severity = Severity::kHint,
          .place = id,
-         .text = "The 0 of " + QuotedName(id) +
-                 " is none of the bot's values: from its file the weight code "
-                 "of the game takes no number for it, or no single one.",
+         .text = Localized("The 0 of %1 is none of the bot's values: from its "
+                           "file the weight code of the game takes no number "
+                           "for it, or no single one.",
+                           {QuotedName(id)}),
          .mends = {}});
   }
 }

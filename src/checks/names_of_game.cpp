@@ -5,6 +5,7 @@
 #include "game/game_path.h"
 #include "install/program/bot_list.h"
 #include "model/file_names.h"
+#include "support/localization.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -43,7 +44,7 @@ void TakeStandardNames(bool is_packed, BotFileSet& files) {
     // Of files of one name the game takes its own before a bot's package.
     files.names_taken.emplace(
         name,
-        WinningDescription{.shown_path = "its own list of bots",
+        WinningDescription{.shown_path = Localized("its own list of bots"),
                            .character = is_packed ? "" : CharacterPath(name)});
   }
 }

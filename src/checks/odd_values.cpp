@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "chat/vocabulary.h"
+#include "support/localization.h"
 
 namespace fragsmith {
 namespace {
@@ -41,12 +42,13 @@ std::vector<Finding> OddValues(const Bot& bot, const LoadReport& report) {
         {.id = "value-read-oddly",
          .severity = Severity::kWarning,
          .place = parameter,
-         .text = "The load read " + ShownValue(value.read) + " for " + name +
-                 ", while the game has " + ShownValue(value.plain) +
-                 " from the file. Take that here, or all such values by "
-                 "\"Take the values as the game reads them\".",
-         .mends = {{.title = "Set " + name + " to " + ShownValue(value.plain) +
-                             ", as the game reads it",
+         .text =
+             Localized("The load read %1 for %2, while the game has %3 from "
+                       "the file. Take that here, or all such values by \"Take "
+                       "the values as the game reads them\".",
+                       {ShownValue(value.read), name, ShownValue(value.plain)}),
+         .mends = {{.title = Localized("Set %1 to %2, as the game reads it",
+                                       {name, ShownValue(value.plain)}),
                     .apply =
                         [id = parameter, plain = value.plain](Bot& one) {
                           // What the bot refuses stays as it was read.
@@ -66,8 +68,9 @@ void TellOddValues(const Bot& bot, const LoadReport& report,
     const auto odd =
         std::ranges::find(*odd_values, finding.place, &Finding::place);
     if (odd != odd_values->end()) {
-      finding.text = odd->text +
-                     " Made anew as it stands here: " + std::move(finding.text);
+      finding.text =
+          odd->text + " " +
+          Localized("Made anew as it stands here: %1", {finding.text});
       finding.mends = odd->mends;
       continue;
     }

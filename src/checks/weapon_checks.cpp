@@ -10,6 +10,7 @@
 #include "game/weight_vocabulary.h"
 #include "inplace/splice.h"
 #include "model/value.h"
+#include "support/localization.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -67,7 +68,7 @@ std::optional<Complaint> NoWeaponAtStart(const GameFile& file,
   Complaint fault = {.id = "no-weapon-at-start",
                      .severity = Severity::kError,
                      .place = {.file = file.name, .line = 0},
-                     .text = std::string(kWeaponlessText)};
+                     .text = Localized(kWeaponlessText)};
   const OwnMacro* const of_gauntlet = MacroOf(read, kGauntlet);
   const OwnMacro* const of_machinegun = MacroOf(read, kMachinegun);
   if (of_gauntlet != nullptr && of_machinegun != nullptr) {
@@ -77,7 +78,8 @@ std::optional<Complaint> NoWeaponAtStart(const GameFile& file,
       return std::nullopt;
     }
     fault.place.line = LineOf(file, *of_machinegun);
-    fault.text += " Give W_GAUNTLET or W_MACHINEGUN a weight above 0.";
+    fault.text +=
+        " " + Localized("Give W_GAUNTLET or W_MACHINEGUN a weight above 0.");
     return fault;
   }
   const GameWeight* const gauntlet = WeightOf(read, kGauntlet.name);
@@ -94,8 +96,9 @@ std::optional<Complaint> NoWeaponAtStart(const GameFile& file,
   for (const GameWeight* const weight : {gauntlet, machinegun}) {
     if (weight != nullptr && weight->line > 0) fault.place.line = weight->line;
   }
-  fault.text +=
-      R"( Let weight "Gauntlet" or weight "Machinegun" return more than 0.)";
+  fault.text += " " + Localized(
+                          "Let weight \"Gauntlet\" or weight \"Machinegun\" "
+                          "return more than 0.");
   return fault;
 }
 
@@ -114,14 +117,15 @@ void CheckWeaponNames(const GameFile& file, const WeightsRead& read,
         });
     complaints.Add(
         "weapon-unknown", Severity::kWarning, file.name, weight.line,
-        "The game has no weapon " + Quoted(weight.name) +
-            ", and passes over this weight. " +
-            (meant != known.end()
-                 ? "Write " + Quoted(*meant) +
-                       ", with these capitals and "
-                       "blanks."
-                 : "It calls its weapons as Gauntlet, Machinegun, Rocket "
-                   "Launcher or Plasma Gun."));
+        Localized(
+            meant != known.end()
+                ? Localizable(
+                      "The game has no weapon %1, and passes over this weight. "
+                      "Write %2, with these capitals and blanks.")
+                : Localizable("The game has no weapon %1, and passes over this "
+                              "weight. It calls its weapons as Gauntlet, "
+                              "Machinegun, Rocket Launcher or Plasma Gun."),
+            {Quoted(weight.name), meant != known.end() ? Quoted(*meant) : ""}));
   }
 }
 

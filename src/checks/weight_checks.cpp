@@ -9,6 +9,7 @@
 #include "game/weapon_order.h"
 #include "model/characteristic_catalogue.h"
 #include "session/presets.h"
+#include "support/localization.h"
 
 namespace fragsmith {
 namespace {
@@ -21,8 +22,7 @@ bool HasWeapon(const Bot& bot) {
 
 Mend UseMachinegun() {
   constexpr double kModest = 10;
-  return Safe(SetTo(kMachinegunUsage, kModest,
-                    "Set " + QuotedName(kMachinegunUsage) + " to 10"));
+  return Safe(SetTo(kMachinegunUsage, kModest));
 }
 
 }  // namespace
@@ -35,10 +35,10 @@ void CheckTextForWeight(const CheckContext& context, FindingList& findings) {
     if (ToNumber(value)) continue;
     findings.Add(
         weight,
-        QuotedName(weight) + " is the text " + ShownValue(value) +
-            ", not a number: the game cannot read the file of "
-            "weights and does not add the bot. Give a number.",
-        {Safe(SetTo(weight, 0.0, "Set " + QuotedName(weight) + " to 0"))});
+        Localized("%1 is the text %2, not a number: the game cannot read the "
+                  "file of weights and does not add the bot. Give a number.",
+                  {QuotedName(weight), ShownValue(value)}),
+        {Safe(SetTo(weight, 0))});
   }
 }
 
@@ -49,12 +49,14 @@ void CheckWeaponAtStart(const CheckContext& context, FindingList& findings) {
   }
   std::string text =
       HasWeapon(context.bot)
-          ? std::string(kWeaponlessText) + " Set " +
-                QuotedName(kGauntletUsage) + " or " +
-                QuotedName(kMachinegunUsage) + " above 0."
-          : "No weapon has a weight above 0 yet: the bot has none that it "
-            "may draw, aims badly, and the game fills its console with "
-            "errors. Give weights to the weapons that it is to use.";
+          ? Localized(kWeaponlessText) + " " +
+                Localized(
+                    "Set %1 or %2 above 0.",
+                    {QuotedName(kGauntletUsage), QuotedName(kMachinegunUsage)})
+          : Localized(
+                "No weapon has a weight above 0 yet: the bot has none that it "
+                "may draw, aims badly, and the game fills its console with "
+                "errors. Give weights to the weapons that it is to use.");
   findings.Add(kMachinegunUsage, std::move(text), {UseMachinegun()});
 }
 
@@ -64,17 +66,18 @@ void CheckGauntletFighter(const CheckContext& context, FindingList& findings) {
     return;
   }
   const bool are_all_equal = order.back().weight == order.front().weight;
-  std::string text = are_all_equal
-                         ? "All weapon weights are equal, and of equal ones "
-                           "the game takes the gauntlet: the bot"
-                         : "No weapon has a larger weight than the gauntlet: "
-                           "the bot";
-  text +=
-      " fights with nothing else, whatever it carries. Give each weapon that "
-      "it is to use a larger weight than " +
-      QuotedName(kGauntletUsage) + ".";
-  Mend mend =
-      SetTo(kGauntletUsage, 1.0, "Set " + QuotedName(kGauntletUsage) + " to 1");
+  std::string text = Localized(
+      are_all_equal
+          ? Localizable("All weapon weights are equal, and of equal ones the "
+                        "game takes the gauntlet: the bot fights with nothing "
+                        "else, whatever it carries. Give each weapon that it "
+                        "is to use a larger weight than %1.")
+          : Localizable(
+                "No weapon has a larger weight than the gauntlet: the bot "
+                "fights with nothing else, whatever it carries. Give each "
+                "weapon that it is to use a larger weight than %1."),
+      {QuotedName(kGauntletUsage)});
+  Mend mend = SetTo(kGauntletUsage, 1);
   // A larger weight of its own may be what its author wants.
   mend.is_safe = are_all_equal;
   findings.Add(kGauntletUsage, std::move(text), {std::move(mend)});
@@ -84,18 +87,19 @@ void CheckNoItems(const CheckContext& context, FindingList& findings) {
   for (const int index : kItemWeightRange) {
     if (NumberInGame(context.bot, ParameterId(index)) > 0) return;
   }
-  findings.Add(ParameterId(kItemWeightRange.first),
-               "All weights of the pages \"Weapon pickup\" and \"Item "
-               "pickup\" are 0: the bot never goes anywhere to fetch a "
-               "weapon, health, armor or any other item.",
-               {{.title = "Take the pickup weights of an average bot",
-                 .apply = [](Bot& bot) {
-                   const Bot average = CreateAverageBot(SeededRandom(0));
-                   for (const int index : kItemWeightRange) {
-                     const ParameterId weight(index);
-                     bot.Put(weight, average.Parameter(weight));
-                   }
-                 }}});
+  findings.Add(
+      ParameterId(kItemWeightRange.first),
+      Localized("All weights of the pages \"Weapon pickup\" and \"Item "
+                "pickup\" are 0: the bot never goes anywhere to fetch a "
+                "weapon, health, armor or any other item."),
+      {{.title = Localized("Take the pickup weights of an average bot"),
+        .apply = [](Bot& bot) {
+          const Bot average = CreateAverageBot(SeededRandom(0));
+          for (const int index : kItemWeightRange) {
+            const ParameterId weight(index);
+            bot.Put(weight, average.Parameter(weight));
+          }
+        }}});
 }
 
 void CheckWeaponNotFetched(const CheckContext& context, FindingList& findings) {
@@ -119,11 +123,12 @@ void CheckWeaponNotFetched(const CheckContext& context, FindingList& findings) {
       continue;
     }
     const ParameterId pickup = *PickupOf(usage);
-    findings.Add(pickup,
-                 QuotedName(usage) + " is high, but " + QuotedName(pickup) +
-                     " is 0: the bot never goes to fetch this weapon "
-                     "and has it by chance only. Raise it unless that is "
-                     "meant.");
+    findings.Add(
+        pickup,
+        Localized(
+            "%1 is high, but %2 is 0: the bot never goes to fetch this weapon "
+            "and has it by chance only. Raise it unless that is meant.",
+            {QuotedName(usage), QuotedName(pickup)}));
   }
 }
 
@@ -133,10 +138,10 @@ void CheckUnusedWeights(const CheckContext& context, FindingList& findings) {
     if (NumberInGame(context.bot, ParameterId(index)) <= 0) continue;
     findings.Add(
         ParameterId(index),
-        "The game in your game folder does not use the weights of "
-        "the rows \"With\" on the page \"Weapon pickup\": for a "
-        "weapon that the bot has already, the game decides itself. They "
-        "do no harm.");
+        Localized(
+            "The game in your game folder does not use the weights of the rows "
+            "\"With\" on the page \"Weapon pickup\": for a weapon that the bot "
+            "has already, the game decides itself. They do no harm."));
     return;
   }
 }
@@ -154,34 +159,44 @@ void CheckWeightScripts(const CheckContext& context, FindingList& findings) {
   }
   if (missing.empty()) return;
   findings.Add(WholeBot{},
-               "The packages of your game folder have no " +
-                   Enumeration(missing) +
-                   ", which the bot's files ask for: with these packages "
-                   "alone the game adds no bot that was made here. Install "
-                   "the newest data of the game (for OpenArena, 0.8.8).");
+               Localized("The packages of your game folder have no %1, which "
+                         "the bot's files ask for: with these packages alone "
+                         "the game adds no bot that was made here. Install the "
+                         "newest data of the game (for OpenArena, 0.8.8).",
+                         {Enumeration(missing)}));
 }
 
 void CheckOtherMacros(const CheckContext& context, FindingList& findings) {
   if (context.game == nullptr) return;
   std::vector<std::string> scripts;
-  std::string example;
+  std::string macro_name;
+  std::string weight;
   for (const auto* const wanted :
        {&context.game->weapon_macros, &context.game->item_macros}) {
     if (!*wanted) continue;
     scripts.push_back((*wanted)->script);
     for (const GameMacros::Macro& macro : (*wanted)->macros) {
-      if (!example.empty() || !macro.parameter) continue;
-      example =
-          " such as " + macro.name + " for " + QuotedName(*macro.parameter);
+      if (!macro_name.empty() || !macro.parameter) continue;
+      macro_name = macro.name;
+      weight = QuotedName(*macro.parameter);
     }
   }
   if (scripts.empty()) return;
-  findings.Add(WholeBot{},
-               "The weight code of your game, " + Enumeration(scripts) +
-                   ", asks for macros of its own" + example +
-                   " and would not read the weights of files that are made "
-                   "here: tick \"Write the game's own macros as well\" when "
-                   "you make them. \"Install into game\" writes them.");
+  findings.Add(
+      WholeBot{},
+      Localized(
+          macro_name.empty()
+              ? Localizable(
+                    "The weight code of your game, %1, asks for macros of its "
+                    "own and would not read the weights of files that are made "
+                    "here: tick \"Write the game's own macros as well\" when "
+                    "you make them. \"Install into game\" writes them.")
+              : Localizable("The weight code of your game, %1, asks for macros "
+                            "of its own such as %2 for %3 and would not read "
+                            "the weights of files that are made here: tick "
+                            "\"Write the game's own macros as well\" when you "
+                            "make them. \"Install into game\" writes them."),
+          {Enumeration(scripts), macro_name, weight}));
 }
 
 }  // namespace fragsmith

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "checks/check_context.h"
+#include "support/localization.h"
 
 namespace fragsmith {
 
@@ -14,10 +15,10 @@ inline bool IsWeaponless(double gauntlet, double machinegun) {
   return gauntlet <= 0 && machinegun <= 0;
 }
 
-inline constexpr std::string_view kWeaponlessText =
+inline constexpr std::string_view kWeaponlessText = Localizable(
     "The bot starts with gauntlet and machinegun, and both have the weight 0: "
     "until it finds another weapon it has none that it may draw, aims badly, "
-    "and the game fills its console with errors.";
+    "and the game fills its console with errors.");
 
 void CheckTextForWeight(const CheckContext& context, FindingList& findings);
 void CheckWeaponAtStart(const CheckContext& context, FindingList& findings);

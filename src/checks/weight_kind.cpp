@@ -9,6 +9,7 @@
 #include "botfiles/game_text.h"
 #include "chat/vocabulary.h"
 #include "model/file_names.h"
+#include "support/localization.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -45,18 +46,20 @@ std::optional<Complaint> FaultOfKind(const GameFile& file,
   if (has_other_weights && read.count == 0) return std::nullopt;
   const auto included = FindInclude(file.bytes, other);
   if (!included || FindInclude(file.bytes, own)) return std::nullopt;
-  const std::string own_kind = are_weapons ? "weapons" : "items";
-  const std::string other_kind = are_weapons ? "items" : "weapons";
   Complaint fault = {.id = "weights-of-other-kind",
                      .severity = Severity::kError,
                      .place = {.file = file.name, .line = included->second},
                      .text = {}};
-  const std::string name(other.at(included->first));
+  const std::string_view own_code = own.at(included->first);
   if (!has_other_weights) {
-    fault.text = "This line includes " + name + ", the game's code for " +
-                 other_kind + ", but the file is that of the weights of " +
-                 own_kind + ". Write #include \"" +
-                 std::string(own.at(included->first)) + "\".";
+    fault.text = Localized(
+        are_weapons ? Localizable("This line includes %1, the game's code for "
+                                  "items, but the file is that of the weights "
+                                  "of weapons. Write #include \"%2\".")
+                    : Localizable("This line includes %1, the game's code for "
+                                  "weapons, but the file is that of the "
+                                  "weights of items. Write #include \"%2\"."),
+        {other.at(included->first), own_code});
     return fault;
   }
   const std::string_view end = are_weapons ? kWeaponWeightEnd : kItemWeightEnd;
@@ -66,21 +69,30 @@ std::optional<Complaint> FaultOfKind(const GameFile& file,
   if (EndsWithIgnoringCase(path, other_end)) {
     path.replace(path.size() - end.size(), end.size(), end);
     fault.place = named_at;
-    fault.text = "This line names " + Quoted(file.game_path) +
-                 " for the weights of " + own_kind +
-                 ", and that file has none but those of " + other_kind +
-                 ". Write " + Quoted(path) + " in each skill block.";
+    fault.text = Localized(
+        are_weapons ? Localizable("This line names %1 for the weights of "
+                                  "weapons, and that file has none but those "
+                                  "of items. Write %2 in each skill block.")
+                    : Localizable("This line names %1 for the weights of "
+                                  "items, and that file has none but those of "
+                                  "weapons. Write %2 in each skill block."),
+        {Quoted(file.game_path), Quoted(path)});
     return fault;
   }
   if (EndsWithIgnoringCase(path, end)) {
     path.replace(path.size() - end.size(), end.size(), other_end);
   }
-  fault.text = "The game takes the weights of " + own_kind +
-               " out of this file, and it has none but those of " + other_kind +
-               ". If " + Quoted(file.game_path) + " and " + Quoted(path) +
-               " have been swapped, exchange their names; if not, write "
-               "#include \"" +
-               std::string(own.at(included->first)) + "\" here.";
+  fault.text = Localized(
+      are_weapons
+          ? Localizable("The game takes the weights of weapons out of this "
+                        "file, and it has none but those of items. If %1 and "
+                        "%2 have been swapped, exchange their names; if not, "
+                        "write #include \"%3\" here.")
+          : Localizable("The game takes the weights of items out of this file, "
+                        "and it has none but those of weapons. If %1 and %2 "
+                        "have been swapped, exchange their names; if not, "
+                        "write #include \"%3\" here."),
+      {Quoted(file.game_path), Quoted(path), own_code});
   return fault;
 }
 
@@ -90,7 +102,8 @@ std::optional<Complaint> FaultOfCharacter(const GameFile& file,
                      .severity = Severity::kError,
                      .place = {.file = file.name, .line = 0},
                      .text = {}};
-  std::string_view held;
+  bool has_any = false;
+  bool has_weights = false;
   LineReader lines(file.bytes);
   while (const std::optional<std::string_view> line = lines.Next()) {
     std::string_view rest = *line;
@@ -101,11 +114,12 @@ std::optional<Complaint> FaultOfCharacter(const GameFile& file,
         word == "#define" &&
         (name.starts_with("W_") || name.starts_with("GWW_") ||
          name.starts_with("FS_") || name.starts_with("FLAG_"));
-    if (!held.empty() || (word != "chat" && !is_weight)) continue;
-    held = is_weight ? "weights" : "chats";
+    if (has_any || (word != "chat" && !is_weight)) continue;
+    has_any = true;
+    has_weights = is_weight;
     fault.place.line = static_cast<int>(lines.number());
   }
-  if (held.empty()) return std::nullopt;
+  if (!has_any) return std::nullopt;
   std::string path = file.game_path;
   constexpr std::array kOtherEnds = {kWeaponWeightEnd, kItemWeightEnd,
                                      kChatEnd};
@@ -117,14 +131,23 @@ std::optional<Complaint> FaultOfCharacter(const GameFile& file,
     path.replace(path.size() - kCharacterEnd.size(), kCharacterEnd.size(),
                  kCharacterEnd);
     fault.place = named_at;
-    fault.text = "This line names " + Quoted(file.game_path) +
-                 ", which holds " + std::string(held) +
-                 " and not the bot's character. Write " + Quoted(path) + ".";
+    fault.text = Localized(
+        has_weights ? Localizable("This line names %1, which holds weights and "
+                                  "not the bot's character. Write %2.")
+                    : Localizable("This line names %1, which holds chats and "
+                                  "not the bot's character. Write %2."),
+        {Quoted(file.game_path), Quoted(path)});
   } else {
-    fault.text = "This file holds " + std::string(held) +
-                 ", but the game looks in it for the bot's character, the "
-                 "blocks skill 1, skill 4 and skill 5. Put the bot's own "
-                 "character file in its place.";
+    fault.text = Localized(
+        has_weights
+            ? Localizable(
+                  "This file holds weights, but the game looks in it for the "
+                  "bot's character, the blocks skill 1, skill 4 and skill 5. "
+                  "Put the bot's own character file in its place.")
+            : Localizable(
+                  "This file holds chats, but the game looks in it for the "
+                  "bot's character, the blocks skill 1, skill 4 and skill 5. "
+                  "Put the bot's own character file in its place."));
   }
   return fault;
 }

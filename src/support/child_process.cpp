@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "support/files.h"
+#include "support/localization.h"
 #include "support/system/child_process_system.h"
 
 namespace fragsmith {
@@ -24,10 +25,11 @@ Result<ChildProcess> ChildProcess::Start(
       system::StartProcess(program, arguments, output, handle);
   if (!reason) return ChildProcess(handle);
   return Failure(
-      {.what = "The program cannot be started: " + reason.message() + ".",
+      {.what =
+           Localized("The program cannot be started: %1.", {reason.message()}),
        .file = Utf8FromPath(program),
        .line = 0,
-       .advice = "Check that it is there and may be run."});
+       .advice = Localized("Check that it is there and may be run.")});
 }
 
 ChildProcess::ChildProcess(ChildProcess&& other) noexcept

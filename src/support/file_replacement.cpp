@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "support/files.h"
+#include "support/localization.h"
 
 namespace fragsmith {
 namespace fs = std::filesystem;
@@ -18,10 +19,12 @@ namespace {
 constexpr std::string_view kSuffix = ".fgs-tmp";
 
 Error CannotWrite(const fs::path& target, const std::error_code& reason) {
-  return {.what = "The file cannot be written: " + reason.message() + ".",
-          .file = Utf8FromPath(target),
-          .line = 0,
-          .advice = "Check the folder, its permissions and the free space."};
+  return {
+      .what = Localized("The file cannot be written: %1.", {reason.message()}),
+      .file = Utf8FromPath(target),
+      .line = 0,
+      .advice =
+          Localized("Check the folder, its permissions and the free space.")};
 }
 
 fs::path TemporaryName(const fs::path& target) {
@@ -117,12 +120,13 @@ Result<void> FileReplacement::CommitUnflushed() {
   if (reason) return Failure(CannotWrite(target_, reason));
   reason = system::RenameOver(temporary_, target_);
   if (reason && system::IsInUse(reason) && !IsFolder(target_)) {
-    return Failure({.what = "The file cannot be replaced: another program "
-                            "holds it open, or it is write-protected.",
-                    .file = Utf8FromPath(target_),
-                    .line = 0,
-                    .advice = "Close it there, then save again. Nothing was "
-                              "changed."});
+    return Failure(
+        {.what = Localized("The file cannot be replaced: another program holds "
+                           "it open, or it is write-protected."),
+         .file = Utf8FromPath(target_),
+         .line = 0,
+         .advice = Localized(
+             "Close it there, then save again. Nothing was changed.")});
   }
   if (reason) return Failure(CannotWrite(target_, reason));
   temporary_.clear();

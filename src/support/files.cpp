@@ -8,6 +8,7 @@
 
 #include "support/code_page.h"
 #include "support/file_replacement.h"
+#include "support/localization.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -29,13 +30,14 @@ Result<std::string> ReadFile(const fs::path& path, std::size_t limit) {
   std::error_code reason;
   const fs::file_status status = fs::status(path, reason);
   if (!fs::is_regular_file(status)) {
-    return fail(
-        fs::exists(status) ? "This is not a file." : "There is no such file.",
-        "Check the name.");
+    return fail(fs::exists(status) ? Localized("This is not a file.")
+                                   : Localized("There is no such file."),
+                Localized("Check the name."));
   }
   std::ifstream file(path, std::ios::binary);
   if (!file) {
-    return fail("The file cannot be read.", "Check its permissions.");
+    return fail(Localized("The file cannot be read."),
+                Localized("Check its permissions."));
   }
   const std::uintmax_t size = fs::file_size(path, reason);
   std::string bytes;
@@ -49,14 +51,16 @@ Result<std::string> ReadFile(const fs::path& path, std::size_t limit) {
       bytes.resize(filled + static_cast<std::size_t>(file.gcount()));
       piece = 65536;
     }
-    if (file.bad()) return fail("The file cannot be read to its end.", "");
+    if (file.bad())
+      return fail(Localized("The file cannot be read to its end."), "");
   }
   if (bytes.size() > limit || (!reason && size > limit)) {
-    return fail("The file is larger than " + std::to_string(limit >> 20U) +
-                    " MiB, the most that is read of one like it: it has " +
-                    std::to_string(std::max<std::uintmax_t>(size, limit + 1)) +
-                    " bytes.",
-                "Check that it is the right one.");
+    return fail(
+        Localized("The file is larger than %1 MiB, the most that is read of "
+                  "one like it: it has %2 bytes.",
+                  {std::to_string(limit >> 20U),
+                   std::to_string(std::max<std::uintmax_t>(size, limit + 1))}),
+        Localized("Check that it is the right one."));
   }
   return bytes;
 }

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "support/files.h"
+#include "support/localization.h"
 #include "support/system/temporary_folder_system.h"
 
 namespace fragsmith {
@@ -60,12 +61,12 @@ Result<fs::path> TemporaryFolder::GetTempFolder() {
     return path_;
   }
   path_.clear();
-  return Failure(
-      {.what = "No temporary folder can be made: " + reason.message() + ".",
-       .file = Utf8FromPath(parent),
-       .line = 0,
-       .advice = "Check the system's temporary folder (TMPDIR) and its "
-                 "free space."});
+  return Failure({.what = Localized("No temporary folder can be made: %1.",
+                                    {reason.message()}),
+                  .file = Utf8FromPath(parent),
+                  .line = 0,
+                  .advice = Localized("Check the system's temporary folder "
+                                      "(TMPDIR) and its free space.")});
 }
 
 }  // namespace fragsmith
