@@ -135,11 +135,11 @@ class ChatFileChecker {
     const ChatMessage message = ReadChatMessage(statement);
     if (AdviceForLine(statement).empty()) TellLoneWord(line, message);
     for (const ChatItem& item : message.items) {
-      if (const std::string advice = AdviceForLine(statement);
+      if (const std::string_view advice = AdviceForLine(statement);
           item.kind == ChatItem::Kind::kWord && !advice.empty()) {
         Warn("chat-curly-quotes", line.span,
              "The game takes " + Quoted(item.text) +
-                 " for the name of a word list." + advice);
+                 " for the name of a word list." + std::string(advice));
       }
       if (item.kind == ChatItem::Kind::kVariable &&
           item.variable >= kFirstUnknownVariable) {

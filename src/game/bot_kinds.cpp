@@ -59,15 +59,8 @@ constexpr SkillRow kCamperSkills[] = {
 /// Health, armor, then the items from the teleporter to the flag.
 constexpr int kOtherItems = 11;
 
-/// In English.
-struct KindText {
-  std::string_view key;
-  std::string_view caption;
-  std::string_view about;
-};
-
 struct KindRow {
-  KindText text;
+  BotKindText text;
   std::span<const SkillRow> skills;  ///< In the place of the common ones.
   /// Of fighting with each weapon, in the order of the catalogue: gauntlet,
   /// shotgun, machinegun, grenades, rockets, railgun, BFG, lightning, plasma,
@@ -105,7 +98,7 @@ constexpr std::array<KindRow, 4> kKinds = {{
      0.3},
 }};
 
-constexpr KindText kSurpriseText = {
+constexpr BotKindText kSurpriseText = {
     "surprise", Localizable("Surprise me"),
     Localizable("Drawn by lot, always playable.")};
 
@@ -248,11 +241,10 @@ void AddChats(const WordLists* words, const RandomSource& random, Bot& bot) {
 
 }  // namespace
 
-BotKindText TextOf(BotKind kind) {
-  const KindText& text = kind == BotKind::kSurprise
-                             ? kSurpriseText
-                             : kKinds.at(static_cast<std::size_t>(kind)).text;
-  return {text.key, Localized(text.caption), Localized(text.about)};
+const BotKindText& TextOf(BotKind kind) {
+  return kind == BotKind::kSurprise
+             ? kSurpriseText
+             : kKinds.at(static_cast<std::size_t>(kind)).text;
 }
 
 Bot CreateBotOfKind(BotKind kind, std::uint32_t seed, const WordLists* words) {

@@ -3,7 +3,6 @@
 
 #include <array>
 #include <cstdint>
-#include <string>
 #include <string_view>
 
 #include "game/word_lists.h"
@@ -20,11 +19,12 @@ inline constexpr std::array kBotKinds = {BotKind::kSniper, BotKind::kRusher,
 
 struct BotKindText {
   std::string_view key;  ///< "sniper", for the command line.
-  std::string caption;   ///< "Sniper".
-  std::string about;     ///< A sentence.
+  // In English; Localized() shows them.
+  std::string_view caption;  ///< "Sniper".
+  std::string_view about;    ///< A sentence.
 };
 
-BotKindText TextOf(BotKind kind);
+const BotKindText& TextOf(BotKind kind);
 
 /// A bot of the kind: its skills rise from level 1 to 5, its weights suit the
 /// distances at which the game's bots use each weapon, and it has a line for

@@ -162,7 +162,7 @@ class SetReader {
  private:
   /// Behind the value of the last key.
   void TellMoreWords(const std::string& word) {
-    const std::string curly =
+    const std::string_view curly =
         AdviceForCurlyQuotes(LineOfFile(file_.bytes, line_));
     Complain(
         "description-more-words", Severity::kWarning,
@@ -172,7 +172,7 @@ class SetReader {
             (curly.empty()
                  ? " " + Localized(
                              "Put a text of several words in quotation marks.")
-                 : curly),
+                 : Localized(curly)),
         last_key_);
   }
 

@@ -163,35 +163,36 @@ std::string AdviceForOpenText(std::string_view line) {
       "write ', since the game never shows a \".");
 }
 
-std::string AdviceForCurlyQuotes(std::string_view line) {
+std::string_view AdviceForCurlyQuotes(std::string_view line) {
   // In UTF-8 and in Windows-1252.
   const bool is_curly = Contains(line, "\xE2\x80\x9C") ||
                         Contains(line, "\xE2\x80\x9D") ||
                         Contains(line, "\x93") || Contains(line, "\x94");
   if (is_curly) {
-    return " " + Localized(
-                     "There are curly quotation marks (“ ”) in this line, "
-                     "which the game does not see. Type straight ones (\").");
+    return Localizable(
+        " There are curly quotation marks (“ ”) in this line, "
+        "which the game does not see. Type straight ones (\").");
   }
   return {};
 }
 
-std::string AdviceForLine(std::string_view line) {
-  if (std::string advice = AdviceForCurlyQuotes(line); !advice.empty()) {
+std::string_view AdviceForLine(std::string_view line) {
+  if (const std::string_view advice = AdviceForCurlyQuotes(line);
+      !advice.empty()) {
     return advice;
   }
   const std::size_t comment = line.find("/*");
   const std::size_t end = line.find("*/");
   if (comment < end && line.find("/*", comment + 2) < end &&
       line.find("*/", end + 2) != std::string_view::npos) {
-    return " " + Localized(
-                     "A comment in this line has another inside, and ends at "
-                     "the first */. Remove the comment inside it.");
+    return Localizable(
+        " A comment in this line has another inside, and ends at "
+        "the first */. Remove the comment inside it.");
   }
   if (TrimBlanksAndTabs(line).ends_with('\\')) {
-    return " " + Localized(
-                     "The \\ at the end of this line joins the next one to it. "
-                     "Remove it.");
+    return Localizable(
+        " The \\ at the end of this line joins the next one to it. "
+        "Remove it.");
   }
   return {};
 }

@@ -28,11 +28,11 @@ std::string AdviceForOpenText(std::string_view line);
 
 /// What a complaint about this line should add: signs that look like others,
 /// a comment inside a comment, and a "\\" that joins the next line to it.
-/// Empty, or a sentence behind a blank.
-std::string AdviceForLine(std::string_view line);
+/// Empty, or a sentence behind a blank, in English; Localized() shows it.
+std::string_view AdviceForLine(std::string_view line);
 
 /// The same of curly quotation marks alone.
-std::string AdviceForCurlyQuotes(std::string_view line);
+std::string_view AdviceForCurlyQuotes(std::string_view line);
 
 }  // namespace fragsmith
 

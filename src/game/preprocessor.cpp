@@ -371,7 +371,9 @@ void GameSource::Report(std::string_view id, Severity severity,
                          {file_names_[file], there}));
   }
   if (severity == Severity::kError && line > 0) {
-    text += AdviceForLine(LineOfFile(file_.bytes, line));
+    const std::string_view advice =
+        AdviceForLine(LineOfFile(file_.bytes, line));
+    if (!advice.empty()) text += Localized(advice);
   }
   if (severity == Severity::kError && is_uncertain_ &&
       token.kind == GameToken::Kind::kName) {

@@ -8,8 +8,6 @@
 #include <optional>
 #include <string_view>
 
-#include "support/localization.h"
-
 namespace fragsmith {
 
 /// A skill level that a bot describes; the game mixes the others. The value is
@@ -23,9 +21,8 @@ inline constexpr std::array<Level, 3> kLevels = {Level::k1, Level::k4,
 /// The same as the game counts them.
 inline constexpr std::array<int, kLevels.size()> kLevelNumbers = {1, 4, 5};
 
-/// The same in English words; Localized() shows them.
-inline constexpr std::string_view kLevelsInWords =
-    Localizable("the levels 1, 4 and 5");
+/// The same in words.
+inline constexpr std::string_view kLevelsInWords = "the levels 1, 4 and 5";
 
 constexpr std::size_t IndexOf(Level level) {
   return static_cast<std::size_t>(level);
