@@ -13,6 +13,7 @@
 #include "chat/chat_line.h"
 #include "model/characteristic_catalogue.h"
 #include "support/code_page.h"
+#include "support/localization.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -83,8 +84,8 @@ class ChatReader {
         braces_ = {.open = 0, .is_due = true};
         if (++chats_ > 1) {
           AddNote(
-              "Another chat begins here. A save puts its lines into one with "
-              "those above.");
+              Localized("Another chat begins here. A save puts its lines into "
+                        "one with those above."));
         }
       }
       TellLeftOut(code_);
@@ -94,7 +95,7 @@ class ChatReader {
 
   ReadReport Finish() {
     if (is_in_block_) {
-      AddNote("The file ends before the \"}\" of its last block.");
+      AddNote(Localized("The file ends before the \"}\" of its last block."));
     }
     for (const ChatTypeId type : kAllChatTypes) {
       if (!has_type_.at(IndexOf(type))) {
@@ -103,7 +104,7 @@ class ChatReader {
     }
     for (const auto& [kind, lines] : oddities_) {
       report_.notes.Add(
-          {file_, lines.first, lines.list.Text() + std::string(kind)});
+          {file_, lines.first, Localized(kind, {lines.list.Text()})});
     }
     left_out_.Tell(report_.notes);
     report_.missing_includes = left_out_.missing_includes();
@@ -125,13 +126,15 @@ class ChatReader {
       type_ = *type;
       has_type_.at(IndexOf(type_)) = true;
       if (next_lines_.at(IndexOf(type_)) > ChatLineIndex()) {
-        AddNote("The type " + std::string(ChatTypeAt(type_).Key) +
-                " was there before; the game uses the last block alone.");
+        AddNote(Localized(
+            "The type %1 was there before; the game uses the last block alone.",
+            {ChatTypeAt(type_).Key}));
       }
     } else {
-      AddNote("The line names no known chat type; what follows goes to " +
-              std::string(ChatTypeAt(type_).Key) +
-              ". It says: " + ShownText(TrimBlanksAndTabs(line)));
+      AddNote(Localized(
+          "The line names no known chat type; what follows goes to %1. It "
+          "says: %2",
+          {ChatTypeAt(type_).Key, ShownText(TrimBlanksAndTabs(line))}));
       return;
     }
     // The game wants a "{" behind it, on this line or the next.
@@ -143,17 +146,20 @@ class ChatReader {
     const std::string_view brace = TakeWord(code);
     const bool is_empty = TrimBlanksAndTabs(code) == "}";
     if (!is_type || named != key) {
-      AddNote("What follows is read as the type " + key +
-              ", but the line says: " + ShownText(TrimBlanksAndTabs(line)));
+      AddNote(Localized(
+          "What follows is read as the type %1, but the line says: %2",
+          {key, ShownText(TrimBlanksAndTabs(line))}));
     } else if ((!TakeWord(code).empty() && !is_empty) ||
                (!brace.empty() && brace != "{")) {
-      AddNote("Of this line only the type " + key +
-              " is read. A save leaves out the rest: " +
-              ShownText(TrimBlanksAndTabs(line)));
+      AddNote(
+          Localized("Of this line only the type %1 is read. A save leaves out "
+                    "the rest: %2",
+                    {key, ShownText(TrimBlanksAndTabs(line))}));
     } else if (!written.starts_with('"')) {
-      AddNote("The type " + key +
-              " stands without quotes, and so the game does not read the "
-              "chats; a save puts them on.");
+      AddNote(
+          Localized("The type %1 stands without quotes, and so the game does "
+                    "not read the chats; a save puts them on.",
+                    {key}));
     }
   }
 
@@ -171,7 +177,8 @@ class ChatReader {
       is_in_block_ = false;
       TellLeftOut(code_);
     } else if (IsTypeLine(text)) {
-      if (!is_whole_in_line_) AddNote("The block before has no \"}\".");
+      if (!is_whole_in_line_)
+        AddNote(Localized("The block before has no \"}\"."));
       OpenBlock(text);
     } else if (text.starts_with('{')) {
       TellLeftOut(code_);
@@ -186,9 +193,10 @@ class ChatReader {
     const std::string_view code = TrimBlanksAndTabs(code_);
     if (code.empty()) {
       has_comment_ = false;
-      line.oddities = {{ShownText(text),
-                        ": a comment for the game, but read "
-                        "as a chat line."}};
+      line.oddities = {
+          {ShownText(text),
+           Localizable(
+               "%1: a comment for the game, but read as a chat line.")}};
     } else if (line.oddities.empty()) {
       CompareWithSaved(code, line.text);
     }
@@ -201,7 +209,8 @@ class ChatReader {
   /// Tells of a line that a save would not write as it is.
   void CompareWithSaved(std::string_view code, const std::string& text) {
     if (text.empty()) {
-      return AddOddity({"An empty chat line", ": a save leaves it out."});
+      return AddOddity({Localized("An empty chat line"),
+                        Localizable("%1: a save leaves it out.")});
     }
     const std::string saved = ChatLineToFile(type_, text);
     // A variable at the start has a blank in front.
@@ -209,9 +218,9 @@ class ChatReader {
     const bool says_the_same =
         Contains(code, "\"") && Condensed(saved) == Condensed(code);
     if (!says_the_same) {
-      AddOddity({ShownText(saved),
-                 ": how a save writes a line that stands "
-                 "otherwise in the file."});
+      AddOddity(
+          {ShownText(saved), Localizable("%1: how a save writes a line that "
+                                         "stands otherwise in the file.")});
     }
   }
 
@@ -219,7 +228,8 @@ class ChatReader {
   void AddOddity(const ChatOddity& oddity) {
     OddLines& lines = oddities_[oddity.kind];
     if (lines.first == 0) lines.first = number_;
-    lines.list.Add(oddity.what + " (line " + std::to_string(number_) + ")");
+    lines.list.Add(
+        Localized("%1 (line %2)", {oddity.what, std::to_string(number_)}));
   }
 
   /// Tells of a brace that stands where none is due: a save has no such.

@@ -8,6 +8,7 @@
 
 #include "chat/chat_catalogue.h"
 #include "support/code_page.h"
+#include "support/localization.h"
 #include "support/numbers.h"
 #include "support/text.h"
 
@@ -103,9 +104,10 @@ void Replace(const Replacement& replacement, OpenLine& line) {
 /// Notes what is odd; a line of megabytes must not give a note a byte.
 /// Of a piece that is not understood: with what writing gives back, and where
 /// it does not quite.
-constexpr std::string_view kStays = ": not understood; stays as it is written.";
+constexpr std::string_view kStays =
+    Localizable("%1: not understood; stays as it is written.");
 constexpr std::string_view kChanges =
-    ": not understood; a save writes the line in another way.";
+    Localizable("%1: not understood; a save writes the line in another way.");
 
 void AddOddity(std::string what, std::string_view kind, EditorLine& result) {
   constexpr std::size_t kMax = 20;
@@ -134,12 +136,12 @@ std::string_view Statement(std::string_view line, EditorLine& result) {
   if (line.ends_with(';')) {
     line.remove_suffix(1);
   } else if (has_more) {
-    AddOddity("What stands behind the \";\"",
-              ": read as a part of the same chat line.", result);
+    AddOddity(Localized("What stands behind the \";\""),
+              Localizable("%1: read as a part of the same chat line."), result);
   } else {
-    AddOddity("No \";\" at the end",
-              ": the game takes the line and the next for one. Here they are "
-              "two, and a save writes them so.",
+    AddOddity(Localized("No \";\" at the end"),
+              Localizable("%1: the game takes the line and the next for one. "
+                          "Here they are two, and a save writes them so."),
               result);
   }
   return TrimBlanks(line);
@@ -151,13 +153,14 @@ void NoteOddNumber(const Member& member, EditorLine& result) {
   const std::string name(group.Name);
   if (group.Unnumbered && !member.digits.empty() && IsZero(member.digits)) {
     AddOddity(name + std::string(member.digits),
-              ": a file made anew has the name without its 0.", result);
+              Localizable("%1: a file made anew has the name without its 0."),
+              result);
   }
   const std::optional<double> number = NumberFromText(member.digits);
   if (number && *number > group.MaxNumber) {
     AddOddity(name + std::string(member.digits),
-              ": none of the ready-made lines that the game is known to have; "
-              "kept as it is.",
+              Localizable("%1: none of the ready-made lines that the game is "
+                          "known to have; kept as it is."),
               result);
   }
 }
@@ -237,8 +240,8 @@ class PieceJoiner {
     } else if (is_whole && !Contains(items, ",")) {
       result_.text += items;
       AddOddity(Shown(items),
-                ": none of the word lists and groups known here; read as plain "
-                "text, and a save writes it so.",
+                Localizable("%1: none of the word lists and groups known here; "
+                            "read as plain text, and a save writes it so."),
                 result_);
     } else {
       AddUnknown(piece, is_first, is_last);
@@ -381,7 +384,8 @@ EditorLine ChatLineFromFile(ChatTypeId type, std::string_view line) {
     result.text = std::string(list->Variable);
     if (starts_quoted || ends_quoted) {
       AddOddity('"' + std::string(inner) + '"',
-                ": a text that is taken for the word list of that name.",
+                Localizable(
+                    "%1: a text that is taken for the word list of that name."),
                 result);
     }
     return result;

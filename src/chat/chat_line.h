@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "model/chat_type_id.h"
+#include "support/localization.h"
 
 namespace fragsmith {
 
@@ -19,11 +20,13 @@ namespace fragsmith {
 /// double quotes in the text are not escaped.
 std::string ChatLineToFile(ChatTypeId type, std::string_view line);
 
-/// Something odd about a line. Both parts together are a sentence for a note;
-/// of several oddities of a kind one sentence can be made. UTF-8.
+/// Something odd about a line. Of several oddities of a kind one sentence can
+/// be made, for a note. UTF-8.
 struct ChatOddity {
   std::string what;
-  std::string_view kind;  ///< ": what that means", the same for the same kind.
+  /// "%1: what that means", in English, the same for the same kind; Localized()
+  /// puts into it what it is about.
+  std::string_view kind;
 };
 
 /// A line of the file in editor form, and what was odd about it.

@@ -7,6 +7,7 @@
 
 #include "support/code_page.h"
 #include "support/field_reader.h"
+#include "support/localization.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -90,7 +91,8 @@ void AskForSynonym(SynonymList& list, Prompts& prompts) {
   };
   const std::optional<std::string> word = GameTextFromUtf8(*answer);
   if (!word || Contains(*word, "\"")) {
-    refuse("'" + *answer + "' has a character that the list cannot hold.");
+    refuse(Localized("'%1' has a character that the list cannot hold.",
+                     {*answer}));
     return;
   }
   if (std::any_of(list.words.begin(), list.words.end(),

@@ -9,6 +9,7 @@
 #include "chat/chat_catalogue.h"
 #include "model/characteristic_catalogue.h"
 #include "support/code_page.h"
+#include "support/localization.h"
 #include "support/numbers.h"
 
 namespace fragsmith {
@@ -150,15 +151,17 @@ std::string_view ParameterName(ParameterId id) {
 }
 
 std::string ParameterTitle(ParameterId id) {
-  std::string title(ParameterName(id));
-  if (id.level()) title += ", level " + std::to_string(NumberOf(*id.level()));
-  return title;
+  const std::string_view name = ParameterName(id);
+  if (!id.level()) return std::string(name);
+  return Localized("%1, level %2",
+                   {name, std::to_string(NumberOf(*id.level()))});
 }
 
 std::string QuotedName(ParameterId id) {
-  std::string text = "\"" + std::string(ParameterName(id)) + "\"";
-  if (id.level()) text += " at level " + std::to_string(NumberOf(*id.level()));
-  return text;
+  const std::string name = Localized("\"%1\"", {ParameterName(id)});
+  if (!id.level()) return name;
+  return Localized("%1 at level %2",
+                   {name, std::to_string(NumberOf(*id.level()))});
 }
 
 std::string ShownNumber(double number) {
@@ -178,7 +181,7 @@ std::string Quoted(std::string_view game_text, std::size_t most) {
 }
 
 std::string QuotedChatType(ChatTypeId type) {
-  return "\"" + std::string(ChatTypeAt(type).Caption) + "\"";
+  return Localized("\"%1\"", {ChatTypeAt(type).Caption});
 }
 
 }  // namespace fragsmith

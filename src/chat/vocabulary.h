@@ -8,6 +8,7 @@
 #include "model/chat_type_id.h"
 #include "model/parameter_id.h"
 #include "model/value.h"
+#include "support/localization.h"
 
 namespace fragsmith {
 
@@ -45,11 +46,16 @@ std::string QuotedChatType(ChatTypeId type);
 template <typename Texts>
 std::string Enumeration(const Texts& texts) {
   std::string list;
-  std::size_t left = texts.size();
-  for (const auto& text : texts) {
-    list += text;
-    --left;
-    if (left > 0) list += left == 1 ? " and " : ", ";
+  std::size_t number = 0;
+  for (const std::string_view text : texts) {
+    ++number;
+    if (number == 1) {
+      list = text;
+    } else if (number < texts.size()) {
+      list.append(", ").append(text);
+    } else {
+      list = Localized("%1 and %2", {list, text});
+    }
   }
   return list;
 }

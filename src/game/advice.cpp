@@ -10,6 +10,7 @@
 #include "chat/vocabulary.h"
 #include "game/complaints.h"
 #include "model/game_characteristics.h"
+#include "support/localization.h"
 #include "support/numbers.h"
 #include "support/text.h"
 
@@ -17,8 +18,6 @@ namespace fragsmith {
 namespace {
 
 constexpr std::string_view kKeyPrefix = "CHARACTERISTIC_";
-constexpr std::string_view kBlockIsLost =
-    " and throws this whole skill block away.";
 
 /// How many letters must be put in, taken out, changed or exchanged with their
 /// neighbours to make one word of the other, capitals aside.
@@ -52,32 +51,40 @@ std::string_view WithoutPrefix(std::string_view key) {
 }
 
 std::string UnknownNameText(std::string_view name) {
-  std::string text = "The game knows no characteristic " + Quoted(name);
-  text += kBlockIsLost;
+  const std::string text = Localized(
+                               "The game knows no characteristic %1 and throws "
+                               "this whole skill block away.",
+                               {Quoted(name)}) +
+                           " ";
   const std::string_view nearest =
       NearestWord(WithoutPrefix(name), kGameCharacteristics);
   const std::string meant = std::string(kKeyPrefix) + std::string(nearest);
   if (name == meant) {
-    return text + " Write #include \"chars.h\" at the top of the file.";
+    return text + Localized("Write #include \"%1\" at the top of the file.",
+                            {"chars.h"});
   }
-  return text + (nearest.empty() ? " Check the spelling; capital letters count."
-                                 : " Perhaps " + meant + " is meant.");
+  return text + (nearest.empty()
+                     ? Localized("Check the spelling; capital letters count.")
+                     : Localized("Perhaps %1 is meant.", {meant}));
 }
 
 /// Of a sign behind a value.
 std::string SignText(const GameToken& sign, const GameToken& last) {
-  std::string text = "The game takes no " + Quoted(sign.text);
-  text += " behind a value";
-  text += kBlockIsLost;
+  const std::string text = Localized(
+                               "The game takes no %1 behind a value and throws "
+                               "this whole skill block away.",
+                               {Quoted(sign.text)}) +
+                           " ";
   const bool is_number = last.kind == GameToken::Kind::kNumber;
   if (is_number && sign.Is("%")) {
-    return text + " Write " + PlainDecimal(last.number / 100, kFloatDigits) +
-           " for " + last.text + " percent.";
+    return text + Localized("Write %1 for %2 percent.",
+                            {PlainDecimal(last.number / 100, kFloatDigits),
+                             last.text});
   }
   if (is_number && (sign.Is("/") || sign.Is("*"))) {
-    return text + " Write the result, such as 0.5.";
+    return text + Localized("Write the result, such as 0.5.");
   }
-  return text + " Remove it.";
+  return text + Localized("Remove it.");
 }
 
 /// The number as its author wrote it, of which the game has read no more than
@@ -113,26 +120,36 @@ std::string PlainNumber(std::string number) {
   return read.ec == std::errc() ? PlainDecimal(value, kFloatDigits) : "0.6";
 }
 
+std::string TwoValuesText(const GameToken& value, const GameToken& behind) {
+  return Localized(
+      "The game finds %1 behind the value %2 and throws this whole skill block "
+      "away.",
+      {Quoted(behind.text), Quoted(value.text)});
+}
+
 std::string BehindValueText(const GameToken& token, const GameToken& value,
                             std::string_view line) {
   using Kind = GameToken::Kind;
   const bool is_in_number = value.kind == Kind::kNumber && !token.blank_before;
   if (is_in_number && (token.Is(",") || token.kind == Kind::kName)) {
     const std::string number = WholeNumber(value, token, line);
-    return "The game does not understand the number " + Quoted(number) +
-           std::string(kBlockIsLost) + " Write " + PlainNumber(number) + ".";
+    return Localized(
+        "The game does not understand the number %1 and throws this whole "
+        "skill block away. Write %2.",
+        {Quoted(number), PlainNumber(number)});
   }
   if (token.kind == Kind::kSign) return SignText(token, value);
   if (value.kind == Kind::kString && !token.blank_before) {
-    return "The text " + Quoted(value.text) +
-           " ends at its second quotation mark, and the game throws this "
-           "whole skill block away. Write ' for a quotation mark inside a "
-           "text.";
+    return Localized(
+        "The text %1 ends at its second quotation mark, and the game throws "
+        "this whole skill block away. Write ' for a quotation mark inside a "
+        "text.",
+        {Quoted(value.text)});
   }
-  return "The game finds " + Quoted(token.text) + " behind the value " +
-         Quoted(value.text) + std::string(kBlockIsLost) +
-         " Each key has one value; a text of several words stands in "
-         "quotation marks.";
+  return TwoValuesText(value, token) + " " +
+         Localized(
+             "Each key has one value; a text of several words stands in "
+             "quotation marks.");
 }
 
 }  // namespace
@@ -157,34 +174,40 @@ std::string_view NearestWord(std::string_view wrong,
 std::string AdviceForStray(const GameToken& token, std::string_view expected,
                            std::string_view bytes) {
   if (token.file != 0) {
-    return " It comes out of the file that this #include brings in, which "
-           "does not belong here. Move the #include to where it belongs, "
-           "or remove it.";
+    return Localized(
+        "It comes out of the file that this #include brings in, which does not "
+        "belong here. Move the #include to where it belongs, or remove it.");
   }
-  if (token.Is("}")) return " There is a } too many here or above. Remove it.";
-  if (token.Is(")") || token.Is("]")) return " Write } in its place.";
+  if (token.Is("}")) {
+    return Localized("There is a } too many here or above. Remove it.");
+  }
+  if (token.Is(")") || token.Is("]")) {
+    return Localized("Write } in its place.");
+  }
   if (token.kind == GameToken::Kind::kSign) {
-    return " Remove it; a comment begins with //.";
+    return Localized("Remove it; a comment begins with //.");
   }
   if (token.Is("define") || token.Is("include")) {
-    return " Write #" + token.text + ".";
+    return Localized("Write %1.", {"#" + token.text});
   }
   if (token.kind == GameToken::Kind::kName &&
       !NearestWord(token.text, {&expected, 1}).empty()) {
-    return " Write " + std::string(expected) + ".";
+    return Localized("Write %1.", {expected});
   }
   const bool is_behind_block = Contains(bytes.substr(0, token.span.begin), "}");
   if (token.kind != GameToken::Kind::kName) {
-    return is_behind_block ? " Perhaps there is a } too many above."
-                           : " Remove it.";
+    return is_behind_block ? Localized("Perhaps there is a } too many above.")
+                           : Localized("Remove it.");
   }
-  return " Perhaps " + std::string(expected) + " is meant" +
-         (is_behind_block ? ", or there is a } too many above." : ".");
+  return is_behind_block
+             ? Localized("Perhaps %1 is meant, or there is a } too many above.",
+                         {expected})
+             : Localized("Perhaps %1 is meant.", {expected});
 }
 
 std::string AdviceForMacroValue(std::string_view value) {
   constexpr std::string_view kDigits = "0123456789.";
-  if (value.empty()) return "Write a number behind it.";
+  if (value.empty()) return Localized("Write a number behind it.");
   const std::size_t digit = value.find_first_of(kDigits);
   if (digit != std::string_view::npos) {
     const std::size_t end =
@@ -192,10 +215,10 @@ std::string AdviceForMacroValue(std::string_view value) {
     const std::string number(value.substr(digit, end - digit));
     const std::string_view rest = value.substr(end);
     if (rest.find_first_of(kDigits) == std::string_view::npos) {
-      return "Write " + number + " and nothing else.";
+      return Localized("Write %1 and nothing else.", {number});
     }
   }
-  return "Write one number, such as 50.";
+  return Localized("Write one number, such as 50.");
 }
 
 Fault UnknownKey(const GameToken& key, const GameToken& last,
@@ -203,10 +226,10 @@ Fault UnknownKey(const GameToken& key, const GameToken& last,
   using Kind = GameToken::Kind;
   if (key.Is("skill")) {
     return {"block-not-closed",
-            "Skill block " + std::to_string(block.level) +
-                ", which begins in line " + std::to_string(block.line) +
-                ", has no } at its end, and the game throws it away. Write "
-                "the } above this line."};
+            Localized(
+                "Skill block %1, which begins in line %2, has no } at its end, "
+                "and the game throws it away. Write the } above this line.",
+                {std::to_string(block.level), std::to_string(block.line)})};
   }
   if (key.line == last.line && last.line > 0) {
     return {"not-one-value", BehindValueText(key, last, line)};
@@ -214,55 +237,67 @@ Fault UnknownKey(const GameToken& key, const GameToken& last,
   if (key.kind == Kind::kName) {
     return {"unknown-characteristic", UnknownNameText(key.text)};
   }
-  const std::string found = "The game finds " + Quoted(key.text);
+  const std::string found = Quoted(key.text);
   if (key.Is(")") || key.Is("]")) {
-    return {"not-a-key", found + " where it expects a key or a }" +
-                             std::string(kBlockIsLost) +
-                             " Write } in its place."};
+    return {
+        "not-a-key",
+        Localized("The game finds %1 where it expects a key or a } and throws "
+                  "this whole skill block away. Write } in its place.",
+                  {found})};
   }
   return {"not-a-key",
           key.kind == Kind::kSign
-              ? found + " in front of a key" + std::string(kBlockIsLost) +
-                    " Remove it; a comment begins with //."
-              : found + ", which belongs to no key," +
-                    std::string(kBlockIsLost) +
-                    " Write its key in front of it, or remove it."};
+              ? Localized(
+                    "The game finds %1 in front of a key and throws this whole "
+                    "skill block away. Remove it; a comment begins with //.",
+                    {found})
+              : Localized("The game finds %1, which belongs to no key, and "
+                          "throws this whole skill block away. Write its key "
+                          "in front of it, or remove it.",
+                          {found})};
 }
 
 std::string TwoNumbersText(const GameToken& value, const GameToken& behind) {
   const std::string whole = value.text + behind.text;
-  std::string text = "The game finds " + Quoted(behind.text);
-  text += " behind the value " + Quoted(value.text);
-  text += kBlockIsLost;
-  text += " Each key has one number";
-  return text + (std::ranges::count(whole, '.') > 1
-                     ? ": remove one of them."
-                     : ", without a blank inside: write " + whole +
-                           ", or remove one of them.");
+  return TwoValuesText(value, behind) + " " +
+         (std::ranges::count(whole, '.') > 1
+              ? Localized("Each key has one number: remove one of them.")
+              : Localized("Each key has one number, without a blank inside: "
+                          "write %1, or remove one of them.",
+                          {whole}));
 }
 
 std::string BadValueText(const GameToken& value, bool is_number_wanted,
                          std::string_view from) {
-  const std::string lost(kBlockIsLost);
   if (value.kind == GameToken::Kind::kLiteral) {
-    return "The game takes no text in single quotes (')" + lost +
-           " Put it in double ones (\").";
+    return Localized(
+        "The game takes no text in single quotes (') and throws this whole "
+        "skill block away. Put it in double ones (\").");
   }
   if (value.Is("-") || value.Is("+")) {
-    return "The game takes no sign in front of a number" + lost +
-           " Write 0 or more, without a sign.";
+    return Localized(
+        "The game takes no sign in front of a number and throws this whole "
+        "skill block away. Write 0 or more, without a sign.");
   }
   if (value.kind == GameToken::Kind::kSign) {
-    return "The game takes no " + Quoted(value.text) +
-           " between a key and its value" + lost + " Remove it.";
+    return Localized(
+        "The game takes no %1 between a key and its value and throws this "
+        "whole skill block away. Remove it.",
+        {Quoted(value.text)});
   }
-  std::string text = "The game finds " + Quoted(value.text) +
-                     " behind this key, which is neither a number nor a text,";
-  text += lost;
-  if (!is_number_wanted) return text + " Put a text in quotation marks.";
-  std::string number = WithDigits(WholeNumber(value, {}, from));
-  return text + " Write " + (number.empty() ? "a number" : number) +
-         (number.empty() ? ", such as 0.6." : ", in digits alone.");
+  const std::string text =
+      Localized(
+          "The game finds %1 behind this key, which is neither a number nor a "
+          "text, and throws this whole skill block away.",
+          {Quoted(value.text)}) +
+      " ";
+  if (!is_number_wanted) {
+    return text + Localized("Put a text in quotation marks.");
+  }
+  const std::string number = WithDigits(WholeNumber(value, {}, from));
+  return text + (number.empty()
+                     ? Localized("Write a number, such as 0.6.")
+                     : Localized("Write %1, in digits alone.", {number}));
 }
 
 }  // namespace fragsmith

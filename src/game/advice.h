@@ -16,7 +16,7 @@ std::string_view NearestWord(std::string_view wrong,
                              std::span<const std::string_view> words);
 
 /// What to do about a word that stands outside all blocks of a file with these
-/// bytes, where the game looks for this one: a sentence behind a blank.
+/// bytes, where the game looks for this one: a sentence.
 std::string AdviceForStray(const GameToken& token, std::string_view expected,
                            std::string_view bytes);
 

@@ -11,6 +11,7 @@
 #include "game/skill_mix.h"
 #include "game/weapon_order.h"
 #include "model/characteristic_catalogue.h"
+#include "support/localization.h"
 #include "support/random.h"
 
 namespace fragsmith {
@@ -71,31 +72,35 @@ struct KindRow {
 };
 
 constexpr std::array<KindRow, 4> kKinds = {{
-    {{"sniper", "Sniper", "Keeps its distance, railgun first."},
+    {{"sniper", Localizable("Sniper"),
+      Localizable("Keeps its distance, railgun first.")},
      kSniperSkills,
      {10, 150, 90, 60, 240, 400, 220, 200, 180, 5},
      {3, 3, 150, 100, 250, 80, 60, 350, 150, 120, 400},
      0.4},
-    {{"rusher", "Rusher", "Close and fast: lightning, shotgun, rockets."},
+    {{"rusher", Localizable("Rusher"),
+      Localizable("Close and fast: lightning, shotgun, rockets.")},
      kRusherSkills,
      {30, 360, 90, 150, 320, 200, 240, 400, 260, 5},
      {2.5, 2, 140, 80, 450, 100, 350, 150, 250, 60, 450},
      0.7},
-    {{"camper", "Camper", "Waits where the good things are."},
+    {{"camper", Localizable("Camper"),
+      Localizable("Waits where the good things are.")},
      kCamperSkills,
      {10, 220, 100, 160, 340, 380, 300, 200, 180, 5},
      {4, 3, 180, 190, 300, 150, 50, 300, 350, 50, 400},
      0.5},
-    {{"all-rounder", "All-rounder",
-      "A bit of everything, the right weapon for each distance."},
+    {{"all-rounder", Localizable("All-rounder"),
+      Localizable("A bit of everything, the right weapon for each distance.")},
      {},
      {10, 330, 110, 140, 360, 280, 260, 400, 300, 5},
      {3, 2.5, 150, 120, 350, 100, 150, 200, 250, 100, 450},
      0.3},
 }};
 
-constexpr BotKindText kSurpriseText = {"surprise", "Surprise me",
-                                       "Drawn by lot, always playable."};
+constexpr BotKindText kSurpriseText = {
+    "surprise", Localizable("Surprise me"),
+    Localizable("Drawn by lot, always playable.")};
 
 constexpr int kFirstItem = kOwnedPickupRange.last + 1;
 constexpr int kMachinegunPickup = 57;

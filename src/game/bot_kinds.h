@@ -18,7 +18,8 @@ inline constexpr std::array kBotKinds = {BotKind::kSniper, BotKind::kRusher,
                                          BotKind::kSurprise};
 
 struct BotKindText {
-  std::string_view key;      ///< "sniper", for the command line.
+  std::string_view key;  ///< "sniper", for the command line.
+  // In English; Localized() shows them.
   std::string_view caption;  ///< "Sniper".
   std::string_view about;    ///< A sentence.
 };

@@ -9,6 +9,7 @@
 #include "game/limits.h"
 #include "model/file_names.h"
 #include "model/game_characteristics.h"
+#include "support/localization.h"
 
 namespace fragsmith {
 namespace {
@@ -64,11 +65,10 @@ class BlockFaults {
   void TellNoValue(const GameToken& key) {
     source_.Complain(
         "value-missing", key,
-        "There is no value behind " +
-            Quoted(key.macro.empty() ? key.text : key.macro) +
-            ", and the game throws this whole skill block away. Write a "
-            "number behind it, or a text in quotation marks, or remove the "
-            "line.");
+        Localized("There is no value behind %1, and the game throws this whole "
+                  "skill block away. Write a number behind it, or a text in "
+                  "quotation marks, or remove the line.",
+                  {Quoted(key.macro.empty() ? key.text : key.macro)}));
   }
 
   GameSource& source_;
@@ -77,6 +77,26 @@ class BlockFaults {
   std::optional<GameToken> without_value_;
   std::optional<std::pair<GameToken, GameToken>> in_number_;
 };
+
+/// Of a characteristic that stands in this line already, or in another file.
+std::string TwiceText(int number, int first_line, int level) {
+  const bool is_known =
+      static_cast<std::size_t>(number) < kGameCharacteristics.size();
+  const std::string name =
+      is_known ? GameKeyName(number)
+               : Localized("Characteristic %1", {std::to_string(number)});
+  const std::string block = std::to_string(level);
+  if (first_line > 0) {
+    return Localized(
+        "%1 stands twice in skill block %2 (first in line %3), and the game "
+        "throws the whole block away. Remove one of the lines.",
+        {name, block, std::to_string(first_line)});
+  }
+  return Localized(
+      "%1 stands twice in skill block %2, and the game throws the whole block "
+      "away. Remove one of the lines.",
+      {name, block});
+}
 
 /// Reads up to the "}" of the block. When the file ends before, or an error
 /// ends it, the game keeps what it has.
@@ -92,32 +112,19 @@ bool ReadValues(GameSource& source, CharacterBlock& block) {
       return false;
     }
     if (key.number > limits::kMaxCharacteristic) {
-      faults.Tell("characteristic-out-of-range", key,
-                  "There is no characteristic " + Quoted(key.text) +
-                      "; the last one is number " +
-                      std::to_string(limits::kMaxCharacteristic) +
-                      ". The game throws this whole skill block away. Remove "
-                      "the line.");
+      faults.Tell(
+          "characteristic-out-of-range", key,
+          Localized(
+              "There is no characteristic %1; the last one is number %2. The "
+              "game throws this whole skill block away. Remove the line.",
+              {Quoted(key.text), std::to_string(limits::kMaxCharacteristic)}));
       return false;
     }
     const int number = static_cast<int>(key.number);
     const auto known = block.values.find(number);
     if (known != block.values.end()) {
-      const std::string name =
-          static_cast<std::size_t>(number) < kGameCharacteristics.size()
-              ? GameKeyName(number)
-              : "Characteristic " + std::to_string(number);
-      const std::string where =
-          known->second.line > 0
-              ? " (first in line " + std::to_string(known->second.line) + ")"
-              : "";
-      std::string text =
-          name + " stands twice in skill block " + std::to_string(block.level);
-      text += where;
-      text +=
-          ", and the game throws the whole block away. Remove one of the "
-          "lines.";
-      faults.Tell("characteristic-twice", key, std::move(text));
+      faults.Tell("characteristic-twice", key,
+                  TwiceText(number, known->second.line, block.level));
       return false;
     }
     if (!source.ReadAny(token)) return false;
@@ -176,11 +183,12 @@ std::optional<CharacterBlock> ReadCharacterBlock(const GameFile& file,
   while (source.Read(token)) {
     if (!token.Is("skill")) {
       if (source.ComplainOfLeak(token)) return std::nullopt;
-      source.Complain("outside-block", token,
-                      "The game finds " + Quoted(token.text) +
-                          " outside a skill block and reads no further. Here "
-                          "it expects skill, a number and {." +
-                          AdviceForStray(token, "skill", source.bytes()));
+      source.Complain(
+          "outside-block", token,
+          Localized("The game finds %1 outside a skill block and reads no "
+                    "further. Here it expects skill, a number and {.",
+                    {Quoted(token.text)}) +
+              " " + AdviceForStray(token, "skill", source.bytes()));
       return std::nullopt;
     }
     const int line = token.file == 0 ? token.line : 0;

@@ -7,6 +7,7 @@
 #include "game/chat_message.h"
 #include "game/limits.h"
 #include "support/code_page.h"
+#include "support/localization.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -21,21 +22,20 @@ bool Fits(GameSource& source, const GameToken& token, ChatFit fit) {
     case ChatFit::kTooLong:
       source.Complain(
           "chat-line-too-long", token,
-          "This chat line is too long: the game has room for " +
-              std::to_string(limits::kMaxEncodedBytes) +
-              " characters, counting 4 for a variable and the name and "
-              "3 more for a word list, and each of these may begin behind " +
-              std::to_string(limits::kMaxBeforeItem) +
-              " characters at most. Shorten it.");
+          Localized("This chat line is too long: the game has room for %1 "
+                    "characters, counting 4 for a variable and the name and 3 "
+                    "more for a word list, and each of these may begin behind "
+                    "%2 characters at most. Shorten it.",
+                    {std::to_string(limits::kMaxEncodedBytes),
+                     std::to_string(limits::kMaxBeforeItem)}));
       return false;
     case ChatFit::kOverflows:
-      source.Complain("chat-line-crash", token,
-                      "This chat line is too long, in a way that the game "
-                      "does not notice in time: it may crash. Shorten the "
-                      "line to " +
-                          std::to_string(limits::kMaxEncodedBytes) +
-                          " characters, counting 3 more for each "
-                          "word list.");
+      source.Complain(
+          "chat-line-crash", token,
+          Localized("This chat line is too long, in a way that the game does "
+                    "not notice in time: it may crash. Shorten the line to %1 "
+                    "characters, counting 3 more for each word list.",
+                    {std::to_string(limits::kMaxEncodedBytes)}));
       return false;
   }
   return false;
@@ -55,80 +55,110 @@ void ComplainOfEnd(GameSource& source, const GameChatType& type,
   const bool is_new_type =
       last.Is("type") && next.kind == GameToken::Kind::kString;
   if (is_new_type && last.file != 0 && !type.open.empty()) {
-    source.Complain("include-in-type", last,
-                    "The file that is included here has types of its own, and "
-                    "the type " +
-                        Quoted(type.name) +
-                        " has not ended. Move the #include out of the type.");
+    source.Complain(
+        "include-in-type", last,
+        Localized(
+            "The file that is included here has types of its own, and the type "
+            "%1 has not ended. Move the #include out of the type.",
+            {Quoted(type.name)}));
   } else if (is_new_type) {
-    source.Complain("chat-type-not-closed", last,
-                    "Here the next type begins, but the } of the type " +
-                        Quoted(type.name) +
-                        " above is missing. Write it in front of this line.");
+    source.Complain(
+        "chat-type-not-closed", last,
+        Localized("Here the next type begins, but the } of the type %1 above "
+                  "is missing. Write it in front of this line.",
+                  {Quoted(type.name)}));
   } else if (is_below) {
     source.Complain("chat-semicolon-missing", last,
-                    "A ; is missing at the end of this line: behind " +
-                        Quoted(last.text) + " the game finds " +
-                        Quoted(next.text) + " in line " +
-                        std::to_string(next.line) + ".");
+                    Localized("A ; is missing at the end of this line: behind "
+                              "%1 the game finds %2 in line %3.",
+                              {Quoted(last.text), Quoted(next.text),
+                               std::to_string(next.line)}));
   } else if (last.kind == GameToken::Kind::kString &&
              (next.kind == GameToken::Kind::kName ||
               next.kind == GameToken::Kind::kNumber)) {
-    source.Complain("chat-text-ends-early", next,
-                    "The text " + Quoted(last.text) +
-                        " ends here, and the game does not expect " +
-                        Quoted(next.text) +
-                        " behind it. A quotation mark inside a text ends it: "
-                        "write ' in its place. Between two parts of a line "
-                        "stands a comma.");
+    source.Complain(
+        "chat-text-ends-early", next,
+        Localized("The text %1 ends here, and the game does not expect %2 "
+                  "behind it. A quotation mark inside a text ends it: write ' "
+                  "in its place. Between two parts of a line stands a comma.",
+                  {Quoted(last.text), Quoted(next.text)}));
   } else if (last.kind == GameToken::Kind::kName &&
              next.kind != GameToken::Kind::kString) {
-    source.Complain("chat-text-unquoted", last,
-                    "The game takes " + Quoted(last.text) +
-                        " for the name of a word list, as it stands outside "
-                        "quotation marks, and does not expect " +
-                        Quoted(next.text) +
-                        " behind it. Put the text in quotation marks (\").");
+    source.Complain(
+        "chat-text-unquoted", last,
+        Localized("The game takes %1 for the name of a word list, as it stands "
+                  "outside quotation marks, and does not expect %2 behind it. "
+                  "Put the text in quotation marks (\").",
+                  {Quoted(last.text), Quoted(next.text)}));
   } else {
-    source.Complain("chat-separator-missing", next,
-                    "The game expects a comma or a ; behind " +
-                        Quoted(last.text) + " but finds " + Quoted(next.text) +
-                        ". Write a ; at the end of the line, and a comma "
-                        "between its parts.");
+    source.Complain(
+        "chat-separator-missing", next,
+        Localized(
+            "The game expects a comma or a ; behind %1 but finds %2. Write a ; "
+            "at the end of the line, and a comma between its parts.",
+            {Quoted(last.text), Quoted(next.text)}));
   }
 }
 
 /// What to say of a word that is no part of a line.
 std::string PartText(const GameToken& token, bool is_first) {
   if (token.kind == GameToken::Kind::kLiteral) {
-    return "The game takes no text in single quotes ('). Put it in double "
-           "ones (\").";
+    return Localized(
+        "The game takes no text in single quotes ('). Put it in double ones "
+        "(\").");
   }
   if (token.kind == GameToken::Kind::kNumber) {
-    return "The game finds the number " + Quoted(token.text) +
-           " in a chat line, and a variable has no point. Write a whole number "
-           "from 0 to 5.";
+    return Localized(
+        "The game finds the number %1 in a chat line, and a variable has no "
+        "point. Write a whole number from 0 to 5.",
+        {Quoted(token.text)});
   }
   if (token.Is(";")) {
-    return is_first ? "There is no line in front of this ;. Remove it."
-                    : "The line ends in a comma. Remove the comma in front of "
-                      "the ;.";
+    return is_first
+               ? Localized("There is no line in front of this ;. Remove it.")
+               : Localized(
+                     "The line ends in a comma. Remove the comma in front of "
+                     "the ;.");
   }
   if (token.Is("}")) {
-    return "The line ends in a comma. Write a ; in place of the comma.";
+    return Localized(
+        "The line ends in a comma. Write a ; in place of the comma.");
   }
   if (token.Is(",")) {
-    return "There is nothing in front of this comma. Remove the comma.";
+    return Localized(
+        "There is nothing in front of this comma. Remove the comma.");
   }
   if (token.Is("{")) {
-    return is_first ? "A chat type begins with one {, and a ready-made line is "
-                      "its bare name, such as HELLO0. Remove the brace."
-                    : "In the file a variable is a number outside the "
-                      "quotation marks, such as \"well done, \", 0; and a word "
-                      "list its bare name. Write it without braces.";
+    return is_first
+               ? Localized(
+                     "A chat type begins with one {, and a ready-made line is "
+                     "its bare name, such as HELLO0. Remove the brace.")
+               : Localized(
+                     "In the file a variable is a number outside the quotation "
+                     "marks, such as \"well done, \", 0; and a word list its "
+                     "bare name. Write it without braces.");
   }
-  return "The game takes no " + Quoted(token.text) +
-         " outside quotation marks. Remove it; a comment begins with //.";
+  return Localized(
+      "The game takes no %1 outside quotation marks. Remove it; a comment "
+      "begins with //.",
+      {Quoted(token.text)});
+}
+
+/// Of a file without the bot's chat; the other one that it has may be none.
+std::string NoChatText(std::string_view chat_name, const std::string& other) {
+  const std::string name = Quoted(chat_name);
+  const std::string text = other.empty()
+                               ? Localized(
+                                     "The game looks for a chat named %1 in "
+                                     "this file and finds none.",
+                                     {name})
+                               : Localized(
+                                     "The game looks for a chat named %1 in "
+                                     "this file but finds one named %2.",
+                                     {name, Quoted(other)});
+  return text + " " +
+         Localized("The name behind chat must equal %1 of the character file.",
+                   {"CHARACTERISTIC_CHAT_NAME"});
 }
 
 /// One line of a chat type, up to its ";".
@@ -176,11 +206,10 @@ bool ReadTypes(GameSource& source, GameChat& chat) {
     if (token.Is("}")) return true;
     if (!token.Is("type")) {
       source.Complain("chat-syntax", token,
-                      "Between chat types the game finds " +
-                          Quoted(token.text) +
-                          " where it expects type and a name in quotation "
-                          "marks." +
-                          AdviceForStray(token, "type", source.bytes()));
+                      Localized("Between chat types the game finds %1 where it "
+                                "expects type and a name in quotation marks.",
+                                {Quoted(token.text)}) +
+                          " " + AdviceForStray(token, "type", source.bytes()));
       return false;
     }
     if (!source.ExpectString(token)) return false;
@@ -213,11 +242,12 @@ bool ReadGameChat(const GameFile& file, std::string_view chat_name,
   int line = 0;
   while (source.Read(token)) {
     if (!token.Is("chat")) {
-      source.Complain("outside-chat", token,
-                      "The game finds " + Quoted(token.text) +
-                          " outside a chat. Here it expects chat, a name in "
-                          "quotation marks and {." +
-                          AdviceForStray(token, "chat", source.bytes()));
+      source.Complain(
+          "outside-chat", token,
+          Localized("The game finds %1 outside a chat. Here it expects chat, a "
+                    "name in quotation marks and {.",
+                    {Quoted(token.text)}) +
+              " " + AdviceForStray(token, "chat", source.bytes()));
       return false;
     }
     if (!source.ExpectString(token)) return false;
@@ -237,14 +267,8 @@ bool ReadGameChat(const GameFile& file, std::string_view chat_name,
   }
   if (source.is_endless()) return false;
   if (!is_found) {
-    std::string text = "The game looks for a chat named " + Quoted(chat_name) +
-                       " in this file";
-    text += other.empty() ? " and finds none"
-                          : " but finds one named " + Quoted(other);
     findings.Add("chat-name", Severity::kError, file.name, line,
-                 text +
-                     ". The name behind chat must equal "
-                     "CHARACTERISTIC_CHAT_NAME of the character file.");
+                 NoChatText(chat_name, other));
   }
   return is_found;
 }

@@ -6,6 +6,7 @@
 
 #include "game/number.h"
 #include "model/characteristic_catalogue.h"
+#include "support/localization.h"
 
 namespace fragsmith {
 namespace {
@@ -41,80 +42,100 @@ constexpr Fills kRoaming = {kOpponent, kLastVictim, kInvalid,
 constexpr double kRandomFactor = 0.025;
 
 constexpr std::array<ChatTypeFacts, kChatTypeCount> kFacts = {{
-    {"", "Once, when the bot has just joined the game.", kEnterExit, 1, true,
-     kEntry},
-    {"Never", "when the bot leaves, the game no longer counts it in.",
+    {"", Localizable("Once, when the bot has just joined the game."),
+     kEnterExit, 1, true, kEntry},
+    {Localizable("Never"),
+     Localizable("when the bot leaves, the game no longer counts it in."),
      kEnterExit, 1, false, kEntry},
-    {"Practically never",
-     "only a level that begins again without being "
-     "loaded asks for it.",
+    {Localizable("Practically never"),
+     Localizable("only a level that begins again without being "
+                 "loaded asks for it."),
      kStartEnd, 1, false, kOwnNameOnly},
-    {"", "When a level ends and the bot is neither first nor last.", kStartEnd,
-     1, true, kEnd},
-    {"", "When a level ends and the bot is first.", kStartEnd, 1, true,
-     kVictory},
-    {"", "When a level ends and the bot is last.", kStartEnd, 1, true, kDefeat},
-    {"Seldom",
-     "when the bot is hit while it types an answer, but not by the "
-     "host of a local game.",
+    {"",
+     Localizable("When a level ends and the bot is neither first nor last."),
+     kStartEnd, 1, true, kEnd},
+    {"", Localizable("When a level ends and the bot is first."), kStartEnd, 1,
+     true, kVictory},
+    {"", Localizable("When a level ends and the bot is last."), kStartEnd, 1,
+     true, kDefeat},
+    {Localizable("Seldom"),
+     Localizable("when the bot is hit while it types an answer, but not by the "
+                 "host of a local game."),
      kHitTalking, 0.5, true, kHit},
-    {"Seldom",
-     "when the bot is hit in a fight and lives, and its enemy is out "
-     "of sight and not the host of a local game.",
+    {Localizable("Seldom"),
+     Localizable(
+         "when the bot is hit in a fight and lives, and its enemy is out "
+         "of sight and not the host of a local game."),
      kHitNoDeath, 0.5, true, kHit},
-    {"Seldom", "when the bot has hit its enemy, who lives and is out of sight.",
+    {Localizable("Seldom"),
+     Localizable(
+         "when the bot has hit its enemy, who lives and is out of sight."),
      kHitNoKill, 0.5, true, kHits},
-    {"", "When somebody has telefragged the bot.", kDeath, 1, true,
+    {"", Localizable("When somebody has telefragged the bot."), kDeath, 1, true,
      kTelefragged},
-    {"", "When the bot has fallen to its death.", kDeath, 1, true, kAccident},
-    {"", "When the bot has died in lava.", kDeath, 1, true, kAccident},
-    {"", "When the bot has died in slime.", kDeath, 1, true, kAccident},
-    {"", "When the bot has drowned.", kDeath, 1, true, kAccident},
-    {"", "When the bot has killed itself or was crushed.", kDeath, 1, true,
+    {"", Localizable("When the bot has fallen to its death."), kDeath, 1, true,
      kAccident},
-    {"", "Every second time when the bot was killed with the gauntlet.", kDeath,
-     1, true, kKilled},
-    {"", "Every second time when the bot was killed with the railgun.", kDeath,
-     1, true, kKilled},
-    {"", "Every second time when the bot was killed with the BFG10K.", kDeath,
-     1, true, kKilled},
+    {"", Localizable("When the bot has died in lava."), kDeath, 1, true,
+     kAccident},
+    {"", Localizable("When the bot has died in slime."), kDeath, 1, true,
+     kAccident},
+    {"", Localizable("When the bot has drowned."), kDeath, 1, true, kAccident},
+    {"", Localizable("When the bot has killed itself or was crushed."), kDeath,
+     1, true, kAccident},
     {"",
-     "After any other death; \"Insult\" is the share of this type against "
-     "\"Bot dies (positive)\".",
+     Localizable(
+         "Every second time when the bot was killed with the gauntlet."),
      kDeath, 1, true, kKilled},
     {"",
-     "After any other death; \"Insult\" is the share of \"Bot dies "
-     "(negative)\" against this type.",
+     Localizable("Every second time when the bot was killed with the railgun."),
      kDeath, 1, true, kKilled},
-    {"Seldom",
-     "a second after a kill with the railgun, when no enemy is in "
-     "sight.",
-     kKill, 1, true, kKills},
-    {"Seldom",
-     "a second after a kill with the gauntlet, when no enemy is in "
-     "sight.",
-     kKill, 1, true, kKills},
-    {"Seldom",
-     "a second after the bot has telefragged somebody, when no enemy "
-     "is in sight.",
-     kKill, 1, true, kKills},
-    {"Never", "the game does not ask for lines of this type.", std::nullopt, 0,
-     false, kNone},
     {"",
-     "A second after any other kill, when no enemy is in sight; \"Insult\" is "
-     "the share of this type against \"Bot kills (positive)\".",
+     Localizable("Every second time when the bot was killed with the BFG10K."),
+     kDeath, 1, true, kKilled},
+    {"",
+     Localizable(
+         "After any other death; \"Insult\" is the share of this type against "
+         "\"Bot dies (positive)\"."),
+     kDeath, 1, true, kKilled},
+    {"",
+     Localizable("After any other death; \"Insult\" is the share of \"Bot dies "
+                 "(negative)\" against this type."),
+     kDeath, 1, true, kKilled},
+    {Localizable("Seldom"),
+     Localizable("a second after a kill with the railgun, when no enemy is in "
+                 "sight."),
+     kKill, 1, true, kKills},
+    {Localizable("Seldom"),
+     Localizable("a second after a kill with the gauntlet, when no enemy is in "
+                 "sight."),
+     kKill, 1, true, kKills},
+    {Localizable("Seldom"),
+     Localizable(
+         "a second after the bot has telefragged somebody, when no enemy "
+         "is in sight."),
+     kKill, 1, true, kKills},
+    {Localizable("Never"),
+     Localizable("the game does not ask for lines of this type."), std::nullopt,
+     0, false, kNone},
+    {"",
+     Localizable("A second after any other kill, when no enemy is in sight; "
+                 "\"Insult\" is "
+                 "the share of this type against \"Bot kills (positive)\"."),
      kKill, 1, true, kKills},
     {"",
-     "A second after any other kill, when no enemy is in sight; \"Insult\" is "
-     "the share of \"Bot kills (negative)\" against this type.",
+     Localizable("A second after any other kill, when no enemy is in sight; "
+                 "\"Insult\" is "
+                 "the share of \"Bot kills (negative)\" against this type."),
      kKill, 1, true, kKills},
     {"",
-     "Now and then while the bot roams and no enemy is in sight; \"Misc\" is "
-     "the share of \"Random misc\" against this type.",
+     Localizable("Now and then while the bot roams and no enemy is in sight; "
+                 "\"Misc\" is "
+                 "the share of \"Random misc\" against this type."),
      kRandomChatRate, kRandomFactor, true, kRoaming},
     {"",
-     "Now and then while the bot roams and no enemy is in sight; \"Misc\" is "
-     "the share of this type against \"Random insult\".",
+     Localizable("Now and then while the bot roams and no enemy is in sight; "
+                 "\"Misc\" is "
+                 "the share of this type against \"Random insult\"."),
      kRandomChatRate, kRandomFactor, true, kRoaming},
 }};
 
@@ -125,9 +146,8 @@ const ChatTypeFacts& FactsOfChatType(ChatTypeId type) {
 }
 
 std::string WhenText(const ChatTypeFacts& facts) {
-  std::string text(facts.rarity);
-  if (!text.empty()) text += ": ";
-  return text.append(facts.when);
+  const std::string when = Localized(facts.when);
+  return facts.rarity.empty() ? when : Localized(facts.rarity) + ": " + when;
 }
 
 ChatFill FillOf(ChatTypeId type, int variable) {
@@ -136,37 +156,38 @@ ChatFill FillOf(ChatTypeId type, int variable) {
   return index < fills.size() ? fills.at(index) : kNothing;
 }
 
-std::string_view FillText(ChatFill fill) {
+std::string FillText(ChatFill fill) {
   switch (fill) {
     case kNothing:
-      return "nothing";
+      return Localized("nothing");
     case kInvalid:
-      return "the words \"[invalid var]\"";
+      return Localized("the words \"[invalid var]\"");
     case kOwnName:
-      return "the bot's own name";
+      return Localized("the bot's own name");
     case kOpponent:
-      return "the name of some opponent";
+      return Localized("the name of some opponent");
     case kFirst:
-      return "the name of the first in score";
+      return Localized("the name of the first in score");
     case kLast:
-      return "the name of the last in score";
+      return Localized("the name of the last in score");
     case kMap:
-      return "the file name of the map, not its title";
+      return Localized("the file name of the map, not its title");
     case kAttacker:
-      return "the name of the attacker";
+      return Localized("the name of the attacker");
     case kEnemy:
-      return "the name of the enemy";
+      return Localized("the name of the enemy");
     case kKiller:
-      return "the name of the killer";
+      return Localized("the name of the killer");
     case kVictim:
-      return "the name of the victim";
+      return Localized("the name of the victim");
     case kLastVictim:
-      return "the name of the bot's last victim, or of anybody before its "
-             "first kill";
+      return Localized(
+          "the name of the bot's last victim, or of anybody before its first "
+          "kill");
     case kWeapon:
-      return "the weapon that was used";
+      return Localized("the weapon that was used");
     case kRandomWeapon:
-      return "the name of some weapon";
+      return Localized("the name of some weapon");
   }
   return {};
 }

@@ -38,8 +38,9 @@ inline constexpr std::size_t kFilledVariables = 6;
 
 /// When the game asks the bot for a line of a type, and with what.
 struct ChatTypeFacts {
+  // In English; Localized() shows them.
   std::string_view rarity;  ///< "Seldom", "Never"; empty where neither holds.
-  std::string_view when;    ///< A sentence, behind the rarity if any. UTF-8.
+  std::string_view when;    ///< A sentence, behind the rarity if any.
   /// The chat characteristic that gives the chance.
   std::optional<ParameterId> chance;
   double chance_factor;  ///< The chance is the characteristic x this.
@@ -49,13 +50,13 @@ struct ChatTypeFacts {
 
 const ChatTypeFacts& FactsOfChatType(ChatTypeId type);
 
-/// The rarity and when, as one sentence.
+/// The rarity and when, as one sentence. UTF-8.
 std::string WhenText(const ChatTypeFacts& facts);
 
 /// What the variable of that number holds in the situation, and how that is
 /// called: "the killer's name". Numbers beyond those known hold nothing.
 ChatFill FillOf(ChatTypeId type, int variable);
-std::string_view FillText(ChatFill fill);
+std::string FillText(ChatFill fill);
 
 /// True where the bot draws lines of the type at all: the shares of insults
 /// and of "Random misc" may leave it out.

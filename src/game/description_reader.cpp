@@ -9,6 +9,7 @@
 #include "game/file_faults.h"
 #include "game/limits.h"
 #include "support/game_blank.h"
+#include "support/localization.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -126,7 +127,8 @@ class SetReader {
       if (is_end) {
         if (!set_.is_open) {
           Complain("description-brace", Severity::kHint,
-                   "The } at the end is missing; the game does not mind.");
+                   Localized(
+                       "The } at the end is missing; the game does not mind."));
         }
         break;
       }
@@ -136,28 +138,19 @@ class SetReader {
       if (is_stray && told_line_ != line_ &&
           Contains("#;", last_key_.substr(0, 1))) {
         Complain("description-hash", Severity::kWarning,
-                 "The game takes the words of this line for keys and values. A "
-                 "comment begins with //.");
+                 Localized("The game takes the words of this line for keys and "
+                           "values. A comment begins with //."));
         told_line_ = line_;
       } else if (is_stray && told_line_ != line_ && Contains(key, "\"")) {
         Complain("description-more-words", Severity::kWarning,
-                 "Of " + Quoted(last_key_) + " the game reads only " +
-                     Quoted(last_value_) +
-                     ", as a quotation mark inside a text ends it. Remove the "
-                     "quotation marks inside the text, or write ' for them.",
+                 Localized("Of %1 the game reads only %2, as a quotation mark "
+                           "inside a text ends it. Remove the quotation marks "
+                           "inside the text, or write ' for them.",
+                           {Quoted(last_key_), Quoted(last_value_)}),
                  last_key_);
         told_line_ = line_;
       } else if (is_stray && told_line_ != line_) {
-        const std::string_view curly =
-            AdviceForCurlyQuotes(LineOfFile(file_.bytes, line_));
-        std::string text = "Of " + Quoted(last_key_);
-        text += " the game reads only " + Quoted(last_value_);
-        text += ", and takes " + Quoted(key) + " behind it for a key.";
-        text += curly.empty()
-                    ? " Put a text of several words in quotation marks."
-                    : curly;
-        Complain("description-more-words", Severity::kWarning, std::move(text),
-                 last_key_);
+        TellMoreWords(key);
       }
       ReadValue(key, is_stray);
     }
@@ -167,6 +160,22 @@ class SetReader {
   }
 
  private:
+  /// Behind the value of the last key.
+  void TellMoreWords(const std::string& word) {
+    const std::string_view curly =
+        AdviceForCurlyQuotes(LineOfFile(file_.bytes, line_));
+    Complain(
+        "description-more-words", Severity::kWarning,
+        Localized(
+            "Of %1 the game reads only %2, and takes %3 behind it for a key.",
+            {Quoted(last_key_), Quoted(last_value_), Quoted(word)}) +
+            (curly.empty()
+                 ? " " + Localized(
+                             "Put a text of several words in quotation marks.")
+                 : Localized(curly)),
+        last_key_);
+  }
+
   /// A { or }, where a key should stand.
   void TakeBrace(const std::string& key) {
     if (key != "{" && !key.starts_with('}')) return;
@@ -182,14 +191,15 @@ class SetReader {
     line_ = second_name_line_;
     if (has_two_files_) {
       Complain(kBotsMerged, Severity::kError,
-               "The } and the { between two bots are missing above this line, "
-               "so the game makes one bot of two and does not know " +
-                   Quoted(lost_name_) + ". Write } and { above this line.");
+               Localized("The } and the { between two bots are missing above "
+                         "this line, so the game makes one bot of two and does "
+                         "not know %1. Write } and { above this line.",
+                         {Quoted(lost_name_)}));
     } else {
       Complain("name-twice", Severity::kWarning,
-               "The bot has a second name here: the game takes the last and "
-               "does not know " +
-                   Quoted(lost_name_) + ". Remove one of the lines.",
+               Localized("The bot has a second name here: the game takes the "
+                         "last and does not know %1. Remove one of the lines.",
+                         {Quoted(lost_name_)}),
                "name");
     }
   }
@@ -199,26 +209,29 @@ class SetReader {
       if (!lost_name_.empty()) TellSecondName();
       return;
     }
-    const std::string begin =
-        "the bot that begins in line " + std::to_string(set_.line);
+    const std::string begin = std::to_string(set_.line);
     line_ = brace_line_;
     if (lost_name_.empty()) {
-      Complain("description-stray-brace", Severity::kWarning,
-               brace_ == "{"
-                   ? "There is a { too many here. Remove it."
-                   : "The game does not see the } of " + begin + " in " +
-                         Quoted(brace_) + ". Write } and a blank behind it.");
+      Complain(
+          "description-stray-brace", Severity::kWarning,
+          brace_ == "{"
+              ? Localized("There is a { too many here. Remove it.")
+              : Localized("The game does not see the } of the bot that begins "
+                          "in line %1 in %2. Write } and a blank behind it.",
+                          {begin, Quoted(brace_)}));
       return;
     }
     Complain(
         kBotsMerged, Severity::kError,
-        (brace_ == "{" ? "The } of " + begin + " is missing above this line"
-                       : "The game does not see the } of " + begin + " in " +
-                             Quoted(brace_)) +
-            ", so the game makes one bot of two and does not know " +
-            Quoted(lost_name_) +
-            (brace_ == "{" ? ". Write } in front of this line."
-                           : ". Write } and a blank behind it."));
+        brace_ == "{"
+            ? Localized("The } of the bot that begins in line %1 is missing "
+                        "above this line, so the game makes one bot of two and "
+                        "does not know %2. Write } in front of this line.",
+                        {begin, Quoted(lost_name_)})
+            : Localized("The game does not see the } of the bot that begins in "
+                        "line %1 in %2, so the game makes one bot of two and "
+                        "does not know %3. Write } and a blank behind it.",
+                        {begin, Quoted(brace_), Quoted(lost_name_)}));
   }
 
   void Complain(std::string_view id, Severity severity, std::string text,
@@ -238,24 +251,24 @@ class SetReader {
     before = before.substr(0, before.find('='));
     if (before.size() < key.size() && IsKnownKey(before)) {
       Complain("description-equals", LossOf(before),
-               "The game takes " + Quoted(key) + " for one word. Write " +
-                   std::string(before) +
-                   ", a blank and the value, without a =.",
+               Localized("The game takes %1 for one word. Write %2, a blank "
+                         "and the value, without a =.",
+                         {Quoted(key), before}),
                before);
     } else if (value.starts_with('=') &&
                span.end - span.begin == value.size()) {
       const bool is_path = EqualIgnoringCase(key, "aifile");
-      Complain("description-equals",
-               is_path ? Severity::kError : Severity::kWarning,
-               "The game takes " + Quoted(value) + " for the value of " +
-                   Quoted(key) +
-                   ". Remove the =: the value stands behind its key, with a "
-                   "blank between them.",
-               key);
+      Complain(
+          "description-equals", is_path ? Severity::kError : Severity::kWarning,
+          Localized("The game takes %1 for the value of %2. Remove the =: the "
+                    "value stands behind its key, with a blank between them.",
+                    {Quoted(value), Quoted(key)}),
+          key);
     } else if (key.ends_with(':') && IsKnownKey(without_last)) {
       Complain("description-colon", Severity::kWarning,
-               "The game does not know the key " + Quoted(key) +
-                   " and passes over this line. Remove the colon.",
+               Localized("The game does not know the key %1 and passes over "
+                         "this line. Remove the colon.",
+                         {Quoted(key)}),
                without_last);
     } else {
       return;
@@ -275,9 +288,9 @@ class SetReader {
     if (is_path && !EndsWithIgnoringCase(before, ".c")) return;
     Complain(
         "description-comment", is_path ? Severity::kError : Severity::kWarning,
-        "The comment stands right behind " + Quoted(before) +
-            ", and the game takes " + Quoted(value) + " for the value of " +
-            Quoted(key) + ". Put a blank in front of the comment.",
+        Localized("The comment stands right behind %1, and the game takes %2 "
+                  "for the value of %3. Put a blank in front of the comment.",
+                  {Quoted(before), Quoted(value), Quoted(key)}),
         key);
     told_line_ = line_;
   }
@@ -288,24 +301,27 @@ class SetReader {
     const TextSpan span = words_.span();
     if (words_.has_open_quote()) {
       set_.is_open = true;
-      Complain("description-quote", Severity::kError,
-               "The quotation mark in this line is never closed: the game "
-               "takes the rest of the file for the value of " +
-                   Quoted(key) +
-                   ", and goes on in another bot's description, whose files "
-                   "it may take. Close it.",
-               key);
+      Complain(
+          "description-quote", Severity::kError,
+          Localized(
+              "The quotation mark in this line is never closed: the game takes "
+              "the rest of the file for the value of %1, and goes on in "
+              "another bot's description, whose files it may take. Close it.",
+              {Quoted(key)}),
+          key);
     }
     TellEquals(key, value, span);
     TellComment(key, value, span);
     const bool has_value = !value.empty();
     if (!has_value) value = kNoDescriptionValue;
     if (!has_value && !is_stray && told_line_ != line_) {
-      Complain("description-no-value", Severity::kWarning,
-               "There is no value behind " + Quoted(key) +
-                   " on its line, so the game takes <NULL> for it. Write the "
-                   "value behind it or remove the line.",
-               key);
+      Complain(
+          "description-no-value", Severity::kWarning,
+          Localized(
+              "There is no value behind %1 on its line, so the game takes "
+              "<NULL> for it. Write the value behind it or remove the line.",
+              {Quoted(key)}),
+          key);
     }
     last_key_ = key;
     last_value_ = value;
@@ -329,13 +345,14 @@ class SetReader {
     if (is_told && !is_too_long) return;
     Complain("description-sign", LossOf(key),
              is_too_long
-                 ? "This line does not fit into the " +
-                       std::to_string(limits::kMaxDescription) +
-                       " characters that the "
-                       "game keeps of a bot, and is lost. Shorten the values."
-                 : "The game throws this line away, because " + Quoted(key) +
-                       " or its value holds a ;, a \\ or a \". Remove the "
-                       "sign; in a path write / for \\.",
+                 ? Localized(
+                       "This line does not fit into the %1 characters that the "
+                       "game keeps of a bot, and is lost. Shorten the values.",
+                       {std::to_string(limits::kMaxDescription)})
+                 : Localized("The game throws this line away, because %1 or "
+                             "its value holds a ;, a \\ or a \". Remove the "
+                             "sign; in a path write / for \\.",
+                             {Quoted(key)}),
              key);
   }
 
@@ -381,21 +398,22 @@ std::vector<DescriptionSet> ReadGameDescription(const GameFile& file,
                                                 Complaints& findings) {
   std::vector<DescriptionSet> sets;
   if (file.bytes.size() >= limits::kRefusedDescription) {
-    findings.Add("description-too-large", Severity::kError, file.name, 0,
-                 "The file has " + std::to_string(limits::kRefusedDescription) +
-                     " bytes or more, and the game does not read "
-                     "it at all. Shorten it, for example its comments.");
+    findings.Add(
+        "description-too-large", Severity::kError, file.name, 0,
+        Localized("The file has %1 bytes or more, and the game does not read "
+                  "it at all. Shorten it, for example its comments.",
+                  {std::to_string(limits::kRefusedDescription)}));
     return sets;
   }
   WordReader words(file.bytes);
   while (!words.at_end() && sets.size() < limits::kMaxDescriptions) {
     const std::string word = words.Next(false);
     if (word != "{") {
-      findings.Add("description-brace", Severity::kError, file.name,
-                   words.line(),
-                   "The game expects { here but finds " + Quoted(word) +
-                       ", and passes over the rest of the file. Each bot's "
-                       "lines stand between { and }.");
+      findings.Add(
+          "description-brace", Severity::kError, file.name, words.line(),
+          Localized("The game expects { here but finds %1, and passes over the "
+                    "rest of the file. Each bot's lines stand between { and }.",
+                    {Quoted(word)}));
       break;
     }
     sets.push_back(SetReader(words, file, findings).Read());

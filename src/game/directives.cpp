@@ -1,19 +1,17 @@
-// What GameSource makes of lines with # and of $evalint.
+// What GameSource makes of lines with # and of $.
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <utility>
 
 #include "chat/vocabulary.h"
 #include "game/advice.h"
-#include "game/expression.h"
 #include "game/game_path.h"
 #include "game/limits.h"
 #include "game/preprocessor.h"
 #include "model/file_names.h"
 #include "support/code_page.h"
-#include "support/numbers.h"
+#include "support/localization.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -22,18 +20,6 @@ namespace {
 /// An #include counts as so many tokens, however small its file: the game's
 /// own files have a handful of them.
 constexpr std::size_t kWorkOfInclude = 5'000;
-
-/// The number of the bot's own file that a calculation rests on; nothing where
-/// there are several.
-std::optional<OwnNumber> CommonOwnNumber(const std::vector<GameToken>& tokens) {
-  std::optional<OwnNumber> common;
-  for (const GameToken& token : tokens) {
-    if (!token.own) continue;
-    if (common && common != token.own) return std::nullopt;
-    common = token.own;
-  }
-  return common;
-}
 
 /// A file of the game that was most likely meant by one that is not there;
 /// empty where there is none.
@@ -60,9 +46,9 @@ bool GameSource::Directive() {
   if (!has_word || token.lines_crossed > 0) {
     if (has_word) Unread(std::move(token));
     Complain("lone-hash", Here(),
-             "A # stands here without a command behind it, and the game stops "
-             "at it. Delete it, or put the text it belongs to in quotation "
-             "marks.");
+             Localized("A # stands here without a command behind it, and the "
+                       "game stops at it. Delete it, or put the text it "
+                       "belongs to in quotation marks."));
     return false;
   }
   // The game looks for these even where it passes over everything else.
@@ -78,7 +64,7 @@ bool GameSource::Directive() {
   if (token.Is("undef")) return is_skipped || Undefine();
   if (token.Is("pragma")) {
     Warn("pragma", token,
-         "The game does nothing with #pragma. Remove the line.");
+         Localized("The game does nothing with #pragma. Remove the line."));
     while (ReadRestOfLine(token)) {
     }
     return true;
@@ -97,12 +83,13 @@ bool GameSource::Directive() {
       "endif",  "else",    "elif",  "eval",  "evalfloat"};
   const std::string_view nearest = NearestWord(token.text, kCommands);
   Complain("unknown-command", token,
-           "The game knows no command #" + ShownText(token.text) +
-               " and stops at it. " +
-               (nearest.empty() ? "A # may only begin a command such as "
-                                  "#include or #define; a comment begins "
-                                  "with //."
-                                : "Write #" + std::string(nearest) + "."));
+           Localized("The game knows no command %1 and stops at it.",
+                     {"#" + ShownText(token.text)}) +
+               " " +
+               (nearest.empty()
+                    ? Localized("A # may only begin a command such as #include "
+                                "or #define; a comment begins with //.")
+                    : Localized("Write %1.", {"#" + std::string(nearest)})));
   return false;
 }
 
@@ -114,9 +101,10 @@ bool GameSource::Dollar() {
       !(token.Is("evalint") || token.Is("evalfloat"))) {
     // The game reads it again when it forgets the error.
     if (has_word) Unread(std::move(token));
-    Complain("lone-dollar", here,
-             "A $ stands here that belongs to no $evalint or $evalfloat, and "
-             "the game stumbles over it. Delete it.");
+    Complain(
+        "lone-dollar", here,
+        Localized("A $ stands here that belongs to no $evalint or $evalfloat, "
+                  "and the game stumbles over it. Delete it."));
     return false;
   }
   if (skipped_ > 0) return true;
@@ -137,9 +125,10 @@ bool GameSource::Include() {
     GameToken part;
     while (ReadRestOfLine(part) && !part.Is(">")) path += part.text;
   } else {
-    Complain("include-without-name", Here(),
-             "The name of the file to include must stand behind #include, on "
-             "the same line and in double quotation marks (\").");
+    Complain(
+        "include-without-name", Here(),
+        Localized("The name of the file to include must stand behind #include, "
+                  "on the same line and in double quotation marks (\")."));
     return false;
   }
   path = NormalGamePath(path);
@@ -149,8 +138,8 @@ bool GameSource::Include() {
       });
   if (is_open) {
     Warn("includes-itself", token,
-         "This file includes itself, and the game passes over that line. "
-         "Remove it.");
+         Localized("This file includes itself, and the game passes over that "
+                   "line. Remove it."));
     return true;
   }
   // No name at all is the folder botfiles, and passes for an empty file.
@@ -160,9 +149,9 @@ bool GameSource::Include() {
   if (!bytes && ComplainOfJoinedName(token)) return false;
   if (!bytes && !findings_.is_game_known()) {
     Report("not-looked-at", Severity::kHint, token,
-           "The file \"" + InBotFiles(ShownText(path)) +
-               "\" is the game's. It was not looked at, as no game folder is "
-               "set.",
+           Localized("The file \"%1\" is the game's. It was not looked at, as "
+                     "no game folder is set.",
+                     {InBotFiles(ShownText(path))}),
            path);
     is_uncertain_ = true;
     return true;
@@ -171,25 +160,25 @@ bool GameSource::Include() {
     const std::string beside = InBots(path);
     const std::string above = path.substr(path.rfind('/') + 1);
     const std::string_view of_game = MeantFile(path, file_);
-    std::string advice = "Correct the name, or remove the line.";
+    std::string advice = Localized("Correct the name, or remove the line.");
     if (EqualIgnoringCase(of_game, path)) {
-      advice =
+      advice = Localized(
           "It is one of the game's own, which the game folder does not have: "
           "perhaps that is another folder, or packages of the game are "
-          "missing.";
+          "missing.");
     } else if (!of_game.empty()) {
-      advice = "Write " + Quoted(of_game) + ".";
+      advice = Localized("Write %1.", {Quoted(of_game)});
     }
     for (const std::string& meant : {beside, above}) {
       if (meant == path) continue;
       work_ += kWorkOfInclude;
-      if (game_(meant)) advice = "Write " + Quoted(meant) + ".";
+      if (game_(meant)) advice = Localized("Write %1.", {Quoted(meant)});
     }
     Complain("include-missing", token,
-             "There is no file botfiles/" + ShownText(path) +
-                 " to include. The game looks in botfiles, not beside this "
-                 "file. " +
-                 advice);
+             Localized("There is no file botfiles/%1 to include. The game "
+                       "looks in botfiles, not beside this file.",
+                       {ShownText(path)}) +
+                 " " + advice);
     return false;
   }
   work_ += bytes->size() / 16;
@@ -213,12 +202,13 @@ bool GameSource::ComplainOfJoinedName(GameToken name) {
   const auto lines = std::count(text.begin(), text.end(), '\n');
   if (lines == 0) return false;
   name.line -= static_cast<int>(lines);
-  Complain("include-joined", name,
-           "Behind the name of the file to include a text follows, in a line "
-           "below, and the game makes one name of both: " +
-               Quoted(name.text) +
-               ". Move the #include to where no text follows, in a chat file "
-               "out of the chat type.");
+  Complain(
+      "include-joined", name,
+      Localized(
+          "Behind the name of the file to include a text follows, in a line "
+          "below, and the game makes one name of both: %1. Move the #include "
+          "to where no text follows, in a chat file out of the chat type.",
+          {Quoted(name.text)}));
   return true;
 }
 
@@ -226,16 +216,17 @@ bool GameSource::Define() {
   Macro macro;
   const bool has_word = ReadRestOfLine(macro.name);
   if (has_word && macro.name.kind == GameToken::Kind::kNumber) {
-    Complain("define-without-name", macro.name,
-             "The name behind #define begins with a digit, and the game takes "
-             "it for the number " +
-                 Quoted(macro.name.text) + ". Begin the name with a letter.");
+    Complain(
+        "define-without-name", macro.name,
+        Localized("The name behind #define begins with a digit, and the game "
+                  "takes it for the number %1. Begin the name with a letter.",
+                  {Quoted(macro.name.text)}));
     return false;
   }
   if (!has_word || macro.name.kind != GameToken::Kind::kName) {
     Complain("define-without-name", Here(),
-             "A name must stand behind #define, on the same line and without "
-             "quotation marks.");
+             Localized("A name must stand behind #define, on the same line and "
+                       "without quotation marks."));
     return false;
   }
   const auto known = macros_.find(macro.name.text);
@@ -243,9 +234,9 @@ bool GameSource::Define() {
     // Game files that are included twice are nobody's fault.
     if (macro.name.file == 0) {
       Warn("defined-twice", macro.name,
-           macro.name.text +
-               " is defined a second time; the game takes the "
-               "last value. Remove one of the lines.");
+           Localized("%1 is defined a second time; the game takes the last "
+                     "value. Remove one of the lines.",
+                     {macro.name.text}));
     }
     macros_.erase(known);
   }
@@ -253,11 +244,11 @@ bool GameSource::Define() {
   bool has_token = ReadRestOfLine(token);
   if (has_token && token.Is("(") && !token.blank_before) {
     if (!DefineParameters(macro)) {
-      Complain("define-brackets", macro.name,
-               "The game does not understand what stands in the brackets "
-               "behind " +
-                   macro.name.text +
-                   ": names with commas between them belong there.");
+      Complain(
+          "define-brackets", macro.name,
+          Localized("The game does not understand what stands in the brackets "
+                    "behind %1: names with commas between them belong there.",
+                    {macro.name.text}));
       return false;
     }
     has_token = ReadRestOfLine(token);
@@ -265,16 +256,17 @@ bool GameSource::Define() {
   for (; has_token; has_token = ReadRestOfLine(token)) {
     if (token.Is(macro.name.text)) {
       Warn("defined-by-itself", token,
-           macro.name.text +
-               " is defined by itself; the game leaves that out of its value. "
-               "Write its value in its place.");
+           Localized("%1 is defined by itself; the game leaves that out of its "
+                     "value. Write its value in its place.",
+                     {macro.name.text}));
     } else {
       // The end of an included file is no end of its last line.
       if (macro.name.file != 0 && token.file == 0) {
-        Complain("include-with-more", token,
-                 "The game takes " + Quoted(token.text) +
-                     " behind the name of the included file for a part of "
-                     "that file's last line. Remove it.");
+        Complain(
+            "include-with-more", token,
+            Localized("The game takes %1 behind the name of the included file "
+                      "for a part of that file's last line. Remove it.",
+                      {Quoted(token.text)}));
       }
       ReportOddity(token);
       macro.body.push_back(token);
@@ -283,7 +275,7 @@ bool GameSource::Define() {
   if (!macro.body.empty() &&
       (macro.body.front().Is("##") || macro.body.back().Is("##"))) {
     Complain("misplaced-merge", macro.name,
-             "A ## must stand between two words. Remove it.");
+             Localized("A ## must stand between two words. Remove it."));
     return false;
   }
   if (macro.parameters.size() > limits::kMaxParameters) {
@@ -312,7 +304,7 @@ bool GameSource::Undefine() {
   GameToken token;
   if (!ReadRestOfLine(token) || token.kind != GameToken::Kind::kName) {
     Complain("undef-without-name", Here(),
-             "A name must stand behind #undef, on the same line.");
+             Localized("A name must stand behind #undef, on the same line."));
     return false;
   }
   macros_.erase(token.text);
@@ -322,8 +314,10 @@ bool GameSource::Undefine() {
 bool GameSource::IfDefined(bool wanted) {
   GameToken token;
   if (!ReadRestOfLine(token) || token.kind != GameToken::Kind::kName) {
-    Complain("condition-without-name", Here(),
-             "A name must stand behind #ifdef and #ifndef, on the same line.");
+    Complain(
+        "condition-without-name", Here(),
+        Localized(
+            "A name must stand behind #ifdef and #ifndef, on the same line."));
     return false;
   }
   OpenCondition(macros_.contains(token.text) != wanted, token);
@@ -335,7 +329,7 @@ bool GameSource::If(bool is_elif) {
     if (conditions_.empty() || conditions_.back().script != &scripts_.back() ||
         conditions_.back().is_else) {
       Complain("condition-without-if", Here(),
-               "There is no #if for this #elif. Remove it.");
+               Localized("There is no #if for this %1. Remove it.", {"#elif"}));
       return false;
     }
     CloseCondition();
@@ -351,7 +345,7 @@ bool GameSource::Else() {
   if (conditions_.empty() || conditions_.back().script != &scripts_.back() ||
       conditions_.back().is_else) {
     Complain("condition-without-if", Here(),
-             "There is no #if for this #else. Remove it.");
+             Localized("There is no #if for this %1. Remove it.", {"#else"}));
     return false;
   }
   Condition& condition = conditions_.back();
@@ -368,88 +362,11 @@ bool GameSource::Else() {
 bool GameSource::EndIf() {
   if (conditions_.empty() || conditions_.back().script != &scripts_.back()) {
     Complain("condition-without-if", Here(),
-             "There is no #if for this #endif. Remove it.");
+             Localized("There is no #if for this %1. Remove it.", {"#endif"}));
     return false;
   }
   CloseCondition();
   return true;
-}
-
-/// The value of the rest of the line, or of what stands in brackets; without
-/// brackets the game then looks for them up to the end of the file.
-bool GameSource::Evaluate(Extent extent, bool is_float, Calculation& result) {
-  std::vector<GameToken> tokens;
-  GameToken token;
-  int brackets = 0;
-  while (extent == Extent::kLine ? ReadRestOfLine(token) : ReadRaw(token)) {
-    if (token.kind == GameToken::Kind::kName) {
-      if (!EvaluateName(token, tokens)) return false;
-      continue;
-    }
-    if (token.kind != GameToken::Kind::kNumber &&
-        token.kind != GameToken::Kind::kSign) {
-      if (ComplainOfMacroValue()) return false;
-      Complain("cannot-calculate", token,
-               "The game cannot calculate with " + Quoted(token.text) +
-                   ". A plain number must stand here.");
-      return false;
-    }
-    tokens.push_back(token);
-    if (extent == Extent::kLine) continue;
-    if (token.Is("(")) ++brackets;
-    if (token.Is(")") && --brackets <= 0) break;
-  }
-  const std::optional<double> value = GameExpressionValue(tokens, is_float);
-  if (!value) {
-    GameToken place = Here();
-    if (!tokens.empty()) place = tokens.back();
-    if (ComplainOfMacroValue()) return false;
-    Complain("cannot-calculate", place,
-             "The game cannot work out this calculation. Write the result.");
-    return false;
-  }
-  result = {*value, CommonOwnNumber(tokens)};
-  return true;
-}
-
-/// A name in a calculation: a macro, or a question for one.
-bool GameSource::EvaluateName(const GameToken& name,
-                              std::vector<GameToken>& tokens) {
-  if (name.text == "defined") {
-    GameToken token;
-    bool has_name = ReadRaw(token);
-    const bool has_bracket = has_name && token.Is("(");
-    if (has_bracket) has_name = ReadRaw(token);
-    GameToken answer = name;
-    answer.kind = GameToken::Kind::kNumber;
-    answer.number = has_name && macros_.contains(token.text) ? 1 : 0;
-    tokens.push_back(std::move(answer));
-    if (has_bracket) ReadRaw(token);
-    return has_name;
-  }
-  const auto macro = macros_.find(name.text);
-  if (macro != macros_.end()) return Expand(name, macro->second);
-  ComplainOfMacro(name);
-  return false;
-}
-
-/// A negative result becomes a minus sign and a number.
-void GameSource::PutNumber(const Calculation& result, bool is_float,
-                           const GameToken& where) {
-  const double value = result.value;
-  GameToken number = where;
-  number.span = {};
-  number.own = result.own;
-  number.kind = GameToken::Kind::kNumber;
-  number.is_whole = !is_float;
-  number.number = std::abs(value);
-  number.text = PlainDecimal(number.number, kDoubleDigits);
-  Unread(number);
-  if (value >= 0) return;
-  number.kind = GameToken::Kind::kSign;
-  number.own.reset();
-  number.text = "-";
-  Unread(std::move(number));
 }
 
 }  // namespace fragsmith

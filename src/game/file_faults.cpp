@@ -3,10 +3,12 @@
 #include <algorithm>
 #include <cstddef>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "botfiles/game_text.h"
 #include "game/lexer.h"
+#include "support/localization.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -51,14 +53,18 @@ int OpenBrace(std::string_view bytes) {
   return open.empty() ? 0 : open.back();
 }
 
-/// What made a file that is no plain text; empty for one that may be.
-std::string_view MakerOf(std::string_view bytes) {
+/// Of a file that is no plain text; empty for one that may be.
+std::string NoPlainText(std::string_view bytes) {
   if (bytes.starts_with("{\\rtf") || bytes.starts_with("PK\x03\x04")) {
-    return "a word processor";
+    return Localized(
+        "This file was saved by a word processor, with much in it that is not "
+        "the bot's. Save it as plain text, without formatting.");
   }
   const std::string start = ToLower(bytes.substr(0, sizeof("<!doctype")));
   if (start.starts_with("<!doctype") || start.starts_with("<html")) {
-    return "a browser, as a web page";
+    return Localized(
+        "This file was saved by a browser, as a web page, with much in it that "
+        "is not the bot's. Save it as plain text, without formatting.");
   }
   return {};
 }
@@ -76,27 +82,25 @@ std::optional<Complaint> FaultOfBytes(const GameFile& file) {
                      .place = {.file = file.name, .line = 1},
                      .text = {}};
   const std::string_view bytes = file.bytes;
-  if (const std::string_view maker = MakerOf(bytes); !maker.empty()) {
+  if (std::string text = NoPlainText(bytes); !text.empty()) {
     fault.id = "no-plain-text";
-    fault.text = "This file was saved by " + std::string(maker) +
-                 ", with much in it that is not the bot's. Save it as plain "
-                 "text, without formatting.";
+    fault.text = std::move(text);
     return fault;
   }
   if (IsSavedAsUnicode(bytes)) {
     fault.id = "saved-as-unicode";
-    fault.text =
-        "This file was saved as Unicode (UTF-16), and the game sees nothing "
-        "in it. Save it as plain text: in Notepad choose ANSI under Encoding.";
+    fault.text = Localized(
+        "This file was saved as Unicode (UTF-16), and the game sees nothing in "
+        "it. Save it as plain text: in Notepad choose ANSI under Encoding.");
     return fault;
   }
   if (HasOldLineEnds(bytes) &&
       (Contains(bytes, "//") || Contains(bytes, "#"))) {
     fault.id = "old-line-ends";
-    fault.text =
-        "The lines of this file end as on old Macintosh computers, and for "
-        "the game it is all one line: the first // or #define swallows the "
-        "rest of the file. Save it with the line ends of Windows or Linux.";
+    fault.text = Localized(
+        "The lines of this file end as on old Macintosh computers, and for the "
+        "game it is all one line: the first // or #define swallows the rest of "
+        "the file. Save it with the line ends of Windows or Linux.");
     return fault;
   }
   if (const std::size_t end = bytes.find('\0');
@@ -107,17 +111,17 @@ std::optional<Complaint> FaultOfBytes(const GameFile& file) {
     fault.id = "null-character";
     fault.place.line +=
         static_cast<int>(std::count(above.begin(), above.end(), '\n'));
-    fault.text =
+    fault.text = Localized(
         "An invisible character with the code 0 stands in this line, and for "
-        "the game the file ends there. Delete it, or type the line anew.";
+        "the game the file ends there. Delete it, or type the line anew.");
     return fault;
   }
   if (const int line = OpenComment(bytes); line > 0) {
     fault.id = "open-comment";
     fault.place.line = line;
-    fault.text =
+    fault.text = Localized(
         "A comment begins here with /* and never ends: the game passes over "
-        "the rest of the file. Write */ where it should end.";
+        "the rest of the file. Write */ where it should end.");
     return fault;
   }
   return std::nullopt;
@@ -136,25 +140,27 @@ std::string_view LineOfFile(std::string_view bytes, int line) {
 
 std::string AdviceForOpenBrace(std::string_view bytes) {
   const int line = OpenBrace(bytes);
-  if (line == 0) return " Perhaps a } is missing above.";
-  return " The { in line " + std::to_string(line) +
-         " has no }. Write one where that block ends.";
+  return " " + (line == 0 ? Localized("Perhaps a } is missing above.")
+                          : Localized("The { in line %1 has no }. Write one "
+                                      "where that block ends.",
+                                      {std::to_string(line)}));
 }
 
-std::string_view AdviceForOpenText(std::string_view line) {
+std::string AdviceForOpenText(std::string_view line) {
   const std::size_t quote = line.rfind('"');
   if (quote == std::string_view::npos) {
-    return "Put the whole text in double quotation marks (\").";
+    return Localized("Put the whole text in double quotation marks (\").");
   }
   const std::string_view before = line.substr(0, quote);
   const std::size_t backslashes = quote - (before.find_last_not_of('\\') + 1);
   if (backslashes % 2 == 1) {
-    return "The \\ in front of the last quotation mark makes that a part of "
-           "the "
-           "text. Remove the \\.";
+    return Localized(
+        "The \\ in front of the last quotation mark makes that a part of the "
+        "text. Remove the \\.");
   }
-  return "Close the text on the same line; for a quotation mark inside a text "
-         "write ', since the game never shows a \".";
+  return Localized(
+      "Close the text on the same line; for a quotation mark inside a text "
+      "write ', since the game never shows a \".");
 }
 
 std::string_view AdviceForCurlyQuotes(std::string_view line) {
@@ -163,8 +169,9 @@ std::string_view AdviceForCurlyQuotes(std::string_view line) {
                         Contains(line, "\xE2\x80\x9D") ||
                         Contains(line, "\x93") || Contains(line, "\x94");
   if (is_curly) {
-    return " There are curly quotation marks (\xE2\x80\x9C \xE2\x80\x9D) in "
-           "this line, which the game does not see. Type straight ones (\").";
+    return Localizable(
+        " There are curly quotation marks (“ ”) in this line, "
+        "which the game does not see. Type straight ones (\").");
   }
   return {};
 }
@@ -178,12 +185,14 @@ std::string_view AdviceForLine(std::string_view line) {
   const std::size_t end = line.find("*/");
   if (comment < end && line.find("/*", comment + 2) < end &&
       line.find("*/", end + 2) != std::string_view::npos) {
-    return " A comment in this line has another inside, and ends at the first "
-           "*/. Remove the comment inside it.";
+    return Localizable(
+        " A comment in this line has another inside, and ends at "
+        "the first */. Remove the comment inside it.");
   }
   if (TrimBlanksAndTabs(line).ends_with('\\')) {
-    return " The \\ at the end of this line joins the next one to it. Remove "
-           "it.";
+    return Localizable(
+        " The \\ at the end of this line joins the next one to it. "
+        "Remove it.");
   }
   return {};
 }

@@ -24,11 +24,11 @@ std::string AdviceForOpenBrace(std::string_view bytes);
 
 /// What to do about a text that opens in this line and does not end there: a
 /// sentence.
-std::string_view AdviceForOpenText(std::string_view line);
+std::string AdviceForOpenText(std::string_view line);
 
 /// What a complaint about this line should add: signs that look like others,
 /// a comment inside a comment, and a "\\" that joins the next line to it.
-/// Empty, or a sentence.
+/// Empty, or a sentence behind a blank, in English; Localized() shows it.
 std::string_view AdviceForLine(std::string_view line);
 
 /// The same of curly quotation marks alone.

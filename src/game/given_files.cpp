@@ -12,6 +12,7 @@
 #include "model/file_names.h"
 #include "support/code_page.h"
 #include "support/files.h"
+#include "support/localization.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -185,7 +186,8 @@ Result<void> GivenFiles::CopyInto(const fs::path& game_folder) const {
     if (!reason) fs::copy_file(from, to, reason);
     if (!reason) return Result<void>();
     return Result<void>(
-        Failure({.what = "The file cannot be copied: " + reason.message() + ".",
+        Failure({.what = Localized("The file cannot be copied: %1.",
+                                   {reason.message()}),
                  .file = Utf8FromPath(from),
                  .line = 0,
                  .advice = {}}));
@@ -199,11 +201,12 @@ Result<void> GivenFiles::CopyInto(const fs::path& game_folder) const {
     if (reason || size > kMaxBytes) continue;
     copied += size;
     if (copied > kMaxCopied) {
-      return Failure({.what = "There is too much in this folder to try it.",
-                      .file = Utf8FromPath(source.on_disk.parent_path()),
-                      .line = 0,
-                      .advice = "Put the bot's files into a folder of their "
-                                "own."});
+      return Failure(
+          {.what = Localized("There is too much in this folder to try it."),
+           .file = Utf8FromPath(source.on_disk.parent_path()),
+           .line = 0,
+           .advice =
+               Localized("Put the bot's files into a folder of their own.")});
     }
     Result<void> done =
         copy(source.on_disk, game_folder / PathFromGameText(source.path));

@@ -10,6 +10,7 @@
 #include "game/limits.h"
 #include "game/preprocessor.h"
 #include "support/code_page.h"
+#include "support/localization.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -25,21 +26,24 @@ std::string NoValueText(std::string_view name, std::string_view line) {
   const bool is_by_itself =
       behind < line.size() &&
       TrimBlanksAndTabs(line.substr(behind)).starts_with(name);
-  return is_by_itself ? shown +
-                            " is defined by itself, and so has no value. Write "
-                            "a number in the place of the second."
-                      : "There is no value behind " + shown +
-                            ". Write one behind its #define, on the same line.";
+  return is_by_itself ? Localized(
+                            "%1 is defined by itself, and so has no value. "
+                            "Write a number in the place of the second.",
+                            {shown})
+                      : Localized(
+                            "There is no value behind %1. Write one behind its "
+                            "#define, on the same line.",
+                            {shown});
 }
 
 }  // namespace
 
 std::string GameSource::TooManyParameters(const Macro& macro) {
-  return macro.name.text + " has " + std::to_string(macro.parameters.size()) +
-         " names in brackets. The game takes no more than " +
-         std::to_string(limits::kMaxParameters) +
-         ": it stops where "
-         "such a macro is used. Take the line out.";
+  return Localized(
+      "%1 has %2 names in brackets. The game takes no more than %3: it stops "
+      "where such a macro is used. Take the line out.",
+      {macro.name.text, std::to_string(macro.parameters.size()),
+       std::to_string(limits::kMaxParameters)});
 }
 
 /// Puts the macro's text in place of its name. A macro that leaves nothing
@@ -130,10 +134,11 @@ bool GameSource::ReadArguments(const GameToken& name, const Macro& macro,
     }
   }
   if (!is_good) {
-    Complain("macro-brackets", name,
-             macro.name.text + " needs " +
-                 std::to_string(macro.parameters.size()) +
-                 " value(s) in brackets behind it, with commas between them.");
+    Complain(
+        "macro-brackets", name,
+        Localized("%1 needs %2 value(s) in brackets behind it, with commas "
+                  "between them.",
+                  {macro.name.text, std::to_string(macro.parameters.size())}));
   }
   return is_good;
 }
@@ -157,9 +162,9 @@ bool GameSource::Merge(std::vector<GameToken>& tokens) {
             : left.kind == Kind::kString && right.kind == Kind::kString;
     if (!fits || left.text.size() > limits::kMaxString) {
       Complain("misplaced-merge", left,
-               "The game cannot make one word of " + Quoted(left.text) +
-                   " and " + Quoted(right.text) +
-                   ". Remove the ##, and write the word or the number itself.");
+               Localized("The game cannot make one word of %1 and %2. Remove "
+                         "the ##, and write the word or the number itself.",
+                         {Quoted(left.text), Quoted(right.text)}));
       return false;
     }
     left.text += right.text;

@@ -11,6 +11,7 @@
 #include "game/file_faults.h"
 #include "game/preprocessor.h"
 #include "support/code_page.h"
+#include "support/localization.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -37,7 +38,8 @@ std::string SlipOfLine(std::string_view line, const std::string& macro) {
   constexpr std::string_view kUndefine = "#undef";
   if (line.starts_with(kUndefine) &&
       FirstWord(line.substr(kUndefine.size())) == macro) {
-    return "This line takes the value of " + macro + " away. Remove it.";
+    return Localized("This line takes the value of %1 away. Remove it.",
+                     {macro});
   }
   const std::size_t text = line.find_first_not_of("/* \t");
   const bool is_comment = line.starts_with("//") || line.starts_with("/*");
@@ -45,16 +47,19 @@ std::string SlipOfLine(std::string_view line, const std::string& macro) {
   if (!line.starts_with(kDefine)) return {};
   const std::string_view name = FirstWord(line.substr(kDefine.size()));
   if (is_comment) {
-    return name == macro ? "For the game this line is a comment, so " + macro +
-                               " has no value. Remove what makes it a comment."
+    return name == macro ? Localized(
+                               "For the game this line is a comment, so %1 has "
+                               "no value. Remove what makes it a comment.",
+                               {macro})
                          : "";
   }
   constexpr std::string_view kDigits = "0123456789.";
   if (name.starts_with(macro) && name.size() > macro.size() &&
       name.find_first_not_of(kDigits, macro.size()) == std::string_view::npos) {
-    return "There is no blank between " + macro +
-           " and its value, so the game does not know " + macro +
-           ". Write a blank between them.";
+    return Localized(
+        "There is no blank between %1 and its value, so the game does not know "
+        "%1. Write a blank between them.",
+        {macro});
   }
   // W_SHOTGUN and GWW_SHOTGUN are two macros.
   const std::string_view wanted = macro;
@@ -62,8 +67,10 @@ std::string SlipOfLine(std::string_view line, const std::string& macro) {
       ToLower(name.substr(0, 1)) == ToLower(wanted.substr(0, 1)) &&
       name != wanted && !NearestWord(name, {&wanted, 1}).empty();
   if (!is_slip) return {};
-  return "The game looks for " + macro + " and finds " + Quoted(name) +
-         " alone; capital letters count. Write " + macro + ".";
+  return Localized(
+      "The game looks for %1 and finds %2 alone; capital letters count. Write "
+      "%1.",
+      {macro, Quoted(name)});
 }
 
 }  // namespace
@@ -76,14 +83,16 @@ void GameSource::ComplainOfMacro(const GameToken& name) {
   }
   if (ComplainOfIncludedMacro(name)) return;
   const std::string shown = ShownText(name.text);
-  std::string text = "The game looks for a value of " + shown +
-                     " and finds none. Write #define " + shown +
-                     " and a plain number in this file; capital letters count.";
+  std::string text = Localized(
+      "The game looks for a value of %1 and finds none. Write #define %1 and a "
+      "plain number in this file; capital letters count.",
+      {shown});
   if (name.file != 0) {
-    text = "The file that is included here asks for " + shown +
-           ", which has no value. Write #define " + shown +
-           " and a plain number above this line, or correct the name of the "
-           "file.";
+    text = Localized(
+        "The file that is included here asks for %1, which has no value. Write "
+        "#define %1 and a plain number above this line, or correct the name of "
+        "the file.",
+        {shown});
   }
   // It may stand below the #include of the file that wants it.
   int line = 0;
@@ -109,15 +118,17 @@ void GameSource::ComplainOfMacro(const GameToken& name) {
     if (defines_it && was_joined) {
       // The line is of the advice that its "\" brings.
       line = static_cast<int>(lines.number()) - 1;
-      text = "This line takes away the #define of " + shown + " below it.";
+      text = Localized("This line takes away the #define of %1 below it.",
+                       {shown});
       slip.clear();
       break;
     }
     if (line > 0 && defines_it) {
-      text = "This #include stands above the #define of " + shown +
-             " in line " + std::to_string(lines.number()) +
-             ", and the game reads from top to bottom. Move the #include to "
-             "the end of the file.";
+      text = Localized(
+          "This #include stands above the #define of %1 in line %2, and the "
+          "game reads from top to bottom. Move the #include to the end of the "
+          "file.",
+          {shown, std::to_string(lines.number())});
     }
   }
   if (!slip.empty() && (name.file != 0 || slip_line < name.line)) {
@@ -171,12 +182,16 @@ void GameSource::ComplainOfBody(const Macro& macro) {
     is_quoted |= token.kind == GameToken::Kind::kString ||
                  token.kind == GameToken::Kind::kLiteral;
   }
+  const std::string shown = ShownText(macro.name.text);
   Complain(
       "macro-not-a-number", macro.name,
-      "The value of " + ShownText(macro.name.text) +
-          " must be one plain number, " +
-          (is_quoted ? "without quotation marks" : "and not " + Quoted(value)) +
-          ". " + AdviceForMacroValue(value));
+      (is_quoted
+           ? Localized("The value of %1 must be one plain number, without "
+                       "quotation marks.",
+                       {shown})
+           : Localized("The value of %1 must be one plain number, and not %2.",
+                       {shown, Quoted(value)})) +
+          " " + AdviceForMacroValue(value));
 }
 
 std::string_view GameSource::LineOf(const GameToken& token) const {

@@ -1,6 +1,5 @@
 #include "game/preprocessor.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "chat/vocabulary.h"
@@ -8,7 +7,7 @@
 #include "game/game_path.h"
 #include "game/limits.h"
 #include "support/code_page.h"
-#include "support/numbers.h"
+#include "support/localization.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -85,7 +84,7 @@ bool GameSource::ReadAny(GameToken& token) {
   if (Read(token)) return true;
   if (!has_complained_) {
     Complain("file-ends-early", Here(),
-             "The file ends here, but the game expects more." +
+             Localized("The file ends here, but the game expects more.") +
                  AdviceForOpenBrace(file_.bytes));
   }
   return false;
@@ -100,9 +99,10 @@ bool GameSource::Expect(std::string_view word, GameToken* expected) {
   }
   if (ComplainOfMacroValue()) return false;
   Complain("expected-other", token,
-           "The game expects " + Quoted(word) + " here but finds " +
-               Quoted(token.macro.empty() ? token.text : token.macro) +
-               ". Write what is missing, or remove what does not belong here.");
+           Localized("The game expects %1 here but finds %2. Write what is "
+                     "missing, or remove what does not belong here.",
+                     {Quoted(word),
+                      Quoted(token.macro.empty() ? token.text : token.macro)}));
   return false;
 }
 
@@ -115,14 +115,16 @@ bool GameSource::ExpectBrace(const GameToken& last, GameToken* brace) {
   }
   const bool is_bracket = token.Is("(") || token.Is("[");
   const bool is_behind = token.file == last.file && token.line == last.line;
-  std::string text = "The game expects a { behind " + Quoted(last.text) +
-                     " but finds " +
-                     Quoted(token.macro.empty() ? token.text : token.macro);
+  std::string text =
+      Localized("The game expects a { behind %1 but finds %2.",
+                {Quoted(last.text),
+                 Quoted(token.macro.empty() ? token.text : token.macro)}) +
+      " ";
   if (is_bracket) {
-    text += ". Write { in its place.";
+    text += Localized("Write { in its place.");
   } else {
-    text += is_behind ? ". Remove the " + Quoted(token.text) + "."
-                      : ". Write the { between them.";
+    text += is_behind ? Localized("Remove the %1.", {Quoted(token.text)})
+                      : Localized("Write the { between them.");
   }
   Complain("expected-brace", is_behind || is_bracket ? token : last,
            std::move(text));
@@ -134,10 +136,11 @@ bool GameSource::ExpectString(GameToken& token) {
   if (token.kind == GameToken::Kind::kString) return true;
   Complain("expected-text", token,
            token.kind == GameToken::Kind::kLiteral
-               ? "The game takes no text in single quotes ('). Put it in "
-                 "double ones (\")."
-               : "The game expects a text in quotation marks here but finds " +
-                     Quoted(token.text) + ". Put the text in quotation marks.");
+               ? Localized("The game takes no text in single quotes ('). Put "
+                           "it in double ones (\").")
+               : Localized("The game expects a text in quotation marks here "
+                           "but finds %1. Put the text in quotation marks.",
+                           {Quoted(token.text)}));
   return false;
 }
 
@@ -148,14 +151,15 @@ bool GameSource::ExpectNumber(Numbers numbers, GameToken& token) {
     return true;
   }
   if (ComplainOfMacroValue()) return false;
-  std::string text =
-      "The game expects a number here but finds " + Quoted(token.text) + ".";
+  std::string text = Localized("The game expects a number here but finds %1.",
+                               {Quoted(token.text)});
   if (token.text.starts_with("INVENTORY_")) {
-    text += " Write #include \"inv.h\" at the top of the file.";
+    text += " " + Localized("Write #include \"%1\" at the top of the file.",
+                            {"inv.h"});
   } else if (token.kind == GameToken::Kind::kString) {
-    text += " Remove the quotation marks.";
+    text += " " + Localized("Remove the quotation marks.");
   } else if (token.Is("(")) {
-    text += " Write it without brackets.";
+    text += " " + Localized("Write it without brackets.");
   }
   Complain("expected-number", token, std::move(text));
   return false;
@@ -295,8 +299,8 @@ void GameSource::CloseConditions(const Script& script) {
     CloseCondition();
     is_skipped_to_end_ = true;
     Warn("endif-missing", begin,
-         "The #if, #ifdef or #ifndef in this line has no #endif. Put one where "
-         "the part ends that it is about.");
+         Localized("The #if, #ifdef or #ifndef in this line has no #endif. Put "
+                   "one where the part ends that it is about."));
   }
 }
 
@@ -307,14 +311,17 @@ bool GameSource::ComplainOfLeak(const GameToken& token) {
   }
   if (is_skipped_to_end_) {
     Complain("endif-missing", *skipped_from_,
-             "The #if, #ifdef or #ifndef in this line has no #endif: the game "
-             "passes over all that stands behind it, but for the texts. Put an "
-             "#endif where the part ends that it is about.");
+             Localized(
+                 "The #if, #ifdef or #ifndef in this line has no #endif: the "
+                 "game passes over all that stands behind it, but for the "
+                 "texts. Put an #endif where the part ends that it is about."));
   } else {
-    Complain("text-in-condition", *skipped_from_,
-             "The game passes over what stands between this line and its "
-             "#endif, but takes the texts there for a part of what follows. "
-             "Make a comment of that part with /* and */, or delete it.");
+    Complain(
+        "text-in-condition", *skipped_from_,
+        Localized(
+            "The game passes over what stands between this line and its "
+            "#endif, but takes the texts there for a part of what follows. "
+            "Make a comment of that part with /* and */, or delete it."));
   }
   return true;
 }
@@ -326,13 +333,15 @@ bool GameSource::Count() {
   if (++work_ <= kMaxWork && unread_.size() <= kMaxUnread) return true;
   is_endless_ = true;
   const bool is_long = scripts_.size() == 1 && file_.bytes.size() > kMaxWork;
-  Complain("endless-file", Here(),
-           is_long ? "This file is far longer than any that a game comes with, "
-                     "and what stands behind this line was not looked at. "
-                     "Shorten it."
-                   : "Reading this file never ends: the game stands still for "
-                     "ever. Look for #define lines that name each other in a "
-                     "circle, or a file that is included over and over.");
+  Complain(
+      "endless-file", Here(),
+      is_long
+          ? Localized(
+                "This file is far longer than any that a game comes with, and "
+                "what stands behind this line was not looked at. Shorten it.")
+          : Localized("Reading this file never ends: the game stands still for "
+                      "ever. Look for #define lines that name each other in a "
+                      "circle, or a file that is included over and over."));
   return false;
 }
 
@@ -352,96 +361,33 @@ void GameSource::Report(std::string_view id, Severity severity,
     const auto file = static_cast<std::size_t>(token.file);
     const bool is_by_macro = IsLastMacroOdd();
     line = is_by_macro ? last_macro_name_.line : include_lines_[file];
-    const std::string where =
-        file_names_[file] + ", line " + std::to_string(token.line);
-    text += is_by_macro
-                ? " (Noticed where " + where + " uses " + last_macro_ + ".)"
-                : " (Noticed in " + where + ", which this line includes.)";
+    const std::string there = std::to_string(token.line);
+    text +=
+        " " +
+        (is_by_macro
+             ? Localized("(Noticed where %1, line %2 uses %3.)",
+                         {file_names_[file], there, last_macro_})
+             : Localized("(Noticed in %1, line %2, which this line includes.)",
+                         {file_names_[file], there}));
   }
   if (severity == Severity::kError && line > 0) {
-    text += AdviceForLine(LineOfFile(file_.bytes, line));
+    const std::string_view advice =
+        AdviceForLine(LineOfFile(file_.bytes, line));
+    if (!advice.empty()) text += Localized(advice);
   }
   if (severity == Severity::kError && is_uncertain_ &&
       token.kind == GameToken::Kind::kName) {
     severity = Severity::kHint;
-    text = "It is not known what the game makes of " + Quoted(token.text) +
-           ": a file that is included above was not looked at.";
+    text = Localized(
+        "It is not known what the game makes of %1: a file that is included "
+        "above was not looked at.",
+        {Quoted(token.text)});
   }
   findings_.Add({.id = id,
                  .severity = severity,
                  .place = {.file = file_.name, .line = line},
                  .text = std::move(text),
                  .missing = std::move(missing)});
-}
-
-void GameSource::ReportLexer(GameLexer::Outcome outcome,
-                             const GameToken& token) {
-  using Outcome = GameLexer::Outcome;
-  switch (outcome) {
-    case Outcome::kLineEndInString:
-      return Complain("line-end-in-text", token,
-                      "A quotation mark (\" or ') opens a text here that does "
-                      "not end on its line, and the game loses the line. " +
-                          std::string(AdviceForOpenText(LineOf(token))));
-    case Outcome::kOpenString:
-      return Complain(
-          "open-text", token,
-          "A quotation mark (\" or ') opens a text here that never ends. Close "
-          "it.");
-    case Outcome::kStringTooLong:
-      return Complain("text-too-long", token,
-                      "This text has more than the " +
-                          std::to_string(limits::kMaxString) +
-                          " characters that the game can hold. "
-                          "Texts that stand side by side count as one: perhaps "
-                          "a ; or a , is "
-                          "missing between them.");
-    case Outcome::kNumberTooLong:
-    case Outcome::kNameTooLong:
-      return Complain(
-          "word-too-long", token,
-          "This word or number is too long for the game. Shorten it.");
-    case Outcome::kUnreadable:
-      return Complain(
-          "unreadable", token,
-          "The game cannot read a character that stands here outside a text, "
-          "and goes no further. Delete it.");
-    case Outcome::kToken:
-    case Outcome::kEnd:
-      return;
-  }
-}
-
-void GameSource::ReportOddity(const GameToken& token) {
-  if (token.file != 0) return;
-  const std::string text = Quoted(token.text);
-  switch (token.oddity) {
-    case GameToken::Oddity::kNone:
-      return;
-    case GameToken::Oddity::kUnknownEscape:
-      return Warn("unknown-escape", token,
-                  "The game cuts this text at a \\ that it does not "
-                  "understand: " +
-                      text +
-                      " is all that remains. Write \\\\ for the sign itself, "
-                      "or remove it.");
-    case GameToken::Oddity::kPointAtEnd:
-      return Warn("point-at-end", token,
-                  "The game reads " + text + " as " +
-                      PlainDecimal(token.number, kFloatDigits) +
-                      ". Put a digit behind the point.");
-    case GameToken::Oddity::kTwoPoints:
-      return Warn("two-points", token,
-                  "The game reads " + text + " as " +
-                      PlainDecimal(token.number, kFloatDigits) +
-                      ". Write one number, with one point at most.");
-    case GameToken::Oddity::kOctal:
-      return Warn("leading-zero", token,
-                  "With a zero in front the game reads " + text + " as " +
-                      std::to_string(static_cast<long long>(
-                          std::min(token.number, 9e15))) +
-                      ", a number to the base 8. Remove the zero.");
-  }
 }
 
 }  // namespace fragsmith

@@ -6,6 +6,7 @@
 
 #include "game/number.h"
 #include "model/characteristic_catalogue.h"
+#include "support/localization.h"
 
 namespace fragsmith {
 namespace {
@@ -14,29 +15,37 @@ constexpr double kHighestMixed = 4;  ///< Below it levels 1 and 4 are mixed.
 constexpr double kHighestSkill = 5;
 
 constexpr std::string_view kSnaps =
-    "with bot_challenge on, the view snaps to the enemy";
-constexpr std::string_view kNoRandomError = "no random error in direction";
-constexpr std::string_view kLeads = "leads its target in a straight line";
-constexpr std::string_view kCorners = "shoots where the enemy will come out";
-constexpr std::string_view kSplash = "shoots at the floor for splash";
-constexpr std::string_view kPredicts = "predicts the target's real path";
+    Localizable("with bot_challenge on, the view snaps to the enemy");
+constexpr std::string_view kNoRandomError =
+    Localizable("no random error in direction");
+constexpr std::string_view kLeads =
+    Localizable("leads its target in a straight line");
+constexpr std::string_view kCorners =
+    Localizable("shoots where the enemy will come out");
+constexpr std::string_view kSplash =
+    Localizable("shoots at the floor for splash");
+constexpr std::string_view kPredicts =
+    Localizable("predicts the target's real path");
 constexpr std::string_view kSteady =
-    "keeps its accuracy when the enemy turns back";
+    Localizable("keeps its accuracy when the enemy turns back");
 
 // In the order of the catalogue, so that a parameter's rows stand together.
 constexpr std::array kThresholds = {
-    Threshold{2, 0.2, "moves towards the enemy and away"},
-    Threshold{2, 0.3, "keeps aiming while it retreats or fetches items"},
-    Threshold{2, 0.4, "circles around the enemy"},
-    Threshold{2, 0.7, "changes its rhythm at random"},
+    Threshold{2, 0.2, Localizable("moves towards the enemy and away")},
+    Threshold{2, 0.3,
+              Localizable("keeps aiming while it retreats or fetches items")},
+    Threshold{2, 0.4, Localizable("circles around the enemy")},
+    Threshold{2, 0.7, Localizable("changes its rhythm at random")},
     Threshold{3, 0.9, kSteady},
-    Threshold{3, 0.95, "waits half its reaction time before it aims"},
-    Threshold{6, kSlowestTurn, "turns faster than the slowest bots"},
-    Threshold{7, 1, "slower makes no difference from here on"},
-    Threshold{10, 0.5, "jumps by rocket"},
-    Threshold{15, 0.1, "camps"},
-    Threshold{15, 0.99, "camps for good"},
-    Threshold{16, 0.5, "shoots at players who are typing"},
+    Threshold{3, 0.95,
+              Localizable("waits half its reaction time before it aims")},
+    Threshold{6, kSlowestTurn,
+              Localizable("turns faster than the slowest bots")},
+    Threshold{7, 1, Localizable("slower makes no difference from here on")},
+    Threshold{10, 0.5, Localizable("jumps by rocket")},
+    Threshold{15, 0.1, Localizable("camps")},
+    Threshold{15, 0.99, Localizable("camps for good")},
+    Threshold{16, 0.5, Localizable("shoots at players who are typing")},
     Threshold{18, 0.8, kNoRandomError},
     Threshold{18, 0.9, kSnaps},
     Threshold{19, 0.8, kNoRandomError},
@@ -72,8 +81,9 @@ constexpr std::array kThresholds = {
     Threshold{29, 0.6, kSplash},
     Threshold{29, 0.8, kPredicts},
     Threshold{29, 0.9, kSteady},
-    Threshold{30, 0.1, "pauses between shots, longer with the value"},
-    Threshold{30, 1, "never pauses"},
+    Threshold{30, 0.1,
+              Localizable("pauses between shots, longer with the value")},
+    Threshold{30, 1, Localizable("never pauses")},
 };
 
 LevelPair PairAround(double skill) {

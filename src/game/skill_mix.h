@@ -64,7 +64,8 @@ inline constexpr IndexRange kUnreadRange = {11, 14};
 struct Threshold {
   int index;  ///< In the characteristic catalogue.
   double value;
-  std::string_view text;  ///< UTF-8, what holds from there on.
+  /// What holds from there on, in English; Localized() shows it.
+  std::string_view text;
 };
 
 // Of a characteristic that each level has, these take the parameter of any

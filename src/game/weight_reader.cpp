@@ -6,6 +6,7 @@
 #include "chat/vocabulary.h"
 #include "game/advice.h"
 #include "game/limits.h"
+#include "support/localization.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -40,36 +41,37 @@ class WeightReader {
 
   void Stumble(const GameToken& token) {
     if (source_.ComplainOfMacroValue()) return;
-    source_.Complain("weight-syntax", token,
-                     "The game does not expect " + Quoted(token.text) +
-                         " here." + Advice(token));
+    source_.Complain(
+        "weight-syntax", token,
+        Localized("The game does not expect %1 here.", {Quoted(token.text)}) +
+            " " + Advice(token));
   }
 
  private:
   /// A #define that lacks its beginning is the most frequent slip.
   std::string Advice(const GameToken& token) const {
     if (token.Is("define") || token.Is("include")) {
-      return " Write #" + token.text + ".";
+      return Localized("Write %1.", {"#" + token.text});
     }
     std::string_view line = TrimBlanksAndTabs(source_.LineOf(token));
     if (token.kind == GameToken::Kind::kName && line.starts_with(token.text)) {
       line = TrimBlanksAndTabs(line.substr(token.text.size()));
       if (line.find_first_of("0123456789") == 0) {
-        return " Write #define in front of it.";
+        return Localized("Write %1 in front of it.", {"#define"});
       }
     }
-    return token.file == 0 ? " Remove it."
+    return token.file == 0 ? Localized("Remove it.")
                            : AdviceForStray(token, "weight", source_.bytes());
   }
 
   bool ReadSwitch(const GameToken& begin) {
     GameToken token;
     if (++depth_ > kMaxDepth) {
-      source_.Complain("switch-too-deep", begin,
-                       "More than " + std::to_string(kMaxDepth) +
-                           " switches stand in one another here. Such a "
-                           "file is not read any further; write it with "
-                           "fewer.");
+      source_.Complain(
+          "switch-too-deep", begin,
+          Localized("More than %1 switches stand in one another here. Such a "
+                    "file is not read any further; write it with fewer.",
+                    {std::to_string(kMaxDepth)}));
       return false;
     }
     if (!source_.Expect("(") ||
@@ -90,9 +92,11 @@ class WeightReader {
       cases_.pop_back();
     } while (!token.Is("}"));
     if (!has_default) {
-      source_.Warn("switch-without-default", token,
-                   "This switch has no default: the weight is 0 where no case "
-                   "fits. Write a default: and a value unless that is meant.");
+      source_.Warn(
+          "switch-without-default", token,
+          Localized(
+              "This switch has no default: the weight is 0 where no case fits. "
+              "Write a default: and a value unless that is meant."));
     }
     --depth_;
     return true;
@@ -102,8 +106,9 @@ class WeightReader {
     GameToken token;
     if (begin.Is("default")) {
       if (has_default) {
-        source_.Complain("default-twice", begin,
-                         "This switch has a default already. Remove one.");
+        source_.Complain(
+            "default-twice", begin,
+            Localized("This switch has a default already. Remove one."));
         return false;
       }
       has_default = true;
@@ -149,9 +154,9 @@ class WeightReader {
     if (!source_.ReadAny(token)) return false;
     if (token.Is("-")) {
       source_.Warn("negative-weight", token,
-                   "The game drops the minus sign of this weight and takes "
-                   "the number without it. Use 0 for a weapon or an item that "
-                   "the bot should leave alone.");
+                   Localized("The game drops the minus sign of this weight and "
+                             "takes the number without it. Use 0 for a weapon "
+                             "or an item that the bot should leave alone."));
       if (!source_.ReadAny(token)) return false;
     }
     if (token.kind == GameToken::Kind::kNumber) {
@@ -165,9 +170,11 @@ class WeightReader {
       source_.ComplainOfMacro(token);
     } else {
       if (source_.ComplainOfMacroValue()) return false;
-      source_.Complain("bad-weight", token,
-                       "The game needs a plain number but finds " +
-                           Quoted(token.text) + ". Write a number.");
+      source_.Complain(
+          "bad-weight", token,
+          Localized(
+              "The game needs a plain number but finds %1. Write a number.",
+              {Quoted(token.text)}));
     }
     return false;
   }
@@ -184,12 +191,17 @@ void TellTwice(GameSource& source, const GameToken& token,
   const GameWeight& last = weights.back();
   const auto first = std::ranges::find(weights, last.name, &GameWeight::name);
   if (last.line == 0 || &*first == &last) return;
-  source.Warn("weight-twice", token,
-              "The weight " + Quoted(last.name) + " stands twice, first in " +
-                  (first->line > 0 ? "line " + std::to_string(first->line)
-                                   : "a file that is included above") +
-                  ": the game takes that one and passes over this. Remove the "
-                  "one that is not meant.");
+  source.Warn(
+      "weight-twice", token,
+      first->line > 0
+          ? Localized("The weight %1 stands twice, first in line %2: the game "
+                      "takes that one and passes over this. Remove the one "
+                      "that is not meant.",
+                      {Quoted(last.name), std::to_string(first->line)})
+          : Localized("The weight %1 stands twice, first in a file that is "
+                      "included above: the game takes that one and passes over "
+                      "this. Remove the one that is not meant.",
+                      {Quoted(last.name)}));
 }
 
 /// False where the game gives up.
@@ -203,9 +215,9 @@ bool ReadAll(GameSource& source, WeightsRead& read) {
     }
     if (read.count == limits::kMaxWeights) {
       source.Warn("too-many-weights", token,
-                  "The game reads " + std::to_string(limits::kMaxWeights) +
-                      " weights and passes over the rest. "
-                      "Remove those that the bot needs least.");
+                  Localized("The game reads %1 weights and passes over the "
+                            "rest. Remove those that the bot needs least.",
+                            {std::to_string(limits::kMaxWeights)}));
       break;
     }
     if (!reader.ReadWeight(read.weights.emplace_back())) return false;

@@ -9,6 +9,7 @@
 #include "model/characteristic_catalogue.h"
 #include "model/file_names.h"
 #include "support/code_page.h"
+#include "support/localization.h"
 #include "support/numbers.h"
 #include "support/text.h"
 
@@ -35,10 +36,11 @@ bool IsDerivedName(int index) {
 }
 
 Error NotANumber(const Value& value) {
-  return {.what = "\"" + ShownText(ToText(value)) + "\" is not a number.",
-          .file = {},
-          .line = 0,
-          .advice = {}};
+  return {
+      .what = Localized("\"%1\" is not a number.", {ShownText(ToText(value))}),
+      .file = {},
+      .line = 0,
+      .advice = {}};
 }
 
 Result<double> Number(const Value& value) {
@@ -59,10 +61,13 @@ Result<double> ShortInteger(const Value& value) {
   Result<double> number = Number(value);
   if (!number) return number;
   const double whole = std::nearbyint(*number);
-  if (whole < std::numeric_limits<std::int16_t>::min() ||
-      whole > std::numeric_limits<std::int16_t>::max()) {
+  constexpr int kLowest = std::numeric_limits<std::int16_t>::min();
+  constexpr int kHighest = std::numeric_limits<std::int16_t>::max();
+  if (whole < kLowest || whole > kHighest) {
     return Failure(
-        {.what = ShownText(ToText(value)) + " is not between -32768 and 32767.",
+        {.what = Localized("%1 is not between %2 and %3.",
+                           {ShownText(ToText(value)), std::to_string(kLowest),
+                            std::to_string(kHighest)}),
          .file = {},
          .line = 0,
          .advice = {}});

@@ -5,6 +5,7 @@
 
 #include <iterator>
 
+#include "support/localization.h"
 #include "support/random.h"
 #include "tests/support/ids.h"
 
@@ -97,12 +98,12 @@ TEST(ChatLine, ReadsOtherSpellingsAndKeepsTheRest) {
   }
   const ChatOddity oddity =
       ChatLineFromFile(kInsult, "\"a\", \xE4, \"b\";").oddities.at(0);
-  EXPECT_EQ(oddity.what + std::string(oddity.kind),
+  EXPECT_EQ(Localized(oddity.kind, {oddity.what}),
             "\", ä, \": not understood; stays as it is written.");
   for (const char* const line : {"line\";", "0, \" \", 1, \" \", 2;",
                                  "/* old */ \"hi\";"}) {
     EXPECT_EQ(ChatLineFromFile(kInsult, line).oddities.at(0).kind,
-              ": not understood; a save writes the line in another way.")
+              "%1: not understood; a save writes the line in another way.")
         << line;
   }
 }

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "chat/vocabulary.h"
+#include "support/localization.h"
 
 namespace fragsmith {
 namespace {
@@ -85,7 +86,7 @@ QString SkillPlot::Words() const {
   for (const Threshold& threshold : thresholds_) {
     words << QStringLiteral("At %1: %2")
                  .arg(Number(threshold.value),
-                      QString::fromUtf8(threshold.text));
+                      QString::fromStdString(Localized(threshold.text)));
   }
   return words.join(QStringLiteral("; "));
 }
@@ -150,8 +151,8 @@ void SkillPlot::paintEvent(QPaintEvent* /*event*/) {
     painter.setPen(QPen(faint, 1, Qt::DashLine));
     painter.drawLine(left, QPointF(area.right(), left.y()));
     const QString caption =
-        metrics.elidedText(QString::fromUtf8(threshold.text), Qt::ElideRight,
-                           static_cast<int>(area.width()));
+        metrics.elidedText(QString::fromStdString(Localized(threshold.text)),
+                           Qt::ElideRight, static_cast<int>(area.width()));
     const QRectF room = PlaceOfCaption(
         QRectF(left.x() + line / 3.0, left.y() - line,
                metrics.horizontalAdvance(caption) + line / 3.0, line),
