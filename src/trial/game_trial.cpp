@@ -9,6 +9,7 @@
 
 #include "session/save_bot.h"
 #include "support/files.h"
+#include "support/localization.h"
 #include "support/no_prompts.h"
 #include "support/numbers.h"
 #include "support/prompts.h"
@@ -102,21 +103,23 @@ Result<void> MakePathsPlain(TrialSetup& setup) {
   setup.home = setup.home.lexically_normal();
   setup.data = setup.data.lexically_normal();
   if (has_quote(setup.home)) {
-    return Failure({.what = "No engine can be told of a path with a \" in it.",
-                    .file = Utf8FromPath(setup.home),
-                    .line = 0,
-                    .advice = "Name another temporary folder."});
+    return Failure(
+        {.what = Localized("No engine can be told of a path with a \" in it."),
+         .file = Utf8FromPath(setup.home),
+         .line = 0,
+         .advice = Localized("Name another temporary folder.")});
   }
   if (!has_quote(setup.data)) return {};
   const fs::path link = setup.home / "data";
   std::error_code reason;
   fs::create_directory_symlink(setup.data, link, reason);
   if (reason) {
-    return Failure({.what = "The link to the data cannot be made: " +
-                            reason.message() + ".",
-                    .file = Utf8FromPath(link),
-                    .line = 0,
-                    .advice = "Name a folder without a \"."});
+    return Failure(
+        {.what = Localized("The link to the data cannot be made: %1.",
+                           {reason.message()}),
+         .file = Utf8FromPath(link),
+         .line = 0,
+         .advice = Localized("Name a folder without a \".")});
   }
   setup.data = link;
   return {};

@@ -12,6 +12,7 @@
 #include "chat/vocabulary.h"
 #include "support/code_page.h"
 #include "support/files.h"
+#include "support/localization.h"
 #include "support/numbers.h"
 #include "support/temporary_folder.h"
 #include "support/text.h"
@@ -42,14 +43,19 @@ Error Trouble(std::string what, const std::vector<std::string>& last_lines) {
   constexpr std::size_t kShownLines = 3;
   const std::size_t first =
       last_lines.size() - std::min(last_lines.size(), kShownLines);
+  std::string shown;
   for (std::size_t line = first; line < last_lines.size(); ++line) {
-    what += line == first ? " It printed last: " : " / ";
-    what += last_lines[line];
+    if (line > first) shown += " / ";
+    shown += last_lines[line];
+  }
+  if (first < last_lines.size()) {
+    what += " " + Localized("It printed last: %1", {shown});
   }
   return {.what = std::move(what),
           .file = {},
           .line = 0,
-          .advice = "fragsmith-cli try shows what the game makes of a bot."};
+          .advice = Localized(
+              "fragsmith-cli try shows what the game makes of a bot.")};
 }
 
 /// The first line that speaks of the text and has one of the words in it.
@@ -107,10 +113,11 @@ Result<std::vector<int>> Settle(const Match& match, const MatchRecord& record,
     const std::string folder = MatchFolder(bot) + "/";
     if (const std::optional<std::string> line =
             LineAbout(printed, folder, "default skill")) {
-      return Failure(Trouble(names[bot] +
-                                 " plays with the game's default character in "
-                                 "place of its own.",
-                             {*line}));
+      return Failure(
+          Trouble(Localized("%1 plays with the game's default character in "
+                            "place of its own.",
+                            {names[bot]}),
+                  {*line}));
     }
     const auto player = std::find_if(
         record.players.begin(), record.players.end(),
@@ -119,7 +126,7 @@ Result<std::vector<int>> Settle(const Match& match, const MatchRecord& record,
       std::optional<std::string> line = LineAbout(printed, folder, "rror");
       if (!line) line = LineAbout(printed, match.bots[bot].name, "not defined");
       return Failure(
-          Trouble("The game did not add " + names[bot] + ".",
+          Trouble(Localized("The game did not add %1.", {names[bot]}),
                   line ? std::vector{*line} : std::vector<std::string>()));
     }
     clients.push_back(player->first);
@@ -172,7 +179,7 @@ class MatchInPlay::Game {
     if (log_->Read()) last_growth_ = now;
     Listen();
     if (run_->IsEndless() || log_->IsEndless()) {
-      trouble_ = "The engine prints without end.";
+      trouble_ = Localized("The engine prints without end.");
       return true;
     }
     if (words_.dead_end() && !record().IsWhole()) return true;
@@ -183,8 +190,8 @@ class MatchInPlay::Game {
     if (is_running && !hangs && !record().is_over) return false;
     // When the scores are there, it does not matter how it ends.
     if (record().IsWhole()) return true;
-    trouble_ = hangs ? "The engine hangs."
-                     : "The engine ended before the match was over.";
+    trouble_ = hangs ? Localized("The engine hangs.")
+                     : Localized("The engine ended before the match was over.");
     return true;
   }
 
@@ -192,12 +199,13 @@ class MatchInPlay::Game {
     run_->End();
     Listen();
     if (words_.dead_end() && !record().IsWhole()) {
-      return MatchFailure{.error = {.what = "The engine plays nothing: " +
-                                            words_.dead_end()->text + ".",
-                                    .file = {},
-                                    .line = 0,
-                                    .advice = words_.dead_end()->sentence},
-                          .may_go_well_again = false};
+      return MatchFailure{
+          .error = {.what = Localized("The engine plays nothing: %1.",
+                                      {words_.dead_end()->text}),
+                    .file = {},
+                    .line = 0,
+                    .advice = words_.dead_end()->sentence},
+          .may_go_well_again = false};
     }
     if (!trouble_.empty()) {
       return MatchFailure{

@@ -10,6 +10,7 @@
 #include "checks/bot_reader.h"
 #include "model/file_names.h"
 #include "support/files.h"
+#include "support/localization.h"
 #include "support/temporary_folder.h"
 #include "support/text.h"
 #include "trial/game_trial.h"
@@ -88,11 +89,12 @@ Result<MatchBot> MatchBotOf(const GivenFiles& given,
     bot.ai_file = reader.description()->Text("aifile");
   }
   if (bot.files.contains(ToLower(bot.ai_file))) return bot;
-  return Failure({.what = "The bot " + PlainName(file_name) +
-                          " has no character file of its own.",
-                  .file = {},
-                  .line = 0,
-                  .advice = "fragsmith-cli check tells what it lacks."});
+  return Failure(
+      {.what = Localized("The bot %1 has no character file of its own.",
+                         {PlainName(file_name)}),
+       .file = {},
+       .line = 0,
+       .advice = Localized("fragsmith-cli check tells what it lacks.")});
 }
 
 Result<MatchBot> MatchBotOf(const Bot& bot, const Author& author) {

@@ -1,11 +1,13 @@
 #include "trial/match_evidence.h"
 
 #include <algorithm>
+#include <array>
 #include <optional>
+#include <string_view>
 #include <variant>
 
 #include "game/chat_type_facts.h"
-#include "trial/match_words.h"
+#include "support/localization.h"
 
 namespace fragsmith {
 namespace {
@@ -22,8 +24,10 @@ struct Seen {
   BotSums sums;
   /// How often each of the bot's own lines was heard, by its number.
   std::vector<int> heard;
-  std::string matches;  ///< "in 3 matches".
+  std::size_t matches = 0;
 };
+
+std::string MatchesOf(const Seen& seen) { return std::to_string(seen.matches); }
 
 std::optional<MatchEvidence> JudgeGauntletFighter(const Seen& seen) {
   int by_gauntlet = 0;
@@ -33,16 +37,22 @@ std::optional<MatchEvidence> JudgeGauntletFighter(const Seen& seen) {
     (weapon == kGauntlet ? by_gauntlet : by_others) += count;
   }
   if (by_others > 0) {
-    return MatchEvidence{0, false,
-                         std::to_string(by_others) + " of its " +
-                             std::to_string(by_others + by_gauntlet) +
-                             " kills were with other weapons."};
+    return MatchEvidence{
+        0, false,
+        Localized("%1 of its %2 kills were with other weapons.",
+                  {std::to_string(by_others),
+                   std::to_string(by_others + by_gauntlet)})};
   }
   if (by_gauntlet == 0) return std::nullopt;
-  return MatchEvidence{0, true,
-                       "All its kills were with the gauntlet, " +
-                           std::to_string(by_gauntlet) + " " + seen.matches +
-                           "."};
+  return MatchEvidence{
+      0, true,
+      Localized(
+          seen.matches == 1
+              ? Localizable(
+                    "All its kills were with the gauntlet, %1 in %2 match.")
+              : Localizable(
+                    "All its kills were with the gauntlet, %1 in %2 matches."),
+          {std::to_string(by_gauntlet), MatchesOf(seen)})};
 }
 
 std::optional<MatchEvidence> JudgeWeaponless(const Seen& seen) {
@@ -51,7 +61,12 @@ std::optional<MatchEvidence> JudgeWeaponless(const Seen& seen) {
     if (IsByWeapon(weapon)) kills += count;
   }
   if (kills == 0) {
-    return MatchEvidence{0, true, "It killed nobody " + seen.matches + "."};
+    return MatchEvidence{
+        0, true,
+        Localized(seen.matches == 1
+                      ? Localizable("It killed nobody in %1 match.")
+                      : Localizable("It killed nobody in %1 matches."),
+                  {MatchesOf(seen)})};
   }
   // It may have found a weapon on its way.
   return std::nullopt;
@@ -70,6 +85,30 @@ std::vector<ChatTypeId> SilentTypes(const BotPlace& place) {
         types, [](ChatTypeId type) { return !FactsOfChatType(type).is_heard; });
   }
   return types;
+}
+
+std::string HeardText(std::size_t lines, int heard, const Seen& seen) {
+  // By how often, none, one or more; by the matches and by the lines, one or
+  // more.
+  constexpr std::array<std::array<std::array<std::string_view, 2>, 2>, 3>
+      kTexts = {{
+          {{{Localizable("The line was never heard in %1 match."),
+             Localizable("The %2 lines were never heard in %1 match.")},
+            {Localizable("The line was never heard in %1 matches."),
+             Localizable("The %2 lines were never heard in %1 matches.")}}},
+          {{{Localizable("The line was heard %3 time in %1 match."),
+             Localizable("The %2 lines were heard %3 time in %1 match.")},
+            {Localizable("The line was heard %3 time in %1 matches."),
+             Localizable("The %2 lines were heard %3 time in %1 matches.")}}},
+          {{{Localizable("The line was heard %3 times in %1 match."),
+             Localizable("The %2 lines were heard %3 times in %1 match.")},
+            {Localizable("The line was heard %3 times in %1 matches."),
+             Localizable("The %2 lines were heard %3 times in %1 matches.")}}},
+      }};
+  const auto times = static_cast<std::size_t>(std::min(heard, 2));
+  return Localized(
+      kTexts.at(times).at(seen.matches == 1 ? 0 : 1).at(lines == 1 ? 0 : 1),
+      {MatchesOf(seen), std::to_string(lines), std::to_string(heard)});
 }
 
 std::optional<MatchEvidence> JudgeSilence(const BotPlace& place,
@@ -92,16 +131,7 @@ std::optional<MatchEvidence> JudgeSilence(const BotPlace& place,
     heard += seen.heard[line];
   }
   if (lines == 0) return std::nullopt;
-  const std::string which =
-      lines == 1 ? "The line was"
-                 : "The " + std::to_string(lines) + " lines were";
-  if (heard == 0) {
-    return MatchEvidence{0, true, which + " never heard " + seen.matches + "."};
-  }
-  return MatchEvidence{0, false,
-                       which + " heard " + std::to_string(heard) +
-                           (heard == 1 ? " time " : " times ") + seen.matches +
-                           "."};
+  return MatchEvidence{0, heard == 0, HeardText(lines, heard, seen)};
 }
 
 std::optional<MatchEvidence> Judge(const Finding& finding, const Seen& seen,
@@ -122,7 +152,7 @@ std::vector<MatchEvidence> EvidenceOf(const std::vector<Finding>& findings,
   if (report.played.empty()) return {};
   Seen seen = {.sums = SumsOf(report, 0),
                .heard = std::vector<int>(said.lines().size()),
-               .matches = "in " + MatchesText(report.played.size())};
+               .matches = report.played.size()};
   for (const auto& [text, count] : seen.sums.said) {
     if (const auto line = said.Find(text)) seen.heard[*line] += count;
   }

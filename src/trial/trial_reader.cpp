@@ -8,198 +8,24 @@
 #include "game/game_path.h"
 #include "model/file_names.h"
 #include "support/code_page.h"
+#include "support/localization.h"
 #include "support/text.h"
+#include "trial/engine_messages.h"
 
 namespace fragsmith {
 namespace {
 
 constexpr std::size_t kMaxLastLines = 10;
 
-/// A message of the engine by a part of it, and what it means.
-struct Explanation {
-  std::string_view words;
-  std::string_view sentence;
-};
-
-/// Messages that come without a word of how bad they are.
-struct BareMessage {
-  Explanation explanation;
-  Severity severity = Severity::kError;
-  bool is_refusal = false;
-};
-
-constexpr std::array kBareMessages = {
-    BareMessage{{"BotAISetupClient failed",
-                 "The game does not add the bot, for the reasons above."},
-                Severity::kError,
-                true},
-    BareMessage{
-        {"Unable to add bot", "The game has no free place for another player."},
-        Severity::kError,
-        true},
-    BareMessage{{"Can't use keys or values with",
-                 "A value in the description file has a ; or \\ or \" in it. "
-                 "The game throws that line away."},
-                Severity::kWarning,
-                false},
-    BareMessage{{"Missing { in info file",
-                 "The description file has something in front of its {. The "
-                 "game ignores the file from there on."},
-                Severity::kWarning,
-                false},
-    BareMessage{{"Unexpected end of info file",
-                 "The description file lacks the } at its end. The game takes "
-                 "it all the same."},
-                Severity::kWarning,
-                false},
-    BareMessage{{"file too large",
-                 "The description file is too large for the game, which "
-                 "ignores it. Make it shorter."},
-                Severity::kWarning,
-                false},
-    BareMessage{{"Max infos exceeded",
-                 "The game knows as many bots as it can. The others are left "
-                 "out."},
-                Severity::kWarning,
-                false},
-    BareMessage{{"Info string length exceeded",
-                 "The description is too long. What does not fit is lost."},
-                Severity::kWarning,
-                false},
-};
-
-/// Beginnings of lines after which no game is played.
-constexpr std::array kDeadEnds = {
-    Explanation{"Can't find map ",
-                "The game has no map of this name. Choose another one."},
-    Explanation{"VM_Create on game failed",
-                "The game's module is missing. The data folder holds the game "
-                "folder together with that; with Debian's OpenArena it is "
-                "/usr/lib/openarena-server."},
-    Explanation{"\"pak0.pk3\" is missing",
-                "The engine finds no game there. Enter the data folder, the "
-                "one above the game folder (with Debian's OpenArena "
-                "/usr/lib/openarena-server), and the game folder, such as "
-                "baseoa."},
-};
-
-/// The first whose words are in the message counts.
-constexpr std::array kExplanations = {
-    Explanation{"no aifile specified",
-                "The description file does not say where the bot's character "
-                "is. The game does not add the bot."},
-    Explanation{"AAS not initialized",
-                "The map has no file by which bots find their way (.aas), so "
-                "no bot can play there. Choose another map."},
-    Explanation{"couldn't find skill",
-                "The character file has no block for this skill, or a mistake "
-                "in it. The bot gets the game's default character."},
-    Explanation{"couldn't load skill",
-                "The game found no character for this skill and does not add "
-                "the bot."},
-    Explanation{"couldn't find chat",
-                "The chat file has no chat of the name that the character "
-                "file asks for."},
-    Explanation{"couldn't load chat",
-                "The game could not read the bot's chat and does not add the "
-                "bot."},
-    Explanation{"couldn't load weapon config",
-                "The game could not read the weapon weights and does not add "
-                "the bot."},
-    Explanation{"couldn't load the weights",
-                "The game could not read the weights and does not add the "
-                "bot."},
-    Explanation{"couldn't load weights",
-                "The game could not read the weights and does not add the "
-                "bot."},
-    Explanation{"couldn't load", "The game does not find this file."},
-    Explanation{"counldn't load", "The game does not find this file."},
-    Explanation{"expected integer index",
-                "The game does not know this characteristic. The bot gets the "
-                "game's default character."},
-    Explanation{"expected integer, float or string",
-                "This value is neither a plain number nor a text in quotes. "
-                "The bot gets the game's default character."},
-    Explanation{"already initialized",
-                "The same characteristic stands twice at one skill. The bot "
-                "gets the game's default character."},
-    Explanation{"is not initialized",
-                "The game has no value for this characteristic at this skill "
-                "and takes 0. Write it with a \".\" at all levels, or at "
-                "none."},
-    Explanation{"is not a string",
-                "Here the game wants a text in quotes, not a number."},
-    Explanation{"unknown definition",
-                "The game does not know this word. It ignores the file."},
-    Explanation{"newline inside string",
-                "A text does not end on the line on which it begins: a quote "
-                "is missing."},
-    Explanation{"missing trailing quote",
-                "A text has no quote at its end. The game cannot read the "
-                "file."},
-    Explanation{"unknown escape char",
-                "A backslash stands where the game knows none. The text ends "
-                "there."},
-    Explanation{"can't read token",
-                "The game cannot make sense of the file "
-                "from here on."},
-    Explanation{"couldn't read expected token",
-                "The file ends too early, or an error above spoiled it."},
-    Explanation{"invalid return value",
-                "A weight is missing or is not a plain number. The game does "
-                "not add the bot."},
-    Explanation{"can't evaluate",
-                "A weight is missing or is not a plain number. The game does "
-                "not add the bot."},
-    Explanation{"expected ;",
-                "A weight is missing or is not a plain number. The game does "
-                "not add the bot."},
-    Explanation{"invalid name",
-                "A weight is missing or is not a plain number. The game does "
-                "not add the bot."},
-    Explanation{"negative value set to zero",
-                "The game ignores the sign of a weight."},
-    Explanation{"redefinition of",
-                "A weight stands twice in the file. The last one counts."},
-    Explanation{"weapon number out of range",
-                "None of the weapons that the bot carries has a weight above "
-                "0. It aims badly."},
-    Explanation{"expected type",
-                "The chat file is not as the game wants it. The game does not "
-                "add the bot."},
-    Explanation{"expected ,",
-                "Something is wrong in a chat line. The game does not add the "
-                "bot."},
-    Explanation{"unknown message component",
-                "Something is wrong in a chat line. The game does not add the "
-                "bot."},
-    Explanation{"chat message too long",
-                "A chat line is too long. The game does not add the bot."},
-    Explanation{"unknown random string",
-                "A chat line takes words from a list that this game does not "
-                "have. The line is garbled when it is spoken."},
-    Explanation{"too many expansions",
-                "A chat line leads from one word list to the next without "
-                "end."},
-    Explanation{"out of range",
-                "A chat line has a variable that the game does not know."},
-    Explanation{" not found",
-                "A file asks for another one that this game does not have."},
-};
-
 constexpr std::array<std::string_view, 2> kErrorPrefixes = {"Error:", "Fatal:"};
 constexpr std::string_view kWarningPrefix = "Warning:";
-
-bool BeginsWith(std::string_view text, std::string_view beginning) {
-  return text.substr(0, beginning.size()) == beginning;
-}
 
 /// The words of a line: without colours and what a server puts around that
 /// which it sends to all players.
 std::string WordsOf(std::string_view line) {
   constexpr std::string_view kBroadcast = "broadcast: print \"";
   constexpr std::string_view kBroadcastEnd = "\\n\"";
-  if (BeginsWith(line, kBroadcast)) {
+  if (line.starts_with(kBroadcast)) {
     line.remove_prefix(kBroadcast.size());
     if (EndsWithIgnoringCase(line, kBroadcastEnd)) {
       line.remove_suffix(kBroadcastEnd.size());
@@ -216,40 +42,36 @@ std::string WordsOf(std::string_view line) {
   return words;
 }
 
-std::string_view SentenceFor(std::string_view line) {
-  for (const Explanation& explanation : kExplanations) {
-    if (Contains(line, explanation.words)) return explanation.sentence;
-  }
-  return {};
-}
-
 }  // namespace
 
 std::string VerdictText(TrialVerdict verdict, const std::string& bot_name) {
   const std::string name = Utf8FromGameText(bot_name);
   switch (verdict) {
     case TrialVerdict::kEntered:
-      return name + " entered the game.";
+      return Localized("%1 entered the game.", {name});
     case TrialVerdict::kOthersFiles:
-      return name +
-             " entered the game, but with files of another bot. Correct their "
-             "names in the character file, the one that ends in _c.c.";
+      return Localized(
+          "%1 entered the game, but with files of another bot. Correct their "
+          "names in the character file, the one that ends in _c.c.",
+          {name});
     case TrialVerdict::kWithDefault:
-      return name +
-             " entered the game, but with the game's default character in "
-             "place of its own.";
+      return Localized(
+          "%1 entered the game, but with the game's default character in "
+          "place of its own.",
+          {name});
     case TrialVerdict::kOtherBot:
-      return name +
-             " entered the game, but with the character of another bot. Either "
-             "the game has a bot of this name already, which wins: take "
-             "another name. Or the description names that file behind aifile: "
-             "write the bot's own.";
+      return Localized(
+          "%1 entered the game, but with the character of another bot. Either "
+          "the game has a bot of this name already, which wins: take another "
+          "name. Or the description names that file behind aifile: write the "
+          "bot's own.",
+          {name});
     case TrialVerdict::kNotAdded:
-      return "The game did not add " + name + ".";
+      return Localized("The game did not add %1.", {name});
     case TrialVerdict::kUnknown:
       break;
   }
-  return "It is not known what the game makes of " + name + ".";
+  return Localized("It is not known what the game makes of %1.", {name});
 }
 
 TrialReader::TrialReader(const TrialSetup& setup, const std::string& bot_name,
@@ -292,15 +114,13 @@ std::vector<std::string> TrialReader::LastLines() const {
 
 void TrialReader::TakeLine(std::string_view bytes) {
   const std::string line = WordsOf(bytes);
-  const auto* const dead_end = std::find_if(
-      kDeadEnds.begin(), kDeadEnds.end(),
-      [&line](const Explanation& one) { return BeginsWith(line, one.words); });
-  if (dead_end != kDeadEnds.end()) {
-    Add(Severity::kError, line, dead_end->sentence);
+  if (const std::string_view dead_end = DeadEndSentence(line);
+      !dead_end.empty()) {
+    Add(Severity::kError, line, dead_end);
     dead_end_ = TrialLine{Severity::kError, Utf8FromGameText(line),
-                          std::string(dead_end->sentence)};
+                          Localized(dead_end)};
     is_over_ = true;
-  } else if (BeginsWith(line, "loaded ")) {
+  } else if (line.starts_with("loaded ")) {
     TakeLoaded(line);
   } else if (Contains(line, " entered the game")) {
     // The first that enters once the bot's files are read is the bot.
@@ -332,15 +152,16 @@ void TrialReader::TakeLoaded(const std::string& line) {
   has_others_character_ = has_others_character_ || (is_others && is_character);
   if (is_default) {
     Add(Severity::kError, line,
-        "The bot gets the game's default character in place of its own.");
+        Localizable(
+            "The bot gets the game's default character in place of its own."));
   } else if (is_others && is_character) {
     Add(Severity::kError, line,
-        "This is the character of another bot, which has the name or whose "
-        "file the description names.");
+        Localizable("This is the character of another bot, which has the name "
+                    "or whose file the description names."));
   } else if (is_others && !has_others_character_) {
     Add(Severity::kWarning, line,
-        "This is a file of another bot. The character file, the one that ends "
-        "in _c.c, names it.");
+        Localizable("This is a file of another bot. The character file, the "
+                    "one that ends in _c.c, names it."));
   } else {
     Add(Severity::kHint, line, {});
   }
@@ -351,33 +172,33 @@ void TrialReader::TakeLoaded(const std::string& line) {
 }
 
 void TrialReader::TakeComplaint(const std::string& line) {
-  for (const BareMessage& message : kBareMessages) {
-    if (!Contains(line, message.explanation.words)) continue;
+  if (const BareMessage* const message = FindBareMessage(line)) {
     if (is_over_ && has_opponents_ && !IsOwn(line)) return;
-    Add(message.severity, line, message.explanation.sentence);
-    if (message.is_refusal) End(TrialVerdict::kNotAdded);
+    Add(message->severity, line, message->explanation.sentence);
+    if (message->is_refusal) End(TrialVerdict::kNotAdded);
     return;
   }
   if (Contains(line, "Bot '") && Contains(line, "' not defined")) {
     // The bots are added one after the other, ours first.
     const bool is_own = !is_over_;
     Add(is_own ? Severity::kError : Severity::kWarning, line,
-        is_own ? "The game did not read the bot's description file."
-               : "The game has no bot of this name to play against.");
+        is_own
+            ? Localizable("The game did not read the bot's description file.")
+            : Localizable("The game has no bot of this name to play against."));
     if (is_own) End(TrialVerdict::kNotAdded);
     return;
   }
   const bool is_error = std::any_of(
       kErrorPrefixes.begin(), kErrorPrefixes.end(),
-      [&line](std::string_view prefix) { return BeginsWith(line, prefix); });
-  if (!is_error && !BeginsWith(line, kWarningPrefix)) return;
+      [&line](std::string_view prefix) { return line.starts_with(prefix); });
+  if (!is_error && !line.starts_with(kWarningPrefix)) return;
   // Later ones may be about the other bots.
   if (is_over_ && !IsOwn(line) && (has_opponents_ || Contains(line, "bots/"))) {
     return;
   }
   Add(is_error ? Severity::kError : Severity::kWarning, line,
       SentenceFor(line));
-  if (BeginsWith(line, kErrorPrefixes.back()) ||
+  if (line.starts_with(kErrorPrefixes.back()) ||
       Contains(line, "no aifile specified")) {
     End(TrialVerdict::kNotAdded);
   }
@@ -385,7 +206,7 @@ void TrialReader::TakeComplaint(const std::string& line) {
 
 bool TrialReader::IsOwn(std::string_view line) const {
   return Contains(ToLower(line), "/" + file_name_ + "_") ||
-         BeginsWith(line, name_ + " BotAISetupClient");
+         line.starts_with(name_ + " BotAISetupClient");
 }
 
 void TrialReader::Add(Severity severity, const std::string& line,
@@ -393,7 +214,8 @@ void TrialReader::Add(Severity severity, const std::string& line,
   constexpr std::size_t kMaxLines = 200;
   if (seen_.size() >= kMaxLines || !seen_.insert(line).second) return;
   new_lines_.push_back(
-      {severity, Utf8FromGameText(line), std::string(sentence)});
+      {severity, Utf8FromGameText(line),
+       sentence.empty() ? std::string() : Localized(sentence)});
 }
 
 void TrialReader::End(TrialVerdict verdict) {

@@ -60,6 +60,7 @@ class TrialReader {
   void TakeLine(std::string_view bytes);
   void TakeLoaded(const std::string& line);
   void TakeComplaint(const std::string& line);
+  /// The sentence is a localizable one, or empty.
   void Add(Severity severity, const std::string& line,
            std::string_view sentence);
   void End(TrialVerdict verdict);

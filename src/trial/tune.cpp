@@ -66,6 +66,23 @@ Bot WithStrength(const Bot& bot, double strength) {
   return moved;
 }
 
+std::vector<ParameterId> TakeStrengthOf(const Bot& before, double strength,
+                                        Bot& bot) {
+  const Bot moved = WithStrength(before, strength);
+  std::vector<ParameterId> kept;
+  for (const StrengthEnds& ends : AllStrengthEnds()) {
+    for (const Level level : kLevels) {
+      const ParameterId id(level, ends.index);
+      if (bot.Parameter(id) == before.Parameter(id)) {
+        bot.Put(id, moved.Parameter(id));
+      } else {
+        kept.push_back(id);
+      }
+    }
+  }
+  return kept;
+}
+
 Tuner::Tuner(double wished_share, double margin) {
   question_.middle = wished_share;
   question_.margin = margin;

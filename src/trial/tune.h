@@ -30,6 +30,11 @@ const std::vector<StrengthEnds>& AllStrengthEnds();
 /// number; of one that is left to the game, its usual value is moved.
 Bot WithStrength(const Bot& bot, double strength);
 
+/// Moves the bot as one was moved that it has been. What was edited since is
+/// newer and stays: that is given back.
+std::vector<ParameterId> TakeStrengthOf(const Bot& before, double strength,
+                                        Bot& bot);
+
 enum class TuneState : std::uint8_t {
   kOpen,        ///< More matches are needed.
   kFound,       ///< The share is the wished one, within the margin.

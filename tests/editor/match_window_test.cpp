@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QScreen>
 #include <QTest>
+#include <QTranslator>
 #include <algorithm>
 #include <filesystem>
 #include <sstream>
@@ -404,6 +405,38 @@ TEST_F(MatchWindow, SaysWhyNothingIsPlayed) {
                                HasSubstr("Choose another one.")));
   EXPECT_FALSE(In<QPushButton>("cmdExport").isEnabled());
   ExpectNothingLeft();
+}
+
+class Translator : public QTranslator {
+ public:
+  bool isEmpty() const override { return false; }
+  QString translate(const char* /*context*/, const char* source,
+                    const char* /*disambiguation*/,
+                    int /*count*/) const override {
+    return QLatin1String(source) == QLatin1String("The bot as it was loaded")
+               ? QStringLiteral("Wie geladen")
+               : QString();
+  }
+};
+
+TEST_F(MatchWindow, KnowsTheOpponentAgainInAnotherLanguage) {
+  using Kind = MatchChoices::OpponentKind;
+  const auto take_up = [this](const char* shown) {
+    MatchChoices choices(*state_, nullptr);
+    choices.FillOpponents(false, nullptr);
+    choices.Load();
+    EXPECT_EQ(choices.Opponent(), Kind::kAsLoaded);
+    EXPECT_EQ(choices.OpponentName(), shown);
+    choices.Save();
+  };
+  In<QComboBox>("cmbOpponent").setCurrentIndex(0);
+  matches_->reject();
+  {
+    Translator translator;
+    QCoreApplication::installTranslator(&translator);
+    take_up("Wie geladen");
+  }
+  take_up("The bot as it was loaded");
 }
 
 }  // namespace

@@ -44,8 +44,7 @@ BotListBox::BotListBox(const BotList& bots, QWidget* parent)
     : QWidget(parent), list_(new QListWidget(this)) {
   const QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
   list_->setObjectName(QStringLiteral("lstBots"));
-  list_->setAccessibleName(
-      QStringLiteral("Bots of the game: Bot, Pk3-file, Botfile"));
+  list_->setAccessibleName(tr("Bots of the game: Bot, Pk3-file, Botfile"));
   list_->setFont(font);
   list_->setUniformItemSizes(true);
   for (const BotListEntry& entry : bots.entries()) {

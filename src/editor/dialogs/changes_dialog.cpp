@@ -53,24 +53,22 @@ class DiffColours : public QSyntaxHighlighter {
 
 frmChanges::frmChanges(const QString& diff, QWidget* parent) : QDialog(parent) {
   setObjectName(QStringLiteral("frmChanges"));
-  setWindowTitle(QStringLiteral("Show changes"));
+  setWindowTitle(tr("Show changes"));
   auto* const layout = new QVBoxLayout(this);
   auto* const caption = new QLabel(
-      QStringLiteral("&What Save again changes in the files of this bot:"),
-      this);
+      tr("&What Save again changes in the files of this bot:"), this);
   layout->addWidget(caption);
   auto* const view = new QPlainTextEdit(this);
   view->setObjectName(QStringLiteral("txtChanges"));
-  view->setAccessibleName(QStringLiteral("Changes in the files"));
+  view->setAccessibleName(tr("Changes in the files"));
   view->setReadOnly(true);
   // Read only, it is still to be walked through with the keyboard.
   view->setTextInteractionFlags(Qt::TextSelectableByMouse |
                                 Qt::TextSelectableByKeyboard);
   view->setLineWrapMode(QPlainTextEdit::NoWrap);
   view->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-  view->setPlainText(diff.isEmpty()
-                         ? QStringLiteral("Nothing: the files say all of it.")
-                         : diff);
+  view->setPlainText(diff.isEmpty() ? tr("Nothing: the files say all of it.")
+                                    : diff);
   new DiffColours(view);
   caption->setBuddy(view);
   layout->addWidget(view);

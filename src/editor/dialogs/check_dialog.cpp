@@ -142,17 +142,15 @@ void frmCheck::FindBots() {
     return verdict_->Say(QString::fromStdString(Describe(bots.error())));
   }
   const std::string why = WhyNoBots(chosen);
-  verdict_->Say(tr("There is no bot in %1. %2")
-                    .arg(ShownPath(chosen),
-                         why.empty()
-                             ? tr("The files of a bot end in _c.c, _w.c, "
-                                  "_i.c, _t.c and .bot; of many packages "
-                                  "choose one.")
-                             : QString::fromStdString(why)));
+  verdict_->Say(
+      tr("There is no bot in %1.").arg(ShownPath(chosen)) + u' ' +
+      (why.empty() ? tr("The files of a bot end in _c.c, _w.c, _i.c, _t.c and "
+                        ".bot; of many packages choose one.")
+                   : QString::fromStdString(why)));
 }
 
 void frmCheck::CheckSoon() {
-  verdict_->Say(QStringLiteral("Checking..."));
+  verdict_->Say(tr("Checking..."));
   timer_.start();
 }
 

@@ -31,40 +31,39 @@ EngineFields::EngineFields(EngineChoice choice, const ProgramState& state,
       state_(state),
       parent_(parent),
       engine_(new QComboBox(&parent)),
-      data_(AddBox("Data folder", "txtData")),
-      game_(AddBox("Game folder", "txtGame")),
-      map_(AddBox("Map", "txtMap")) {
+      data_(AddBox(tr("Data folder"), "txtData")),
+      game_(AddBox(tr("Game folder"), "txtGame")),
+      map_(AddBox(tr("Map"), "txtMap")) {
   IgnoreWheelWithoutFocus(*engine_);
   engine_->setObjectName(QStringLiteral("cmbEngine"));
-  engine_->setAccessibleName(QStringLiteral("Engine"));
-  engine_->setToolTip(
-      choice == EngineChoice::kAll
-          ? QStringLiteral("The game's program. With a dedicated server "
-                           "nothing is seen but its words.")
-          : QStringLiteral("The game's dedicated server, such as ioq3ded"));
+  engine_->setAccessibleName(tr("Engine"));
+  engine_->setToolTip(choice == EngineChoice::kAll
+                          ? tr("The game's program. With a dedicated server "
+                               "nothing is seen but its words.")
+                          : tr("The game's dedicated server, such as ioq3ded"));
   engine_->setEditable(true);
   engine_->setInsertPolicy(QComboBox::NoInsert);
   engine_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
   connect(engine_, &QComboBox::textActivated, this, &EngineFields::SuggestGame);
-  data_->setPlaceholderText(QStringLiteral("where the engine looks by itself"));
+  data_->setPlaceholderText(tr("where the engine looks by itself"));
   data_->setToolTip(
-      QStringLiteral("The folder above the game folder; empty for the one "
-                     "that the engine knows"));
-  game_->setToolTip(QStringLiteral("baseq3, or baseoa for OpenArena"));
+      tr("The folder above the game folder; empty for the one "
+         "that the engine knows"));
+  game_->setToolTip(tr("baseq3, or baseoa for OpenArena"));
   FillEngines(choice);
 }
 
 void EngineFields::AddTo(QFormLayout& form) {
-  form.addRow(QStringLiteral("&Engine:"), engine_);
-  form.addRow(QStringLiteral("&Data folder:"), data_);
-  form.addRow(QStringLiteral("&Game folder:"), game_);
-  form.addRow(QStringLiteral("&Map:"), map_);
+  form.addRow(tr("&Engine:"), engine_);
+  form.addRow(tr("&Data folder:"), data_);
+  form.addRow(tr("&Game folder:"), game_);
+  form.addRow(tr("&Map:"), map_);
 }
 
-QLineEdit* EngineFields::AddBox(const char* caption, const char* name) {
+QLineEdit* EngineFields::AddBox(const QString& caption, const char* name) {
   auto* const box = new QLineEdit(&parent_);
   box->setObjectName(QLatin1String(name));
-  box->setAccessibleName(QLatin1String(caption));
+  box->setAccessibleName(caption);
   return box;
 }
 

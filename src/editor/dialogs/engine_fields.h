@@ -45,7 +45,7 @@ class EngineFields : public QObject {
   void SetEnabled(bool is_enabled);
 
  private:
-  QLineEdit* AddBox(const char* caption, const char* name);
+  QLineEdit* AddBox(const QString& caption, const char* name);
   void FillEngines(EngineChoice choice);
   /// Puts a game and a map that go with the engine.
   void SuggestGame();

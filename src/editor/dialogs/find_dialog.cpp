@@ -13,16 +13,16 @@ frmFind::frmFind(const Bot& bot, QWidget* parent)
       matches_(new WordsFilter(*places_, list_)),
       hint_(new HintLine(1, this)) {
   setObjectName(QStringLiteral("frmFind"));
-  setWindowTitle(QStringLiteral("Find"));
-  auto* const label = new QLabel(
-      QStringLiteral("&Words of a parameter's name or of a chat line:"), this);
+  setWindowTitle(tr("Find"));
+  auto* const label =
+      new QLabel(tr("&Words of a parameter's name or of a chat line:"), this);
   label->setBuddy(box_);
   box_->setObjectName(QStringLiteral("txtFind"));
-  box_->setAccessibleName(QStringLiteral("Words to find"));
+  box_->setAccessibleName(tr("Words to find"));
   box_->setClearButtonEnabled(true);
   LetBoxLeadList(box_, list_);
   list_->setObjectName(QStringLiteral("lstFound"));
-  list_->setAccessibleName(QStringLiteral("Found"));
+  list_->setAccessibleName(tr("Found"));
   list_->setUniformItemSizes(true);
   list_->setModel(matches_);
   auto* const column = new QVBoxLayout(this);
@@ -46,9 +46,8 @@ void frmFind::ShowMatches() {
   const QModelIndex first = matches_->index(0, 0);
   list_->setCurrentIndex(first);
   list_->scrollToTop();
-  hint_->Say(first.isValid()
-                 ? QString()
-                 : QStringLiteral("No parameter and no chat line has this."));
+  hint_->Say(first.isValid() ? QString()
+                             : tr("No parameter and no chat line has this."));
 }
 
 BotPlace frmFind::Chosen() const {

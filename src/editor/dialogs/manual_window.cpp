@@ -36,9 +36,9 @@ ManualWindow::ManualWindow(QWidget* parent)
       chapters_(new QListWidget(this)),
       text_(new QTextBrowser(this)) {
   setObjectName(QStringLiteral("frmManual"));
-  setWindowTitle(QStringLiteral("Fragsmith manual"));
-  chapters_->setAccessibleName(QStringLiteral("Chapters"));
-  text_->setAccessibleName(QStringLiteral("Manual"));
+  setWindowTitle(tr("Fragsmith manual"));
+  chapters_->setAccessibleName(tr("Chapters"));
+  text_->setAccessibleName(tr("Manual"));
   text_->setOpenLinks(false);
   text_->setMarkdown(Text());
 

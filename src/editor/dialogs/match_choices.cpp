@@ -1,5 +1,6 @@
 #include "editor/dialogs/match_choices.h"
 
+#include <QCoreApplication>
 #include <QFormLayout>
 #include <QSettings>
 #include <algorithm>
@@ -34,8 +35,15 @@ constexpr const char* kUntilSure = "untilSure";
 constexpr const char* kShare = "share";
 constexpr const char* kJobs = "jobs";
 
-constexpr const char* kAsLoaded = "The bot as it was loaded";
-constexpr const char* kAsSaved = "The bot as it was last saved";
+// In this language they stand in the file, whichever is shown.
+constexpr const char* kAsLoaded =
+    QT_TRANSLATE_NOOP("MatchChoices", "The bot as it was loaded");
+constexpr const char* kAsSaved =
+    QT_TRANSLATE_NOOP("MatchChoices", "The bot as it was last saved");
+
+QString Shown(const char* opponent) {
+  return QCoreApplication::translate("MatchChoices", opponent);
+}
 
 QSpinBox* MakeNumber(const char* name, const QString& accessible_name,
                      int least, int most, int value, QWidget* parent) {
@@ -102,8 +110,8 @@ MatchChoices::MatchChoices(const ProgramState& state, QWidget* parent)
 void MatchChoices::FillOpponents(bool was_saved, const GameData* game) {
   const QString chosen = opponent_->currentText();
   opponent_->clear();
-  opponent_->addItem(QLatin1String(kAsLoaded));
-  if (was_saved) opponent_->addItem(QLatin1String(kAsSaved));
+  opponent_->addItem(Shown(kAsLoaded));
+  if (was_saved) opponent_->addItem(Shown(kAsSaved));
   opponent_->insertSeparator(opponent_->count());
   std::set<std::string> names;
   if (game != nullptr) {
@@ -114,10 +122,22 @@ void MatchChoices::FillOpponents(bool was_saved, const GameData* game) {
 }
 
 MatchChoices::OpponentKind MatchChoices::Opponent() const {
-  const std::string text = OpponentName();
-  if (text == kAsLoaded) return OpponentKind::kAsLoaded;
-  if (text == kAsSaved) return OpponentKind::kAsSaved;
+  const QString text = opponent_->currentText().trimmed();
+  if (text == Shown(kAsLoaded)) return OpponentKind::kAsLoaded;
+  if (text == Shown(kAsSaved)) return OpponentKind::kAsSaved;
   return OpponentKind::kNamed;
+}
+
+QString MatchChoices::SavedOpponent() const {
+  switch (Opponent()) {
+    case OpponentKind::kAsLoaded:
+      return QLatin1String(kAsLoaded);
+    case OpponentKind::kAsSaved:
+      return QLatin1String(kAsSaved);
+    case OpponentKind::kNamed:
+      break;
+  }
+  return opponent_->currentText();
 }
 
 std::string MatchChoices::OpponentName() const {
@@ -155,9 +175,12 @@ void MatchChoices::Load() {
   const auto number = [&file](const char* key, QSpinBox& box) {
     box.setValue(file.value(QLatin1String(key), box.value()).toInt());
   };
-  opponent_->setCurrentText(
-      file.value(QLatin1String(kOpponent), opponent_->currentText())
-          .toString());
+  QString opponent =
+      file.value(QLatin1String(kOpponent), SavedOpponent()).toString();
+  for (const char* const one : {kAsLoaded, kAsSaved}) {
+    if (opponent == QLatin1String(one)) opponent = Shown(one);
+  }
+  opponent_->setCurrentText(opponent);
   skill_->Load(file);
   number(kMinutes, *minutes_);
   number(kGames, *games_);
@@ -173,7 +196,7 @@ void MatchChoices::Save() const {
   const auto save = [&file](const char* key, const QVariant& value) {
     file.setValue(QLatin1String(key), value);
   };
-  save(kOpponent, opponent_->currentText());
+  save(kOpponent, SavedOpponent());
   skill_->Save(file);
   save(kMinutes, minutes_->value());
   save(kGames, games_->value());

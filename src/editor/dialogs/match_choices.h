@@ -51,6 +51,9 @@ class MatchChoices : public QWidget {
   void SetRunning(bool is_running);
 
  private:
+  /// As the file holds it.
+  QString SavedOpponent() const;
+
   const ProgramState& state_;
   QComboBox* opponent_;
   EngineFields* engine_;

@@ -1,6 +1,7 @@
 #include "editor/dialogs/match_window.h"
 
 #include <QBuffer>
+#include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QGuiApplication>
@@ -11,7 +12,6 @@
 #include <QSplitter>
 #include <QVBoxLayout>
 #include <algorithm>
-#include <set>
 #include <utility>
 
 #include "chat/vocabulary.h"
@@ -24,11 +24,21 @@ namespace {
 
 enum RunColumn { kBot, kAgainst, kShare, kMatches, kSkillAndMap, kRunColumns };
 
-Error Trouble(std::string what, std::string advice) {
-  return {.what = std::move(what),
+Error Trouble(const QString& what, const QString& advice) {
+  return {.what = what.toStdString(),
           .file = {},
           .line = 0,
-          .advice = std::move(advice)};
+          .advice = advice.toStdString()};
+}
+
+QString TextAboutKept(const std::vector<ParameterId>& kept) {
+  return kept.size() == 1
+             ? frmMatch::tr("What you changed since the run began stays: %1.")
+                   .arg(QString::fromStdString(QuotedName(kept.front())))
+             : frmMatch::tr(
+                   "What you changed since the run began stays: %1 "
+                   "values.")
+                   .arg(kept.size());
 }
 
 }  // namespace
@@ -196,18 +206,23 @@ void frmMatch::done(int result) {
 
 frmMatch::Opponent frmMatch::ChosenOpponent() const {
   using Kind = MatchChoices::OpponentKind;
-  const auto as_it_was = [](const Bot& bot, const char* when) {
-    return Opponent{Utf8FromGameText(bot.Name()) + when, &bot};
+  const auto as_it_was = [](const Bot& bot, const char* text) {
+    const QString name = ToQString(bot.Name());
+    const QString shown = QCoreApplication::translate("frmMatch", text);
+    return Opponent{shown.arg(name).toStdString(),
+                    QString::fromUtf8(text).arg(name).toStdString(), &bot};
   };
   const Kind kind = choices_->Opponent();
   const Bot* const saved = current_.origin().home->saved.get();
   if (kind == Kind::kAsLoaded) {
-    return as_it_was(current_.loaded(), " as it was loaded");
+    return as_it_was(current_.loaded(),
+                     QT_TRANSLATE_NOOP("frmMatch", "%1 as it was loaded"));
   }
   if (kind == Kind::kAsSaved && saved != nullptr) {
-    return as_it_was(*saved, " as it was saved");
+    return as_it_was(*saved,
+                     QT_TRANSLATE_NOOP("frmMatch", "%1 as it was saved"));
   }
-  return {choices_->OpponentName()};
+  return {choices_->OpponentName(), choices_->OpponentName()};
 }
 
 void frmMatch::StartOrStop() {
@@ -217,20 +232,21 @@ void frmMatch::StartOrStop() {
 
 Result<std::unique_ptr<MatchSession>> frmMatch::MakeSession(bool search) {
   if (choices_->Server().engine.empty()) {
-    return Failure(Trouble("There is no dedicated server to play on.",
-                           "Install one, such as ioq3ded, and choose it as "
-                           "the engine."));
+    return Failure(Trouble(tr("There is no dedicated server to play on."),
+                           tr("Install one, such as ioq3ded, and choose it as "
+                              "the engine.")));
   }
   std::vector<std::string> maps = choices_->Maps();
   if (maps.empty()) {
     choices_->FocusMap();
-    return Failure(Trouble("There is no map to play on.", "Enter its name."));
+    return Failure(
+        Trouble(tr("There is no map to play on."), tr("Enter its name.")));
   }
   const Opponent opponent = ChosenOpponent();
   if (opponent.name.empty()) {
     choices_->FocusOpponent();
-    return Failure(
-        Trouble("There is nobody to play against.", "Choose an opponent."));
+    return Failure(Trouble(tr("There is nobody to play against."),
+                           tr("Choose an opponent.")));
   }
   static const WordLists kNoWords;
   const GameData* const game = checker_.game();
@@ -241,7 +257,8 @@ Result<std::unique_ptr<MatchSession>> frmMatch::MakeSession(bool search) {
   session->home = current_.origin().home;
   session->names = {Utf8FromGameText(session->bot.Name()), opponent.name};
   if (!search && opponent.bot != nullptr && *opponent.bot == session->bot) {
-    session->remark = "Nothing is different: it plays against itself.";
+    session->remark =
+        tr("Nothing is different: it plays against itself.").toStdString();
   }
   const Author author = AuthorOf(state_.settings);
   const int skill = choices_->Skill();
@@ -251,7 +268,7 @@ Result<std::unique_ptr<MatchSession>> frmMatch::MakeSession(bool search) {
     return read;
   };
   MatchReport& report = session->report;
-  report.sources = session->names;
+  report.sources = {session->names.front(), opponent.source};
   report.plan.minutes = choices_->Minutes();
   report.plan.maps = std::move(maps);
   Result<MatchBot> own = of_bot(session->bot);
@@ -311,11 +328,11 @@ void frmMatch::SetRunning(bool is_running) {
 void frmMatch::ShowProgress() {
   if (!runner_.IsRunning()) return;
   const MatchSession& session = *sessions_.back();
-  progress_->Say(tr("%1 of %2%3 matches played, %4 running, minute %5")
-                     .arg(session.Matches())
-                     .arg(session.is_until_sure() || session.search
-                              ? tr("at most ")
-                              : QString())
+  const bool is_open_end = session.is_until_sure() || session.search;
+  const QString text =
+      is_open_end ? tr("%1 of at most %2 matches played, %3 running, minute %4")
+                  : tr("%1 of %2 matches played, %3 running, minute %4");
+  progress_->Say(text.arg(session.Matches())
                      .arg(session.games)
                      .arg(runner_.in_play())
                      .arg(runner_.minute()));
@@ -330,15 +347,13 @@ void frmMatch::ShowNews() {
 
 void frmMatch::ShowRun(QTreeWidgetItem& row, const MatchSession& session) {
   const MatchPlan& plan = session.report.plan;
-  QString maps;
-  for (const std::string& map : plan.maps) {
-    maps += (maps.isEmpty() ? QString() : QStringLiteral(",")) +
-            QString::fromStdString(map);
-  }
+  QStringList maps;
+  for (const std::string& map : plan.maps) maps << QString::fromStdString(map);
   row.setText(kBot, QString::fromStdString(session.names.at(0)));
   row.setText(kAgainst, QString::fromStdString(session.names.at(1)));
-  row.setText(kSkillAndMap,
-              QStringLiteral("%1, %2").arg(plan.bots.front().skill).arg(maps));
+  row.setText(kSkillAndMap, QStringLiteral("%1, %2")
+                                .arg(plan.bots.front().skill)
+                                .arg(maps.join(u',')));
   row.setText(kMatches, QString::number(session.Matches()));
   if (!session.shares.empty()) {
     row.setText(kShare,
@@ -374,31 +389,13 @@ const MatchSession& frmMatch::SessionOf(QTreeWidgetItem& row) const {
 void frmMatch::TakeStrength() {
   const MatchSession& session = *Selected();
   if (!IsHere(session) || !store_()) return;
-  const Bot moved = WithStrength(session.bot, session.search->tuner.strength());
-  std::set<ParameterId> kept;
-  current_.Edit({.text = tr("Strength"), .place = WholeBot{}, .merges = false},
-                [&](Bot& bot) {
-                  for (const StrengthEnds& ends : AllStrengthEnds()) {
-                    for (const Level level : kLevels) {
-                      const ParameterId id(level, ends.index);
-                      // What was edited since is newer.
-                      if (bot.Parameter(id) == session.bot.Parameter(id)) {
-                        bot.Put(id, moved.Parameter(id));
-                      } else {
-                        kept.insert(id);
-                      }
-                    }
-                  }
-                });
-  QString text = tr("The bot has that strength now; Undo takes it back.");
-  if (!kept.empty()) {
-    text +=
-        tr(" What you changed since the run began stays: %1.")
-            .arg(QString::fromStdString(
-                kept.size() == 1 ? QuotedName(*kept.begin())
-                                 : std::to_string(kept.size()) + " values"));
-  }
-  progress_->Say(text);
+  const double strength = session.search->tuner.strength();
+  std::vector<ParameterId> kept;
+  current_.Edit(
+      {.text = tr("Strength"), .place = WholeBot{}, .merges = false},
+      [&](Bot& bot) { kept = TakeStrengthOf(session.bot, strength, bot); });
+  const QString text = tr("The bot has that strength now; Undo takes it back.");
+  progress_->Say(kept.empty() ? text : text + u' ' + TextAboutKept(kept));
 }
 
 bool frmMatch::IsHere(const MatchSession& session) {
@@ -436,7 +433,7 @@ void frmMatch::Export(const QString& title, const QString& ending,
       PathFromBytes(dialog.selectedFiles().value(0).toStdString());
   const Result<void> saved = SaveFile(path, bytes());
   if (!saved) {
-    state_.prompts.Show({.title = "Play it out",
+    state_.prompts.Show({.title = tr("Play it out").toStdString(),
                          .text = Describe(saved.error()),
                          .icon = MessageIcon::kExclamation});
   }

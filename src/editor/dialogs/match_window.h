@@ -48,6 +48,7 @@ class frmMatch : public QDialog {
   /// The bot to play against.
   struct Opponent {
     std::string name;          ///< For people.
+    std::string source;        ///< For files, in English.
     const Bot* bot = nullptr;  ///< Null for one of the installed game.
   };
 

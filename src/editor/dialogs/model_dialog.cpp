@@ -18,11 +18,11 @@ frmModelDialog::frmModelDialog(Prompts& prompts, QWidget* parent)
   setObjectName(QStringLiteral("frmModelDialog"));
   setWindowTitle(QStringLiteral("Add model"));
   name_->setObjectName(QStringLiteral("txtName"));
-  name_->setAccessibleName(QStringLiteral("Name of the model"));
+  name_->setAccessibleName(tr("Name of the model"));
   name_->setMinimumWidth(48 * fontMetrics().averageCharWidth());
   red_and_blue_->setObjectName(QStringLiteral("chkRedBlue"));
 
-  auto* const caption = new QLabel(QStringLiteral("&Name:"), this);
+  auto* const caption = new QLabel(tr("&Name:"), this);
   caption->setBuddy(name_);
   auto* const hint = new HintLine(1, this);
   RefuseForeignCharacters(name_, hint);

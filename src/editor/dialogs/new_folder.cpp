@@ -1,8 +1,9 @@
 #include "editor/dialogs/new_folder.h"
 
+#include <QCoreApplication>
+#include <QString>
 #include <string>
 #include <system_error>
-#include <utility>
 
 #include "support/files.h"
 
@@ -11,8 +12,10 @@ namespace fs = std::filesystem;
 
 std::optional<fs::path> MakeNewFolder(const fs::path& parent,
                                       Prompts& prompts) {
-  const std::optional<std::string> name =
-      prompts.AskText("New folder", "Name of the new folder");
+  const std::optional<std::string> name = prompts.AskText(
+      QCoreApplication::translate("NewFolder", "New folder").toStdString(),
+      QCoreApplication::translate("NewFolder", "Name of the new folder")
+          .toStdString());
   if (!name || name->empty()) return std::nullopt;
   fs::path folder = parent / PathFromBytes(*name);
   std::error_code reason;
@@ -22,11 +25,13 @@ std::optional<fs::path> MakeNewFolder(const fs::path& parent,
     fs::create_directory(folder, reason);
   }
   if (!reason && IsFolder(folder)) return folder;
-  std::string text =
-      "Can't make a folder '" + *name + "' in '" + Utf8FromPath(parent) + "'";
-  if (reason) text += ": " + reason.message();
+  const QString text = QCoreApplication::translate(
+                           "NewFolder", "Can't make a folder '%1' in '%2'")
+                           .arg(QString::fromStdString(*name),
+                                QString::fromStdString(Utf8FromPath(parent)));
+  const std::string why = reason ? ": " + reason.message() : std::string();
   prompts.Show({.title = std::string(kProgramTitle),
-                .text = std::move(text),
+                .text = text.toStdString() + why,
                 .icon = MessageIcon::kExclamation});
   return std::nullopt;
 }

@@ -133,16 +133,15 @@ QLayout* frmOpen::MakeOptions(const OpenRequest& request) {
   grid->addWidget(saves_with_layout_, 0, 1);
   grid->addWidget(makes_package_, 1, 1);
   if (request.offers_files) {
-    keeps_files_ = MakeOption(
-        QStringLiteral("&Keep the files as their author wrote them"),
-        QStringLiteral("chkKeepFiles"), options_.keeps_files, saves, this);
+    keeps_files_ = MakeOption(tr("&Keep the files as their author wrote them"),
+                              QStringLiteral("chkKeepFiles"),
+                              options_.keeps_files, saves, this);
     grid->addWidget(keeps_files_, grid->rowCount(), 1);
   }
   if (request.offers_macros) {
-    game_macros_ =
-        MakeOption(QStringLiteral("&Write the game's own macros as well"),
-                   QStringLiteral("chkGameMacros"), options_.writes_game_macros,
-                   saves, this);
+    game_macros_ = MakeOption(tr("&Write the game's own macros as well"),
+                              QStringLiteral("chkGameMacros"),
+                              options_.writes_game_macros, saves, this);
     grid->addWidget(game_macros_, grid->rowCount(), 1);
   }
   grid->setColumnStretch(2, 1);
@@ -150,7 +149,7 @@ QLayout* frmOpen::MakeOptions(const OpenRequest& request) {
 }
 
 QPushButton* frmOpen::MakeNewFolderButton() {
-  auto* const button = new QPushButton(QStringLiteral("&New folder"), this);
+  auto* const button = new QPushButton(tr("&New folder"), this);
   button->setObjectName(QStringLiteral("cmdNewFolder"));
   button->setAutoDefault(false);
   connect(button, &QPushButton::clicked, this, [this] {
@@ -185,7 +184,9 @@ bool frmOpen::EnterTypedPath() {
     return true;
   }
   prompts_.Show({.title = std::string(kProgramTitle),
-                 .text = "There is no folder '" + text + "'.",
+                 .text = tr("There is no folder '%1'.")
+                             .arg(QString::fromStdString(text))
+                             .toStdString(),
                  .icon = MessageIcon::kExclamation});
   box->setFocus();
   box->selectAll();

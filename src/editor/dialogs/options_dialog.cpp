@@ -107,7 +107,7 @@ QWidget* frmOptions::MakeDirectoriesPage() {
         new QPushButton(QString::fromUtf8(RowOf(index).search), page);
     search->setObjectName(QStringLiteral("cmdSearch_%1").arg(index));
     search->setAccessibleName(
-        QStringLiteral("Search %1").arg(QString::fromUtf8(RowOf(index).shown)));
+        tr("Search %1").arg(QString::fromUtf8(RowOf(index).shown)));
     search->setAutoDefault(false);
     connect(search, &QPushButton::clicked, this,
             [this, index] { OpenBrowser(index); });
@@ -200,20 +200,19 @@ void frmOptions::ShowHints() {
   };
   const bool is_lost = text(kNameIndex).isEmpty() &&
                        !(text(kNameIndex + 1) + text(kNameIndex + 2)).isEmpty();
-  no_name_->Say(is_lost ? QStringLiteral("Without a name neither email nor web "
-                                         "page is written to the bot files.")
+  no_name_->Say(is_lost ? tr("Without a name neither email nor web "
+                             "page is written to the bot files.")
                         : QString());
   QStringList cut;
   for (int index = 0; index < kEditableOptionCount; ++index) {
     if (!text(index).contains(u',')) continue;
     cut << QString::fromUtf8(RowOf(index).shown);
   }
-  hint_->Say(cut.isEmpty()
-                 ? QString()
-                 : QStringLiteral("%1: the settings file cuts a value at its "
-                                  "first comma, and the settings behind it "
-                                  "move out of place at the next start.")
-                       .arg(cut.join(QStringLiteral(", "))));
+  hint_->Say(cut.isEmpty() ? QString()
+                           : tr("%1: the settings file cuts a value at its "
+                                "first comma, and the settings behind it "
+                                "move out of place at the next start.")
+                                 .arg(cut.join(QStringLiteral(", "))));
 }
 
 }  // namespace fragsmith

@@ -23,7 +23,7 @@ frmSearchBaseQ3::frmSearchBaseQ3(QWidget* parent)
   label->setObjectName(QStringLiteral("lblSearch"));
   label->setBuddy(bar_);
   bar_->setObjectName(QStringLiteral("barProgress"));
-  bar_->setAccessibleName(QStringLiteral("Packages searched"));
+  bar_->setAccessibleName(tr("Packages searched"));
   bar_->setTextVisible(false);
   // Without a range it only moves, until the number of packages is known.
   bar_->setRange(0, 0);
@@ -50,7 +50,7 @@ void frmSearchBaseQ3::ShowProgress(std::size_t done, std::size_t total) {
   bar_->setRange(0, static_cast<int>(total));
   bar_->setValue(static_cast<int>(done));
   if (!was_cancelled_) {
-    count_->setText(QStringLiteral("%1 of %2 packages").arg(done).arg(total));
+    count_->setText(tr("%1 of %2 packages").arg(done).arg(total));
   }
   QCoreApplication::processEvents();
 }
@@ -58,7 +58,7 @@ void frmSearchBaseQ3::ShowProgress(std::size_t done, std::size_t total) {
 void frmSearchBaseQ3::reject() {
   was_cancelled_ = true;
   cancel_->setEnabled(false);
-  count_->setText(QStringLiteral("Cancelling..."));
+  count_->setText(tr("Cancelling..."));
 }
 
 void frmSearchBaseQ3::changeEvent(QEvent* event) {

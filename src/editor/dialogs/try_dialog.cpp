@@ -94,12 +94,12 @@ QLayout* frmTry::MakeFields() {
   IgnoreWheelWithoutFocus(*what_);
   connect(what_, &QComboBox::currentIndexChanged, this, &frmTry::ShowFindings);
   if (DiffersOnDisk()) {
-    fields->addRow(QStringLiteral("T&ry:"), what_);
+    fields->addRow(tr("T&ry:"), what_);
   } else {
     what_->hide();
   }
   engine_->AddTo(*fields);
-  fields->addRow(QStringLiteral("S&kill:"), skill_);
+  fields->addRow(tr("S&kill:"), skill_);
   opponents_->setObjectName(QStringLiteral("txtOpponents"));
   opponents_->setAccessibleName(tr("Opponents"));
   fields->addRow(tr("&Opponents:"), opponents_);
@@ -265,9 +265,8 @@ void frmTry::Watch() {
   if (run_->IsEndless()) {
     run_->End();
     ShowEnd(true);
-    verdict_->Say(tr("%1\nThe engine prints without end. It was "
-                     "ended.")
-                      .arg(verdict_->text()));
+    verdict_->Say(verdict_->text() + u'\n' +
+                  tr("The engine prints without end. It was ended."));
   } else if (!is_running) {
     ShowEnd(false);
   }
@@ -325,7 +324,7 @@ void frmTry::ShowFault(const QString& text) {
 }
 
 void frmTry::SetRunning(bool is_running) {
-  start_->setText(is_running ? QStringLiteral("S&top") : tr("&Start"));
+  start_->setText(is_running ? tr("S&top") : tr("&Start"));
   start_->setEnabled(true);
   engine_->SetEnabled(!is_running);
   what_->setEnabled(!is_running);

@@ -1,5 +1,6 @@
 #include "editor/models/compare_groups.h"
 
+#include <QCoreApplication>
 #include <algorithm>
 #include <array>
 #include <cstddef>
@@ -28,7 +29,9 @@ std::map<ParameterId, int> GroupsOfParameters() {
 }  // namespace
 
 QString GroupTitle(int group) {
-  if (group == kIdentityGroup) return QStringLiteral("Identity");
+  if (group == kIdentityGroup) {
+    return QCoreApplication::translate("CompareGroups", "Identity");
+  }
   return QString::fromUtf8(
       group < kFirstTypeGroup
           ? PageOf(group).tab_caption

@@ -1,5 +1,6 @@
 #include "editor/models/difference_rows.h"
 
+#include <QCoreApplication>
 #include <map>
 #include <string>
 #include <utility>
@@ -18,7 +19,8 @@ constexpr int kMaxLetters = 500;
 
 /// What is not there is said, for those who hear the list too.
 Cell CellOf(const QString& text) {
-  if (text.isEmpty()) return {QStringLiteral("(none)"), true};
+  if (text.isEmpty())
+    return {QCoreApplication::translate("DifferenceRows", "(none)"), true};
   return {text.left(kMaxLetters)};
 }
 
@@ -30,10 +32,10 @@ Cell Shown(const Bot& bot, ParameterId parameter) {
 
 /// The line as it is counted in the bot that is compared; one that it lacks,
 /// as in the other.
-QString LineTitle(const BotDifference& difference) {
+std::size_t LineNumber(const BotDifference& difference) {
   const ChatLineIndex line =
       difference.is_in_left ? difference.left_line : difference.right_line;
-  return QStringLiteral("Line %1").arg(line.number());
+  return line.number();
 }
 
 DifferenceRow& Add(DifferenceRows& rows, DifferenceRow* parent) {
@@ -96,14 +98,16 @@ void AddLines(const std::vector<BotDifference>& differences,
     row.key.right_line = difference.right_line;
     row.key.lacking = lacking;
     row.difference = index;
-    row.cells = {Cell{LineTitle(difference)},
+    row.cells = {Cell{QCoreApplication::translate("DifferenceRows", "Line %1")
+                          .arg(LineNumber(difference))},
                  CellOf(QString::fromStdString(difference.left)),
                  CellOf(QString::fromStdString(difference.right))};
   }
   for (const auto& [group, count] : left_out) {
     DifferenceRow& row = Add(types[group]->children, types[group]);
     row.key.group = group;
-    row.cells.front().text = QStringLiteral("and %1 more").arg(count);
+    row.cells.front().text =
+        QCoreApplication::translate("DifferenceRows", "and %1 more").arg(count);
   }
 }
 
@@ -130,8 +134,9 @@ QString DifferenceTitle(const BotDifference& difference) {
   if (difference.parameter) {
     return QString::fromUtf8(ParameterTitle(*difference.parameter));
   }
-  return GroupTitle(GroupOf(difference)) + QStringLiteral(", ") +
-         LineTitle(difference).toLower();
+  return QCoreApplication::translate("DifferenceRows", "%1, line %2")
+      .arg(GroupTitle(GroupOf(difference)),
+           QString::number(LineNumber(difference)));
 }
 
 }  // namespace fragsmith

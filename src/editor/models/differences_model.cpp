@@ -103,9 +103,9 @@ QVariant DifferencesModel::headerData(int section, Qt::Orientation orientation,
   }
   switch (section) {
     case kWhat:
-      return QStringLiteral("What");
+      return tr("What");
     case kThisBot:
-      return QStringLiteral("This bot");
+      return tr("This bot");
     default:
       return other_title_;
   }

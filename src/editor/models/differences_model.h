@@ -18,6 +18,8 @@ namespace fragsmith {
 /// A bot beside another one as a tree: the identity, the pages and the chat
 /// types with all that is in them, equal or not.
 class DifferencesModel : public KeyedModel<QAbstractItemModel> {
+  Q_OBJECT
+
  public:
   enum Column { kWhat = 0, kThisBot = 1, kOtherBot = 2, kColumnCount = 3 };
   /// True for a text that tells less than others: equal, or nothing there.

@@ -15,6 +15,8 @@ namespace fragsmith {
 /// Each skin of each model, to be chosen by its face. The catalogue outlives
 /// the model and is not changed meanwhile.
 class FacesModel : public QAbstractListModel {
+  Q_OBJECT
+
  public:
   /// What is known of the icon of a skin.
   struct Shown {

@@ -19,18 +19,18 @@ constexpr std::size_t kMaxAlone = 2;
 QString FindingsModel::TextOf(const Finding& finding) const {
   const QString text = QString::fromUtf8(finding.text);
   const auto* const file = std::get_if<FilePlace>(&finding.place);
-  QString where = QString::fromUtf8(
+  const QString where = QString::fromUtf8(
       file != nullptr ? FilePlaceText(*file) : ChatPlaceText(finding.place));
   if (file != nullptr && !is_of_files_alone_) {
-    where.prepend(where.isEmpty() ? QStringLiteral("In the files")
-                                  : QStringLiteral("In the files, "));
+    return where.isEmpty() ? tr("In the files: %1").arg(text)
+                           : tr("In the files, %1: %2").arg(where, text);
   }
   return where.isEmpty() ? text : where + QStringLiteral(": ") + text;
 }
 
 QString FindingsModel::FoldedText(const Finding& first,
                                   std::size_t count) const {
-  return QStringLiteral("%1 (And %2 more of this kind.)")
+  return tr("%1 (And %2 more of this kind.)")
       .arg(TextOf(first), QString::number(count - 1));
 }
 
@@ -75,7 +75,7 @@ void FindingsModel::Fold(std::string_view id, bool is_folded) {
 }
 
 QString FindingsModel::FoldingHelp() {
-  return QStringLiteral(
+  return tr(
       "The right arrow key or a double click unfolds what stands in one row, "
       "the left one folds it again.");
 }
@@ -99,9 +99,9 @@ QVariant FindingsModel::data(const QModelIndex& index, int role) const {
       return SeverityIcon(row.finding.severity, *QApplication::style());
     case kMendTextRole:
       if (row.finding.mends.empty()) return {};
-      if (row.folded > 0) return QStringLiteral("Mend all %1").arg(row.folded);
+      if (row.folded > 0) return tr("Mend all %1").arg(row.folded);
       return row.finding.mends.size() > 1
-                 ? QStringLiteral("Mend...")
+                 ? tr("Mend...")
                  : QString::fromUtf8(row.finding.mends.front().title);
     case Qt::ToolTipRole:
       return row.folded > 0 ? FoldingHelp() : QVariant();

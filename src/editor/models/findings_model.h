@@ -19,6 +19,8 @@ namespace fragsmith {
 /// id says it, stand in one row until they are unfolded. A finding made anew
 /// is the same one where it is of the same kind and at the same place.
 class FindingsModel : public KeyedModel<QAbstractListModel> {
+  Q_OBJECT
+
  public:
   using KeyedModel::KeyedModel;
 

@@ -26,6 +26,8 @@ struct LibraryBot {
 
 /// The bots of the library, a row for each.
 class LibraryModel : public QAbstractTableModel {
+  Q_OBJECT
+
  public:
   enum Column { kName, kFunName, kModel, kFindings, kWhere, kColumnCount };
 
