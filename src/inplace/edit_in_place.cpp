@@ -204,18 +204,14 @@ void NoteComment(const FileReading& reading, std::string_view bytes,
   if (changed == nullptr) return;
   const ParameterId id = *changed;
   const Value& value = after.Parameter(id);
-  const auto spans = reading.report.spans.find(id);
+  const std::optional<TextSpan> span = reading.report.SpanOf(id);
   const Value& read = reading.bot.Parameter(id);
-  if (!ToNumber(value) || ToNumber(read) ||
-      spans == reading.report.spans.end()) {
-    return;
-  }
-  plan.notes.push_back(
-      QuotedName(id) + " is now " + FormatValue(value) +
-      " for the game, but a load reads \"" + ShownText(ToText(read)) +
-      "\" from line " +
-      std::to_string(LineNumberAt(bytes, spans->second.back().begin)) +
-      ". Put the comment in a line of its own.");
+  if (!ToNumber(value) || ToNumber(read) || !span) return;
+  plan.notes.push_back(QuotedName(id) + " is now " + FormatValue(value) +
+                       " for the game, but a load reads \"" +
+                       ShownText(ToText(read)) + "\" from line " +
+                       std::to_string(LineNumberAt(bytes, span->begin)) +
+                       ". Put the comment in a line of its own.");
 }
 
 void TakeNotes(const Plan& plan, const std::string& shown, Notes* notes) {
