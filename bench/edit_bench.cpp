@@ -17,6 +17,7 @@
 #include "game/stand_ins.h"
 #include "inplace/edit_in_place.h"
 #include "inplace/file_reading.h"
+#include "inplace/game_values.h"
 #include "install/packages/package_writer.h"
 #include "model/characteristic_catalogue.h"
 #include "session/load_from_package.h"

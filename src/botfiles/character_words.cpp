@@ -4,6 +4,8 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <cstddef>
+#include <numeric>
 #include <system_error>
 #include <utility>
 
@@ -20,10 +22,22 @@ constexpr std::string_view kKeyStart = "CHARACTERISTIC_";
 constexpr std::string_view kSkill = "skill";
 constexpr int kMaxLevel = 100;
 
+constexpr std::size_t LengthOf(int key) { return BareKey(key).size(); }
+
+/// All keys from short to long: few have the same length.
+constexpr auto kKeysByLength = [] {
+  std::array<int, kCatalogueSize> keys{};
+  std::iota(keys.begin(), keys.end(), 0);
+  std::ranges::sort(keys, {}, LengthOf);
+  return keys;
+}();
+
 std::optional<int> KeyNamed(std::string_view word) {
   if (!word.starts_with(kKeyStart)) return std::nullopt;
-  for (int index = 0; index < kCatalogueSize; ++index) {
-    if (BareKey(index) == word) return index;
+  const auto* key =
+      std::ranges::lower_bound(kKeysByLength, word.size(), {}, LengthOf);
+  for (; key != kKeysByLength.end() && LengthOf(*key) == word.size(); ++key) {
+    if (BareKey(*key) == word) return *key;
   }
   return std::nullopt;
 }

@@ -126,13 +126,16 @@ std::optional<Level> KnownLevel(std::optional<int> number) {
 constexpr std::string_view kStart = "CHARACTERISTIC_";
 constexpr std::size_t kKeyCount = kChatRange.last + 1;
 
-/// What tells most keys apart at once: the letter behind their beginning.
-constexpr std::array<char, kKeyCount> kLetters = [] {
-  std::array<char, kKeyCount> letters{};
+/// What tells most keys apart at once: by the byte behind their beginning, a
+/// bit for each of the keys that have it.
+constexpr std::array<std::uint64_t, 256> kKeysByLetter = [] {
+  static_assert(kKeyCount <= 64);
+  std::array<std::uint64_t, 256> keys{};
   for (std::size_t index = 0; index < kKeyCount; ++index) {
-    letters[index] = BareKey(static_cast<int>(index))[kStart.size()];
+    const char letter = BareKey(static_cast<int>(index))[kStart.size()];
+    keys.at(static_cast<unsigned char>(letter)) |= std::uint64_t{1} << index;
   }
-  return letters;
+  return keys;
 }();
 
 /// The first catalogue entry, in the order of the catalogue, that stands
@@ -142,16 +145,16 @@ std::optional<int> KeyIn(std::string_view line) {
   // A bit for each key.
   std::uint64_t stands = 0;
   std::uint64_t is_continued = 0;
-  static_assert(kKeyCount <= 64);
   for (std::size_t offset = line.find(kStart); offset != std::string_view::npos;
        offset = line.find(kStart, offset + kStart.size())) {
     const std::string_view rest = line.substr(offset);
     if (rest.size() == kStart.size()) break;
-    for (std::size_t index = 0; index < kKeyCount; ++index) {
-      if (kLetters[index] != rest[kStart.size()]) continue;
-      const std::string_view key = BareKey(static_cast<int>(index));
+    const auto letter = static_cast<unsigned char>(rest[kStart.size()]);
+    for (std::uint64_t keys = kKeysByLetter[letter]; keys != 0;
+         keys &= keys - 1) {
+      const std::string_view key = BareKey(std::countr_zero(keys));
       if (!StartsWithKey(rest, key)) continue;
-      const std::uint64_t bit = std::uint64_t{1} << index;
+      const std::uint64_t bit = keys & (~keys + 1);
       stands |= bit;
       if (rest.substr(key.size()).starts_with('_')) is_continued |= bit;
     }
@@ -293,7 +296,7 @@ class CharacterReader {
 
   void TakeAsGame(const CharacterWords::Found& found) {
     const std::optional<Level> level = KnownLevel(found.block.level);
-    if (level) report_.given.insert({*level, found.key});
+    if (level) reader_.Give({*level, found.key});
     const bool is_text = found.key <= kGenderField.index() ||
                          found.key >= kChatFileField.index();
     if (is_text && found.is_bare) {

@@ -172,7 +172,7 @@ class DescriptionReader {
       fed_by_.erase(field);
       refused_[field] = {line_, stored.error().what};
     } else {
-      report_.spans[field].push_back(line_span_);
+      report_.spans.push_back({field, line_span_});
     }
   }
 

@@ -21,20 +21,33 @@ std::string_view WithoutByteOrderMark(std::string_view bytes) {
 
 namespace {
 
-/// By byte: whether an odd blank may begin with it.
-constexpr std::array<bool, 256> kBeginsOddBlank = [] {
-  std::array<bool, 256> begins{};
-  for (std::size_t code = 1; code < ' '; ++code) {
-    begins.at(code) = code != '\t' && code != '\r' && code != '\n';
-  }
-  for (const std::size_t code : {0xA0U, 0xC2U, 0xE2U, 0xE3U})
-    begins.at(code) = true;
-  return begins;
-}();
-
+/// Whether an odd blank may begin with the byte. Without branches, so that the
+/// compiler can look at many bytes at once.
 bool BeginsOddBlank(char letter) {
-  return kBeginsOddBlank[static_cast<unsigned char>(letter)];
+  const bool is_control = (letter > 0) & (letter < ' ');
+  const bool is_usual = (letter == '\t') | (letter == '\r') | (letter == '\n');
+  return (is_control & !is_usual) | (letter == '\xA0') | (letter == '\xC2') |
+         (letter == '\xE2') | (letter == '\xE3');
 }
+
+bool MayHaveOddBlank(std::string_view bytes) {
+  // No bool, with which the compiler takes the bytes one by one.
+  unsigned char found = 0;
+  for (const char letter : bytes) {
+    found = static_cast<unsigned char>(found | BeginsOddBlank(letter));
+  }
+  return found != 0;
+}
+
+/// By byte: whether a word that is no text ends in front of it.
+constexpr std::array<bool, 256> kEndsWord = [] {
+  std::array<bool, 256> ends{};
+  for (std::size_t code = 0; code < ends.size(); ++code) {
+    const char letter = static_cast<char>(code);
+    ends.at(code) = letter == '{' || letter == '}' || IsGameBlank(letter);
+  }
+  return ends;
+}();
 
 /// How many bytes at the front look like a blank, and are one to the game, but
 /// are none of those that people type.
@@ -54,7 +67,7 @@ std::size_t OddBlankLength(std::string_view text, char before) {
 
 std::string WithPlainBlanks(std::string_view bytes, TextsInLine texts) {
   std::string plain(bytes);
-  if (std::none_of(bytes.begin(), bytes.end(), BeginsOddBlank)) return plain;
+  if (!MayHaveOddBlank(bytes)) return plain;
   std::size_t at = 0;
   const auto pass = [&](std::string_view end, std::size_t from) {
     const std::size_t found = bytes.find(end, from);
@@ -143,7 +156,7 @@ std::string_view TakeWord(std::string_view& code) {
   } else {
     const auto* const end =
         std::find_if(code.begin(), code.end(), [](char letter) {
-          return letter == '{' || letter == '}' || IsGameBlank(letter);
+          return kEndsWord[static_cast<unsigned char>(letter)];
         });
     length = static_cast<std::size_t>(end - code.begin());
   }

@@ -1,6 +1,7 @@
 #include "botfiles/keyed_line.h"
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 #include <utility>
 
@@ -52,6 +53,18 @@ bool IsShortened(std::string_view text, const Value& read) {
          FormatValue(read) != text.substr(first);
 }
 
+/// The number that a save writes for one that was read.
+std::optional<double> SavedNumber(const Value& read) {
+  // What most values are needs no writing: a float keeps the decimal that is
+  // written, and so does a small whole number.
+  constexpr double kSmall = 1000;
+  const double number = ToNumber(read).value_or(-1);
+  const bool is_plain =
+      number >= 0 && number < kSmall &&
+      (std::holds_alternative<float>(read) || number == std::trunc(number));
+  return is_plain ? number : NumberFromText(FormatValue(read));
+}
+
 }  // namespace
 
 bool IsPassedOver(std::string_view line) {
@@ -77,7 +90,11 @@ std::string_view ValueTextOf(std::string_view line, int index) {
 }
 
 ValueReader::ValueReader(std::string file, Bot& bot, ReadReport& report)
-    : file_(std::move(file)), bot_(bot), report_(report) {}
+    : file_(std::move(file)), bot_(bot), report_(report) {
+  // A bot has as many in its largest file.
+  constexpr std::size_t kUsual = 128;
+  seen_.reserve(kUsual);
+}
 
 void ValueReader::AddNote(std::size_t line, std::string text, NoteKind kind) {
   // More are not kept in any case.
@@ -86,8 +103,9 @@ void ValueReader::AddNote(std::size_t line, std::string text, NoteKind kind) {
 }
 
 ValueReader::Seen& ValueReader::SeenOf(ParameterId id) {
-  std::uint16_t& place = seen_at_.at(static_cast<std::size_t>(id.number()));
+  std::uint16_t& place = seen_at_.at(PlaceOf(id));
   if (place == 0) {
+    Give(id);
     seen_.push_back({.id = id, .before = bot_.Parameter(id)});
     place = static_cast<std::uint16_t>(seen_.size());
   }
@@ -100,16 +118,21 @@ void ValueReader::Take(const KeyedLine& line, ParameterId id, IsTold is_told) {
   const std::string_view bare = TrimGameBlanks(text);
   if (!IsNumericText(text) && IsNumericText(bare)) text = bare;
   const auto column = static_cast<std::size_t>(text.data() - line.text.data());
-  report_.spans[id].push_back(
-      {line.start + column, line.start + column + text.size()});
-  TakeText(line.number, id, text, is_told);
+  report_.spans.push_back(
+      {id, {line.start + column, line.start + column + text.size()}});
   // Most lines have no comment that could have been taken off.
-  SeenOf(id).is_comment = line.code.size() < line.text.size() &&
-                          !Contains(line.code, BareKey(id.index()));
+  Store(line.number, id, text, is_told).is_comment =
+      line.code.size() < line.text.size() &&
+      !Contains(line.code, BareKey(id.index()));
 }
 
 void ValueReader::TakeText(std::size_t line, ParameterId id,
                            std::string_view text, IsTold is_told) {
+  Store(line, id, text, is_told);
+}
+
+ValueReader::Seen& ValueReader::Store(std::size_t line, ParameterId id,
+                                      std::string_view text, IsTold is_told) {
   // A key with nothing behind it leaves the id empty.
   Value value;
   if (!TrimBlanksAndTabs(text).empty()) value = CleanValue(text);
@@ -124,9 +147,10 @@ void ValueReader::TakeText(std::size_t line, ParameterId id,
   }
 
   Seen& seen = SeenOf(id);
-  const Value old = bot_.Parameter(id);
+  const bool is_first = seen.line == 0;
+  const Value old = is_first ? Value() : bot_.Parameter(id);
   bot_.Put(id, std::move(value));
-  if (seen.line != 0 && !IsSameValue(bot_.Parameter(id), old)) {
+  if (!is_first && !IsSameValue(bot_.Parameter(id), old)) {
     if (overwritten_.empty()) first_overwritten_ = seen.line;
     overwritten_[id] =
         Localized("%1: %2 gives way to %3",
@@ -136,6 +160,7 @@ void ValueReader::TakeText(std::size_t line, ParameterId id,
   seen.is_shortened = IsShortened(text, bot_.Parameter(id));
   seen.is_comment = false;
   seen.is_told = seen.is_told || is_told == IsTold::kYes;
+  return seen;
 }
 
 void ValueReader::TakeAsGame(std::size_t line, ParameterId id, Value value,
@@ -152,10 +177,13 @@ void ValueReader::TakeAsGame(std::size_t line, ParameterId id, Value value,
 }
 
 void ValueReader::Finish() {
-  std::ranges::sort(seen_, {}, &Seen::id);
-  for (const Seen& seen : seen_) {
-    report_.given.insert(report_.given.end(), seen.id);
-    Compare(seen);
+  // By number they are in order.
+  const std::size_t count = given_.count();
+  report_.given.reserve(count);
+  for (std::size_t number = 0; report_.given.size() < count; ++number) {
+    if (!given_[number]) continue;
+    report_.given.push_back(ParameterId::OfNumber(static_cast<int>(number)));
+    if (seen_at_[number] != 0) Compare(seen_[seen_at_[number] - 1U]);
   }
   TellOverwritten();
   for (const auto& [level, zeros] : zeros_) {
@@ -234,9 +262,9 @@ void ValueReader::CompareWithSaved(const Seen& seen) {
         "%1: of so long a number a save keeps the first digits, and writes "
         "%2.",
         {Describe(id), FormatValue(read)});
-  } else if (const std::string saved = FormatValue(read);
-             NumberFromText(saved) != ToNumber(seen.plain.value_or(read))) {
-    const Value given = seen.plain.value_or(read);
+  } else if (const Value& given = seen.plain ? *seen.plain : read;
+             SavedNumber(read) != ToNumber(given)) {
+    const std::string saved = FormatValue(read);
     std::string shown = ToText(given);
     if (shown == saved) {
       shown = PlainDecimal(ToNumber(given).value_or(0),

@@ -2,6 +2,7 @@
 #define FRAGSMITH_BOTFILES_KEYED_LINE_H_
 
 #include <array>
+#include <bitset>
 #include <cstddef>
 #include <cstdint>
 #include <map>
@@ -69,6 +70,9 @@ class ValueReader {
   void TakeAsGame(std::size_t line, ParameterId id, Value value,
                   IsTold is_told = IsTold::kNo);
 
+  /// The file speaks of the parameter, whatever of it is taken.
+  void Give(ParameterId id) { given_.set(PlaceOf(id)); }
+
   void AddNote(std::size_t line, std::string text,
                NoteKind kind = NoteKind::kOther);
 
@@ -90,8 +94,13 @@ class ValueReader {
 
   /// All numbers of parameters are below it.
   static constexpr std::size_t kNumbers = 600;
+  static std::size_t PlaceOf(ParameterId id) {
+    return static_cast<std::size_t>(id.number());
+  }
 
   Seen& SeenOf(ParameterId id);
+  Seen& Store(std::size_t line, ParameterId id, std::string_view text,
+              IsTold is_told);
   void Compare(const Seen& seen);
   void CompareWithSaved(const Seen& seen);
   void TellOverwritten();
@@ -103,6 +112,7 @@ class ValueReader {
   std::vector<Seen> seen_;
   /// By the number of the parameter: its place among these, from 1.
   std::array<std::uint16_t, kNumbers> seen_at_{};
+  std::bitset<kNumbers> given_;  ///< Likewise.
   std::size_t first_overwritten_ = 0;
   /// What the note says of each.
   std::map<ParameterId, std::string> overwritten_;

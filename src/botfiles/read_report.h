@@ -1,9 +1,10 @@
 #ifndef FRAGSMITH_BOTFILES_READ_REPORT_H_
 #define FRAGSMITH_BOTFILES_READ_REPORT_H_
 
+#include <algorithm>
 #include <cstddef>
 #include <map>
-#include <set>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -25,11 +26,27 @@ struct ReadReport {
 
   /// The bot parameters of which the file speaks, to the game or to us. Of a
   /// characteristic file also all other keys with the level of their block.
-  std::set<ParameterId> given;
+  /// Each once, in order.
+  std::vector<ParameterId> given;
+  bool Gives(ParameterId id) const {
+    return std::ranges::binary_search(given, id);
+  }
 
-  /// By bot parameter: where in the file stands what gave it its values, the
-  /// one that counts last. In a description it is the whole line.
-  std::map<ParameterId, std::vector<TextSpan>> spans;
+  /// Where in the file stands what gave the bot a value, in the order in which
+  /// the values were stored. In a description it is the whole line.
+  struct ValueAt {
+    ParameterId id;
+    TextSpan span;
+  };
+  std::vector<ValueAt> spans;
+  /// The last of a parameter, which counts.
+  std::optional<TextSpan> SpanOf(ParameterId id) const {
+    const auto found =
+        std::find_if(spans.rbegin(), spans.rend(),
+                     [id](const ValueAt& value) { return value.id == id; });
+    if (found == spans.rend()) return std::nullopt;
+    return found->span;
+  }
 
   /// The same of each chat line, in the order in which they were stored.
   struct ChatLineAt {

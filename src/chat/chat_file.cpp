@@ -24,6 +24,15 @@ constexpr ChatTypeId kLevelEndType{3};
 /// The chat type that a line names; nothing for an unknown one. level_end
 /// also begins the keys of two other types.
 std::optional<ChatTypeId> TypeIn(std::string_view line) {
+  // As in most lines, where nothing else can stand that is a type.
+  constexpr std::string_view kWord = "type \"";
+  std::string_view name = TrimBlanksAndTabs(line);
+  if (name.starts_with(kWord) && name.ends_with('"')) {
+    name = name.substr(kWord.size(), name.size() - kWord.size() - 1);
+    for (const ChatTypeId type : kAllChatTypes) {
+      if (ChatTypeAt(type).Key == name) return type;
+    }
+  }
   for (const ChatTypeId type : kAllChatTypes) {
     if (type == kLevelEndType && Contains(line, "level_end_")) continue;
     if (Contains(line, ChatTypeAt(type).Key)) return type;

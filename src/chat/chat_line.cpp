@@ -1,7 +1,6 @@
 #include "chat/chat_line.h"
 
 #include <algorithm>
-#include <bitset>
 #include <cstddef>
 #include <optional>
 #include <utility>
@@ -23,10 +22,17 @@ static_assert(std::count_if(kWordLists.begin(), kWordLists.end(), HasNoBrace) ==
 constexpr std::string_view kPlainVariable =
     std::find_if(kWordLists.begin(), kWordLists.end(), HasNoBrace)->Variable;
 
-bool IsNumber(std::string_view text) {
-  return !text.empty() &&
-         text.find_first_not_of("0123456789") == std::string_view::npos;
-}
+/// No variable is longer.
+constexpr std::size_t kLongestVariable = [] {
+  std::size_t longest = 0;
+  for (const WordList& list : kWordLists) {
+    longest = std::max(longest, list.Variable.size());
+  }
+  for (const ChatPointer& pointer : kChatPointers) {
+    longest = std::max(longest, pointer.Variable.size());
+  }
+  return longest;
+}();
 
 bool IsZero(std::string_view digits) {
   return digits.find_first_not_of('0') == std::string_view::npos;
@@ -38,67 +44,72 @@ struct Member {
   std::string_view digits;
 };
 
+/// The digits at the end.
+std::string_view NumberAtEnd(std::string_view text) {
+  return text.substr(text.find_last_not_of("0123456789") + 1);
+}
+
+/// Names of groups and their markers end in a letter, so a text parts in but
+/// one way.
+std::optional<Member> MemberOf(std::string_view text,
+                               std::string_view ChatGroup::*start) {
+  const std::string_view digits = NumberAtEnd(text);
+  text.remove_suffix(digits.size());
+  const auto* const group = std::ranges::find(kChatGroups, text, start);
+  if (group == kChatGroups.end()) return std::nullopt;
+  return Member{group, digits};
+}
+
 std::optional<Member> MemberInEditorForm(std::string_view line) {
   constexpr std::string_view kEnd = "}}";
   if (!line.starts_with("{{") || !line.ends_with(kEnd)) return std::nullopt;
-  for (const ChatGroup& group : kChatGroups) {
-    if (!line.starts_with(group.Marker)) continue;
-    std::string_view digits = line.substr(group.Marker.size());
-    digits.remove_suffix(std::min(kEnd.size(), digits.size()));
-    // "{{TAUNT" also begins "{{TAUNTFEM3}}", which then is no number.
-    if (IsNumber(digits)) return Member{&group, digits};
-  }
-  return std::nullopt;
+  line.remove_suffix(kEnd.size());
+  const std::optional<Member> member = MemberOf(line, &ChatGroup::Marker);
+  if (!member || member->digits.empty()) return std::nullopt;
+  return member;
 }
 
 std::optional<Member> MemberInFileForm(std::string_view line) {
   if (line.starts_with('"')) return std::nullopt;
-  for (const ChatGroup& group : kChatGroups) {
-    if (!line.starts_with(group.Name)) continue;
-    const std::string_view digits = line.substr(group.Name.size());
-    if (digits.empty() || IsNumber(digits)) return Member{&group, digits};
+  return MemberOf(line, &ChatGroup::Name);
+}
+
+/// What stands in a file for a variable.
+struct Item {
+  std::string_view variable;
+  std::string_view text;
+  bool is_pointer = false;
+};
+
+/// The variable that the text begins with. None begins within another one.
+std::optional<Item> ItemAt(ChatTypeId type, std::string_view text) {
+  std::string_view variable = kPlainVariable;
+  if (text.starts_with('{')) {
+    variable = text.substr(0, kLongestVariable);
+    variable = variable.substr(0, variable.find('}') + 1);
+    if (variable.empty()) return std::nullopt;
+  } else if (!text.starts_with(variable)) {
+    return std::nullopt;
+  }
+  const auto* const list =
+      std::ranges::find(kWordLists, variable, &WordList::Variable);
+  if (list != kWordLists.end()) return Item{variable, list->Key};
+  for (const int pointer : ChatTypeAt(type).Pointers()) {
+    if (ChatPointerAt(pointer).Variable == variable) {
+      return Item{variable, ChatPointerAt(pointer).Item(), true};
+    }
   }
   return std::nullopt;
 }
 
-/// A line on its way into file form; its outer quotes are still missing.
-struct OpenLine {
-  std::string text;
-  bool starts_with_variable = false;
-  bool ends_with_variable = false;
-};
-
-/// What stands for a variable, by its offset in the line.
-struct Replacement {
-  std::string_view variable;
-  std::string at_start;
-  std::string in_middle;
-  std::string at_end;
-};
-
-/// Replaces all occurrences in one walk. Nothing that is put in can begin or
-/// end a variable, so walking on equals looking again from the start.
-void Replace(const Replacement& replacement, OpenLine& line) {
-  std::size_t offset = line.text.find(replacement.variable);
-  if (offset == std::string::npos) return;
-  const std::string old = std::exchange(line.text, {});
-  std::size_t done = 0;
-  for (; offset != std::string::npos;
-       offset = old.find(replacement.variable, done)) {
-    const std::size_t end = offset + replacement.variable.size();
-    line.text.append(old, done, offset - done);
-    if (offset == 0) {
-      line.text += replacement.at_start;
-      line.starts_with_variable = true;
-    } else if (end == old.size()) {
-      line.text += replacement.at_end;
-      line.ends_with_variable = true;
-    } else {
-      line.text += replacement.in_middle;
-    }
-    done = end;
-  }
-  line.text.append(old, done);
+/// Where from there on a variable may begin.
+std::size_t VariableFrom(std::string_view line, std::size_t start) {
+  const auto* const found =
+      std::find_if(line.begin() + static_cast<std::ptrdiff_t>(start),
+                   line.end(), [](char letter) {
+                     return letter == '{' || letter == kPlainVariable.front();
+                   });
+  return static_cast<std::size_t>(found - line.begin());
 }
 
 /// Notes what is odd; a line of megabytes must not give a note a byte.
@@ -124,6 +135,11 @@ bool IsComment(std::string_view text) {
 /// The part of a line that says something: without the ";" that ends it and
 /// a comment behind that.
 std::string_view Statement(std::string_view line, EditorLine& result) {
+  // As in most lines: no other ";" than the one that ends it.
+  if (line.find(';') + 1 == line.size()) {
+    line.remove_suffix(1);
+    return TrimBlanks(line);
+  }
   bool is_quoted = false;
   bool has_more = false;
   for (std::size_t at = 0; at < line.size(); ++at) {
@@ -324,42 +340,37 @@ std::string ChatLineToFile(ChatTypeId type, std::string_view line) {
     }
     return text + ';';
   }
-  OpenLine open = {std::string(line)};
-  // Of most variables their first letter tells that they are not there;
-  // nothing that is put in has a brace.
-  std::bitset<256> first_letters;
-  for (std::size_t at = 1; at < line.size(); ++at) {
-    if (line[at - 1] == '{') {
-      first_letters.set(static_cast<unsigned char>(line[at]));
+  // With the quotes of a text around it, and of two around each variable.
+  constexpr std::size_t kRoom = 32;
+  std::string text = "\"";
+  text.reserve(line.size() + kRoom);
+  bool ends_with_variable = false;
+  std::size_t done = 0;
+  for (std::size_t at = VariableFrom(line, 0); at < line.size();) {
+    const std::optional<Item> item = ItemAt(type, line.substr(at));
+    if (!item) {
+      at = VariableFrom(line, at + 1);
+      continue;
     }
+    const std::size_t end = at + item->variable.size();
+    const bool is_at_end = end == line.size();
+    text.append(line, done, at - done);
+    if (at > 0) {
+      text += "\", ";
+    } else if (is_at_end && !item->is_pointer) {
+      return std::string(item->text) + ';';
+    } else {
+      text = item->is_pointer ? " " : "";
+    }
+    text += item->text;
+    ends_with_variable = is_at_end && at > 0;
+    if (!ends_with_variable) text += ", \"";
+    done = end;
+    at = VariableFrom(line, end);
   }
-  const bool may_hold_any =
-      first_letters.any() || Contains(line, kPlainVariable);
-  if (!may_hold_any) return '"' + open.text + "\";";
-  const auto holds = [&](std::string_view variable) {
-    const bool may_stand =
-        !variable.starts_with('{') ||
-        first_letters.test(static_cast<unsigned char>(variable[1]));
-    return may_stand && Contains(open.text, variable);
-  };
-  for (const WordList& list : kWordLists) {
-    if (!holds(list.Variable)) continue;
-    const std::string key(list.Key);
-    if (line == list.Variable) return key + ';';
-    Replace({list.Variable, key + ", \"", "\", " + key + ", \"", "\", " + key},
-            open);
-  }
-  for (const int pointer : ChatTypeAt(type).Pointers()) {
-    if (!holds(ChatPointerAt(pointer).Variable)) continue;
-    const std::string_view code = ChatPointerAt(pointer).Code;
-    Replace({ChatPointerAt(pointer).Variable, std::string(code.substr(2)),
-             std::string(code), std::string(code.substr(0, code.size() - 3))},
-            open);
-  }
-  std::string text = open.starts_with_variable ? "" : "\"";
-  text += open.text;
-  if (!open.ends_with_variable) text += '"';
-  return text + ';';
+  text.append(line, done);
+  text += ends_with_variable ? ";" : "\";";
+  return text;
 }
 
 EditorLine ChatLineFromFile(ChatTypeId type, std::string_view line) {

@@ -75,10 +75,7 @@ TextSpan PlacesInFiles::SpanOf(const Bot& bot, const BotPlace& place,
   }
   const auto* const parameter = std::get_if<ParameterId>(&place);
   if (parameter == nullptr) return {};
-  const auto found = reading.report.spans.find(*parameter);
-  return found == reading.report.spans.end() || found->second.empty()
-             ? TextSpan()
-             : found->second.back();
+  return reading.report.SpanOf(*parameter).value_or(TextSpan());
 }
 
 }  // namespace fragsmith

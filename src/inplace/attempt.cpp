@@ -1,6 +1,7 @@
 #include "inplace/attempt.h"
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 #include "botfiles/game_text.h"
@@ -33,9 +34,8 @@ bool IsOneLine(std::string_view bytes, TextSpan span) {
 }
 
 TextSpan LastSpan(const PlanContext& context, ParameterId id) {
-  const auto found = context.reading.report.spans.find(id);
-  if (found == context.reading.report.spans.end()) return {};
-  return TokenAt(context.bytes, found->second.back());
+  const std::optional<TextSpan> span = context.reading.report.SpanOf(id);
+  return span ? TokenAt(context.bytes, *span) : TextSpan();
 }
 
 bool IsInCondition(std::string_view bytes, std::size_t offset) {

@@ -117,7 +117,7 @@ Bot AsInFile(const BothReaders& readers, std::string_view bytes,
   Bot now = before;
   const FileReading reading = readers.Read(bytes);
   const auto take = [&](ParameterId id) {
-    if (reading.report.given.contains(id)) {
+    if (reading.report.Gives(id)) {
       now.Put(id, reading.bot.Parameter(id));
     }
   };

@@ -220,17 +220,14 @@ void NoteComment(const FileReading& reading, std::string_view bytes,
   if (changed == nullptr) return;
   const ParameterId id = *changed;
   const Value& value = after.Parameter(id);
-  const auto spans = reading.report.spans.find(id);
+  const std::optional<TextSpan> span = reading.report.SpanOf(id);
   const Value& read = reading.bot.Parameter(id);
-  if (!ToNumber(value) || ToNumber(read) ||
-      spans == reading.report.spans.end()) {
-    return;
-  }
+  if (!ToNumber(value) || ToNumber(read) || !span) return;
   plan.notes.push_back(Localized(
       "%1 is now %2 for the game, but a load reads \"%3\" from line %4. Put "
       "the comment in a line of its own.",
       {QuotedName(id), FormatValue(value), ShownText(ToText(read)),
-       std::to_string(LineNumberAt(bytes, spans->second.back().begin))}));
+       std::to_string(LineNumberAt(bytes, span->begin))}));
 }
 
 void TakeNotes(const Plan& plan, const std::string& shown, Notes* notes) {

@@ -90,7 +90,7 @@ void TakeLevels(const BothReaders& readers, const FileReading& reading,
         const auto value = block.values.find(*number);
         // Of a block that the game alone sees all of them are its own.
         const bool is_seen = value != block.values.end() && is_of_level;
-        if (!is_seen && !reading.report.given.contains(id)) continue;
+        if (!is_seen && !reading.report.Gives(id)) continue;
         // A key that is not there for the game, or a text, gives 0.
         if (value != block.values.end()) {
           found[id] = value->second.number;
@@ -148,13 +148,13 @@ void TakeGameNumbers(BotFile kind, const std::string& shown,
           return IsSameNumber(loaded.bot.Parameter(found.parameter),
                               other.number);
         });
-    if (reading.report.spans.contains(found.parameter) && !is_one_of_many) {
+    if (reading.report.SpanOf(found.parameter) && !is_one_of_many) {
       numbers.Take(found.parameter, found.own.number);
     }
   }
   // Without the weight code our own macros are weights by themselves.
-  for (const auto& [id, spans] : reading.report.spans) {
-    if (kind == BotFile::kCharacteristics ||
+  for (const ParameterId id : reading.report.given) {
+    if (kind == BotFile::kCharacteristics || !reading.report.SpanOf(id) ||
         std::ranges::count(reading.found, id, &FoundWeight::parameter) > 0) {
       continue;
     }

@@ -63,7 +63,7 @@ std::vector<ParameterId> WithoutNumber(BotFile kind,
   bool has_own_way = false;
   for (const int index : RangeOf(kind)) {
     const ParameterId id(index);
-    if (reading.report.given.contains(id)) continue;
+    if (reading.report.Gives(id)) continue;
     if (IsFound(reading, id)) {
       has_own_way = true;
     } else {
@@ -102,7 +102,7 @@ std::vector<FoundWeight> UnreadWeights(BotFile kind, std::string_view bytes,
   std::vector<FoundWeight> unread;
   for (const int index : RangeOf(kind)) {
     const ParameterId id(index);
-    if (reading.report.spans.contains(id)) continue;
+    if (reading.report.SpanOf(id)) continue;
     const auto found =
         std::ranges::find(reading.found, id, &FoundWeight::parameter);
     if (found != reading.found.end()) {
@@ -149,8 +149,7 @@ void TakeGameWeights(BotFile kind, const std::string& shown,
     loaded.plain_values.erase(found.parameter);
     loaded.notes.Remove(shown, NoteKind::kUnreadLine,
                         LineNumberAt(bytes, found.own.span.begin));
-    has_own_way =
-        has_own_way || !reading.report.given.contains(found.parameter);
+    has_own_way = has_own_way || !reading.report.Gives(found.parameter);
     const std::string name = QuotedName(found.parameter);
     pairs.Add(Localized("%1 from %2",
                         {name, SourceOf(found.own, reading.weights, bytes)}));

@@ -167,10 +167,9 @@ class DescriptionPlan {
           "The description stands in one line. Put each key and each brace "
           "into a line of its own first.");
     }
-    const auto spans = context_.reading.report.spans.find(field_);
-    if (spans == context_.reading.report.spans.end()) return {};
     std::optional<TextSpan> other;
-    for (const TextSpan read : spans->second) {
+    for (const auto& [field, read] : context_.reading.report.spans) {
+      if (field != field_) continue;
       if (own == nullptr || !Overlap(read, line)) {
         other = read;
       } else if (!is_removal) {

@@ -50,7 +50,7 @@ void ExpectWeights(const FileReading& reading, ParameterId id, TextSpan span,
   // The game reads our macro in a line that our reader knows not.
   const OwnMacro* const ours = MacroOf(reading.weights, id);
   if (ours != nullptr && ours->value.Holds(span) &&
-      !reading.report.spans.contains(id) && reading.report.given.contains(id)) {
+      !reading.report.SpanOf(id) && reading.report.Gives(id)) {
     attempt.expected[PlainFact(id)] = FactOf(value);
   }
   for (const OwnMacro& macro : reading.weights.macros) {
@@ -310,7 +310,7 @@ Plan PlanWeight(const PlanContext& context, ParameterId id) {
     AddReplacement(context, id, span, attempt);
     return attempt;
   };
-  if (!reading.report.spans.contains(id)) {
+  if (!reading.report.SpanOf(id)) {
     const std::vector<FoundWeight> unread =
         UnreadWeights(context.readers.file().kind, context.bytes, reading);
     const auto found = std::ranges::find(unread, id, &FoundWeight::parameter);

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstddef>
 #include <optional>
-#include <set>
 #include <string_view>
 
 #include "botfiles/block_keys.h"
@@ -16,9 +15,8 @@
 namespace fragsmith {
 namespace {
 
-void AddMissing(const std::set<ParameterId>& given, ParameterId id,
-                NameList& names) {
-  if (given.contains(id)) return;
+void AddMissing(const ReadReport& report, ParameterId id, NameList& names) {
+  if (report.Gives(id)) return;
   std::string_view name = BareKey(id.index());
   constexpr std::string_view kDefine = "#define ";
   if (name.starts_with(kDefine)) name.remove_prefix(kDefine.size());
@@ -52,7 +50,7 @@ void NoteMissingLevels(const ReadReport& report, const std::string& file,
     NameList missing;
     for (int key = 0; key < kCatalogueSize; ++key) {
       if (!IsBlockKey(key) || kOptionalRange.Contains(key)) continue;
-      AddMissing(report.given, {level, key}, missing);
+      AddMissing(report, {level, key}, missing);
     }
     if (missing.empty()) continue;
     notes.Add({file, 0,
@@ -68,7 +66,7 @@ void NoteMissingWeights(const ReadReport& report, IndexRange range,
   if (report.given.empty()) return;
   NameList missing;
   for (const int key : range) {
-    AddMissing(report.given, ParameterId(key), missing);
+    AddMissing(report, ParameterId(key), missing);
   }
   if (missing.empty()) return;
   notes.Add({.file = file,

@@ -9,6 +9,7 @@
 #include "support/code_page.h"
 #include "support/file_replacement.h"
 #include "support/localization.h"
+#include "support/system/regular_file.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -27,6 +28,9 @@ Result<std::string> ReadFile(const fs::path& path, std::size_t limit) {
                     .line = 0,
                     .advice = std::move(advice)});
   };
+  if (std::optional<std::string> bytes = system::ReadRegularFile(path, limit)) {
+    return std::move(*bytes);
+  }
   std::error_code reason;
   const fs::file_status status = fs::status(path, reason);
   if (!fs::is_regular_file(status)) {

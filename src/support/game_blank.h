@@ -7,7 +7,7 @@ namespace fragsmith {
 
 /// What the game passes over between words. Bytes are signed in the games that
 /// people play, so those from 128 on count as blanks as well.
-inline bool IsGameBlank(char letter) {
+constexpr bool IsGameBlank(char letter) {
   const auto byte = static_cast<unsigned char>(letter);
   return byte <= ' ' || byte >= 128;
 }

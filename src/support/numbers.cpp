@@ -25,10 +25,12 @@ std::optional<double> ReadShort(std::string_view text) {
   if (text.size() > kExactDigits) return std::nullopt;
   double digits = 0;
   std::size_t behind = 0;
+  bool has_digit = false;
   bool has_point = false;
   for (const char letter : text) {
     if (IsDigit(letter)) {
       digits = digits * 10 + (letter - '0');
+      has_digit = true;
       behind += has_point ? 1 : 0;
     } else if (letter == '.' && !has_point) {
       has_point = true;
@@ -36,7 +38,7 @@ std::optional<double> ReadShort(std::string_view text) {
       return std::nullopt;
     }
   }
-  if (behind >= kPowersOfTen.size()) return std::nullopt;
+  if (!has_digit || behind >= kPowersOfTen.size()) return std::nullopt;
   return digits / kPowersOfTen.at(behind);
 }
 
@@ -57,10 +59,6 @@ std::optional<int> Thousandths(double number) {
 /// Reads digits with at most one "."; a missing part before or behind it is
 /// allowed by the caller's check.
 std::optional<double> ReadDecimal(const char* first, const char* last) {
-  // Most numbers of a bot are short.
-  const std::optional<double> short_one =
-      ReadShort({first, static_cast<std::size_t>(last - first)});
-  if (short_one) return short_one;
   double number = 0;
   const auto read =
       std::from_chars(first, last, number, std::chars_format::fixed);
@@ -96,6 +94,8 @@ bool IsNumericText(std::string_view text) {
 }
 
 std::optional<double> NumberFromText(std::string_view text) {
+  // Most numbers of a bot are short.
+  if (const std::optional<double> number = ReadShort(text)) return number;
   if (!IsNumericText(text)) return std::nullopt;
   text = TrimBlanksAndTabs(text);
   const bool is_negative = text.front() == '-';

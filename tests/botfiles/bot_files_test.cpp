@@ -149,7 +149,7 @@ TEST(BotFiles, AreReadWithTheBlanksThatOnlyTheGameTakesForSome) {
     const std::string line =
         "CHARACTERISTIC_GENDER\t\t\t\t\t" + std::string(text);
     EXPECT_TRUE(ReadCharacteristicFile(line, "f", ReadIdentity::kYes, read)
-                    .given.contains(kGenderField));
+                    .Gives(kGenderField));
     EXPECT_EQ(read.Text(kGenderField), value);
   }
   for (const char* const number : {"\x93"
@@ -158,7 +158,7 @@ TEST(BotFiles, AreReadWithTheBlanksThatOnlyTheGameTakesForSome) {
     const std::string line =
         "CHARACTERISTIC_CHAT_MISC\t\t\t\t\t" + std::string(number);
     EXPECT_TRUE(ReadCharacteristicFile(line, "f", ReadIdentity::kYes, read)
-                    .given.contains(Id(33)));
+                    .Gives(Id(33)));
     EXPECT_EQ(read.Text(Id(33)), "0.7");
   }
 }

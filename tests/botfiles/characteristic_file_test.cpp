@@ -249,7 +249,7 @@ TEST(CharacteristicFile, KnowsTheLevelsOfOneLineAsTheGameDoes) {
   for (const Level level : kLevels) {
     const ParameterId jumper(level, 9);
     EXPECT_EQ(report.plain_values.at(jumper), Value(1.0 * NumberOf(level)));
-    EXPECT_TRUE(report.given.contains(jumper));
+    EXPECT_TRUE(report.Gives(jumper));
   }
 }
 
@@ -281,7 +281,7 @@ TEST(CharacteristicFile, TakesTheIdentityOnlyWhenAsked) {
   Bot bot;
   Set(bot, kCommentField, "c");
   Set(bot, kVersionMajorField, 3.0);
-  EXPECT_FALSE(Read(lines, bot).given.contains(kNameField));
+  EXPECT_FALSE(Read(lines, bot).Gives(kNameField));
   EXPECT_EQ(bot.Name() + bot.Text(Id(1)) + bot.Text(Id(9)) + bot.Text(Id(7)),
             "Botmalec3");
   EXPECT_THAT(

@@ -71,6 +71,11 @@ TEST(Files, AreReadUpToTheLimit) {
        {folder / "none", folder.path(), std::filesystem::path("/dev/zero")}) {
     EXPECT_FALSE(ReadFile(other)) << other;
   }
+  // Its size is 0, and it comes in pieces.
+  const std::filesystem::path maps = "/proc/self/maps";
+  if (!std::filesystem::exists(maps)) return;
+  EXPECT_THAT(ReadFile(maps).value(), ::testing::HasSubstr("[stack]"));
+  EXPECT_FALSE(ReadFile(maps, 100));
 }
 
 TEST(Files, AreSavedWholeOrNotAtAll) {
