@@ -91,15 +91,21 @@ MainToolBar::MainToolBar(QMenuBar& menu, QWidget* parent)
     }
     if (tool.look == Look::kWithText) with_text_.push_back(button);
   }
+  // Not all languages and fonts are content with the usual width.
+  ShowTexts(true);
+  width_for_texts_ = std::max(kMinWidthForTexts, sizeHint().width());
+}
+
+void MainToolBar::ShowTexts(bool is_wanted) {
+  for (QToolButton* const button : with_text_) {
+    button->setToolButtonStyle(is_wanted ? Qt::ToolButtonTextBesideIcon
+                                         : Qt::ToolButtonIconOnly);
+  }
 }
 
 void MainToolBar::resizeEvent(QResizeEvent* event) {
   QToolBar::resizeEvent(event);
-  for (QToolButton* const button : with_text_) {
-    button->setToolButtonStyle(width() >= kMinWidthForTexts
-                                   ? Qt::ToolButtonTextBesideIcon
-                                   : Qt::ToolButtonIconOnly);
-  }
+  ShowTexts(width() >= width_for_texts_);
 }
 
 }  // namespace fragsmith

@@ -150,8 +150,8 @@ void SkillPlot::paintEvent(QPaintEvent* /*event*/) {
     painter.setPen(QPen(faint, 1, Qt::DashLine));
     painter.drawLine(left, QPointF(area.right(), left.y()));
     const QString caption =
-        metrics.elidedText(QString::fromUtf8(threshold.text), Qt::ElideRight,
-                           static_cast<int>(area.width()));
+        metrics.elidedText(QString::fromStdString(Localized(threshold.text)),
+                           Qt::ElideRight, static_cast<int>(area.width()));
     const QRectF room = PlaceOfCaption(
         QRectF(left.x() + line / 3.0, left.y() - line,
                metrics.horizontalAdvance(caption) + line / 3.0, line),
