@@ -27,6 +27,7 @@
 #include "editor/toolkit/menu_key.h"
 #include "editor/toolkit/page_table.h"
 #include "support/files.h"
+#include "support/localization.h"
 #include "support/program_version.h"
 
 namespace fragsmith {
@@ -100,7 +101,8 @@ frmMain::frmMain(ProgramState& state) : state_(state) {
   for (const Error& error : draft_->unreadable()) {
     state_.prompts.Show(
         {.title = "Load error",
-         .text = "A bot that was not saved cannot be read.\n" + Describe(error),
+         .text = Localized("A bot that was not saved cannot be read.") + "\n" +
+                 Describe(error),
          .icon = MessageIcon::kExclamation});
   }
   OfferDraft();

@@ -8,6 +8,7 @@
 #include "editor/frm_main.h"
 #include "install/program/game_folder.h"
 #include "support/files.h"
+#include "support/localization.h"
 
 namespace fragsmith {
 
@@ -37,11 +38,12 @@ void frmMain::ShowOptions() {
 
 bool frmMain::WantsOtherGame(const std::string& before) {
   const bool has_before = HasGameProgram(PathFromBytes(before));
-  std::string text = "There is no game folder now.";
-  std::vector<std::string> buttons = {"Go on without", "Correct it"};
+  std::string text = Localized("There is no game folder now.");
+  std::vector<std::string> buttons = {Localized("Go on without"),
+                                      Localized("Correct it")};
   if (has_before) {
-    text += " The one before was '" + before + "'.";
-    buttons.insert(buttons.begin(), "Keep the one before");
+    text += " " + Localized("The one before was '%1'.", {before});
+    buttons.insert(buttons.begin(), Localized("Keep the one before"));
   }
   enum : std::size_t { kKeep, kNone, kCorrect };
   const std::size_t choice =

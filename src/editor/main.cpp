@@ -18,6 +18,7 @@
 #include "editor/toolkit/readable_palette.h"
 #include "install/program/program_folder.h"
 #include "support/files.h"
+#include "support/localization.h"
 #include "support/no_prompts.h"
 #include "support/program_version.h"
 #include "support/system/interruption.h"
@@ -157,7 +158,7 @@ int main(int count, char** words) try {
   if (!warning.empty()) {
     QTimer::singleShot(0, &window, [&prompts, warning] {
       prompts.Show({.title = "Fragsmith",
-                    .text = std::string(warning),
+                    .text = fragsmith::Localized(warning),
                     .icon = fragsmith::MessageIcon::kExclamation});
     });
   }

@@ -1,10 +1,13 @@
 #include "editor/main_menu.h"
 
+#include <QCoreApplication>
 #include <QKeySequence>
 #include <QMenu>
 #include <algorithm>
 #include <array>
 #include <vector>
+
+#include "support/localization.h"
 
 namespace fragsmith {
 namespace {
@@ -35,39 +38,49 @@ constexpr std::array kItems = {
     MenuItem{ItemKind::kSeparator, "mnuSeparator1", "", "", ""},
     Item("mnuExit", "E&xit", "Ctrl+Q"),
     kEnd,
-    Menu("mnuEdit", "&Edit"),
-    Item("mnuUndo", "&Undo", "Ctrl+Z"),
-    Item("mnuRedo", "&Redo", "Ctrl+Shift+Z"),
+    Menu("mnuEdit", QT_TRANSLATE_NOOP("MainMenu", "&Edit")),
+    Item("mnuUndo", QT_TRANSLATE_NOOP("MainMenu", "&Undo"), "Ctrl+Z"),
+    Item("mnuRedo", QT_TRANSLATE_NOOP("MainMenu", "&Redo"), "Ctrl+Shift+Z"),
     MenuItem{ItemKind::kSeparator, "mnuSeparator2", "", "", ""},
-    Item("mnuFind", "&Find...", "Ctrl+F"),
+    Item("mnuFind", QT_TRANSLATE_NOOP("MainMenu", "&Find..."), "Ctrl+F"),
     MenuItem{ItemKind::kSeparator, "mnuSeparator3", "", "", ""},
-    Menu("mnuCopyLevel", "&Copy level"),
-    Item("mnuCopyLevel_1_4", "Level &1 to level 4"),
-    Item("mnuCopyLevel_1_5", "Level 1 &to level 5"),
-    Item("mnuCopyLevel_4_1", "Level &4 to level 1"),
-    Item("mnuCopyLevel_4_5", "&Level 4 to level 5"),
-    Item("mnuCopyLevel_5_1", "Level &5 to level 1"),
-    Item("mnuCopyLevel_5_4", "Level 5 t&o level 4"),
+    Menu("mnuCopyLevel", QT_TRANSLATE_NOOP("MainMenu", "&Copy level")),
+    Item("mnuCopyLevel_1_4",
+         QT_TRANSLATE_NOOP("MainMenu", "Level &1 to level 4")),
+    Item("mnuCopyLevel_1_5",
+         QT_TRANSLATE_NOOP("MainMenu", "Level 1 &to level 5")),
+    Item("mnuCopyLevel_4_1",
+         QT_TRANSLATE_NOOP("MainMenu", "Level &4 to level 1")),
+    Item("mnuCopyLevel_4_5",
+         QT_TRANSLATE_NOOP("MainMenu", "&Level 4 to level 5")),
+    Item("mnuCopyLevel_5_1",
+         QT_TRANSLATE_NOOP("MainMenu", "Level &5 to level 1")),
+    Item("mnuCopyLevel_5_4",
+         QT_TRANSLATE_NOOP("MainMenu", "Level 5 t&o level 4")),
     kEnd,
-    Item("mnuReset", "Re&set value", "Ctrl+R"),
+    Item("mnuReset", QT_TRANSLATE_NOOP("MainMenu", "Re&set value"), "Ctrl+R"),
     kEnd,
     Menu("mnuBot", "&Bots"),
     Menu("mnuNew", "&New bot"),
     Item("mnuNewZero", "All &zeros", "Ctrl+N"),
     Item("mnuNewAverage", "&Average", "Ctrl+Shift+N"),
     Item("mnuNewRandom", "&Random", "",
-         "Does nothing; \"Surprise me\" below draws a bot by lot"),
+         QT_TRANSLATE_NOOP(
+             "MainMenu",
+             "Does nothing; \"Surprise me\" below draws a bot by lot")),
     MenuItem{ItemKind::kSeparator, "mnuSeparator6", "", "", ""},
     MenuItem{ItemKind::kKindsOfBots, "", "", "", ""},
     kEnd,
     Item("mnuLoad", "&Load bot", "Ctrl+O"),
     Item("mnuMake", "&Make bot files", "Ctrl+Shift+S"),
     MenuItem{ItemKind::kSeparator, "mnuSeparator4", "", "", ""},
-    Item("mnuSaveAgain", "&Save again", "Ctrl+S"),
-    Menu("mnuRecent", "Re&cent bots"),
+    Item("mnuSaveAgain", QT_TRANSLATE_NOOP("MainMenu", "&Save again"),
+         "Ctrl+S"),
+    Menu("mnuRecent", QT_TRANSLATE_NOOP("MainMenu", "Re&cent bots")),
     kEnd,
     MenuItem{ItemKind::kSeparator, "mnuSeparator7", "", "", ""},
-    Item("mnuInstall", "&Install into game", "Ctrl+I"),
+    Item("mnuInstall", QT_TRANSLATE_NOOP("MainMenu", "&Install into game"),
+         "Ctrl+I"),
     kEnd,
     Menu("mnuFile", "&Files"),
     Item("mnuCharFile", "Load &char file"),
@@ -89,37 +102,65 @@ constexpr std::array kItems = {
     Item("mnuSyn", "Add &synonym"),
     kEnd,
     MenuItem{ItemKind::kSeparator, "mnuSeparator5", "", "", ""},
-    Item("mnuChanges", "&Show changes..."),
-    Item("mnuFindings", "&What the game will do", "F8"),
-    Item("mnuTry", "&Try in game...", "F5"),
-    Item("mnuPlayOut", "P&lay it out...", "F6",
-         "Matches in fast time: is it better now?"),
-    Item("mnuCheckFiles", "Check a bot's &files..."),
-    Menu("mnuCompare", "Com&pare"),
-    Item("mnuCompareAverage", "With &average values"),
-    Item("mnuCompareZero", "With all &zeros"),
-    Item("mnuCompareOther", "With another &bot..."),
+    Item("mnuChanges", QT_TRANSLATE_NOOP("MainMenu", "&Show changes...")),
+    Item("mnuFindings", QT_TRANSLATE_NOOP("MainMenu", "&What the game will do"),
+         "F8"),
+    Item("mnuTry", QT_TRANSLATE_NOOP("MainMenu", "&Try in game..."), "F5"),
+    Item("mnuPlayOut", QT_TRANSLATE_NOOP("MainMenu", "P&lay it out..."), "F6",
+         QT_TRANSLATE_NOOP("MainMenu",
+                           "Matches in fast time: is it better now?")),
+    Item("mnuCheckFiles",
+         QT_TRANSLATE_NOOP("MainMenu", "Check a bot's &files...")),
+    Menu("mnuCompare", QT_TRANSLATE_NOOP("MainMenu", "Com&pare")),
+    Item("mnuCompareAverage",
+         QT_TRANSLATE_NOOP("MainMenu", "With &average values")),
+    Item("mnuCompareZero", QT_TRANSLATE_NOOP("MainMenu", "With all &zeros")),
+    Item("mnuCompareOther",
+         QT_TRANSLATE_NOOP("MainMenu", "With another &bot...")),
     kEnd,
-    Item("mnuLibrary", "&Bot library...", "",
-         "All bots that are known of: open, duplicate, compare, remove"),
+    Item("mnuLibrary", QT_TRANSLATE_NOOP("MainMenu", "&Bot library..."), "",
+         QT_TRANSLATE_NOOP(
+             "MainMenu",
+             "All bots that are known of: open, duplicate, compare, remove")),
     kEnd,
-    Menu("mnuHelp", "&Help"),
-    Item("mnuManual", "&Manual", "F1"),
-    Item("mnuWelcome", "&Welcome", "", "Games found, bots to begin with"),
-    Item("mnuKeyboard", "&Keyboard"),
-    Item("mnuNews", "What's &new"),
-    Item("mnuReport", "&Report a fault"),
+    Menu("mnuHelp", QT_TRANSLATE_NOOP("MainMenu", "&Help")),
+    Item("mnuManual", QT_TRANSLATE_NOOP("MainMenu", "&Manual"), "F1"),
+    Item("mnuWelcome", QT_TRANSLATE_NOOP("MainMenu", "&Welcome"), "",
+         QT_TRANSLATE_NOOP("MainMenu", "Games found, bots to begin with")),
+    Item("mnuKeyboard", QT_TRANSLATE_NOOP("MainMenu", "&Keyboard")),
+    Item("mnuNews", QT_TRANSLATE_NOOP("MainMenu", "What's &new")),
+    Item("mnuReport", QT_TRANSLATE_NOOP("MainMenu", "&Report a fault")),
     kEnd,
 };
-
-/// Of the captions of kBotKinds, the letters that choose them.
-constexpr std::array<int, kBotKinds.size()> kKindLetters = {0, 1, 0, 1, 3};
 
 /// Menu items that do not begin with what stands in the boxes: the end asks
 /// about it, undo takes it back, and what needs the whole bot in order checks
 /// all boxes and says so.
 constexpr std::array kItemsBeforeTyping = {
     "mnuExit", "mnuUndo", "mnuMake", "mnuSaveAgain", "mnuTry", "mnuInstall"};
+
+/// In the user's language where the text is one of ours.
+QString Translated(const char* text) {
+  return *text == '\0' ? QString()
+                       : QCoreApplication::translate("MainMenu", text);
+}
+
+/// The caption with the key of the first letter that chooses no other item of
+/// the menu.
+QString WithKey(const QString& caption, const QMenu& menu) {
+  QString taken;
+  for (const QAction* const action : menu.actions()) {
+    const QString text = action->text();
+    taken += text.mid(text.indexOf(u'&') + 1, 1);
+  }
+  for (qsizetype at = 0; at < caption.size(); ++at) {
+    const QChar letter = caption.at(at);
+    if (letter.isLetter() && !taken.contains(letter, Qt::CaseInsensitive)) {
+      return QString(caption).insert(at, u'&');
+    }
+  }
+  return caption;
+}
 
 }  // namespace
 
@@ -148,7 +189,7 @@ void FillMainMenu(QMenuBar& bar,
   };
   for (const MenuItem& item : kItems) {
     const QString name = QLatin1String(item.name);
-    const QString text = QLatin1String(item.text);
+    const QString text = Translated(item.text);
     switch (item.kind) {
       case ItemKind::kMenu: {
         QMenu* const menu =
@@ -162,16 +203,16 @@ void FillMainMenu(QMenuBar& bar,
         open.back()->addSeparator()->setObjectName(name);
         break;
       case ItemKind::kItem:
-        add(name, text, QLatin1String(item.tool_tip))
+        add(name, text, Translated(item.tool_tip))
             ->setShortcut(QKeySequence(QLatin1String(item.shortcut)));
         break;
       case ItemKind::kKindsOfBots:
-        for (std::size_t at = 0; at < kBotKinds.size(); ++at) {
-          const BotKindText& kind = TextOf(kBotKinds.at(at));
-          QString caption = QString::fromUtf8(kind.caption);
-          caption.insert(kKindLetters.at(at), u'&');
-          add(NewKindItem(kBotKinds.at(at)), caption,
-              QString::fromUtf8(kind.about));
+        for (const BotKind kind : kBotKinds) {
+          const BotKindText& kind_text = TextOf(kind);
+          const auto caption =
+              QString::fromStdString(Localized(kind_text.caption));
+          add(NewKindItem(kind), WithKey(caption, *open.back()),
+              QString::fromStdString(Localized(kind_text.about)));
         }
         break;
       case ItemKind::kEndOfMenu:

@@ -22,21 +22,30 @@ struct Tool {
 };
 
 constexpr std::array kTools = {
-    Tool{"mnuNew", LineIcon::kNew, "document-new", "New"},
-    Tool{"mnuLoad", LineIcon::kLoad, "document-open", "Load"},
-    Tool{"mnuSaveAgain", LineIcon::kSaveAgain, "document-save", "Save again"},
-    Tool{"mnuMake", LineIcon::kMake, "document-export", "Make"},
+    Tool{"mnuNew", LineIcon::kNew, "document-new",
+         QT_TRANSLATE_NOOP("MainToolBar", "New")},
+    Tool{"mnuLoad", LineIcon::kLoad, "document-open",
+         QT_TRANSLATE_NOOP("MainToolBar", "Load")},
+    Tool{"mnuSaveAgain", LineIcon::kSaveAgain, "document-save",
+         QT_TRANSLATE_NOOP("MainToolBar", "Save again")},
+    Tool{"mnuMake", LineIcon::kMake, "document-export",
+         QT_TRANSLATE_NOOP("MainToolBar", "Make")},
     Tool{},
-    Tool{"mnuUndo", LineIcon::kUndo, "edit-undo", "Undo", Look::kIconAlone},
-    Tool{"mnuRedo", LineIcon::kRedo, "edit-redo", "Redo", Look::kIconAlone},
+    Tool{"mnuUndo", LineIcon::kUndo, "edit-undo",
+         QT_TRANSLATE_NOOP("MainToolBar", "Undo"), Look::kIconAlone},
+    Tool{"mnuRedo", LineIcon::kRedo, "edit-redo",
+         QT_TRANSLATE_NOOP("MainToolBar", "Redo"), Look::kIconAlone},
     Tool{},
-    Tool{"mnuFind", LineIcon::kFind, "edit-find", "Find"},
+    Tool{"mnuFind", LineIcon::kFind, "edit-find",
+         QT_TRANSLATE_NOOP("MainToolBar", "Find")},
     Tool{"mnuInstall", LineIcon::kInstall, "system-software-install",
-         "Install"},
-    Tool{"mnuTry", LineIcon::kTry, "media-playback-start", "Try in game"},
-    Tool{"mnuPlayOut", LineIcon::kPlayOut, "media-seek-forward", "Play it out",
-         Look::kIconAlone},
-    Tool{"mnuManual", LineIcon::kHelp, "help-contents", "Help"},
+         QT_TRANSLATE_NOOP("MainToolBar", "Install")},
+    Tool{"mnuTry", LineIcon::kTry, "media-playback-start",
+         QT_TRANSLATE_NOOP("MainToolBar", "Try in game")},
+    Tool{"mnuPlayOut", LineIcon::kPlayOut, "media-seek-forward",
+         QT_TRANSLATE_NOOP("MainToolBar", "Play it out"), Look::kIconAlone},
+    Tool{"mnuManual", LineIcon::kHelp, "help-contents",
+         QT_TRANSLATE_NOOP("MainToolBar", "Help")},
 };
 
 /// Icons of two hands in one bar would look torn.
@@ -58,7 +67,7 @@ constexpr int kMinWidthForTexts = 800;
 }  // namespace
 
 MainToolBar::MainToolBar(QMenuBar& menu, QWidget* parent)
-    : QToolBar(QStringLiteral("Tools"), parent) {
+    : QToolBar(tr("Tools"), parent) {
   setObjectName(QStringLiteral("tbrMain"));
   setMovable(false);
   setContextMenuPolicy(Qt::PreventContextMenu);
@@ -74,7 +83,7 @@ MainToolBar::MainToolBar(QMenuBar& menu, QWidget* parent)
     action->setIcon(has_theme ? QIcon::fromTheme(QLatin1String(tool.theme_icon))
                               : MakeLineIcon(tool.icon));
     action->setIconVisibleInMenu(false);
-    action->setIconText(QLatin1String(tool.text));
+    action->setIconText(tr(tool.text));
     addAction(action);
     auto* const button = qobject_cast<QToolButton*>(widgetForAction(action));
     if (action->menu() != nullptr) {
@@ -82,15 +91,21 @@ MainToolBar::MainToolBar(QMenuBar& menu, QWidget* parent)
     }
     if (tool.look == Look::kWithText) with_text_.push_back(button);
   }
+  // Not all languages and fonts are content with the usual width.
+  ShowTexts(true);
+  width_for_texts_ = std::max(kMinWidthForTexts, sizeHint().width());
+}
+
+void MainToolBar::ShowTexts(bool is_wanted) {
+  for (QToolButton* const button : with_text_) {
+    button->setToolButtonStyle(is_wanted ? Qt::ToolButtonTextBesideIcon
+                                         : Qt::ToolButtonIconOnly);
+  }
 }
 
 void MainToolBar::resizeEvent(QResizeEvent* event) {
   QToolBar::resizeEvent(event);
-  for (QToolButton* const button : with_text_) {
-    button->setToolButtonStyle(width() >= kMinWidthForTexts
-                                   ? Qt::ToolButtonTextBesideIcon
-                                   : Qt::ToolButtonIconOnly);
-  }
+  ShowTexts(width() >= width_for_texts_);
 }
 
 }  // namespace fragsmith

@@ -20,7 +20,10 @@ class MainToolBar : public QToolBar {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
+  void ShowTexts(bool is_wanted);
+
   std::vector<QToolButton*> with_text_;  ///< Where there is room.
+  int width_for_texts_ = 0;
 };
 
 }  // namespace fragsmith

@@ -7,13 +7,17 @@
 #include <QGuiApplication>
 #include <QListWidget>
 #include <QMenuBar>
+#include <QResizeEvent>
 #include <QSlider>
 #include <QTextBrowser>
+#include <QToolButton>
 #include <algorithm>
 #include <array>
 #include <string>
 #include <string_view>
 
+#include "editor/main_menu.h"
+#include "editor/main_tool_bar.h"
 #include "model/characteristic_catalogue.h"
 #include "session/bot_document.h"
 #include "session/presets.h"
@@ -214,6 +218,27 @@ TEST_F(Menu, OpensWhatStaysBesideTheWindow) {
   EXPECT_TRUE(QGuiApplication::clipboard()->text().startsWith(
       QLatin1String("Fragsmith ")));
   EXPECT_NE(chapter("mnuManual"), "");
+}
+
+TEST(MainToolBarTest, ShowsTextsOnlyWhereAllOfThemFit) {
+  QMenuBar menu;
+  FillMainMenu(menu, [](const QString& /*name*/) {});
+  QWidget window;
+  QFont font = window.font();
+  font.setPointSizeF(font.pointSizeF() * 2);
+  window.setFont(font);
+  MainToolBar bar(menu, &window);
+  const int needed = bar.sizeHint().width();
+  const auto style_at = [&bar](int width) {
+    bar.resize(width, bar.sizeHint().height());
+    QResizeEvent event(bar.size(), {});
+    QCoreApplication::sendEvent(&bar, &event);
+    return qobject_cast<QToolButton*>(
+               bar.widgetForAction(bar.actions().front()))
+        ->toolButtonStyle();
+  };
+  EXPECT_EQ(style_at(needed), Qt::ToolButtonTextBesideIcon);
+  EXPECT_EQ(style_at(needed - 1), Qt::ToolButtonIconOnly);
 }
 
 }  // namespace

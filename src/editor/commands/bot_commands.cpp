@@ -13,6 +13,7 @@
 #include "session/presets.h"
 #include "support/code_page.h"
 #include "support/files.h"
+#include "support/localization.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -54,8 +55,8 @@ void NoteOtherModel(const Bot& loaded, const Bot& shown, Notes& notes) {
   if (ModelOf(loaded) == ModelOf(shown)) return;
   notes.Add({.file = "model",
              .line = 0,
-             .text = ModelOf(loaded) + " is not in the list; the bot has " +
-                     ModelOf(shown) + " instead."});
+             .text = Localized("%1 is not in the list; the bot has %2 instead.",
+                               {ModelOf(loaded), ModelOf(shown)})});
 }
 
 /// True for a file in the game's layout, with the layout's own spelling.
@@ -104,15 +105,15 @@ void BotCommands::CreateBotOfKind(BotKind kind, const GameData* game) {
   const bool has_words = game != nullptr && !game->words.empty();
   Bot bot = fragsmith::CreateBotOfKind(kind, seed,
                                        has_words ? &game->words : nullptr);
-  const QString caption = QString::fromUtf8(text.caption);
-  if (!ShowNewBot(std::move(bot), tr("New bot, ") + caption)) {
+  const auto caption = QString::fromStdString(Localized(text.caption));
+  if (!ShowNewBot(std::move(bot), tr("New bot, %1").arg(caption))) {
     return;
   }
   emit StatusText(kind == BotKind::kSurprise
                       ? tr("%1: drawn with the seed %2.")
                             .arg(caption, QString::number(seed))
                       : caption + QStringLiteral(": ") +
-                            QString::fromUtf8(text.about));
+                            QString::fromStdString(Localized(text.about)));
 }
 
 std::optional<OpenChoice> BotCommands::AskForFiles(OpenKind kind,
@@ -189,9 +190,11 @@ std::optional<LoadedBot> BotCommands::Load(const LoadedPart& part,
         std::holds_alternative<BotFile>(part) ? std::get<BotFile>(part)
                                               : BotFile::kCharacteristics,
         file);
-    QString text = tr("%1 was not loaded").arg(ShownPath(file.filename()));
-    if (!fault.empty()) text += ": " + QString::fromUtf8(fault);
-    emit StatusText(text + '.');
+    const QString name = ShownPath(file.filename());
+    emit StatusText(fault.empty() ? tr("%1 was not loaded.").arg(name)
+                                  : tr("%1 was not loaded: %2.")
+                                        .arg(name, QString::fromStdString(
+                                                       Localized(fault))));
   }
   return loaded;
 }
@@ -336,7 +339,7 @@ void BotCommands::FillRecentBots(QMenu& menu,
             });
   }
   if (menu.isEmpty()) {
-    menu.addAction(QStringLiteral("(none)"))->setEnabled(false);
+    menu.addAction(tr("(none)"))->setEnabled(false);
   }
 }
 

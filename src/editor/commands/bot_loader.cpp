@@ -45,10 +45,14 @@ std::optional<LoadedBot> BotLoader::FromPackage(
          .icon = MessageIcon::kInformation});
     return std::nullopt;
   }
-  QProgressDialog progress(QString(), QStringLiteral("Cancel"), 0, 0, &window_);
+  QProgressDialog progress(QString(),
+                           QCoreApplication::translate("BotLoader", "Cancel"),
+                           0, 0, &window_);
   // A name may hold what looks like markup.
-  auto* const text = new QLabel(
-      QStringLiteral("Loading %1...").arg(ToQString(entry.Name)), &progress);
+  auto* const text =
+      new QLabel(QCoreApplication::translate("BotLoader", "Loading %1...")
+                     .arg(ToQString(entry.Name)),
+                 &progress);
   text->setTextFormat(Qt::PlainText);
   text->setAlignment(Qt::AlignCenter);
   progress.setLabel(text);

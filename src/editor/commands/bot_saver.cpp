@@ -9,6 +9,7 @@
 
 #include "checks/bot_location.h"
 #include "checks/location_checks.h"
+#include "editor/commands/save_questions.h"
 #include "editor/toolkit/shown_path.h"
 #include "game/game_lookup.h"
 #include "inplace/described_bots.h"
@@ -16,6 +17,7 @@
 #include "inplace/keep_files.h"
 #include "inplace/save_in_place.h"
 #include "support/files.h"
+#include "support/localization.h"
 #include "support/no_prompts.h"
 
 namespace fragsmith {
@@ -40,22 +42,8 @@ std::string Names(const Files& files) {
   return text;
 }
 
-/// "'A' was", or "'A'\n'B'\nwere" for more than one; or with another verb.
-std::string Subject(const std::vector<fs::path>& paths,
-                    const std::string& for_one = "was",
-                    const std::string& for_more = "were") {
-  std::string text;
-  for (const fs::path& path : paths) {
-    if (!text.empty()) text += "\n";
-    text += "'" + Utf8FromPath(path) + "'";
-  }
-  return text + (paths.size() == 1 ? " " + for_one : "\n" + for_more);
-}
-
-std::string Object(std::size_t count) { return count == 1 ? "it" : "them"; }
-
-std::string OtherBotsGo(const std::string& names) {
-  return "Other bots in it, which would go: " + names + ". ";
+BotSaver::Outcome Said(const std::string& text) {
+  return {.text = QString::fromStdString(text), .saved = {}};
 }
 
 /// Those of the plan that are not there yet.
@@ -129,13 +117,11 @@ std::optional<BotSaver::Outcome> BotSaver::SaveAgain() {
   if (plan->files.empty() && !plan->package) {
     if (leaves_changes || !in_place.left_broken.empty()) {
       if (!leaves_changes) current_.SetChanged(false);
-      return Outcome{.text = QStringLiteral("Nothing was written."),
-                     .saved = {}};
+      return Said(Localized("Nothing was written."));
     }
     current_.SetChanged(false);
-    return Outcome{.text = QStringLiteral("The files say all this already; "
-                                          "nothing was written."),
-                   .saved = {}};
+    return Said(
+        Localized("The files say all this already; nothing was written."));
   }
   if (!MayWriteOver(*plan)) return Outcome{};
   if (const Result<void> kept = WriteBackups(in_place); !kept) {
@@ -155,13 +141,14 @@ std::optional<BotSaver::Outcome> BotSaver::SaveAgain() {
   if (!not_kept.empty()) TellNotKept(not_kept);
   if (!made.empty()) {
     outcome.text +=
-        QStringLiteral(" New: %1.").arg(QString::fromStdString(Names(made)));
+        u' ' + QString::fromStdString(Localized("New: %1.", {Names(made)}));
   }
   // That what was not edited stays as it is goes without saying.
   for (const BotFile file : in_place.unchanged) plan->left_alone.erase(file);
   if (!plan->left_alone.empty()) {
-    outcome.text += QStringLiteral(" Left as it is: %1.")
-                        .arg(QString::fromStdString(Names(plan->left_alone)));
+    outcome.text +=
+        u' ' + QString::fromStdString(
+                   Localized("Left as it is: %1.", {Names(plan->left_alone)}));
   }
   return outcome;
 }
@@ -170,17 +157,18 @@ BotSaver::Unread BotSaver::AskAboutUnread(SavePlan& plan) {
   Files unread =
       TakeOutUnread(plan, current_.bot(), home(), AuthorOf(state_.settings));
   if (unread.empty()) return Unread::kNoneLeft;
-  const std::string them = Object(unread.size());
   const std::string others = unread.contains(BotFile::kDescription)
                                  ? BotsThatGo(plan, current_.bot())
                                  : std::string();
   enum : std::size_t { kCancel, kLeave, kReplace };
   const std::size_t choice = state_.prompts.Choose(
       std::string(kProgramTitle),
-      Subject(PathsOf(unread)) + " not read with this bot. " +
-          (others.empty() ? others : OtherBotsGo(others)) +
-          "Do you want to replace " + them + "?",
-      {"Cancel", "Save the rest", "Replace " + them});
+      NotRead(PathsOf(unread)) + " " +
+          (others.empty() ? others : OtherBotsGo(others) + " ") +
+          MayBeReplaced(unread.size()),
+      {Localized("Cancel"), Localized("Save the rest"),
+       Localized(unread.size() == 1 ? Localizable("Replace it")
+                                    : Localizable("Replace them"))});
   if (choice == kCancel) return Unread::kCancelled;
   if (choice == kReplace) return Unread::kNoneLeft;
   for (const auto& [file, path] : unread) plan.files.erase(file);
@@ -213,19 +201,17 @@ bool BotSaver::MayDropFiles(const SavePlan& plan) {
       plan.package ? OtherFilesIn(*plan.package, current_.bot()) : 0;
   return others == 0 ||
          state_.prompts.Confirm(std::string(kProgramTitle),
-                                "'" + Utf8FromPath(*plan.package) +
-                                    "' is there already. " + WhatGoes(others) +
-                                    " Do you want to replace it?");
+                                IsThere(*plan.package) + " " +
+                                    WhatGoes(others) + " " + MayBeReplaced(1));
 }
 
 bool BotSaver::MayDropBots(const SavePlan& plan) {
   const std::string others = BotsThatGo(plan, current_.bot());
   return others.empty() ||
-         state_.prompts.Confirm(
-             std::string(kProgramTitle),
-             "'" + Utf8FromPath(plan.files.at(BotFile::kDescription)) +
-                 "' is there already. " + OtherBotsGo(others) +
-                 "Do you want to replace it?");
+         state_.prompts.Confirm(std::string(kProgramTitle),
+                                IsThere(plan.files.at(BotFile::kDescription)) +
+                                    " " + OtherBotsGo(others) + " " +
+                                    MayBeReplaced(1));
 }
 
 bool BotSaver::MayReplaceOthers(const SavePlan& plan) {
@@ -234,36 +220,30 @@ bool BotSaver::MayReplaceOthers(const SavePlan& plan) {
   return others.empty() ||
          state_.prompts.Confirm(
              std::string(kProgramTitle),
-             Subject(others) +
-                 " not read with this bot. Do you want to replace " +
-                 Object(others.size()) + "?");
+             NotRead(others) + " " + MayBeReplaced(others.size()));
 }
 
 bool BotSaver::MayDescribeTwice(const SavePlan& plan) {
   const std::string twice = NameDescribedTwice(plan, current_.bot());
   return twice.empty() ||
-         state_.prompts.Confirm(std::string(kProgramTitle),
-                                twice + " Do you want to save it so?");
+         state_.prompts.Confirm(
+             std::string(kProgramTitle),
+             twice + " " + Localized("Do you want to save it so?"));
 }
 
 bool BotSaver::MayRenew(const PackageBeside& beside) {
-  std::string text =
-      "'" + Utf8FromPath(beside.path) +
-      "' lies there too, and the game takes the bot out of it and not from the "
-      "files. Do you want to make it anew?";
+  std::string text = Localized(
+      "'%1' lies there too, and the game takes the bot out of it and "
+      "not from the files. Do you want to make it anew?",
+      {Utf8FromPath(beside.path)});
   if (beside.other_files > 0) text += " " + WhatGoes(beside.other_files);
   return state_.prompts.Confirm(std::string(kProgramTitle), text);
 }
 
 bool BotSaver::MayWriteOver(const SavePlan& plan) {
   const std::vector<fs::path> changed = ChangedByOthers(plan, home());
-  return changed.empty() ||
-         state_.prompts.Confirm(std::string(kProgramTitle),
-                                Subject(changed) +
-                                    " changed since the bot was read or saved "
-                                    "here. Do you want to "
-                                    "overwrite " +
-                                    Object(changed.size()) + "?");
+  return changed.empty() || state_.prompts.Confirm(std::string(kProgramTitle),
+                                                   MayBeOverwritten(changed));
 }
 
 bool BotSaver::MayMakeAnew(SavePlan& plan) {
@@ -271,21 +251,15 @@ bool BotSaver::MayMakeAnew(SavePlan& plan) {
   const std::optional<fs::path> list = ListWithoutBot(plan, home());
   std::string text;
   if (!gone.empty()) {
-    text = Subject(gone, "is", "are") +
-           " not there any more. Do you want to make " + Object(gone.size()) +
-           " anew?";
-    const bool is_package = gone.size() == 1 && gone.front() == plan.package;
-    if (!is_package) {
-      text += " Comments and lines of " +
-              std::string(gone.size() == 1 ? "its" : "their") +
-              " author's own are lost.";
-    }
+    text =
+        MayBeMadeAnew(gone, gone.size() == 1 && gone.front() == plan.package);
   }
   if (list) {
     if (!text.empty()) text += "\n\n";
-    text += "'" + Utf8FromPath(*list) +
-            "' does not describe the bot any more. Do you want to make '" +
-            Utf8FromPath(plan.files.at(BotFile::kDescription)) + "'?";
+    text += Localized(
+        "'%1' does not describe the bot any more. Do you want to make '%2'?",
+        {Utf8FromPath(*list),
+         Utf8FromPath(plan.files.at(BotFile::kDescription))});
   }
   if (text.empty()) return true;
   if (!state_.prompts.Confirm(std::string(kProgramTitle), text)) return false;
@@ -310,13 +284,13 @@ BotSaver::Outcome BotSaver::Write(const SavePlan& plan, bool leaves_changes,
   const fs::path& first = plan.files.contains(BotFile::kCharacteristics)
                               ? plan.files.at(BotFile::kCharacteristics)
                               : plan.left_alone.at(BotFile::kCharacteristics);
-  std::string where = Utf8FromPath(FolderOf(plan));
-  if (saved.package && !has_box) {
-    where += ", with " + Utf8FromPath(saved.package->path.filename());
-  }
-  Outcome outcome = {.text = QStringLiteral("The bot was written to %1.")
-                                 .arg(QString::fromStdString(where)),
-                     .saved = {}};
+  const std::string where = Utf8FromPath(FolderOf(plan));
+  const std::string text =
+      saved.package && !has_box
+          ? Localized("The bot was written to %1, with %2.",
+                      {where, Utf8FromPath(saved.package->path.filename())})
+          : Localized("The bot was written to %1.", {where});
+  Outcome outcome = Said(text);
   if (!leaves_changes) {
     outcome.saved = first;
     current_.SetChanged(false);
@@ -349,10 +323,10 @@ std::optional<BotSaver::Outcome> BotSaver::SaveIntoPackage() {
   if (!IsInOwnPackage(current_.bot(), home())) return std::nullopt;
   const std::filesystem::path package = home().files.begin()->second.path;
   if (!IsFile(package)) {
-    Tell({.what = "The package is not there any more.",
+    Tell({.what = Localized("The package is not there any more."),
           .file = Utf8FromPath(package),
           .line = 0,
-          .advice = "Choose a folder for the bot's files."});
+          .advice = Localized("Choose a folder for the bot's files.")});
     return std::nullopt;
   }
   const Author author = AuthorOf(state_.settings);
@@ -365,10 +339,10 @@ std::optional<BotSaver::Outcome> BotSaver::SaveIntoPackage() {
   }
   if (!*saved) return Outcome{};
   if (!(*saved)->leaves_changes) current_.SetChanged(false);
-  return Outcome{.text = QStringLiteral("The bot was written into %1.")
-                             .arg(ShownPath(package)),
-                 .saved = {},
-                 .notes = (*saved)->notes};
+  Outcome outcome = Said(Localized("The bot was written into %1.",
+                                   {ShownPath(package).toStdString()}));
+  outcome.notes = (*saved)->notes;
+  return outcome;
 }
 
 std::string BotSaver::Changes() {
@@ -395,8 +369,8 @@ IncludeLookup BotSaver::Game() const {
 }
 
 void BotSaver::TellNotKept(const Notes& notes) {
-  std::string text =
-      "The files are as their author wrote them, with your changes, but:";
+  std::string text = Localized(
+      "The files are as their author wrote them, with your changes, but:");
   for (const Note& note : notes.list()) {
     text += "\n- " + (note.file.empty() ? "" : note.file + ": ") + note.text;
   }
@@ -420,8 +394,10 @@ void BotSaver::TellHalfWritten(const SavePlan& plan, const SavedBot& saved) {
       made.emplace(file, known.path);
       old.erase(file);
     }
-    text += "\n\nThe bot is saved in part only. New: " + Names(made) +
-            ". Not written: " + Names(old) + ".";
+    text +=
+        "\n\n" +
+        Localized("The bot is saved in part only. New: %1. Not written: %2.",
+                  {Names(made), Names(old)});
   }
   state_.prompts.Show({.title = std::string(kProgramTitle),
                        .text = std::move(text),

@@ -14,8 +14,18 @@
 namespace fragsmith {
 namespace {
 
-QString LevelName(Level level) {
-  return QStringLiteral("level %1").arg(NumberOf(level));
+QString CopyText(Level from, Level to) {
+  return EditCommands::tr("Copy level %1 to level %2")
+      .arg(NumberOf(from))
+      .arg(NumberOf(to));
+}
+
+/// An item of the menu that says which edit it is about, if there is one.
+QString StepText(const QString& item, const QString& item_of_step,
+                 QString step) {
+  return step.isEmpty()
+             ? item
+             : item_of_step.arg(step.replace(u'&', QLatin1String("&&")));
 }
 
 }  // namespace
@@ -35,13 +45,9 @@ void EditCommands::Attach(QMenuBar& bar) {
     const QUndoStack& steps = current_.steps();
     // Text that is being typed can be taken back too.
     undo->setEnabled(steps.canUndo() || current_.is_changed());
-    undo->setText(QStringLiteral("&Undo %1")
-                      .arg(steps.undoText().replace(u'&', QLatin1String("&&")))
-                      .trimmed());
+    undo->setText(StepText(tr("&Undo"), tr("&Undo %1"), steps.undoText()));
     redo->setEnabled(steps.canRedo());
-    redo->setText(QStringLiteral("&Redo %1")
-                      .arg(steps.redoText().replace(u'&', QLatin1String("&&")))
-                      .trimmed());
+    redo->setText(StepText(tr("&Redo"), tr("&Redo %1"), steps.redoText()));
   };
   connect(&current_.steps(), &QUndoStack::indexChanged, this, show);
   connect(&current_, &CurrentBot::ChangedFlagSet, this, show);
@@ -71,16 +77,12 @@ void EditCommands::Find() {
 }
 
 void EditCommands::CopyLevel(Level from, Level to) {
-  current_.Edit(
-      {.text =
-           QStringLiteral("Copy %1 to %2").arg(LevelName(from), LevelName(to)),
-       .place = {},
-       .merges = false},
-      [from, to](Bot& bot) {
-        for (const int index : kPerLevelRange) {
-          bot.Put({to, index}, bot.Parameter({from, index}));
-        }
-      });
+  current_.Edit({.text = CopyText(from, to), .place = {}, .merges = false},
+                [from, to](Bot& bot) {
+                  for (const int index : kPerLevelRange) {
+                    bot.Put({to, index}, bot.Parameter({from, index}));
+                  }
+                });
 }
 
 void EditCommands::CopyParameter(ParameterId from, ParameterId to) {
@@ -94,11 +96,11 @@ void EditCommands::CopyParameter(ParameterId from, ParameterId to) {
 void EditCommands::Reset(ParameterId parameter) {
   if (!typed_text_.Store()) return;
   const Value loaded = current_.loaded().Parameter(parameter);
-  current_.Edit({.text = QStringLiteral("Reset %1")
-                             .arg(QString::fromUtf8(ParameterTitle(parameter))),
-                 .place = parameter,
-                 .merges = false},
-                [parameter, &loaded](Bot& bot) { bot.Put(parameter, loaded); });
+  current_.Edit(
+      {.text = tr("Reset %1").arg(QString::fromUtf8(ParameterTitle(parameter))),
+       .place = parameter,
+       .merges = false},
+      [parameter, &loaded](Bot& bot) { bot.Put(parameter, loaded); });
 }
 
 void EditCommands::ResetFocused() {
@@ -112,7 +114,7 @@ void EditCommands::ShowParameterMenu(ParameterId parameter,
   QMenu menu(&window_);
   const Value loaded = current_.loaded().Parameter(parameter);
   QAction* const reset =
-      menu.addAction(QStringLiteral("Re&set %1 to %2")
+      menu.addAction(tr("Re&set %1 to %2")
                          .arg(QString::fromUtf8(ParameterTitle(parameter)),
                               loaded == Value() ? QStringLiteral("0")
                                                 : ToQString(ToText(loaded))));
@@ -124,10 +126,8 @@ void EditCommands::ShowParameterMenu(ParameterId parameter,
     for (const Level level : kLevels) {
       if (level == *own_level) continue;
       const ParameterId to = parameter.At(level);
-      connect(menu.addAction(QStringLiteral("Copy %1 to %2")
-                                 .arg(LevelName(*own_level), LevelName(level))),
-              &QAction::triggered, this,
-              [this, parameter, to] { CopyParameter(parameter, to); });
+      connect(menu.addAction(CopyText(*own_level, level)), &QAction::triggered,
+              this, [this, parameter, to] { CopyParameter(parameter, to); });
     }
   }
   menu.exec(global_place);

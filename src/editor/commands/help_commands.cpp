@@ -20,8 +20,8 @@ void HelpCommands::ReportFault() {
                QSysInfo::prettyProductName(), QGuiApplication::platformName()));
   ShowManual(QStringLiteral("Report a fault"));
   emit StatusText(
-      QStringLiteral("The versions of the program and the system are in the "
-                     "clipboard."));
+      tr("The versions of the program and the system are in the "
+         "clipboard."));
 }
 
 }  // namespace fragsmith

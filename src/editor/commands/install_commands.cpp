@@ -16,6 +16,7 @@
 #include "session/save_bot.h"
 #include "support/code_page.h"
 #include "support/files.h"
+#include "support/localization.h"
 #include "support/no_prompts.h"
 
 namespace fragsmith {
@@ -30,11 +31,11 @@ void InstallCommands::Install() {
   const std::optional<fs::path> folder = FolderToInstallInto(game);
   if (!folder) {
     Refuse(game.empty()
-               ? "Fragsmith does not know where the game is. Set its folder "
-                 "with Program > Options first."
-               : "There is no folder of the game's packages, such as baseq3, "
-                 "in " +
-                     Utf8FromPath(game) + ". Look at Program > Options.");
+               ? Localized("Fragsmith does not know where the game is. Set its "
+                           "folder with Program > Options first.")
+               : Localized("There is no folder of the game's packages, such as "
+                           "baseq3, in %1. Look at Program > Options.",
+                           {Utf8FromPath(game)}));
     return;
   }
   const Bot& bot = current_.bot();
@@ -50,18 +51,18 @@ void InstallCommands::Install() {
       !refusal.empty() &&
       !state_.prompts.Confirm(
           std::string(kProgramTitle),
-          "The game will not take the bot as it is: " + refusal +
-              " Do you want to install it all the same?")) {
+          Localized("The game will not take the bot as it is: %1", {refusal}) +
+              " " + Localized("Do you want to install it all the same?"))) {
     emit StatusText(tr("Nothing was installed."));
     return;
   }
   const std::size_t others = OtherFilesIn(package, bot);
-  if (is_there &&
-      !state_.prompts.Confirm(std::string(kProgramTitle),
-                              "There is a package " + name + " in " +
-                                  shown_folder + " already. " +
-                                  (others > 0 ? WhatGoes(others) + " " : "") +
-                                  "Do you want to replace it?")) {
+  if (is_there && !state_.prompts.Confirm(
+                      std::string(kProgramTitle),
+                      Localized("There is a package %1 in %2 already.",
+                                {name, shown_folder}) +
+                          " " + (others > 0 ? WhatGoes(others) + " " : "") +
+                          Localized("Do you want to replace it?"))) {
     emit StatusText(tr("Nothing was installed."));
     return;
   }
@@ -93,18 +94,21 @@ void InstallCommands::Install() {
     Refuse(Describe(*saved.error));
     return;
   }
-  const std::string done =
-      name + " is in " + shown_folder +
-      (is_there ? ", in the place of the one before." : ".");
+  const std::string done = Localized(
+      is_there ? Localizable("%1 is in %2, in the place of the one before.")
+               : Localizable("%1 is in %2."),
+      {name, shown_folder});
   emit StatusText(QString::fromStdString(done));
   std::string text = done;
   if (!macros.empty()) {
-    text +=
-        "\n\nYour game has weight code of its own: the weights are in it "
-        "under that code's names as well.";
+    text += "\n\n" +
+            Localized(
+                "Your game has weight code of its own: the weights are in it "
+                "under that code's names as well.");
   }
   if (!not_kept.empty()) {
-    text += "\n\nThe files in it are as their author wrote them, but:";
+    text += "\n\n" +
+            Localized("The files in it are as their author wrote them, but:");
     for (const Note& note : not_kept.list()) {
       text += "\n- " + note.file + ": " + note.text;
     }
@@ -117,7 +121,7 @@ std::string InstallCommands::GameRefusal() const {
     return finding.severity == Severity::kError;
   };
   if (std::ranges::any_of(checker_.findings(), is_error)) {
-    return "see the errors in the list of findings (F8).";
+    return Localized("see the errors in the list of findings (F8).");
   }
   // A bot of the game's own packages is a second one of its name in another.
   const std::vector<Finding> alone = CheckBot(current_.bot(), checker_.game());
@@ -137,11 +141,13 @@ void InstallCommands::Offer(const std::string& text) {
   enum : std::size_t { kClose, kCopy, kTry };
   const std::size_t choice = state_.prompts.Choose(
       std::string(kProgramTitle),
-      text + "\n\nIn the game, open the console and type\n" + command,
-      {"Close", "Copy " + command, "Try now"});
+      text + "\n\n" + Localized("In the game, open the console and type") +
+          "\n" + command,
+      {Localized("Close"), Localized("Copy %1", {command}),
+       Localized("Try now")});
   if (choice == kCopy) {
     QGuiApplication::clipboard()->setText(QString::fromStdString(command));
-    emit StatusText(QString::fromStdString("Copied: " + command));
+    emit StatusText(tr("Copied: %1").arg(QString::fromStdString(command)));
   } else if (choice == kTry) {
     emit TryWanted();
   }

@@ -15,6 +15,7 @@
 #include "session/save_again.h"
 #include "support/code_page.h"
 #include "support/files.h"
+#include "support/localization.h"
 #include "support/text.h"
 
 namespace fragsmith {
@@ -186,19 +187,20 @@ frmLibrary::Removal LibraryCommands::Remove(const Entry& entry) {
   if (!IsPackageOf(package, bot)) {
     state_.prompts.Show(
         {.title = std::string(kProgramTitle),
-         .text = "'" + Utf8FromPath(package) +
-                 "' has other files than those of " +
-                 Utf8FromGameText(location->name) +
-                 " in it, or cannot be read. Only packages that hold a bot and "
-                 "nothing else are removed here.",
+         .text = Localized(
+             "'%1' has other files than those of %2 in it, or cannot be read. "
+             "Only packages that hold a bot and nothing else are removed here.",
+             {Utf8FromPath(package), Utf8FromGameText(location->name)}),
          .icon = MessageIcon::kExclamation});
     return {.text = kept};
   }
-  std::string question =
-      "Do you want to remove '" + Utf8FromPath(package) + "' from the disk? " +
-      Utf8FromGameText(location->name) + " is then not in the game any more.";
+  std::string question = Localized(
+      "Do you want to remove '%1' from the disk? %2 is then not in the game "
+      "any "
+      "more.",
+      {Utf8FromPath(package), Utf8FromGameText(location->name)});
   if (IsOpen(package)) {
-    question += " It stays open in the window, unsaved.";
+    question += " " + Localized("It stays open in the window, unsaved.");
   }
   if (!state_.prompts.Confirm(std::string(kProgramTitle), question)) {
     return {.text = kept};
@@ -207,8 +209,10 @@ frmLibrary::Removal LibraryCommands::Remove(const Entry& entry) {
   if (!fs::remove(package, reason)) {
     state_.prompts.Show(
         {.title = std::string(kProgramTitle),
-         .text = "'" + Utf8FromPath(package) + "' cannot be removed" +
-                 (reason ? ": " + reason.message() : std::string()) + ".",
+         .text = reason ? Localized("'%1' cannot be removed: %2.",
+                                    {Utf8FromPath(package), reason.message()})
+                        : Localized("'%1' cannot be removed.",
+                                    {Utf8FromPath(package)}),
          .icon = MessageIcon::kExclamation});
     return {.text = kept};
   }

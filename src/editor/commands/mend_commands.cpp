@@ -21,30 +21,26 @@ void MendCommands::Attach(FindingsDock& dock,
   connect(&dock, &FindingsDock::MendKindWanted, this,
           [this, store_typing](std::string_view id) {
             if (!store_typing()) return;
-            MendMany(QStringLiteral("Mend all of a kind"),
-                     [id](const Finding& finding) {
-                       return finding.id == id ? FirstMend(finding) : nullptr;
-                     });
+            MendMany(tr("Mend all of a kind"), [id](const Finding& finding) {
+              return finding.id == id ? FirstMend(finding) : nullptr;
+            });
           });
-  connect(&dock, &FindingsDock::MendSafeWanted, this,
-          [this, store_typing](std::optional<int> page) {
-            if (!store_typing()) return;
-            MendMany(QStringLiteral("Mend all that is safe"),
-                     [page](const Finding& finding) {
-                       return !page || PageOfPlace(finding.place) == page
-                                  ? SafeMend(finding)
-                                  : nullptr;
-                     });
-          });
+  connect(
+      &dock, &FindingsDock::MendSafeWanted, this,
+      [this, store_typing](std::optional<int> page) {
+        if (!store_typing()) return;
+        MendMany(tr("Mend all that is safe"), [page](const Finding& finding) {
+          return !page || PageOfPlace(finding.place) == page ? SafeMend(finding)
+                                                             : nullptr;
+        });
+      });
   connect(&dock, &FindingsDock::MakeReadyWanted, this, [this, store_typing] {
     if (!store_typing()) return;
-    MendMany(QStringLiteral("Make it ready for the game"),
-             [this](const Finding& finding) {
-               const Mend* const safe = SafeMend(finding);
-               return safe == nullptr && IsUntouched(finding.place)
-                          ? FirstMend(finding)
-                          : safe;
-             });
+    MendMany(tr("Make it ready for the game"), [this](const Finding& finding) {
+      const Mend* const safe = SafeMend(finding);
+      return safe == nullptr && IsUntouched(finding.place) ? FirstMend(finding)
+                                                           : safe;
+    });
   });
 }
 
@@ -58,7 +54,7 @@ void MendCommands::MendMany(const QString& name, const MendChoice& choice) {
     checker_.CheckNow();
   }
   const qsizetype left = std::ssize(checker_.findings());
-  emit StatusText(QStringLiteral("Mended: %1. Left: %2.").arg(count).arg(left));
+  emit StatusText(tr("Mended: %1. Left: %2.").arg(count).arg(left));
 }
 
 bool MendCommands::IsUntouched(const BotPlace& place) const {

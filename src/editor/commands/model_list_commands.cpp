@@ -1,5 +1,6 @@
 #include "editor/commands/model_list_commands.h"
 
+#include <QCoreApplication>
 #include <set>
 #include <string>
 #include <utility>
@@ -11,6 +12,7 @@
 #include "install/program/gone_packages.h"
 #include "install/program/model_commands.h"
 #include "support/files.h"
+#include "support/localization.h"
 
 namespace fragsmith {
 
@@ -33,10 +35,11 @@ std::optional<ModelListCommands::Scan> ModelListCommands::CheckBaseq3() {
   models_.Refill();
   models_.RefreshIcon();
   if (models_.IsMissing()) {
-    notes.Add({.file = "baseq3",
-               .line = 0,
-               .text = "The model or skin of this bot is in no package any "
-                       "more; the bot keeps it."});
+    notes.Add(
+        {.file = "baseq3",
+         .line = 0,
+         .text = Localized("The model or skin of this bot is in no package "
+                           "any more; the bot keeps it.")});
   }
   // What cannot be written is told at the end of the program.
   static_cast<void>(state_.Save(EmptyList::kReplacesOldFile));
@@ -53,7 +56,8 @@ QString ModelListCommands::DropGoneAddOns() {
   static_cast<void>(state_.Save(EmptyList::kReplacesOldFile));
   QStringList names;
   for (const std::string& name : gone) names << ToQString(name);
-  return QStringLiteral(
+  return QCoreApplication::translate(
+             "ModelListCommands",
              "Not in the game any more, and dropped from the lists of models "
              "and bots: %1.")
       .arg(names.join(QStringLiteral(", ")));

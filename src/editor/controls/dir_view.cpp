@@ -103,7 +103,7 @@ DirView::DirView(Prompts& prompts, QWidget* parent)
     : QWidget(parent),
       prompts_(prompts),
       places_(new PlacesBar(this)),
-      drives_caption_(new QLabel(QStringLiteral("&Drive:"), this)),
+      drives_caption_(new QLabel(tr("&Drive:"), this)),
       drives_box_(new QComboBox(this)),
       path_box_(new QLineEdit(this)),
       folders_caption_(new QLabel(this)),
@@ -113,13 +113,13 @@ DirView::DirView(Prompts& prompts, QWidget* parent)
       files_list_(new QListWidget(files_side_)) {
   IgnoreWheelWithoutFocus(*drives_box_);
   drives_box_->setObjectName(QStringLiteral("drvDrive"));
-  drives_box_->setAccessibleName(QStringLiteral("Drive"));
+  drives_box_->setAccessibleName(tr("Drive"));
   path_box_->setObjectName(QStringLiteral("txtFolder"));
-  path_box_->setAccessibleName(QStringLiteral("Path"));
+  path_box_->setAccessibleName(tr("Path"));
   folders_list_->setObjectName(QStringLiteral("dirFolder"));
-  folders_list_->setAccessibleName(QStringLiteral("Folders"));
+  folders_list_->setAccessibleName(tr("Folders"));
   files_list_->setObjectName(QStringLiteral("filFile"));
-  files_list_->setAccessibleName(QStringLiteral("Files"));
+  files_list_->setAccessibleName(tr("Files"));
   BuildLayout();
 
   connect(places_, &PlacesBar::Chosen, this, &DirView::SetFolder);
@@ -145,7 +145,7 @@ void DirView::BuildLayout() {
       QComboBox::AdjustToMinimumContentsLengthWithIcon);
   drives_box_->setMinimumContentsLength(12);
   drives_caption_->setBuddy(drives_box_);
-  auto* const path_caption = new QLabel(QStringLiteral("&Path:"), this);
+  auto* const path_caption = new QLabel(tr("&Path:"), this);
   path_caption->setBuddy(path_box_);
   folders_caption_->setBuddy(folders_list_);
   files_caption_->setBuddy(files_list_);
@@ -296,7 +296,7 @@ void DirView::EnterTypedPath() {
     return;
   }
   if (ChooseTypedFile(typed)) return;
-  folders_caption_->setText(QStringLiteral("&Folders (there is no such path)"));
+  folders_caption_->setText(tr("&Folders (there is no such path)"));
   if (path_box_->hasFocus()) path_box_->selectAll();
 }
 
@@ -338,9 +338,9 @@ void DirView::ListFolders() {
     folders_list_->addItem(
         new QListWidgetItem(icon, ShownPath(folders_[row].filename())));
   }
-  folders_caption_->setText(
-      CanRead(folder_) ? QStringLiteral("&Folders")
-                       : QStringLiteral("&Folders (this one cannot be read)"));
+  folders_caption_->setText(CanRead(folder_)
+                                ? tr("&Folders")
+                                : tr("&Folders (this one cannot be read)"));
 }
 
 void DirView::ListFiles() {
@@ -356,9 +356,9 @@ void DirView::ListFiles() {
   for (const fs::path& name : files_) {
     files_list_->addItem(new QListWidgetItem(icon, ShownPath(name)));
   }
-  files_caption_->setText((files_.empty() ? QStringLiteral("No f&iles ")
-                                          : QStringLiteral("F&iles ")) +
-                          files_words_);
+  files_caption_->setText(
+      (files_.empty() ? tr("No f&iles %1") : tr("F&iles %1"))
+          .arg(files_words_));
 }
 
 void DirView::ShowDrive() {

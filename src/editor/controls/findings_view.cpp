@@ -20,8 +20,8 @@ FindingsView::FindingsView(QWidget* parent)
   setIconSize(QSize(icon, icon));
   setMinimumHeight(5 * fontMetrics().lineSpacing());
   setWhatsThis(FindingsModel::FoldingHelp());
-  setAccessibleDescription(FindingsModel::FoldingHelp() +
-                           QStringLiteral(" The space bar mends."));
+  setAccessibleDescription(FindingsModel::FoldingHelp() + u' ' +
+                           tr("The space bar mends."));
   setModel(model_);
   connect(this, &QListView::doubleClicked, this, [this] { Fold(!IsFolded()); });
 }

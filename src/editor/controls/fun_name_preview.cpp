@@ -18,7 +18,7 @@ constexpr double kReadableContrast = 2.5;
 }  // namespace
 
 FunNamePreview::FunNamePreview(QWidget* parent) : QWidget(parent) {
-  setAccessibleName(QStringLiteral("Funname preview"));
+  setAccessibleName(tr("Funname preview"));
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 

@@ -8,7 +8,7 @@ namespace fragsmith {
 IconBox::IconBox(QWidget* parent) : QFrame(parent) {
   setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-  setAccessibleName(QStringLiteral("Skin icon"));
+  setAccessibleName(tr("Skin icon"));
 }
 
 void IconBox::ShowPicture(const Picture& picture, const QString& description) {

@@ -22,8 +22,7 @@ int CountOf(const Counts& counts, const std::string& name) {
 
 KillBars::KillBars(QWidget* parent) : QWidget(parent) {
   setObjectName(QStringLiteral("picKills"));
-  setAccessibleName(
-      QStringLiteral("Kills by weapon, in the order of its weights"));
+  setAccessibleName(tr("Kills by weapon, in the order of its weights"));
 }
 
 void KillBars::ShowKills(const Bot& bot, const Counts& kills,
@@ -41,8 +40,8 @@ void KillBars::ShowKills(const Bot& bot, const Counts& kills,
     ++number;
     if (rank.weight <= 0 && count == 0 && other_count == 0) continue;
     QString text = QStringLiteral("%1.").arg(number);
-    if (rank.weight <= 0) text = QStringLiteral("never");
-    if (rank.is_tied) text = QStringLiteral("tie");
+    if (rank.weight <= 0) text = tr("never");
+    if (rank.is_tied) text = tr("tie");
     rows_.push_back(
         {.weapon = QString::fromUtf8(ParameterCaption(rank.weapon.index())),
          .rank = text,
@@ -64,12 +63,9 @@ void KillBars::ShowKills(const Bot& bot, const Counts& kills,
   }
   QStringList words;
   for (const Row& row : rows_) {
-    words << QStringLiteral("%1 %2: %3 of %4, %5 of %6")
-                 .arg(row.rank, row.weapon)
-                 .arg(row.kills)
-                 .arg(bot_name_)
-                 .arg(row.other_kills)
-                 .arg(other_name_)
+    words << tr("%1 %2: %3 of %4, %5 of %6")
+                 .arg(row.rank, row.weapon, QString::number(row.kills),
+                      bot_name_, QString::number(row.other_kills), other_name_)
                  .trimmed();
   }
   const QString description = words.join(QStringLiteral("; "));
@@ -119,7 +115,7 @@ void KillBars::paintEvent(QPaintEvent* /*event*/) {
         names, static_cast<double>(metrics.horizontalAdvance(row.weapon)));
     most = std::max({most, row.kills, row.other_kills});
   }
-  const double ranks = metrics.horizontalAdvance(QStringLiteral("never")) + gap;
+  const double ranks = metrics.horizontalAdvance(tr("never")) + gap;
   const double left = ranks + names + gap;
   const double room =
       width() - left - metrics.horizontalAdvance(QStringLiteral("00000"));

@@ -20,7 +20,7 @@ MaxSelect::MaxSelect(QWidget* parent)
     const QString maximum = QString::number(kWeightMaxima[index]);
     auto* const button = new QRadioButton(maximum, this);
     button->setObjectName(QStringLiteral("opScale_%1").arg(index));
-    button->setAccessibleName(QStringLiteral("Scale from 0 to ") + maximum);
+    button->setAccessibleName(tr("Scale from 0 to %1").arg(maximum));
     buttons_->addButton(button, index);
     row->addWidget(button);
   }

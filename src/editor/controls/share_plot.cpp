@@ -17,7 +17,7 @@ constexpr double kHalf = 0.5;
 
 SharePlot::SharePlot(QWidget* parent) : QWidget(parent) {
   setObjectName(QStringLiteral("picShare"));
-  setAccessibleName(QStringLiteral("Share of the points by matches"));
+  setAccessibleName(tr("Share of the points by matches"));
 }
 
 void SharePlot::ShowShares(std::vector<ShareLine> lines, int matches) {
@@ -28,8 +28,10 @@ void SharePlot::ShowShares(std::vector<ShareLine> lines, int matches) {
     matches_ = std::max(matches_, static_cast<int>(line.shares.size()));
     if (line.shares.empty()) continue;
     const QString said =
-        QString::fromStdString("After " + MatchesText(line.shares.size()) +
-                               ": " + ShownShare(line.shares.back()));
+        (line.shares.size() == 1 ? tr("After %1 match: %2")
+                                 : tr("After %1 matches: %2"))
+            .arg(QString::number(line.shares.size()),
+                 QString::fromStdString(ShownShare(line.shares.back())));
     words << (lines_.size() == 1 ? said
                                  : line.title + QStringLiteral(". ") + said);
   }

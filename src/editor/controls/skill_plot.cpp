@@ -20,15 +20,15 @@ QString Number(double value) { return QString::number(value, 'g', 4); }
 QString OriginText(ValueOrigin origin) {
   switch (origin) {
     case ValueOrigin::kNone:
-      return QStringLiteral(
+      return SkillPlot::tr(
           " (no value: a fraction below and a whole number "
           "above are not mixed)");
     case ValueOrigin::kText:
-      return QStringLiteral(" (a text is no value)");
+      return SkillPlot::tr(" (a text is no value)");
     case ValueOrigin::kDefault:
-      return QStringLiteral(" (the game's default character decides)");
+      return SkillPlot::tr(" (the game's default character decides)");
     case ValueOrigin::kLower:
-      return QStringLiteral(" (whole numbers are not mixed)");
+      return SkillPlot::tr(" (whole numbers are not mixed)");
     case ValueOrigin::kLevel:
     case ValueOrigin::kMixed:
       break;
@@ -70,7 +70,7 @@ void SkillPlot::ShowCharacteristic(const Bot& bot, ParameterId id) {
   title_ = QString::fromUtf8(ParameterName(id));
   values_ = MixShownSkills(bot, id);
   thresholds_ = ThresholdsOf(id);
-  setAccessibleName(title_ + QStringLiteral(" by skill"));
+  setAccessibleName(tr("%1 by skill").arg(title_));
   setAccessibleDescription(Words());
   setToolTip(Words().toHtmlEscaped());
   update();
@@ -79,12 +79,11 @@ void SkillPlot::ShowCharacteristic(const Bot& bot, ParameterId id) {
 QString SkillPlot::Words() const {
   QStringList words;
   for (const ValueAtSkill& value : values_) {
-    words << QStringLiteral("Skill %1: %2%3")
-                 .arg(Number(value.skill), Number(value.used),
-                      OriginText(value.origin));
+    words << tr("Skill %1: %2").arg(Number(value.skill), Number(value.used)) +
+                 OriginText(value.origin);
   }
   for (const Threshold& threshold : thresholds_) {
-    words << QStringLiteral("At %1: %2")
+    words << tr("At %1: %2")
                  .arg(Number(threshold.value),
                       QString::fromStdString(Localized(threshold.text)));
   }

@@ -19,7 +19,7 @@ namespace fragsmith {
 ValueBox::ValueBox(ValueSlider& slider, ValueLabel& label, QWidget* parent)
     : QLineEdit(parent), slider_(slider), label_(label) {
   setAlignment(Qt::AlignRight);
-  setAccessibleName(slider.accessibleName() + QStringLiteral(", value"));
+  setAccessibleName(tr("%1, value").arg(slider.accessibleName()));
   LeaveUndoToWindow(*this, UndoOfBox::kWhileModified);
   QWidget::setTabOrder(&slider, this);
   label.installEventFilter(this);

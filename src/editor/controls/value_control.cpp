@@ -113,10 +113,9 @@ void ValueControl::ShowReset(std::size_t index) {
     const QString text = ToNumber(*row.loaded) == 0
                              ? QStringLiteral("0")
                              : ToQString(ToText(*row.loaded));
-    row.reset->setToolTip(
-        WrappedToolTip({}, QStringLiteral("Put back to %1.").arg(text)));
-    row.reset->setAccessibleName(QStringLiteral("Put %1 back to %2")
-                                     .arg(row.slider->accessibleName(), text));
+    row.reset->setToolTip(WrappedToolTip({}, tr("Put back to %1.").arg(text)));
+    row.reset->setAccessibleName(
+        tr("Put %1 back to %2").arg(row.slider->accessibleName(), text));
   } else if (row.reset->hasFocus()) {
     row.slider->setFocus(Qt::OtherFocusReason);
   }
@@ -206,9 +205,10 @@ void ValueControl::NameSliders() {
   setAccessibleName(spoken_name_);
   for (const Row& row : rows_) {
     row.slider->setAccessibleName(
-        row.level ? spoken_name_ + QStringLiteral(", level ") +
-                        QString::number(NumberOf(*row.level))
-                  : spoken_name_);
+        row.level
+            ? tr("%1, level %2")
+                  .arg(spoken_name_, QString::number(NumberOf(*row.level)))
+            : spoken_name_);
   }
 }
 

@@ -22,29 +22,28 @@ QString WeaponName(const WeaponRank& rank) {
 }
 
 QString WeightText(const WeaponRank& rank) {
-  return rank.weight <= 0 ? QStringLiteral("never")
+  return rank.weight <= 0 ? WeaponBars::tr("never")
                           : QString::number(rank.weight, 'g', 5);
 }
 
-constexpr const char* kTie = " (tie)";
+QString TieText() { return WeaponBars::tr(" (tie)"); }
 
 }  // namespace
 
 WeaponBars::WeaponBars(QWidget* parent)
     : QWidget(parent), distance_(new QComboBox(this)) {
   setObjectName(QStringLiteral("picWeapons"));
-  setAccessibleName(QStringLiteral("Weapons in the order of their weights"));
+  setAccessibleName(tr("Weapons in the order of their weights"));
   IgnoreWheelWithoutFocus(*distance_);
   distance_->setObjectName(QStringLiteral("cmbDistance"));
-  distance_->setAccessibleName(QStringLiteral("Distance to the enemy"));
+  distance_->setAccessibleName(tr("Distance to the enemy"));
   for (const int distance : kDistances) {
-    distance_->addItem(
-        distance == 0
-            ? QStringLiteral("at any distance")
-            : QStringLiteral("at %1 units, OpenArena's data").arg(distance));
+    distance_->addItem(distance == 0
+                           ? tr("at any distance")
+                           : tr("at %1 units, OpenArena's data").arg(distance));
   }
   auto* const row = new QHBoxLayout;
-  auto* const label = new QLabel(QStringLiteral("Weapons"), this);
+  auto* const label = new QLabel(tr("Weapons"), this);
   label->setBuddy(distance_);
   row->addWidget(label);
   row->addWidget(distance_);
@@ -70,12 +69,10 @@ void WeaponBars::ShowOrder() {
       bot_, distance == 0 ? std::nullopt : std::optional<double>(distance));
   QStringList words;
   for (const WeaponRank& rank : order_) {
-    words << QStringLiteral("%1: %2%3")
-                 .arg(WeaponName(rank), WeightText(rank),
-                      rank.is_tied ? QStringLiteral(
-                                         ", a tie: drawn only without the one "
-                                         "before it")
-                                   : QString());
+    words << (rank.is_tied ? tr("%1: %2, a tie: drawn only without the one "
+                                "before it")
+                           : QStringLiteral("%1: %2"))
+                 .arg(WeaponName(rank), WeightText(rank));
   }
   const QString description = words.join(QStringLiteral("; "));
   setAccessibleDescription(description);
@@ -100,7 +97,7 @@ void WeaponBars::paintEvent(QPaintEvent* /*event*/) {
   // Room for the numbers behind the bars.
   const double room =
       width() - left -
-      metrics.horizontalAdvance(QStringLiteral("00000") + QLatin1String(kTie));
+      metrics.horizontalAdvance(QStringLiteral("00000") + TieText());
   double top = above;
   for (const WeaponRank& rank : order_) {
     const QRectF row(0, top, width(), step);
@@ -113,7 +110,7 @@ void WeaponBars::paintEvent(QPaintEvent* /*event*/) {
     painter.fillRect(QRectF(left, top + step * 0.15, length, step * 0.7),
                      color);
     const QString weight =
-        WeightText(rank) + QLatin1String(rank.is_tied ? kTie : "");
+        WeightText(rank) + (rank.is_tied ? TieText() : QString());
     painter.drawText(row.adjusted(left + length + gap / 2.0, 0, 0, 0),
                      Qt::AlignLeft | Qt::AlignVCenter, weight);
     top += step;

@@ -90,8 +90,9 @@ void SetUpRows(QTreeWidget& list, const char* name,
 
 void RefuseForeignCharacters(QLineEdit* box, HintLine* hint) {
   box->setValidator(new CodePageValidator(box));
-  QObject::connect(box, &QLineEdit::inputRejected, hint,
-                   [hint] { hint->Say(QString::fromUtf8(kRefusedCharacter)); });
+  QObject::connect(box, &QLineEdit::inputRejected, hint, [hint] {
+    hint->Say(CodePageValidator::tr(kRefusedCharacter));
+  });
 }
 
 }  // namespace fragsmith

@@ -1,6 +1,5 @@
 #include "editor/pages/chat_help.h"
 
-#include <QCoreApplication>
 #include <QStringList>
 #include <algorithm>
 #include <cmath>
@@ -11,6 +10,7 @@
 
 #include "chat/chat_catalogue.h"
 #include "chat/vocabulary.h"
+#include "editor/pages/chat_page.h"
 #include "editor/toolkit/game_text_conversion.h"
 #include "editor/toolkit/page_table.h"
 #include "game/chat_type_facts.h"
@@ -23,10 +23,6 @@ QString WhatPointerHolds(ChatTypeId type, int pointer) {
   return QString::fromUtf8(FillText(FillOf(type, variable)));
 }
 
-QString Tr(const char* text) {
-  return QCoreApplication::translate("ChatPage", text);
-}
-
 /// "pizza, gruel, soup ..."
 QString SomeOf(const GameWordList& list) {
   constexpr std::size_t kWords = 4;
@@ -36,7 +32,7 @@ QString SomeOf(const GameWordList& list) {
                           line.items.front().kind == ChatItem::Kind::kText;
     if (!is_plain) continue;
     if (words.size() == kWords)
-      return words.join(QStringLiteral(", ")) + Tr(" ...");
+      return words.join(QStringLiteral(", ")) + QStringLiteral(" ...");
     words << ToQString(line.items.front().text).trimmed();
   }
   return words.join(QStringLiteral(", "));
@@ -49,7 +45,7 @@ QString ChatTypeHelp(ChatTypeId type) {
   QString text = QString::fromUtf8(WhenText(facts));
   if (!facts.is_heard) return text;
   return text +
-         QStringLiteral(
+         ChatPage::tr(
              " \"%1\" on the page \"Chat characteristics\" sets the "
              "chance. Bots speak in free-for-all games only, and at "
              "most one line in 25 seconds.")
@@ -57,7 +53,7 @@ QString ChatTypeHelp(ChatTypeId type) {
 }
 
 QString ChatPointerHelp(ChatTypeId type, int pointer) {
-  return QStringLiteral("Inserts %1: in the game %2.")
+  return ChatPage::tr("Inserts %1: in the game %2.")
       .arg(QString::fromUtf8(ChatPointerAt(pointer).Variable),
            WhatPointerHolds(type, pointer));
 }
@@ -68,7 +64,7 @@ QString WhyNotFilled(ChatTypeId type, const QString& variable) {
     if (QString::fromUtf8(entry.Variable) != variable) continue;
     const ChatFill fill = FillOf(type, QString::fromUtf8(entry.Item()).toInt());
     if (fill != ChatFill::kNothing && fill != ChatFill::kInvalid) return {};
-    return Tr("The game does not fill %1 here: it speaks %2.")
+    return ChatPage::tr("The game does not fill %1 here: it speaks %2.")
         .arg(variable, QString::fromUtf8(FillText(fill)));
   }
   return {};
@@ -89,15 +85,15 @@ std::vector<ChatVariable> VariablesFor(ChatTypeId type,
     if (variable.is_of_use) {
       useful.push_back(std::move(variable));
     } else {
-      variable.meaning =
-          Tr("not filled here: the game speaks %1").arg(variable.meaning);
+      variable.meaning = ChatPage::tr("not filled here: the game speaks %1")
+                             .arg(variable.meaning);
       useless.push_back(std::move(variable));
     }
   }
   for (const ChatPointer& entry : kChatPointers) {
     if (!known.insert(entry.Variable).second) continue;
     useless.push_back({.variable = QString::fromUtf8(entry.Variable),
-                       .meaning = Tr("belongs to other occasions"),
+                       .meaning = ChatPage::tr("belongs to other occasions"),
                        .is_of_use = false});
   }
   for (const WordList& entry : kWordLists) {
@@ -107,9 +103,10 @@ std::vector<ChatVariable> VariablesFor(ChatTypeId type,
     const QString caption = QString::fromUtf8(entry.Caption);
     (is_missing ? useless : useful)
         .push_back({.variable = QString::fromUtf8(entry.Variable),
-                    .meaning = is_missing        ? Tr("not in this game")
-                               : list == nullptr ? Tr("some %1").arg(caption)
-                                                 : SomeOf(*list),
+                    .meaning = is_missing ? ChatPage::tr("not in this game")
+                               : list == nullptr
+                                   ? ChatPage::tr("some %1").arg(caption)
+                                   : SomeOf(*list),
                     .is_of_use = !is_missing});
   }
   std::move(useless.begin(), useless.end(), std::back_inserter(useful));
@@ -125,19 +122,19 @@ QString ChanceOfLine(const Bot& bot, ChatTypeId type) {
                 facts.chance_factor
           : 0;
   if (!facts.is_heard || chance <= 0 || !IsDrawn(bot, type)) {
-    return Tr("never");
+    return ChatPage::tr("never");
   }
   if (*facts.chance == kRandomChatRate) {
     // What is asked for again and again has a rate.
-    return Tr("every %1 s").arg(std::lround(1 / chance));
+    return ChatPage::tr("every %1 s").arg(std::lround(1 / chance));
   }
-  return Tr("%1 %").arg(std::lround(chance * 100));
+  return ChatPage::tr("%1 %").arg(std::lround(chance * 100));
 }
 
 QString ChatVariables(ChatTypeId type) {
   QStringList variables;
   for (const int pointer : ChatTypeAt(type).Pointers()) {
-    variables << QStringLiteral("%1 is %2")
+    variables << ChatPage::tr("%1 is %2")
                      .arg(QString::fromUtf8(ChatPointerAt(pointer).Variable),
                           WhatPointerHolds(type, pointer));
   }

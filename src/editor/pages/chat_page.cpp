@@ -11,6 +11,7 @@
 #include "chat/chat_catalogue.h"
 #include "chat/chat_commands.h"
 #include "editor/pages/chat_help.h"
+#include "editor/toolkit/code_page_validator.h"
 #include "editor/toolkit/game_text_conversion.h"
 #include "editor/toolkit/page_table.h"
 #include "editor/toolkit/severity_icon.h"
@@ -170,10 +171,10 @@ void ChatPage::StoreLine() {
   if (!text) {
     // A line that was odd already lets everything past the validator.
     ShowLine();
-    emit StatusText(QLatin1String(kRefusedCharacter));
+    emit StatusText(CodePageValidator::tr(kRefusedCharacter));
     return;
   }
-  EditName name = NameOf("Chat line", Line());
+  EditName name = NameOf(tr("Chat line"), Line());
   // What is inserted goes without what was typed.
   name.merges = !is_inserting_;
   current_.EditChats(name, [this, &text](Bot& bot) {
@@ -183,9 +184,9 @@ void ChatPage::StoreLine() {
   ShowSpoken();
 }
 
-EditName ChatPage::NameOf(const char* text,
+EditName ChatPage::NameOf(const QString& text,
                           std::optional<ChatLineIndex> line) const {
-  EditName name = {.text = QLatin1String(text), .place = {}, .merges = false};
+  EditName name = {.text = text, .place = {}, .merges = false};
   if (const std::optional<ChatTypeId> type = Type()) {
     name.place = ChatPlace{.type = *type, .line = line};
   }
@@ -198,9 +199,10 @@ void ChatPage::AddSelectedList(int group, int number) {
   if (!Type()) return;
   const std::optional<ChatLineIndex> selected = Line();
   ChatLineIndex line;
-  current_.EditChats(NameOf("Add selected list"), [&](Bot& bot) {
-    line = AddGroupMember(bot, *Type(), selected, group, number);
-  });
+  current_.EditChats(
+      NameOf(QStringLiteral("Add selected list")), [&](Bot& bot) {
+        line = AddGroupMember(bot, *Type(), selected, group, number);
+      });
   const QString text = ToQString(current_.bot().ChatLine(*Type(), line));
   const int row = RowOf(line);
   if (row < lines_->count()) {
@@ -223,7 +225,7 @@ void ChatPage::AddWord() {
 void ChatPage::AddLine() {
   if (!Type()) return;
   ChatLineIndex line;
-  current_.EditChats(NameOf("New line"),
+  current_.EditChats(NameOf(QStringLiteral("New line")),
                      [&](Bot& bot) { line = AddEmptyChatLine(bot, *Type()); });
   {
     const QSignalBlocker silence(lines_);
@@ -236,7 +238,7 @@ void ChatPage::AddLine() {
 void ChatPage::RemoveLine() {
   const std::optional<ChatLineIndex> line = Line();
   if (!Type() || !line) return;
-  current_.EditChats(NameOf("Remove line"),
+  current_.EditChats(NameOf(QStringLiteral("Remove line")),
                      [&](Bot& bot) { bot.RemoveChatLine(*Type(), *line); });
   {
     const QSignalBlocker silence(lines_);
@@ -248,7 +250,7 @@ void ChatPage::RemoveLine() {
 void ChatPage::AddRandomList() {
   if (!Type()) return;
   ChatLineIndex line;
-  current_.EditChats(NameOf("Add random list"), [&](Bot& bot) {
+  current_.EditChats(NameOf(QStringLiteral("Add random list")), [&](Bot& bot) {
     line = AddRandomChatLine(bot, *Type(), random_);
   });
   ShowType();
@@ -257,14 +259,14 @@ void ChatPage::AddRandomList() {
 
 void ChatPage::AddExtraChatsToBot() {
   Complete();
-  current_.EditChats(NameOf("Add extra chats"),
+  current_.EditChats(NameOf(QStringLiteral("Add extra chats")),
                      [this](Bot& bot) { AddExtraChats(bot, random_); });
   ShowType();
 }
 
 void ChatPage::DeleteAllChats() {
   Complete();
-  current_.EditChats(NameOf("Delete all chats"),
+  current_.EditChats(NameOf(QStringLiteral("Delete all chats")),
                      [](Bot& bot) { bot.ClearChats(); });
   ShowType();
 }

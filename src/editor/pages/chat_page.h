@@ -84,7 +84,7 @@ class ChatPage : public ScrollingPage {
   std::optional<ChatLineIndex> Line() const;
 
   /// The name of an edit of the selected type, or of one line of it.
-  EditName NameOf(const char* text,
+  EditName NameOf(const QString& text,
                   std::optional<ChatLineIndex> line = std::nullopt) const;
 
   void ShowType();

@@ -11,6 +11,7 @@
 #include "editor/pages/chat_page_parts.h"
 #include "editor/pages/chat_type_rows.h"
 #include "editor/pages/line_order.h"
+#include "editor/toolkit/code_page_validator.h"
 #include "editor/toolkit/game_text_conversion.h"
 #include "editor/toolkit/page_table.h"
 #include "editor/toolkit/tool_tip.h"
@@ -81,8 +82,9 @@ void ChatPage::MakeLines(QGridLayout& grid) {
   connect(box_, &QLineEdit::textChanged, this, &ChatPage::StoreLine);
   connect(box_, &QLineEdit::returnPressed, this,
           &ChatPage::CheckSynonymsByItself);
-  connect(box_, &QLineEdit::inputRejected, this,
-          [this] { emit StatusText(QLatin1String(kRefusedCharacter)); });
+  connect(box_, &QLineEdit::inputRejected, this, [this] {
+    emit StatusText(CodePageValidator::tr(kRefusedCharacter));
+  });
   grid.addWidget(box_, 3, 1);
   completion_ = new VariableCompletion(*box_);
   connect(completion_, &VariableCompletion::Taken, this,
@@ -100,23 +102,23 @@ void ChatPage::MakeLines(QGridLayout& grid) {
   auto* const buttons = new QHBoxLayout;
   QPushButton* const new_line =
       MakeButton(QStringLiteral("cmdNewLine"), QStringLiteral("New l&ine"),
-                 QStringLiteral("Adds an empty line to be written."));
+                 tr("Adds an empty line to be written."));
   connect(new_line, &QPushButton::clicked, this, &ChatPage::AddLine);
-  remove_line_ = MakeButton(
-      QStringLiteral("cmdRemoveLine"), tr("Remove line"),
-      QStringLiteral("Removes the selected line. In the list of lines the "
-                     "Delete key does the same."));
+  remove_line_ =
+      MakeButton(QStringLiteral("cmdRemoveLine"), QStringLiteral("Remove line"),
+                 tr("Removes the selected line. In the list of lines the "
+                    "Delete key does the same."));
   connect(remove_line_, &QPushButton::clicked, this, &ChatPage::RemoveLine);
   QPushButton* const add_random = MakeButton(
       QStringLiteral("cmdAddRandom"), QStringLiteral("&Add random list"),
-      QStringLiteral("Adds a ready-made line of the game that suits the "
-                     "selected chat group, picked at random."));
+      tr("Adds a ready-made line of the game that suits the "
+         "selected chat group, picked at random."));
   connect(add_random, &QPushButton::clicked, this, &ChatPage::AddRandomList);
   buttons->addWidget(new_line);
   buttons->addWidget(remove_line_);
   buttons->addWidget(add_random);
   auto* const order = new LineOrder(*lines_);
-  const auto edit = [this](const char* name, int step, auto change) {
+  const auto edit = [this](const QString& name, int step, auto change) {
     const int row = lines_->currentRow();
     current_.EditChats(NameOf(name), [&](Bot& bot) {
       change(bot, *Type(), LineOfRow(row), LineOfRow(row + step));
@@ -125,16 +127,16 @@ void ChatPage::MakeLines(QGridLayout& grid) {
     SelectLine(row + step);
   };
   connect(order, &LineOrder::Moved, this,
-          [edit](int step) { edit("Move line", step, MoveChatLine); });
+          [edit](int step) { edit(tr("Move line"), step, MoveChatLine); });
   // The list shows it already, and is in the middle of it.
   connect(order, &LineOrder::Dragged, this, [this](int row, int to_row) {
-    current_.EditChats(NameOf("Move line"), [&](Bot& bot) {
+    current_.EditChats(NameOf(tr("Move line")), [&](Bot& bot) {
       MoveChatLine(bot, *Type(), LineOfRow(row), LineOfRow(to_row));
     });
     MarkLines();
   });
   connect(order, &LineOrder::Doubled, this,
-          [edit] { edit("Duplicate line", 1, DoubleChatLine); });
+          [edit] { edit(tr("Duplicate line"), 1, DoubleChatLine); });
   // Beside the caption, where it asks for no width of its own.
   grid.addWidget(order, 0, 1, Qt::AlignRight | Qt::AlignBottom);
   buttons->addStretch(1);
@@ -146,24 +148,24 @@ void ChatPage::MakeWords(QGridLayout& grid) {
                     QStringLiteral("Pre-def &word lists:"), grid, 3, 1);
   for (const WordList& words : kWordLists) {
     AddEntry(*words_, words.Caption,
-             QStringLiteral("%1 becomes a random word of the game's list %2. "
-                            "Not all game data have it.")
+             tr("%1 becomes a random word of the game's list %2. "
+                "Not all game data have it.")
                  .arg(QString::fromUtf8(words.Variable),
                       QString::fromUtf8(words.Key)));
   }
   FitWidth(*words_);
   OnChoice(*words_, this, [this] { AddWord(); });
-  add_word_ = MakeButton(
-      QStringLiteral("cmdAddWord"), QStringLiteral("A&dd word"),
-      QStringLiteral("Inserts the word list at the cursor of the line box. "
-                     "With the cursor at the very start it takes the place "
-                     "of the whole text."));
+  add_word_ =
+      MakeButton(QStringLiteral("cmdAddWord"), QStringLiteral("A&dd word"),
+                 tr("Inserts the word list at the cursor of the line box. "
+                    "With the cursor at the very start it takes the place "
+                    "of the whole text."));
   connect(add_word_, &QPushButton::clicked, this, &ChatPage::AddWord);
   grid.addWidget(add_word_, 3, 3);
 }
 
 void ChatPage::MakeSynonyms(QGridLayout& grid) {
-  const QString help = QStringLiteral(
+  const QString help = tr(
       "Puts ~ in front of each word of the line that is in the synonym list. "
       "The game may swap words for others of the same meaning; a word with ~ "
       "stays as it is.");
@@ -173,8 +175,9 @@ void ChatPage::MakeSynonyms(QGridLayout& grid) {
   checks_by_itself_ = new QCheckBox(QStringLiteral("Autocheck s&ynonyms"));
   checks_by_itself_->setObjectName(QStringLiteral("chkAutoSynonyms"));
   SetHelp(*checks_by_itself_,
-          help + QStringLiteral(" Done whenever the line box is left or Enter "
-                                "is pressed in it."));
+          help + u' ' +
+              tr("Done whenever the line box is left or Enter "
+                 "is pressed in it."));
   auto* const row = new QHBoxLayout;
   row->addWidget(check_);
   row->addWidget(checks_by_itself_);

@@ -4,6 +4,7 @@
 #include <QStyle>
 #include <algorithm>
 
+#include "editor/pages/chat_page.h"
 #include "editor/toolkit/page_table.h"
 #include "editor/toolkit/tool_tip.h"
 #include "editor/toolkit/undo_keys.h"
@@ -63,13 +64,13 @@ QPushButton* MakeButton(const QString& name, const QString& caption,
 QLineEdit* MakeLineBox() {
   auto* const box = new QLineEdit;
   box->setObjectName(QStringLiteral("txtChatLine"));
-  box->setAccessibleName(QStringLiteral("Text of the selected line"));
-  box->setPlaceholderText(QStringLiteral("Text of the selected line"));
+  box->setAccessibleName(ChatPage::tr("Text of the selected line"));
+  box->setPlaceholderText(ChatPage::tr("Text of the selected line"));
   SetHelp(*box,
-          QStringLiteral("The selected line. Words in braces are filled by the "
-                         "game. On the screen there is room for some 125 "
-                         "letters; letters beyond plain English become gaps, "
-                         "and a double quote breaks the file for the game."));
+          ChatPage::tr("The selected line. Words in braces are filled by the "
+                       "game. On the screen there is room for some 125 "
+                       "letters; letters beyond plain English become gaps, "
+                       "and a double quote breaks the file for the game."));
   box->setValidator(new LineValidator(box));
   // Each letter is in the bot at once, and the window takes it back.
   LeaveUndoToWindow(*box);

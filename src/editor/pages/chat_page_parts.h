@@ -1,6 +1,7 @@
 #ifndef FRAGSMITH_EDITOR_PAGES_CHAT_PAGE_PARTS_H_
 #define FRAGSMITH_EDITOR_PAGES_CHAT_PAGE_PARTS_H_
 
+#include <QCoreApplication>
 #include <QGridLayout>
 #include <QLineEdit>
 #include <QListWidget>
@@ -79,7 +80,7 @@ class LineDelegate : public MarkedDelegate {
                        const QModelIndex& index) const override {
     MarkedDelegate::initStyleOption(option, index);
     if (option->text.isEmpty()) {
-      option->text = QStringLiteral("(empty line)");
+      option->text = QCoreApplication::translate("ChatPage", "(empty line)");
       option->palette.setBrush(
           QPalette::Text, option->palette.brush(QPalette::PlaceholderText));
     }

@@ -8,6 +8,7 @@
 
 #include "chat/chat_catalogue.h"
 #include "editor/pages/chat_help.h"
+#include "editor/pages/chat_page.h"
 #include "editor/toolkit/severity_icon.h"
 
 namespace fragsmith {
@@ -29,13 +30,9 @@ constexpr std::array kGroups = {
     Group{20, QT_TRANSLATE_NOOP("ChatPage", "KILLS")},
     Group{26, QT_TRANSLATE_NOOP("ChatPage", "CHATTER")}};
 
-QString Tr(const char* text) {
-  return QCoreApplication::translate("ChatPage", text);
-}
-
 QString HeadingAt(int row) {
   for (const Group& group : kGroups) {
-    if (group.first == row) return Tr(group.heading);
+    if (group.first == row) return ChatPage::tr(group.heading);
   }
   return {};
 }
@@ -137,8 +134,9 @@ void TellOfLines(const Bot& bot, QListWidget& types) {
     item->setData(kTellRole,
                   QStringLiteral("%1 \u00b7 %2").arg(lines).arg(chance));
     item->setData(Qt::AccessibleDescriptionRole,
-                  Tr("Lines: %1. Spoken: %2. ").arg(lines).arg(chance) +
-                      ChatTypeHelp(type));
+                  ChatPage::tr("Lines: %1. Spoken: %2.")
+                          .arg(QString::number(lines), chance) +
+                      u' ' + ChatTypeHelp(type));
   }
 }
 

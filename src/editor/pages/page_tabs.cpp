@@ -36,7 +36,9 @@ struct Group {
   const char* heading;
 };
 constexpr std::array<Group, 3> kGroups = {
-    {{0, "PLAYS"}, {3, "WANTS"}, {6, "SAYS"}}};
+    {{0, QT_TRANSLATE_NOOP("PageTabs", "PLAYS")},
+     {3, QT_TRANSLATE_NOOP("PageTabs", "WANTS")},
+     {6, QT_TRANSLATE_NOOP("PageTabs", "SAYS")}}};
 
 const Group* GroupThatBeginsAt(int index) {
   const auto* const group = std::ranges::find(kGroups, index, &Group::first);
@@ -73,7 +75,7 @@ int BadgeWidth(const QFontMetrics& metrics, const QString& text) {
 }  // namespace
 
 PageTabs::PageTabs(QWidget* parent) : QTabBar(parent) {
-  setAccessibleName(QStringLiteral("Parameter pages"));
+  setAccessibleName(tr("Parameter pages"));
   auto* const style = new CompactTabs;
   style->setParent(this);
   setStyle(style);
@@ -91,10 +93,10 @@ void PageTabs::ShowMarks(const std::map<int, PageMark>& marks) {
   marks_ = marks;
   for (int index = 0; index < count(); ++index) {
     const auto mark = marks_.find(index);
-    setTabToolTip(index, mark == marks_.end()
-                             ? QString()
-                             : QStringLiteral("Findings on this page: %1")
-                                   .arg(mark->second.count));
+    setTabToolTip(
+        index, mark == marks_.end()
+                   ? QString()
+                   : tr("Findings on this page: %1").arg(mark->second.count));
   }
   update();
 }
@@ -147,8 +149,7 @@ void PageTabs::DrawRow(QPainter& painter, int index) const {
     QColor quiet = colors.color(QPalette::WindowText);
     quiet.setAlphaF(0.75F);
     painter.setPen(quiet);
-    painter.drawText(heading, Qt::AlignLeft | Qt::AlignTop,
-                     QLatin1String(group->heading));
+    painter.drawText(heading, Qt::AlignLeft | Qt::AlignTop, tr(group->heading));
     row.setTop(row.top() + HeadingHeight(index));
   }
   row.adjust(kInside, 1, -kInside, -1);

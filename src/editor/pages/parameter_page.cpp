@@ -54,8 +54,8 @@ void SetHelp(const ControlRow& row, ValueControl& control) {
         control.findChild<QLabel*>(QStringLiteral("lblLevel_%1").arg(level));
     if (number == nullptr) return;
     number->setToolTip(
-        QStringLiteral("Skill level %1, \"%2\". The game mixes the levels "
-                       "between.")
+        ParameterPage::tr("Skill level %1, \"%2\". The game mixes the levels "
+                          "between.")
             .arg(level)
             .arg(QString::fromUtf8(
                 kSkillNames.at(static_cast<std::size_t>(level - 1)))));
@@ -136,18 +136,17 @@ void ParameterPage::showEvent(QShowEvent* event) {
 QWidget* ParameterPage::MakeScaleSelector(int number) {
   scale_selector_ = new MaxSelect;
   scale_selector_->setObjectName(QStringLiteral("mseSelect_%1").arg(number));
-  scale_selector_->setAccessibleName(QStringLiteral("Scale"));
+  scale_selector_->setAccessibleName(tr("Scale"));
   scale_selector_->setToolTip(WrappedToolTip(
-      {},
-      QStringLiteral("How far the sliders of this page reach. The values stay "
-                     "as they are; to the game only their proportions "
-                     "matter.")));
+      {}, tr("How far the sliders of this page reach. The values stay "
+             "as they are; to the game only their proportions "
+             "matter.")));
   connect(scale_selector_, &MaxSelect::AdjustScale, this,
           &ParameterPage::SetScale);
   auto* const bar = new QWidget;
   auto* const row = new QHBoxLayout(bar);
   row->setContentsMargins(0, 0, 0, 0);
-  row->addWidget(new QLabel(QStringLiteral("Scale up to")));
+  row->addWidget(new QLabel(tr("Scale up to")));
   row->addWidget(scale_selector_);
   row->addStretch(1);
   return bar;
@@ -178,12 +177,11 @@ QGroupBox* ParameterPage::MakeFrame(const FrameRow& frame) {
     control->SetSpokenName(QString::fromUtf8(ParameterName(entry.Id())));
     SetHelp(entry, *control);
     if (!IsReadByGame(entry.Id())) {
-      control->SetQuiet(QStringLiteral("not read by the game"));
+      control->SetQuiet(tr("not read by the game"));
     }
     if (!IsReadByGame(entry.Id()) && control->NeedMark() != nullptr) {
       MarkText never_read;
-      never_read.Add(Severity::kHint,
-                     QStringLiteral("The game never reads this."));
+      never_read.Add(Severity::kHint, tr("The game never reads this."));
       control->mark()->SetAlways(never_read);
     }
     grid->addWidget(control, 2 * row, first_column + column);

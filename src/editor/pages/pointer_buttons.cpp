@@ -17,8 +17,7 @@ PointerButtons::PointerButtons(QWidget* parent) : QWidget(parent) {
         new QPushButton(QString::fromUtf8(entry.button_caption), this);
     button->setObjectName(QStringLiteral("cmdPointer_%1").arg(pointer));
     button->setAccessibleName(
-        QStringLiteral("Insert %1")
-            .arg(QString::fromUtf8(entry.button_caption)));
+        tr("Insert %1").arg(QString::fromUtf8(entry.button_caption)));
     button->hide();
     row->addWidget(button);
     connect(button, &QPushButton::clicked, this,

@@ -23,14 +23,14 @@ ReadyMadePicker::ReadyMadePicker(QGridLayout& grid, int column, QObject* parent)
                      QStringLiteral("Pre-def chat &lists:"), grid, column, 1);
   for (const ChatGroup& group : kChatGroups) {
     AddEntry(*groups_, group.Caption,
-             QStringLiteral("Ready-made lines of the game, under the name %1. "
-                            "Which there are depends on its data.")
+             tr("Ready-made lines of the game, under the name %1. "
+                "Which there are depends on its data.")
                  .arg(QString::fromUtf8(group.Name)));
   }
   FitWidth(*groups_);
   numbers_ = new QListWidget;
   numbers_->setObjectName(QStringLiteral("lstPreDefNumber"));
-  numbers_->setAccessibleName(QStringLiteral("Number in the chat list"));
+  numbers_->setAccessibleName(tr("Number in the chat list"));
   numbers_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   numbers_->setItemDelegate(new RemarkDelegate(QStringLiteral("00"), numbers_));
   constexpr int kLeastRows = 3;
@@ -48,8 +48,8 @@ ReadyMadePicker::ReadyMadePicker(QGridLayout& grid, int column, QObject* parent)
   OnChoice(*numbers_, this, [this] { Choose(); });
   QPushButton* const add = MakeButton(
       QStringLiteral("cmdAddList"), QStringLiteral("Add &selected list"),
-      QStringLiteral("Puts the ready-made line into the selected line when "
-                     "that is empty, otherwise into a new one."));
+      tr("Puts the ready-made line into the selected line when "
+         "that is empty, otherwise into a new one."));
   connect(add, &QPushButton::clicked, this, &ReadyMadePicker::Choose);
   grid.addWidget(add, 3, column);
   groups_->setCurrentRow(0);

@@ -133,7 +133,7 @@ void SpokenPreview::SayAnother() {
   if (spoken.is_broken) {
     text = tr("(the line breaks the chat file)");
   } else if (line_.empty()) {
-    text = QStringLiteral("(nothing)");
+    text = tr("(nothing)");
   } else if (text.isEmpty() && !spoken.unknown_lists.empty()) {
     text = tr("(the game has no list %1)")
                .arg(ToQString(spoken.unknown_lists.front()));

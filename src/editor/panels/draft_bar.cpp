@@ -35,12 +35,15 @@ DraftBar::DraftBar(QWidget* parent) : ListBar(QStringLiteral("Draft"), parent) {
 
 void DraftBar::Offer(const DraftKeeper::Found& found) {
   const std::filesystem::path path = PathOf(*found.draft.origin.home);
-  const QString from = path.empty() ? tr("it has no files yet")
-                                    : tr("it is from %1").arg(ShownPath(path));
-  Say(tr("The bot %1 was not saved when Fragsmith last ended. It was kept on "
-         "%2; %3.")
-          .arg(ToQString(found.draft.bot.Name()),
-               QLocale().toString(found.kept, QLocale::ShortFormat), from),
+  const QString name = ToQString(found.draft.bot.Name());
+  const QString when = QLocale().toString(found.kept, QLocale::ShortFormat);
+  Say(path.empty()
+          ? tr("The bot %1 was not saved when Fragsmith last ended. It was "
+               "kept on %2; it has no files yet.")
+                .arg(name, when)
+          : tr("The bot %1 was not saved when Fragsmith last ended. It was "
+               "kept on %2; it is from %3.")
+                .arg(name, when, ShownPath(path)),
       found.notes);
 }
 

@@ -24,20 +24,21 @@ FindingsDock::FindingsDock(QWidget* parent)
   list_->setObjectName(QStringLiteral("lstFindings"));
   list_->setAccessibleName(windowTitle());
 
-  ready_ = AddButton(many_, "cmdMakeReady", "Make it ready for the game",
-                     "Mends all that nobody has edited yet, chat lines that "
-                     "this game lacks included; one step of undo");
+  ready_ = AddButton(many_, "cmdMakeReady", tr("Make it ready for the game"),
+                     tr("Mends all that nobody has edited yet, chat lines that "
+                        "this game lacks included; one step of undo"));
   auto* const safe = new QHBoxLayout;
-  safe_ = AddButton(safe, "cmdMendSafe", "Mend all that is safe",
-                    "Mends what takes nothing away that you wrote and that "
-                    "the game would use; one step of undo");
-  safe_on_page_ = AddButton(safe, "cmdMendSafeOnPage", "On this page",
-                            "The same for what stands on the page in sight");
+  safe_ = AddButton(safe, "cmdMendSafe", tr("Mend all that is safe"),
+                    tr("Mends what takes nothing away that you wrote and that "
+                       "the game would use; one step of undo"));
+  safe_on_page_ =
+      AddButton(safe, "cmdMendSafeOnPage", tr("On this page"),
+                tr("The same for what stands on the page in sight"));
   many_->addLayout(safe);
   auto* const one = new QHBoxLayout;
-  mend_ = AddButton(one, "cmdMend", "Mend the selected one",
-                    "Does what the button in its row does, as the space bar "
-                    "does in the list");
+  mend_ = AddButton(one, "cmdMend", tr("Mend the selected one"),
+                    tr("Does what the button in its row does, as the space bar "
+                       "does in the list"));
   fold_->setObjectName(QStringLiteral("cmdFold"));
   one->addWidget(fold_);
   many_->addLayout(one);
@@ -95,10 +96,10 @@ void FindingsDock::Toggle() {
 }
 
 QPushButton* FindingsDock::AddButton(QBoxLayout* row, const char* name,
-                                     const char* text, const char* help) {
-  auto* const button = new QPushButton(QLatin1String(text));
+                                     const QString& text, const QString& help) {
+  auto* const button = new QPushButton(text);
   button->setObjectName(QLatin1String(name));
-  button->setToolTip(QLatin1String(help));
+  button->setToolTip(help);
   row->addWidget(button);
   return button;
 }

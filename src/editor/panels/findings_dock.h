@@ -52,8 +52,8 @@ class FindingsDock : public QDockWidget {
   void ShowManyButtons();
   /// Of several mends one is chosen at the row.
   void MendOrAsk(const Finding& finding);
-  QPushButton* AddButton(QBoxLayout* row, const char* name, const char* text,
-                         const char* help);
+  QPushButton* AddButton(QBoxLayout* row, const char* name, const QString& text,
+                         const QString& help);
 
   QBoxLayout* many_;  ///< Below each other where the list is narrow.
   QPushButton* ready_;

@@ -40,7 +40,14 @@ constexpr std::array<const char*, 9> kRailColors = {
     "Red",  "Magenta", "Yellow", "White"};
 
 constexpr std::array<const char*, kFunNameColors.size()> kFunColorNames = {
-    "Black", "Red", "Green", "Yellow", "Blue", "Cyan", "Magenta", "White"};
+    QT_TRANSLATE_NOOP("IdentityPanel", "Black"),
+    QT_TRANSLATE_NOOP("IdentityPanel", "Red"),
+    QT_TRANSLATE_NOOP("IdentityPanel", "Green"),
+    QT_TRANSLATE_NOOP("IdentityPanel", "Yellow"),
+    QT_TRANSLATE_NOOP("IdentityPanel", "Blue"),
+    QT_TRANSLATE_NOOP("IdentityPanel", "Cyan"),
+    QT_TRANSLATE_NOOP("IdentityPanel", "Magenta"),
+    QT_TRANSLATE_NOOP("IdentityPanel", "White")};
 
 constexpr int kBetween = 16;
 
@@ -98,10 +105,10 @@ IdentityPanel::IdentityPanel(CurrentBot& current, Prompts& prompts,
 QWidget* IdentityPanel::MoreField(QWidget* folded) {
   more_ = new QToolButton(this);
   more_->setObjectName(QStringLiteral("cmdMore"));
-  more_->setText(QStringLiteral("More"));
-  more_->setToolTip(QStringLiteral(
-      "Version, railgun color, arenalord and comment: the game reads none "
-      "of them."));
+  more_->setText(tr("More"));
+  more_->setToolTip(
+      tr("Version, railgun color, arenalord and comment: the game reads none "
+         "of them."));
   more_->setCheckable(true);
   more_->setFocusPolicy(Qt::TabFocus);
   more_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
@@ -118,8 +125,8 @@ QWidget* IdentityPanel::ArenaLordField() {
   arena_lord_ = new QCheckBox(QStringLiteral("Arenalo&rd"), this);
   arena_lord_->setObjectName(QStringLiteral("chkArenalord"));
   arena_lord_->setToolTip(
-      QStringLiteral("Written into the description file. The game itself does "
-                     "not read it."));
+      tr("Written into the description file. The game itself does "
+         "not read it."));
   auto* const field = new CaptionedField({}, nullptr, this);
   field->AddControl(arena_lord_);
   connect(arena_lord_, &QCheckBox::toggled, this, [this](bool is_on) {
@@ -137,8 +144,9 @@ QLineEdit* IdentityPanel::AddBox(ParameterId field) {
   box->setValidator(new CodePageValidator(box));
   box->installEventFilter(this);
   LeaveUndoToWindow(*box, UndoOfBox::kWhileModified);
-  connect(box, &QLineEdit::inputRejected, this,
-          [this] { emit StatusText(QLatin1String(kRefusedCharacter)); });
+  connect(box, &QLineEdit::inputRejected, this, [this] {
+    emit StatusText(CodePageValidator::tr(kRefusedCharacter));
+  });
   // The box is stored when it is left; that it differs counts at once.
   connect(box, &QLineEdit::textEdited, this,
           [this] { current_.SetChanged(true); });
@@ -149,10 +157,9 @@ QLineEdit* IdentityPanel::AddBox(ParameterId field) {
 
 QWidget* IdentityPanel::NameField() {
   QLineEdit* const box = AddBox(kNameField);
-  box->setToolTip(
-      QStringLiteral("What the game's menus and addbot call the bot. No "
+  box->setToolTip(tr("What the game's menus and addbot call the bot. No "
                      "blanks; up to %1 letters show in the skirmish menu.")
-          .arg(limits::kMaxNameInSkirmish));
+                      .arg(limits::kMaxNameInSkirmish));
   auto* const field = new CaptionedField(QStringLiteral("&Name"), box, this);
   field->AddControl(box);
   return field;
@@ -160,10 +167,9 @@ QWidget* IdentityPanel::NameField() {
 
 QWidget* IdentityPanel::FunNameField() {
   QLineEdit* const box = AddBox(kFunNameField);
-  box->setToolTip(
-      QStringLiteral("The name that players see, with colour codes such as "
+  box->setToolTip(tr("The name that players see, with colour codes such as "
                      "^1. The game cuts it at %1 characters.")
-          .arg(limits::kMaxPlayerName));
+                      .arg(limits::kMaxPlayerName));
   auto* const field = new CaptionedField(QStringLiteral("F&unname"), box, this);
   field->AddControl(box);
   return field;
@@ -181,8 +187,8 @@ QWidget* IdentityPanel::PreviewField() {
     button->setIconSize(QSize(size, size));
     button->setAutoRaise(true);
     button->setFocusPolicy(Qt::TabFocus);
-    const QString name = QLatin1String(kFunColorNames.at(color));
-    button->setAccessibleName(QStringLiteral("Colour %1").arg(name));
+    const QString name = tr(kFunColorNames.at(color));
+    button->setAccessibleName(tr("Colour %1").arg(name));
     button->setToolTip(QStringLiteral("%1 (^%2)").arg(name).arg(color));
     connect(button, &QToolButton::clicked, this,
             [this, color] { InsertColor(static_cast<int>(color)); });
@@ -239,8 +245,8 @@ QWidget* IdentityPanel::RailField() {
   rail_->setObjectName(QStringLiteral("cmbRail"));
   rail_->setAccessibleName(QString::fromUtf8(ParameterName(kRailColorField)));
   rail_->setToolTip(
-      QStringLiteral("Written as \"color\". The game reads color1 instead and "
-                     "keeps its red trail."));
+      tr("Written as \"color\". The game reads color1 instead and "
+         "keeps its red trail."));
   for (const char* const color : kRailColors) {
     rail_->addItem(QLatin1String(color));
   }

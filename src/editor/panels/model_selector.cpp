@@ -208,7 +208,7 @@ void ModelSelector::ShowStep() {
 void ModelSelector::ShowMissing() {
   const Bot& bot = current_.bot();
   const auto text = [](const std::string& name) {
-    return ToQString(name) + QStringLiteral(" (not in the list)");
+    return tr("%1 (not in the list)").arg(ToQString(name));
   };
   if (!state_.lists.models.FindModel(bot.Text(kModelField))) {
     models_->setPlaceholderText(text(bot.Text(kModelField)));

@@ -10,6 +10,7 @@
 #include <array>
 
 #include "editor/toolkit/shown_path.h"
+#include "support/localization.h"
 
 namespace fragsmith {
 namespace {
@@ -161,9 +162,9 @@ void WelcomePage::MakeKinds(QVBoxLayout& column) {
   for (std::size_t at = 0; at < kBotKinds.size(); ++at) {
     const BotKind kind = kBotKinds.at(at);
     const BotKindText& text = TextOf(kind);
-    auto* const card =
-        new CardButton(kIcons.at(at), QString::fromUtf8(text.caption),
-                       QString::fromUtf8(text.about));
+    auto* const card = new CardButton(
+        kIcons.at(at), QString::fromStdString(Localized(text.caption)),
+        QString::fromStdString(Localized(text.about)));
     card->setObjectName(QStringLiteral("cmdKind_") +
                         QString::fromUtf8(text.key));
     connect(card, &QAbstractButton::clicked, this,

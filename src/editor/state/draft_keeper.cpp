@@ -8,6 +8,7 @@
 
 #include "session/bot_document.h"
 #include "support/files.h"
+#include "support/localization.h"
 
 namespace fragsmith {
 namespace fs = std::filesystem;
@@ -82,10 +83,12 @@ void DraftKeeper::LookInto(Slot slot) {
     Result<Draft> draft = ReadDraftFile(slot.file, slot.found.notes);
     if (draft) {
       if (!slot.found.notes.empty()) {
-        slot.found.notes.Add({.file = Utf8FromPath(slot.file),
-                              .line = 0,
-                              .text = "When it is restored, this file is "
-                                      "kept with .bak behind its name."});
+        slot.found.notes.Add(
+            {.file = Utf8FromPath(slot.file),
+             .line = 0,
+             .text = Localized("When it is restored, this file "
+                               "is kept with .bak behind its "
+                               "name.")});
       }
       slot.found.draft = std::move(*draft);
       slot.found.kept =
@@ -96,8 +99,9 @@ void DraftKeeper::LookInto(Slot slot) {
     }
     const std::optional<fs::path> kept = SetAside(slot.file);
     Error& error = unreadable_.emplace_back(std::move(draft.error()));
-    error.advice = kept ? "It is kept as '" + Utf8FromPath(*kept) + "'."
-                        : "It was left there: it cannot be renamed.";
+    error.advice = kept
+                       ? Localized("It is kept as '%1'.", {Utf8FromPath(*kept)})
+                       : Localized("It was left there: it cannot be renamed.");
     if (!kept) return;
   }
   if (own_.file.empty()) own_ = std::move(slot);

@@ -1,5 +1,6 @@
 #include "editor/state/face_store.h"
 
+#include <QCoreApplication>
 #include <QImage>
 #include <memory>
 
@@ -21,23 +22,30 @@ QPixmap PixmapOf(const Picture& picture) {
                                      : image.copy());
 }
 
-}  // namespace
-
-QString DescribeIcon(IconKind kind) {
+const char* IconText(IconKind kind) {
   switch (kind) {
     case IconKind::kNotInUse:
-      return QStringLiteral(
+      return QT_TRANSLATE_NOOP(
+          "FaceStore",
           "Icons are off: set the game and WinZip folders in Program/Options");
     case IconKind::kNoPackage:
-      return QStringLiteral("The package of this skin is not in the game");
+      return QT_TRANSLATE_NOOP("FaceStore",
+                               "The package of this skin is not in the game");
     case IconKind::kNotFound:
-      return QStringLiteral("The icon of this skin was not found");
+      return QT_TRANSLATE_NOOP("FaceStore",
+                               "The icon of this skin was not found");
     case IconKind::kUserDefined:
-      return QStringLiteral("A skin that you entered yourself");
+      return QT_TRANSLATE_NOOP("FaceStore", "A skin that you entered yourself");
     case IconKind::kIcon:
       break;
   }
-  return QStringLiteral("The icon of this skin");
+  return QT_TRANSLATE_NOOP("FaceStore", "The icon of this skin");
+}
+
+}  // namespace
+
+QString DescribeIcon(IconKind kind) {
+  return QCoreApplication::translate("FaceStore", IconText(kind));
 }
 
 FaceStore::FaceStore(ProgramState& state, int max_bytes)

@@ -2,7 +2,10 @@
 
 #include <QGuiApplication>
 #include <algorithm>
+#include <string>
 #include <utility>
+
+#include "support/localization.h"
 
 namespace fragsmith {
 namespace {
@@ -15,19 +18,41 @@ std::string VerdictOf(const StrengthSearch& search,
   const std::size_t matches = tuner.MatchCount();
   std::string text;
   if (end && matches == 0) {
-    text = "No match was played to its end.";
+    text = Localized("No match was played to its end.");
   } else if (end && tuner.state() == TuneState::kOpen &&
              end != MatchRunEnd::kAllPlayed) {
-    text = "It was broken off.";
+    text = Localized("It was broken off.");
   } else if (end) {
     text = TuneInWords(tuner, search.wished_share);
   } else {
     constexpr double kPercent = 100;
-    text = "Looking for the strength that takes " +
-           Fixed(search.wished_share * kPercent, 0) + " %.";
+    text = Localized("Looking for the strength that takes %1 %.",
+                     {Fixed(search.wished_share * kPercent, 0)});
   }
-  text += " Now " + StepInWords(tuner.steps().back());
-  return text + "; " + MatchesText(matches) + " in all.";
+  return text + " " +
+         Localized(
+             matches == 1 ? Localizable("Now %1; %2 match in all.")
+                          : Localizable("Now %1; %2 matches in all."),
+             {StepInWords(tuner.steps().back()), std::to_string(matches)});
+}
+
+std::string ShareSoFar(const MatchSession& session) {
+  const std::size_t played = session.report.played.size();
+  const std::string count = std::to_string(played);
+  const std::string& name = session.names.front();
+  const std::string share = ShownShare(session.shares.back());
+  if (session.is_until_sure()) {
+    return Localized(
+        played == 1
+            ? Localizable("After %1 match, %2 took %3 of the points.")
+            : Localizable("After %1 matches, %2 took %3 of the points."),
+        {count, name, share});
+  }
+  return Localized(
+      played == 1
+          ? Localizable("After %1 match of %2, %3 took %4 of the points.")
+          : Localizable("After %1 matches of %2, %3 took %4 of the points."),
+      {count, std::to_string(session.games), name, share});
 }
 
 }  // namespace
@@ -36,20 +61,18 @@ std::string VerdictOf(const MatchSession& session) {
   if (session.search) return VerdictOf(*session.search, session.end);
   const std::size_t played = session.report.played.size();
   if (played == 0) {
-    return session.end ? "No match was played to its end."
-                       : "The first matches are being played.";
+    return session.end ? Localized("No match was played to its end.")
+                       : Localized("The first matches are being played.");
   }
   const bool is_settled = session.end == MatchRunEnd::kAllPlayed ||
                           session.end == MatchRunEnd::kAnswered;
   if (is_settled) {
     return CompareInWords(session.report, 0, session.names).sentence;
   }
-  std::string text = session.end ? "It was broken off. " : "";
-  text += "After " + MatchesText(played);
-  if (!session.is_until_sure()) text += " of " + std::to_string(session.games);
-  return text + ", " + session.names.front() + " took " +
-         ShownShare(session.shares.back()) +
-         " of the points. That is no result yet.";
+  const std::string broken_off =
+      session.end ? Localized("It was broken off.") + " " : std::string();
+  return broken_off + ShareSoFar(session) + " " +
+         Localized("That is no result yet.");
 }
 
 bool MatchSession::IsOf(const std::shared_ptr<BotHome>& other) const {

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "support/files.h"
+#include "support/localization.h"
 
 namespace fragsmith {
 namespace {
@@ -42,7 +43,8 @@ Result<void> SaveWindowState(const std::filesystem::path& program_folder,
   file.setValue(QLatin1String(kRecent), state.recent);
   file.sync();
   if (file.status() == QSettings::NoError) return {};
-  return Failure({.what = "What the window looked like could not be written",
+  return Failure({.what = Localized("What the window looked like could not be "
+                                    "written"),
                   .file = WindowStateFile(program_folder).toStdString(),
                   .line = 0,
                   .advice = {}});

@@ -1,6 +1,7 @@
 #ifndef FRAGSMITH_EDITOR_TOOLKIT_CODE_PAGE_VALIDATOR_H_
 #define FRAGSMITH_EDITOR_TOOLKIT_CODE_PAGE_VALIDATOR_H_
 
+#include <QCoreApplication>
 #include <QValidator>
 
 namespace fragsmith {
@@ -21,8 +22,8 @@ class CodePageValidator : public QValidator {
 };
 
 /// What the status bar says when a character was refused.
-inline constexpr const char* kRefusedCharacter =
-    "The game's texts cannot hold this character.";
+inline constexpr const char* kRefusedCharacter = QT_TRANSLATE_NOOP(
+    "CodePageValidator", "The game's texts cannot hold this character.");
 
 }  // namespace fragsmith
 

@@ -1,24 +1,34 @@
 #include "editor/toolkit/finding_counts.h"
 
+#include <QCoreApplication>
 #include <QStringList>
 #include <algorithm>
 #include <cstddef>
-#include <string_view>
-
-#include "checks/bot_checks.h"
 
 namespace fragsmith {
 namespace {
 
-/// "2 errors", "1 hint".
-QString CountText(Severity severity, int count) {
-  const std::string_view word = SeverityWord(severity);
-  return QStringLiteral("%1 %2%3").arg(count).arg(
-      QString::fromUtf8(word.data(), static_cast<qsizetype>(word.size())),
-      count == 1 ? QString() : QStringLiteral("s"));
+QString Translated(const char* text) {
+  return QCoreApplication::translate("FindingCounts", text);
 }
 
-QString NoneText() { return QStringLiteral("Nothing to tell"); }
+// By severity, the gravest first.
+constexpr std::array kOne = {QT_TRANSLATE_NOOP("FindingCounts", "%1 error"),
+                             QT_TRANSLATE_NOOP("FindingCounts", "%1 warning"),
+                             QT_TRANSLATE_NOOP("FindingCounts", "%1 hint")};
+constexpr std::array kMany = {QT_TRANSLATE_NOOP("FindingCounts", "%1 errors"),
+                              QT_TRANSLATE_NOOP("FindingCounts", "%1 warnings"),
+                              QT_TRANSLATE_NOOP("FindingCounts", "%1 hints")};
+
+QString CountText(Severity severity, int count) {
+  return Translated(
+             (count == 1 ? kOne : kMany).at(static_cast<std::size_t>(severity)))
+      .arg(count);
+}
+
+QString NoneText() {
+  return Translated(QT_TRANSLATE_NOOP("FindingCounts", "Nothing to tell"));
+}
 
 }  // namespace
 
