@@ -13,7 +13,7 @@ packages_window=(xvfb xauth openbox xdotool dbus at-spi2-core python3-gi
 packages_pictures=(imagemagick python3)
 packages_trust=(python3 valgrind)
 packages_windows=(cmake ninja-build pkg-config dpkg-dev
-  g++-mingw-w64-x86-64-posix libz-mingw-w64-dev libstb-dev libexpected-dev
+  qt6-l10n-tools g++-mingw-w64-x86-64-posix libz-mingw-w64-dev libstb-dev libexpected-dev
   libcli11-dev nlohmann-json3-dev googletest)
 packages_installer=(nsis)
 packages_wine=(wine wine64 python3)

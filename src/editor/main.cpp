@@ -125,7 +125,7 @@ int main(int count, char** words) try {
   const fragsmith::Interruption interruption;
   const QApplication application(count, words);
   const Arguments arguments = ReadArguments();
-  fragsmith::SpeakLanguage();
+  const fragsmith::Language language;
   QApplication::setWindowIcon(ProgramIcon());
   QApplication::setDesktopFileName(QStringLiteral("fragsmith"));
   NameFontsToFallBackOn();

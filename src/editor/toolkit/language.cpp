@@ -1,11 +1,9 @@
 #include "editor/toolkit/language.h"
 
 #include <QCoreApplication>
-#include <QFile>
-#include <QLatin1String>
+#include <QLatin1Char>
 #include <QLibraryInfo>
 #include <QString>
-#include <QTranslator>
 #include <string>
 #include <string_view>
 
@@ -16,50 +14,36 @@ namespace {
 
 constexpr std::string_view kNamespace = "fragsmith::";
 
-/// Our texts are listed by class, without the namespace, which the toolkit
-/// asks with.
-class OwnTexts : public QTranslator {
- public:
-  using QTranslator::QTranslator;
-
-  QString translate(const char* context, const char* source,
-                    const char* disambiguation, int count) const override {
-    std::string_view name = context == nullptr ? "" : context;
-    if (name.starts_with(kNamespace)) name.remove_prefix(kNamespace.size());
-    return QTranslator::translate(std::string(name).c_str(), source,
-                                  disambiguation, count);
-  }
-};
-
-QString FileOf(const QString& language) {
-  return QStringLiteral(":/language/fragsmith_%1.qm")
-      .arg(language.section(QLatin1Char('-'), 0, 0));
-}
-
 }  // namespace
 
-bool HasLanguage(const QString& language) {
-  return QFile::exists(FileOf(language));
+QString Language::OwnTexts::translate(const char* context, const char* source,
+                                      const char* disambiguation,
+                                      int count) const {
+  std::string_view name = context == nullptr ? "" : context;
+  if (name.starts_with(kNamespace)) name.remove_prefix(kNamespace.size());
+  return QTranslator::translate(std::string(name).c_str(), source,
+                                disambiguation, count);
 }
 
-void SpeakLanguage(const QStringList& languages) {
-  if (languages.isEmpty() || !HasLanguage(languages.front())) return;
-  QCoreApplication* const application = QCoreApplication::instance();
-  // The later one is asked first.
-  auto* const boxes = new QTranslator(application);
-  if (boxes->load(QLocale(languages.front()), QStringLiteral("qtbase"),
-                  QStringLiteral("_"),
+Language::Language(const QStringList& languages) {
+  const QString first = languages.value(0);
+  const QString file = QStringLiteral(":/language/fragsmith_%1.qm")
+                           .arg(first.section(QLatin1Char('-'), 0, 0));
+  if (!own_.load(file)) return;
+  // The toolkit knows more of its texts than we have, where it is installed
+  // with them. The translator that comes last is asked first.
+  if (boxes_.load(QLocale(first), QStringLiteral("qtbase"), QStringLiteral("_"),
                   QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
-    QCoreApplication::installTranslator(boxes);
+    QCoreApplication::installTranslator(&boxes_);
   }
-  auto* const own = new OwnTexts(application);
-  if (!own->load(FileOf(languages.front()))) return;
-  QCoreApplication::installTranslator(own);
+  QCoreApplication::installTranslator(&own_);
   LocalizeBy([](std::string_view english) {
     return QCoreApplication::translate("libraries",
                                        std::string(english).c_str())
         .toStdString();
   });
 }
+
+Language::~Language() { LocalizeBy(nullptr); }
 
 }  // namespace fragsmith

@@ -3,17 +3,33 @@
 
 #include <QLocale>
 #include <QStringList>
+#include <QTranslator>
 
 namespace fragsmith {
 
-/// Whether there are texts for the language ("de", "de-AT").
-bool HasLanguage(const QString& language);
+/// While it is there, the window, the libraries below it and the toolkit's own
+/// boxes speak the first of the languages ("de-AT", "de"); English where there
+/// are no texts for that one. Made before any text is.
+class Language {
+ public:
+  explicit Language(
+      const QStringList& languages = QLocale::system().uiLanguages());
+  ~Language();
+  Language(const Language&) = delete;
+  Language& operator=(const Language&) = delete;
 
-/// Makes the texts of the window, of the libraries below it and of the
-/// toolkit's own boxes speak the first of the languages; English where there
-/// are no texts for that one. To be called before any text is made.
-void SpeakLanguage(
-    const QStringList& languages = QLocale::system().uiLanguages());
+ private:
+  /// Our texts are listed by class, without the namespace, which the toolkit
+  /// asks with.
+  class OwnTexts : public QTranslator {
+   public:
+    QString translate(const char* context, const char* source,
+                      const char* disambiguation, int count) const override;
+  };
+
+  QTranslator boxes_;
+  OwnTexts own_;
+};
 
 }  // namespace fragsmith
 
