@@ -106,9 +106,11 @@ const std::vector<CharacterWords::Found>& CharacterWords::Finish() {
 void CharacterWords::TakeWordOf(std::string_view word) {
   if (open_key_) {
     if (!IsNext(word)) {
-      open_key_->is_bare = !word.starts_with('"') && !IsNumericText(word);
+      Value value = PlainValue(word);
+      open_key_->is_bare = std::holds_alternative<std::string>(value) &&
+                           !word.starts_with('"') && !IsNumericText(word);
       open_key_->word = word;
-      return EndKey(PlainValue(word));
+      return EndKey(std::move(value));
     }
     EndKey({});
   }
@@ -149,7 +151,8 @@ void CharacterWords::EndKey(Value value) {
     return;
   }
   open_key_->value = std::move(value);
-  found_.push_back(*std::exchange(open_key_, std::nullopt));
+  found_.push_back(std::move(*open_key_));
+  open_key_.reset();
 }
 
 }  // namespace fragsmith

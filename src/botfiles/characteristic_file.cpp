@@ -89,14 +89,15 @@ class BlockWriter {
   std::string& text_;
 };
 
+constexpr std::string_view kSkill = "skill";
+
 /// The level of a line that opens a block: "skill", digits, then nothing, a
 /// blank, a TAB, "{" or "/". A text that merely holds the word is none. A
 /// number too large for any level gives -1.
 std::optional<int> SkillLevelOf(std::string_view line) {
-  constexpr std::string_view kWord = "skill";
   line = TrimBlanksAndTabs(line);
-  if (!line.starts_with(kWord)) return std::nullopt;
-  line = TrimBlanksAndTabs(line.substr(kWord.size()));
+  if (!line.starts_with(kSkill)) return std::nullopt;
+  line = TrimBlanksAndTabs(line.substr(kSkill.size()));
   const std::size_t end = line.find_first_not_of("0123456789");
   const std::string_view digits = line.substr(0, end);
   if (digits.empty()) return std::nullopt;
@@ -126,17 +127,34 @@ std::optional<Level> KnownLevel(std::optional<int> number) {
 constexpr std::string_view kStart = "CHARACTERISTIC_";
 constexpr std::size_t kKeyCount = kChatRange.last + 1;
 
-/// What tells most keys apart at once: by the byte behind their beginning, a
-/// bit for each of the keys that have it.
-constexpr std::array<std::uint64_t, 256> kKeysByLetter = [] {
+/// What tells most keys apart at once: by the byte there, a bit for each of the
+/// keys that have it or end in front of it.
+constexpr std::array<std::uint64_t, 256> KeysByLetter(std::size_t offset) {
   static_assert(kKeyCount <= 64);
   std::array<std::uint64_t, 256> keys{};
   for (std::size_t index = 0; index < kKeyCount; ++index) {
-    const char letter = BareKey(static_cast<int>(index))[kStart.size()];
-    keys.at(static_cast<unsigned char>(letter)) |= std::uint64_t{1} << index;
+    const std::string_view key = BareKey(static_cast<int>(index));
+    for (std::size_t letter = 0; letter < keys.size(); ++letter) {
+      const bool is_possible =
+          key.size() <= offset || key[offset] == static_cast<char>(letter);
+      if (is_possible) keys.at(letter) |= std::uint64_t{1} << index;
+    }
   }
   return keys;
-}();
+}
+constexpr std::size_t kLater = kStart.size() + 5;
+constexpr auto kKeysByFirst = KeysByLetter(kStart.size());
+constexpr auto kKeysByLater = KeysByLetter(kLater);
+
+/// A bit for each of the keys that the text, which begins as all do, may begin
+/// with.
+std::uint64_t PossibleKeys(std::string_view text) {
+  const auto at = [text](std::size_t offset) {
+    return static_cast<unsigned char>(text[offset]);
+  };
+  const std::uint64_t keys = kKeysByFirst[at(kStart.size())];
+  return text.size() > kLater ? keys & kKeysByLater[at(kLater)] : keys;
+}
 
 /// The first catalogue entry, in the order of the catalogue, that stands
 /// anywhere in the line. The two general aim keys are also the beginnings of
@@ -149,9 +167,7 @@ std::optional<int> KeyIn(std::string_view line) {
        offset = line.find(kStart, offset + kStart.size())) {
     const std::string_view rest = line.substr(offset);
     if (rest.size() == kStart.size()) break;
-    const auto letter = static_cast<unsigned char>(rest[kStart.size()]);
-    for (std::uint64_t keys = kKeysByLetter[letter]; keys != 0;
-         keys &= keys - 1) {
+    for (std::uint64_t keys = PossibleKeys(rest); keys != 0; keys &= keys - 1) {
       const std::string_view key = BareKey(std::countr_zero(keys));
       if (!StartsWithKey(rest, key)) continue;
       const std::uint64_t bit = keys & (~keys + 1);
@@ -273,6 +289,7 @@ class CharacterReader {
   }
 
   bool OpensLevel(const KeyedLine& line) {
+    if (!Contains(line.text, kSkill)) return false;
     std::optional<int> opened = SkillLevelOf(line.text);
     if (!opened) {
       opened = SkillLevelOf(WithoutBraces(line.code));

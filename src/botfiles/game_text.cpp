@@ -63,6 +63,17 @@ std::size_t OddBlankLength(std::string_view text, char before) {
   return text[0] < ' ' && BeginsOddBlank(text[0]) ? 1 : 0;
 }
 
+/// By byte: whether a comment that has it says something.
+constexpr std::array<bool, 256> kIsOfWord = [] {
+  std::array<bool, 256> is_of_word{};
+  for (std::size_t code = 0; code < is_of_word.size(); ++code) {
+    is_of_word.at(code) = (code >= 'a' && code <= 'z') ||
+                          (code >= 'A' && code <= 'Z') ||
+                          (code >= '0' && code <= '9') || code >= 0x80;
+  }
+  return is_of_word;
+}();
+
 }  // namespace
 
 std::string WithPlainBlanks(std::string_view bytes, TextsInLine texts) {
@@ -138,10 +149,7 @@ std::string_view CommentStripper::Strip(std::string_view line) {
 void CommentStripper::Drop(std::string_view comment) {
   had_words_ = had_words_ ||
                std::any_of(comment.begin(), comment.end(), [](char letter) {
-                 const char lower = ToLower(letter);
-                 return (lower >= 'a' && lower <= 'z') ||
-                        (lower >= '0' && lower <= '9') ||
-                        static_cast<unsigned char>(lower) >= 0x80;
+                 return kIsOfWord[static_cast<unsigned char>(letter)];
                });
 }
 

@@ -94,6 +94,7 @@ ValueReader::ValueReader(std::string file, Bot& bot, ReadReport& report)
   // A bot has as many in its largest file.
   constexpr std::size_t kUsual = 128;
   seen_.reserve(kUsual);
+  report_.spans.reserve(kUsual);
 }
 
 void ValueReader::AddNote(std::size_t line, std::string text, NoteKind kind) {
@@ -116,7 +117,8 @@ void ValueReader::Take(const KeyedLine& line, ParameterId id, IsTold is_told) {
   std::string_view text = ValueTextOf(line.text, id.index());
   // Such as curly quotes around a number, which the game does not see.
   const std::string_view bare = TrimGameBlanks(text);
-  if (!IsNumericText(text) && IsNumericText(bare)) text = bare;
+  const bool is_framed = bare.size() < text.size();
+  if (is_framed && !IsNumericText(text) && IsNumericText(bare)) text = bare;
   const auto column = static_cast<std::size_t>(text.data() - line.text.data());
   report_.spans.push_back(
       {id, {line.start + column, line.start + column + text.size()}});

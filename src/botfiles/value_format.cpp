@@ -28,6 +28,25 @@ std::string FormatNumber(double number, int significant_digits) {
   return number < 1 ? "0" + text : text;
 }
 
+/// A number as a save writes most of them: a digit, a point and up to three
+/// digits.
+std::optional<float> ShortFraction(std::string_view text) {
+  constexpr std::array<double, 3> kScales = {10, 100, 1000};
+  constexpr std::size_t kPoint = 1;
+  const std::size_t behind = text.size() - kPoint - 1;
+  if (text.size() < kPoint + 2 || behind > kScales.size() ||
+      text[kPoint] != '.') {
+    return std::nullopt;
+  }
+  int digits = 0;
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    if (at == kPoint) continue;
+    if (text[at] < '0' || text[at] > '9') return std::nullopt;
+    digits = digits * 10 + (text[at] - '0');
+  }
+  return static_cast<float>(digits / kScales.at(behind - 1));
+}
+
 /// A numeric text with a "." in it.
 std::optional<Value> CleanFraction(std::string_view text) {
   const std::size_t point = text.find('.');
@@ -71,6 +90,7 @@ std::string FormatValue(const Value& value) {
 }
 
 Value CleanValue(std::string_view text) {
+  if (const std::optional<float> number = ShortFraction(text)) return *number;
   std::string with_zero;
   if (text.starts_with('.') && IsNumericText(text.substr(1))) {
     with_zero = '0' + std::string(text);

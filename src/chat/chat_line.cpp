@@ -102,15 +102,26 @@ std::optional<Item> ItemAt(ChatTypeId type, std::string_view text) {
   return std::nullopt;
 }
 
-/// Where from there on a variable may begin.
-std::size_t VariableFrom(std::string_view line, std::size_t start) {
-  const auto* const found =
-      std::find_if(line.begin() + static_cast<std::ptrdiff_t>(start),
-                   line.end(), [](char letter) {
-                     return letter == '{' || letter == kPlainVariable.front();
-                   });
-  return static_cast<std::size_t>(found - line.begin());
-}
+/// Walks over the places of a line where a variable may begin.
+class VariableStarts {
+ public:
+  explicit VariableStarts(std::string_view line)
+      : line_(line),
+        brace_(line.find('{')),
+        plain_(line.find(kPlainVariable)) {}
+
+  /// The first that is not in front of the offset.
+  std::size_t From(std::size_t offset) {
+    if (brace_ < offset) brace_ = line_.find('{', offset);
+    if (plain_ < offset) plain_ = line_.find(kPlainVariable, offset);
+    return std::min(brace_, plain_);
+  }
+
+ private:
+  std::string_view line_;
+  std::size_t brace_;
+  std::size_t plain_;
+};
 
 /// Notes what is odd; a line of megabytes must not give a note a byte.
 /// Of a piece that is not understood: with what writing gives back, and where
@@ -136,7 +147,7 @@ bool IsComment(std::string_view text) {
 /// a comment behind that.
 std::string_view Statement(std::string_view line, EditorLine& result) {
   // As in most lines: no other ";" than the one that ends it.
-  if (line.find(';') + 1 == line.size()) {
+  if (line.ends_with(';') && line.find(';') + 1 == line.size()) {
     line.remove_suffix(1);
     return TrimBlanks(line);
   }
@@ -346,10 +357,11 @@ std::string ChatLineToFile(ChatTypeId type, std::string_view line) {
   text.reserve(line.size() + kRoom);
   bool ends_with_variable = false;
   std::size_t done = 0;
-  for (std::size_t at = VariableFrom(line, 0); at < line.size();) {
+  VariableStarts starts(line);
+  for (std::size_t at = starts.From(0); at < line.size();) {
     const std::optional<Item> item = ItemAt(type, line.substr(at));
     if (!item) {
-      at = VariableFrom(line, at + 1);
+      at = starts.From(at + 1);
       continue;
     }
     const std::size_t end = at + item->variable.size();
@@ -366,7 +378,7 @@ std::string ChatLineToFile(ChatTypeId type, std::string_view line) {
     ends_with_variable = is_at_end && at > 0;
     if (!ends_with_variable) text += ", \"";
     done = end;
-    at = VariableFrom(line, end);
+    at = starts.From(end);
   }
   text.append(line, done);
   text += ends_with_variable ? ";" : "\";";

@@ -18,6 +18,9 @@ namespace fragsmith {
 
 /// Tells contents apart; the same in every run.
 std::uint64_t FingerprintOf(std::string_view bytes);
+/// The same of each, in half the time where two have about the same length.
+std::vector<std::uint64_t> FingerprintsOf(
+    const std::vector<std::string_view>& files);
 
 /// Chat lines, in editor form, and the statements for them that their author
 /// wrote: "{{TAUNT0}}" may be TAUNT or TAUNT0.

@@ -1,7 +1,10 @@
 #include "session/load_bot.h"
 
+#include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <utility>
+#include <vector>
 
 #include "botfiles/characteristic_file.h"
 #include "botfiles/description_file.h"
@@ -123,25 +126,55 @@ std::optional<FoundFile> Find(BotFile file, const std::string& name,
   return FoundFile{*path, std::move(*bytes)};
 }
 
-void Remember(BotFile file, const FoundFile& found, LoadedBot& loaded) {
-  loaded.files.insert_or_assign(
-      file, OriginFile{.path = found.path,
-                       .fingerprint = FingerprintOf(found.bytes)});
+/// The same of a file that has that very name, as most have: it is there once
+/// it can be read.
+std::optional<FoundFile> FindExact(BotFile file, const std::string& name,
+                                   const fs::path& folder) {
+  const std::string file_name = name + std::string(FileSuffix(file));
+  if (!IsFileName(file_name)) return std::nullopt;
+  fs::path path = folder / PathFromGameText(file_name);
+  Result<std::string> bytes = ReadFile(path, kMaxBotFileBytes);
+  if (!bytes) return std::nullopt;
+  return FoundFile{std::move(path), std::move(*bytes)};
+}
+
+/// Another description may have the bot, and then none is missing.
+bool IsListed(const std::string& name, const fs::path& folder) {
+  return !FindFile(folder,
+                   name + std::string(FileSuffix(BotFile::kDescription))) &&
+         FindListed(folder, name);
+}
+
+using FoundFiles = std::vector<std::pair<BotFile, FoundFile>>;
+
+void Remember(const FoundFiles& files, LoadedBot& loaded) {
+  std::vector<std::string_view> bytes;
+  bytes.reserve(files.size());
+  for (const auto& [file, found] : files) bytes.push_back(found.bytes);
+  const std::vector<std::uint64_t> fingerprints = FingerprintsOf(bytes);
+  for (std::size_t at = 0; at < files.size(); ++at) {
+    const auto& [file, found] = files[at];
+    loaded.files.insert_or_assign(
+        file, OriginFile{.path = found.path, .fingerprint = fingerprints[at]});
+  }
 }
 
 bool Load(BotFile file, const std::string& name, const fs::path& folder,
-          LoadedBot& loaded, Prompts& prompts) {
-  const std::optional<FoundFile> found =
-      Find(file, name, folder, loaded, prompts);
+          LoadedBot& loaded, FoundFiles& files, Prompts& prompts) {
+  std::optional<FoundFile> found = FindExact(file, name, folder);
+  if (!found && file == BotFile::kDescription && IsListed(name, folder)) {
+    return false;
+  }
+  if (!found) found = Find(file, name, folder, loaded, prompts);
   if (!found) return false;
   ReadBotFile(file, WholeBot{}, found->bytes, name, Utf8FromPath(found->path),
               loaded);
-  Remember(file, *found, loaded);
+  files.emplace_back(file, std::move(*found));
   return true;
 }
 
 void LoadDescription(const std::string& name, const fs::path& folder,
-                     bool uses_layout, LoadedBot& loaded,
+                     bool uses_layout, LoadedBot& loaded, FoundFiles& files,
                      const LoadEnvironment& environment) {
   std::optional<fs::path> description_folder = folder;
   if (uses_layout) {
@@ -153,14 +186,8 @@ void LoadDescription(const std::string& name, const fs::path& folder,
            "Couldn't load the bot file because the directory structure "
            "doesn't comply with the standard Q3 one...");
   }
-  // Another description may have the bot, and then none is missing.
-  const bool is_listed =
-      description_folder &&
-      !FindFile(*description_folder,
-                name + std::string(FileSuffix(BotFile::kDescription))) &&
-      FindListed(*description_folder, name);
-  if (!description_folder || is_listed ||
-      !Load(BotFile::kDescription, name, *description_folder, loaded,
+  if (!description_folder ||
+      !Load(BotFile::kDescription, name, *description_folder, loaded, files,
             environment.prompts)) {
     SetStandardIdentity(loaded.bot, StandardNamesOf(environment.bots));
   }
@@ -237,12 +264,12 @@ bool LoadSingleFile(BotFile file, const fs::path& path, LoadedBot& loaded,
   if (!FaultOfName(file, path).empty()) return false;
   std::string name = *GameTextFromPath(path.filename());
   name.resize(name.size() - FileSuffix(file).size());
-  const std::optional<FoundFile> found =
+  std::optional<FoundFile> found =
       Find(file, name, path.parent_path(), loaded, prompts);
   if (!found) return false;
   ReadBotFile(file, file, found->bytes, name, Utf8FromPath(found->path),
               loaded);
-  Remember(file, *found, loaded);
+  Remember({{file, std::move(*found)}}, loaded);
   return true;
 }
 
@@ -251,13 +278,16 @@ LoadedBot LoadBotFromFolder(const std::string& name, const fs::path& folder,
                             const LoadEnvironment& environment) {
   LoadedBot loaded;
   loaded.options = options;
+  FoundFiles files;
   for (const BotFile file : {BotFile::kCharacteristics, BotFile::kItemWeights,
                              BotFile::kWeaponWeights, BotFile::kChat}) {
-    Load(file, name, folder, loaded, environment.prompts);
+    Load(file, name, folder, loaded, files, environment.prompts);
   }
   if (options.loads_description) {
-    LoadDescription(name, folder, options.uses_layout, loaded, environment);
+    LoadDescription(name, folder, options.uses_layout, loaded, files,
+                    environment);
   }
+  Remember(files, loaded);
   UseCatalogueSpelling(loaded.bot, environment.models);
   NoteOtherAuthor(environment.author, loaded);
   return loaded;

@@ -1,9 +1,12 @@
 #include "session/load_losses.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
+#include <iterator>
 #include <optional>
 #include <string_view>
+#include <vector>
 
 #include "botfiles/block_keys.h"
 #include "botfiles/left_out.h"
@@ -15,12 +18,29 @@
 namespace fragsmith {
 namespace {
 
-void AddMissing(const ReadReport& report, ParameterId id, NameList& names) {
-  if (report.Gives(id)) return;
-  std::string_view name = BareKey(id.index());
-  constexpr std::string_view kDefine = "#define ";
-  if (name.starts_with(kDefine)) name.remove_prefix(kDefine.size());
-  names.Add(std::string(name));
+/// By the index of a key: whether a save writes it in every block.
+constexpr auto kIsAlwaysSaved = [] {
+  std::array<bool, kCatalogueSize> is_saved{};
+  for (std::size_t at = 0; at < is_saved.size(); ++at) {
+    const int key = static_cast<int>(at);
+    is_saved.at(at) = IsBlockKey(key) && !kOptionalRange.Contains(key);
+  }
+  return is_saved;
+}();
+
+/// The names of those, in order, of which the file does not speak.
+NameList Missing(const std::vector<ParameterId>& saved,
+                 const ReadReport& report) {
+  std::vector<ParameterId> missing;
+  std::ranges::set_difference(saved, report.given, std::back_inserter(missing));
+  NameList names;
+  for (const ParameterId id : missing) {
+    std::string_view name = BareKey(id.index());
+    constexpr std::string_view kDefine = "#define ";
+    if (name.starts_with(kDefine)) name.remove_prefix(kDefine.size());
+    names.Add(std::string(name));
+  }
+  return names;
 }
 
 /// What a save writes in the place of a name.
@@ -47,11 +67,12 @@ void NoteMissingLevels(const ReadReport& report, const std::string& file,
                            {number})});
       continue;
     }
-    NameList missing;
-    for (int key = 0; key < kCatalogueSize; ++key) {
-      if (!IsBlockKey(key) || kOptionalRange.Contains(key)) continue;
-      AddMissing(report, {level, key}, missing);
+    std::vector<ParameterId> saved;
+    for (std::size_t key = 0; key < kIsAlwaysSaved.size(); ++key) {
+      if (kIsAlwaysSaved.at(key))
+        saved.emplace_back(level, static_cast<int>(key));
     }
+    const NameList missing = Missing(saved, report);
     if (missing.empty()) continue;
     notes.Add({file, 0,
                Localized("In the file, level %1 lacks these, which a save "
@@ -64,10 +85,7 @@ void NoteMissingWeights(const ReadReport& report, IndexRange range,
                         const std::string& file, Notes& notes) {
   // Of a file that has none at all the reader has told.
   if (report.given.empty()) return;
-  NameList missing;
-  for (const int key : range) {
-    AddMissing(report, ParameterId(key), missing);
-  }
+  const NameList missing = Missing(ParametersOf(range), report);
   if (missing.empty()) return;
   notes.Add({.file = file,
              .line = 0,

@@ -83,7 +83,7 @@ TEST(ChatLine, ReadsOtherSpellingsAndKeepsTheRest) {
   }
   // What is not understood is kept, with one note.
   const Forms oddities[] = {
-      {"new \", 5, \"? ", "\"new \", 5, \"? \";"}, {"HELO3", "HELO3;"},
+      {"new \", 5, \"? ", "\"new \", 5, \"? \";"}, {"HELO3", "HELO3;"}, {"", ""},
       {"\", disease, \" again", "disease, \" again\";"},
       {"I have \", disease, \"", "\"I have \", disease;"},
       {"a\", 0, disease, \"b", "\"a\", 0, disease, \"b\";"},

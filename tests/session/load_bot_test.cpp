@@ -5,8 +5,11 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
+#include <cstdint>
 #include <filesystem>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "model/characteristic_catalogue.h"
@@ -86,6 +89,22 @@ class LoadBotTest : public ::testing::Test {
   Bot bot_;
   ScriptedPrompts prompts_;
 };
+
+TEST(Fingerprint, IsTheSameAloneAndBesideOthers) {
+  // Drafts keep it.
+  EXPECT_EQ(FingerprintOf("a"), 0xAF63DC4C8601EC8CU);
+  const std::vector<std::string_view> files = {"a long one", "\xFF", "",
+                                               "short", "a"};
+  for (std::size_t count = 0; count <= files.size(); ++count) {
+    const std::vector<std::string_view> some(
+        files.begin(), files.begin() + static_cast<std::ptrdiff_t>(count));
+    std::vector<std::uint64_t> alone;
+    for (const std::string_view file : some) {
+      alone.push_back(FingerprintOf(file));
+    }
+    EXPECT_EQ(FingerprintsOf(some), alone);
+  }
+}
 
 TEST_F(LoadBotTest, FindsTheFilesWhateverTheirCase) {
   Save("bot");
