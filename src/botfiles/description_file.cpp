@@ -145,8 +145,9 @@ class DescriptionReader {
 
   void TakeComment(std::size_t line) { left_out_.AddComment(line); }
 
-  void AddNote(std::size_t line, std::string text) {
-    report_.notes.Add({file_, line, std::move(text)});
+  void AddNote(std::size_t line, std::string text,
+               NoteKind kind = NoteKind::kOther) {
+    report_.notes.Add({file_, line, std::move(text), kind});
   }
 
   /// Compares what was read with what the game takes.
@@ -193,7 +194,8 @@ class DescriptionReader {
     AddNote(
         fed == fed_by_.end() ? plain_line : fed->second,
         Localized("%1: read as \"%2\", but the game takes \"%3\".",
-                  {what, ShownText(ToText(read)), ShownText(ToText(plain))}));
+                  {what, ShownText(ToText(read)), ShownText(ToText(plain))}),
+        NoteKind::kOddValue);
     report_.plain_values.insert_or_assign(field, plain);
   }
 

@@ -2,6 +2,7 @@
 #define FRAGSMITH_CHECKS_LOCATION_CHECKS_H_
 
 #include <filesystem>
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -86,6 +87,10 @@ class LocationCheck {
   bool GivesGameMacros() const;
   /// A hint at each weight of the bot whose 0 is none of the files' values.
   void AddUnnumbered(const Bot& bot, std::vector<Finding>& findings) const;
+  /// Lines that the game takes from the bot's file and a load does not.
+  const std::map<ChatTypeId, std::vector<std::string>>& UnreadLines() const;
+  /// Tells of types without lines as if the bot had these.
+  void AddUnreadLines(const Bot& bot, std::vector<Finding>& findings) const;
   bool HasPackageBeside() const;
 
   const BotLocation location_;
@@ -97,6 +102,8 @@ class LocationCheck {
   bool hides_list_;
   BotOnDisk on_disk_;
   mutable std::optional<std::vector<ParameterId>> unnumbered_;  ///< Once asked.
+  mutable std::optional<std::map<ChatTypeId, std::vector<std::string>>>
+      unread_lines_;  ///< Once asked.
 };
 
 }  // namespace fragsmith

@@ -1,6 +1,7 @@
 // What is told of the bot in memory where its files are known.
 
 #include <algorithm>
+#include <iterator>
 #include <string>
 #include <utility>
 #include <vector>
@@ -16,6 +17,7 @@
 #include "game/game_macros.h"
 #include "game/stand_ins.h"
 #include "game/weight_reader.h"
+#include "inplace/game_values.h"
 #include "inplace/game_weights.h"
 #include "support/localization.h"
 #include "support/text.h"
@@ -50,6 +52,7 @@ std::vector<Finding> LocationCheck::InMemory(const Bot& bot,
   });
   DropUnreadWeights(bot, findings);
   AddUnnumbered(bot, findings);
+  AddUnreadLines(bot, findings);
   if (!is_as_in_files) return findings;
   // A new package of the bot would have another name than where it lies.
   std::erase_if(findings, [this](const Finding& finding) {
@@ -98,6 +101,44 @@ void LocationCheck::AddUnnumbered(const Bot& bot,
                            {QuotedName(id)}),
          .mends = {}});
   }
+}
+
+const std::map<ChatTypeId, std::vector<std::string>>&
+LocationCheck::UnreadLines() const {
+  if (unread_lines_) return *unread_lines_;
+  unread_lines_.emplace();
+  const std::optional<GameFile>& chat = on_disk_.files.chat;
+  if (!chat) return *unread_lines_;
+  LoadedBot load;
+  ReadBotFile(BotFile::kChat, WholeBot{}, chat->bytes, location_.name,
+              chat->name, load);
+  Bot in_game = load.bot;
+  TakeGameChats(
+      chat->bytes, [this](std::string_view path) { return LookUp(path); },
+      in_game);
+  for (const ChatTypeId type : kAllChatTypes) {
+    const std::vector<std::string>& lines = in_game.ChatLines(type);
+    if (load.bot.ChatLines(type).empty() && !lines.empty()) {
+      unread_lines_->emplace(type, lines);
+    }
+  }
+  return *unread_lines_;
+}
+
+void LocationCheck::AddUnreadLines(const Bot& bot,
+                                   std::vector<Finding>& findings) const {
+  Bot in_game = bot;
+  for (const auto& [type, lines] : UnreadLines()) {
+    if (bot.ChatLines(type).empty()) in_game.SetChatLines(type, lines);
+  }
+  if (in_game == bot) return;
+  const auto is_of_empty_types = [](const Finding& finding) {
+    return finding.id == "chat-without-lines";
+  };
+  std::erase_if(findings, is_of_empty_types);
+  std::ranges::copy_if(
+      CheckBot(in_game, game_ == nullptr ? nullptr : &game_->data),
+      std::back_inserter(findings), is_of_empty_types);
 }
 
 bool LocationCheck::GivesGameMacros() const {

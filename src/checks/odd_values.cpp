@@ -34,7 +34,7 @@ Mend WithGameValues(Mend mend,
 std::vector<Finding> OddValues(const Bot& bot, const LoadReport& report) {
   std::vector<Finding> findings;
   for (const auto& [parameter, value] : report.odd_values) {
-    if (value.read == value.plain || bot.Parameter(parameter) != value.read) {
+    if (value.read == value.plain || !StandsAsRead(bot, parameter, value)) {
       continue;
     }
     const std::string name = QuotedName(parameter);

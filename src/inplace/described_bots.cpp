@@ -127,6 +127,10 @@ void TakeListedIdentity(LoadedBot& loaded, const ModelCatalogue& models) {
   for (const auto& [id, value] : report.plain_values) {
     loaded.plain_values.insert_or_assign(id, value);
   }
+  // What is said of the whole file is said for a save, which leaves the list.
+  for (const Note& note : report.notes.list()) {
+    if (note.kind == NoteKind::kOddValue) loaded.notes.Add(note);
+  }
   loaded.has_arena_lord = report.has_arena_lord;
   UseCatalogueSpelling(loaded.bot, models);
   loaded.notes.Add({ShownAt(*list), 0,

@@ -168,7 +168,6 @@ void TakeGameNumbers(BotFile kind, const std::string& shown,
 
 void TakeGameChats(std::string_view bytes, const IncludeLookup& game,
                    Bot& bot) {
-  if (!NeedsGameReader(bytes)) return;
   const FileReading reading =
       BothReaders({BotFile::kChat, {}, {}}, game).Read(bytes);
   // A file that the game cannot read has no lines for it.

@@ -22,7 +22,8 @@ void TakeGameNumbers(BotFile kind, const std::string& shown,
                      std::string_view bytes, const IncludeLookup& game,
                      LoadedBot& loaded);
 
-/// Gives the bot the chat lines of such a file that the game takes.
+/// Gives the bot the chat lines that the game takes from its file; none of a
+/// file that the game cannot read.
 void TakeGameChats(std::string_view bytes, const IncludeLookup& game, Bot& bot);
 
 /// Gives a loaded bot what its author said in the game's own way: weights under

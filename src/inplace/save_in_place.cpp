@@ -68,7 +68,11 @@ Answer Ask(const FileEdit& edit, Prompts& prompts) {
   }
   text +=
       "\n\n" +
-      Localized("The old file is kept as NAME.bak when it is written anew.");
+      Localized(edit.origin.is_on_disk()
+                    ? Localizable("The old file is kept as NAME.bak when it is "
+                                  "written anew.")
+                    : Localizable("The old file is kept beside the package as "
+                                  "NAME.bak when it is written anew."));
   const std::vector<std::string> buttons = {Localized("Cancel"),
                                             edit.bytes.empty()
                                                 ? Localized("Leave this file")
@@ -123,6 +127,14 @@ Notes NotesOf(const BotEdits& edits) {
   return notes;
 }
 
+/// Whose backup it is; that of a file in a package lies beside the package.
+fs::path BackedUpAs(const OriginFile& file) {
+  if (file.is_on_disk()) return file.path;
+  const std::string_view entry = file.entry;
+  return file.path.parent_path() /
+         PathFromGameText(entry.substr(entry.find_last_of("/\\") + 1));
+}
+
 /// Settles what is not editable; false when the user cancels.
 bool Settle(const SaveInPlace& save, BotEdits& edits, InPlacePlan& result,
             std::vector<BotFile>& left) {
@@ -149,9 +161,7 @@ bool Settle(const SaveInPlace& save, BotEdits& edits, InPlacePlan& result,
         edit.bytes = BytesOf(kind, save.bot, save.author);
         edit.made_from = nullptr;
         edit.notes = {};
-        if (edit.origin.is_on_disk()) {
-          result.backups.emplace(edit.origin.path, edit.old_bytes);
-        }
+        result.backups.emplace(BackedUpAs(edit.origin), edit.old_bytes);
     }
   }
   return true;
@@ -306,6 +316,8 @@ Result<std::optional<InPlacePlan>> SaveIntoOwnPackage(const SaveInPlace& save,
   }
   result.leaves_changes = result.leaves_changes || !edits.homeless.empty();
   result.notes = NotesOf(edits);
+  const Result<void> kept = WriteBackups(result);
+  if (!kept) return Failure(kept.error());
   const Result<void> written = WriteEdits(edits);
   if (!written) return Failure(written.error());
   for (const auto& [kind, edit] : edits.files) home.files[kind] = edit.origin;

@@ -4,6 +4,8 @@
 #include <cstddef>
 #include <numeric>
 
+#include "session/identity_rules.h"
+
 namespace fragsmith {
 
 namespace {
@@ -52,12 +54,18 @@ std::vector<std::uint64_t> FingerprintsOf(
   return hashes;
 }
 
+bool StandsAsRead(const Bot& bot, ParameterId id, const OddValue& value) {
+  return bot.Parameter(id) == value.read ||
+         (id == kFunNameField &&
+          bot.Text(id) == FunNameForFile(ToText(value.read)));
+}
+
 bool HasOddValues(const Bot& bot, const LoadReport& report) {
   return std::any_of(report.odd_values.begin(), report.odd_values.end(),
                      [&bot](const auto& entry) {
                        const auto& [parameter, value] = entry;
                        return value.read != value.plain &&
-                              bot.Parameter(parameter) == value.read;
+                              StandsAsRead(bot, parameter, value);
                      });
 }
 

@@ -133,6 +133,10 @@ struct BotOrigin {
   bool operator==(const BotOrigin&) const = default;
 };
 
+/// True while the value stands in the bot as it was read; a fun name also with
+/// the quotes that a save puts on it.
+bool StandsAsRead(const Bot& bot, ParameterId id, const OddValue& value);
+
 /// True while a value that was read oddly stands in the bot as it was read.
 bool HasOddValues(const Bot& bot, const LoadReport& report);
 

@@ -329,7 +329,7 @@ LoadReport ReportOf(const LoadedBot& loaded, const Bot& shown) {
 void TakeValuesAsGame(Bot& bot, const LoadReport& report,
                       const ModelCatalogue& models) {
   for (const auto& [parameter, value] : report.odd_values) {
-    if (bot.Parameter(parameter) != value.read) continue;
+    if (!StandsAsRead(bot, parameter, value)) continue;
     // A draft may hold anything; what the bot refuses stays as it was read.
     (void)bot.SetParameter(parameter, value.plain);
   }

@@ -15,6 +15,7 @@ enum class NoteKind : std::uint8_t {
   kAlsoInFile,      ///< What a bot has no place for, and nothing else.
   kMissingWeights,  ///< Those that no line of a weight file sets.
   kUnreadLine,      ///< The game takes a value from it, and our reader none.
+  kOddValue,        ///< One is read, and the game takes another one.
 };
 
 /// Something odd that reading came across and went on from. Texts are UTF-8.

@@ -266,6 +266,26 @@ TEST_F(Habits, CallsABotSavedWhenAllItsFilesAre) {
   EXPECT_EQ(Recent(), "rookie");
 }
 
+TEST_F(Habits, LeavesWhatOthersChangedInAFileThatWasNotEditedHere) {
+  const auto file = SaveAs("Rookie", {});
+  const auto weights = folder_ / "rookie_w.c";
+  window_->OpenPath(file);
+  const std::string key = "W_GAUNTLET";
+  std::string by_hand = *ReadFile(weights);
+  by_hand.replace(by_hand.find(key), key.size(), key + " 7 //");
+  ASSERT_TRUE(SaveFile(weights, by_hand));
+  Type("txtBotPara_2", "Rookster");
+  prompts_.log.clear();
+  Choose("mnuSaveAgain");
+  EXPECT_THAT(prompts_.log, ElementsAre(HasSubstr("nothing that it holds")));
+  EXPECT_TRUE(is_changed());
+  constexpr std::size_t kSaveTheRest = 1;
+  prompts_.choices = {kSaveTheRest};
+  Choose("mnuSaveAgain");
+  EXPECT_EQ(*ReadFile(weights), by_hand);
+  EXPECT_THAT(*ReadFile(folder_ / "rookie.bot"), HasSubstr("Rookster"));
+}
+
 TEST_F(Habits, NoticesWhatOthersChangeAfterALoad) {
   for (const bool uses_layout : {false, true}) {
     const auto file =

@@ -17,6 +17,7 @@
 
 #include "editor/controls/dir_view.h"
 #include "editor/dialogs/open_dialog.h"
+#include "editor/state/bot_checker.h"
 #include "editor/state/draft_keeper.h"
 #include "install/packages/package.h"
 #include "install/packages/package_writer.h"
@@ -483,6 +484,29 @@ TEST_F(Origin, TakesTheGamesValuesOfTheBotThatIsShown) {
   prompts_.confirmations = {true};
   Choose("mnuNewZero");
   EXPECT_FALSE(button->isVisible());
+}
+
+TEST_F(Origin, KnowsTheGamesFunNameAfterASaveToo) {
+  const fs::path file = Make("a", "Rookie", 0.25);
+  folder_.Write("a/scripts/rookie.bot",
+                "{\nname Rookie\nfunname \"^1Rook the ^2Great\" // colours!\n"
+                "model sarge\naifile bots/rookie_c.c\n}\n");
+  Open(file);
+  const auto told = [this] {
+    std::string texts;
+    auto* const checker = window_->findChild<BotChecker*>();
+    checker->CheckNow();
+    for (const Finding& finding : checker->findings()) {
+      if (finding.place == BotPlace(kFunNameField)) texts += finding.text;
+    }
+    return texts;
+  };
+  EXPECT_THAT(told(), HasSubstr("while the game has"));
+  Press(Qt::Key_End);
+  Choose("mnuSaveAgain");
+  EXPECT_THAT(told(), HasSubstr("while the game has"));
+  Find<QPushButton>("cmdAsGame")->click();
+  EXPECT_EQ(bot().FunName(), "^1Rook the ^2Great");
 }
 
 TEST_F(Origin, UndoesModelsWithoutAQuestionAndTouchesNoList) {

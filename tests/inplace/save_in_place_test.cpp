@@ -255,6 +255,18 @@ TEST_F(SaveInPlaceTest, ReplacesMembersOfTheBotsOwnPackage) {
               HasSubstr("0.500 // timid"));
   EXPECT_THAT(prompts_.log, IsEmpty());
 
+  // A member that is written anew is kept beside the package.
+  const std::string both = std::string(kCharacter) + "\n// }\n#if 0\n";
+  ASSERT_TRUE(WritePackage(package, {{"botfiles/bots/rook_c.c", both}}));
+  home_.files[BotFile::kCharacteristics].fingerprint = FingerprintOf(both);
+  bot_.Put(Id(402), 0.25);
+  prompts_.choices = {2};
+  ASSERT_TRUE(*SaveIntoOwnPackage(Saving(), home_));
+  EXPECT_THAT(prompts_.log, ElementsAre(HasSubstr("beside the package")));
+  EXPECT_EQ(folder_.Read("rook_c.c.bak"), both);
+  EXPECT_NE(*ReadPackageEntry(package, "botfiles/bots/rook_c.c"), both);
+  prompts_.log.clear();
+
   // Another program changed what is edited now; the safe answer keeps it.
   ASSERT_TRUE(WritePackage(package, {{"botfiles/bots/rook_c.c", kCharacter}}));
   bot_.Put(Id(402), 0.75);

@@ -53,6 +53,16 @@ Files NewOnes(const SavePlan& plan) {
   return files;
 }
 
+void LeaveAlone(Files& files, SavePlan& plan) {
+  for (const auto& [file, path] : files) {
+    plan.files.erase(file);
+    plan.contents.erase(file);
+  }
+  plan.left_alone.merge(files);
+  // One that is made would be half of this bot and half of another.
+  plan.package.reset();
+}
+
 }  // namespace
 
 BotSaver::Extras BotSaver::Offer() const {
@@ -73,7 +83,7 @@ BotSaver::Outcome BotSaver::SaveTo(const SaveTarget& target, Extras extras) {
     WriteGameMacros(OtherMacrosFor(home().files, Game()), current_.bot(),
                     AuthorOf(state_.settings), home().files, plan);
   }
-  if (!MayWriteOver(plan) || !MayDropFiles(plan) || !MayDropBots(plan) ||
+  if (!MayWriteOver(plan, {}) || !MayDropFiles(plan) || !MayDropBots(plan) ||
       !MayReplaceOthers(plan) || !MayDescribeTwice(plan)) {
     return {};
   }
@@ -110,8 +120,12 @@ std::optional<BotSaver::Outcome> BotSaver::SaveAgain() {
   }
   const Unread unread = AskAboutUnread(*plan);
   if (unread == Unread::kCancelled) return Outcome{};
-  const bool leaves_changes =
-      in_place.leaves_changes || unread == Unread::kLeft;
+  Files agreed;
+  const Unread others = AskAboutOthersEdits(*plan, agreed);
+  if (others == Unread::kCancelled) return Outcome{};
+  const bool leaves_changes = in_place.leaves_changes ||
+                              unread == Unread::kLeft ||
+                              others == Unread::kLeft;
   if (unread == Unread::kNoneLeft) AskAboutPackage(*plan);
   if (HasNewName(*plan, home()) && !MayDescribeTwice(*plan)) return Outcome{};
   if (plan->files.empty() && !plan->package) {
@@ -123,7 +137,7 @@ std::optional<BotSaver::Outcome> BotSaver::SaveAgain() {
     return Said(
         Localized("The files say all this already; nothing was written."));
   }
-  if (!MayWriteOver(*plan)) return Outcome{};
+  if (!MayWriteOver(*plan, agreed)) return Outcome{};
   if (const Result<void> kept = WriteBackups(in_place); !kept) {
     Tell(kept.error());
     return Outcome{};
@@ -171,10 +185,7 @@ BotSaver::Unread BotSaver::AskAboutUnread(SavePlan& plan) {
                                     : Localizable("Replace them"))});
   if (choice == kCancel) return Unread::kCancelled;
   if (choice == kReplace) return Unread::kNoneLeft;
-  for (const auto& [file, path] : unread) plan.files.erase(file);
-  plan.left_alone.merge(unread);
-  // One that is made would be half of this bot and half of another.
-  plan.package.reset();
+  LeaveAlone(unread, plan);
   return Unread::kLeft;
 }
 
@@ -240,7 +251,37 @@ bool BotSaver::MayRenew(const PackageBeside& beside) {
   return state_.prompts.Confirm(std::string(kProgramTitle), text);
 }
 
-bool BotSaver::MayWriteOver(const SavePlan& plan) {
+BotSaver::Unread BotSaver::AskAboutOthersEdits(SavePlan& plan, Files& agreed) {
+  const std::shared_ptr<const Bot>& before =
+      home().saved ? home().saved : home().loaded;
+  if (!before) return Unread::kNoneLeft;
+  const std::vector<fs::path> changed = ChangedByOthers(plan, home());
+  Files theirs;
+  for (const auto& [file, path] : plan.files) {
+    if (std::ranges::find(changed, path) != changed.end() &&
+        ChangesIn(file, *before, current_.bot()).empty()) {
+      theirs.emplace(file, path);
+    }
+  }
+  if (theirs.empty()) return Unread::kNoneLeft;
+  enum : std::size_t { kCancel, kLeave, kOverwrite };
+  const std::size_t choice = state_.prompts.Choose(
+      std::string(kProgramTitle), EditedByOthersAlone(PathsOf(theirs)),
+      {Localized("Cancel"), Localized("Save the rest"),
+       Localized(theirs.size() == 1 ? Localizable("Overwrite it")
+                                    : Localizable("Overwrite them"))});
+  if (choice == kCancel) return Unread::kCancelled;
+  if (choice == kOverwrite) {
+    agreed = std::move(theirs);
+    return Unread::kNoneLeft;
+  }
+  LeaveAlone(theirs, plan);
+  return Unread::kLeft;
+}
+
+bool BotSaver::MayWriteOver(SavePlan plan, const Files& agreed) {
+  std::erase_if(plan.files,
+                [&](const auto& file) { return agreed.contains(file.first); });
   const std::vector<fs::path> changed = ChangedByOthers(plan, home());
   return changed.empty() || state_.prompts.Confirm(std::string(kProgramTitle),
                                                    MayBeOverwritten(changed));

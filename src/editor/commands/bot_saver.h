@@ -4,6 +4,7 @@
 #include <QString>
 #include <cstdint>
 #include <filesystem>
+#include <map>
 #include <optional>
 #include <string>
 
@@ -67,7 +68,12 @@ class BotSaver {
   /// Asks before the bot's name stands in two descriptions.
   bool MayDescribeTwice(const SavePlan& plan);
   bool MayRenew(const PackageBeside& beside);
-  bool MayWriteOver(const SavePlan& plan);
+  /// About files in which nothing was edited here, and something elsewhere.
+  /// Those that may be overwritten all the same are agreed.
+  Unread AskAboutOthersEdits(SavePlan& plan,
+                             std::map<BotFile, std::filesystem::path>& agreed);
+  bool MayWriteOver(SavePlan plan,
+                    const std::map<BotFile, std::filesystem::path>& agreed);
   /// Asks before what somebody removed is made anew.
   bool MayMakeAnew(SavePlan& plan);
   /// A package that was made is told in a box, or in the outcome alone.

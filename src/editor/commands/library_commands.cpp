@@ -200,7 +200,10 @@ frmLibrary::Removal LibraryCommands::Remove(const Entry& entry) {
       "more.",
       {Utf8FromPath(package), Utf8FromGameText(location->name)});
   if (IsOpen(package)) {
-    question += " " + Localized("It stays open in the window, unsaved.");
+    question += " " + Localized(
+                          "It stays open in the window, unsaved; what "
+                          "its author wrote in its files beside its "
+                          "values, such as comments, goes with them.");
   }
   if (!state_.prompts.Confirm(std::string(kProgramTitle), question)) {
     return {.text = kept};

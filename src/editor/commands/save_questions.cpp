@@ -50,6 +50,18 @@ std::string MayBeOverwritten(const Paths& changed) {
       {InLines(changed)});
 }
 
+std::string EditedByOthersAlone(const Paths& changed) {
+  return Localized(
+      changed.size() == 1
+          ? Localizable("%1 was changed since the bot was read or saved here, "
+                        "and nothing that it holds was edited here. To write "
+                        "it takes that change away.")
+          : Localizable("%1\nwere changed since the bot was read or saved "
+                        "here, and nothing that they hold was edited here. To "
+                        "write them takes these changes away."),
+      {InLines(changed)});
+}
+
 std::string MayBeMadeAnew(const Paths& gone, bool is_package) {
   const bool is_one = gone.size() == 1;
   std::string text = Localized(

@@ -21,6 +21,10 @@ std::string MayBeReplaced(std::size_t count);
 
 std::string MayBeOverwritten(const std::vector<std::filesystem::path>& changed);
 
+/// Of files in which nothing was edited here.
+std::string EditedByOthersAlone(
+    const std::vector<std::filesystem::path>& changed);
+
 std::string MayBeMadeAnew(const std::vector<std::filesystem::path>& gone,
                           bool is_package);
 
