@@ -688,7 +688,7 @@
     </message>
     <message>
         <source>What the game will do</source>
-        <translation>Was das Spiel daraus macht</translation>
+        <translation>Befunde</translation>
     </message>
     <message>
         <source>Where</source>
@@ -1092,7 +1092,7 @@
     </message>
     <message>
         <source>By itself</source>
-        <translation>Durch sich selbst</translation>
+        <translation>Selbst</translation>
     </message>
     <message>
         <source>Items</source>
@@ -1100,11 +1100,11 @@
     </message>
     <message>
         <source>Frags a minute</source>
-        <translation>Frags pro Minute</translation>
+        <translation>Frags/Min.</translation>
     </message>
     <message>
         <source>Deaths a minute</source>
-        <translation>Tode pro Minute</translation>
+        <translation>Tode/Min.</translation>
     </message>
     <message>
         <source>What it s&amp;aid</source>
@@ -1788,6 +1788,10 @@
         <source>%1 of %2 skins. Grey ones have no icon in the game.</source>
         <translation>%1 von %2 Skins. Graue haben im Spiel kein Bild.</translation>
     </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
 </context>
 <context>
     <name>frmFind</name>
@@ -1810,6 +1814,10 @@
     <message>
         <source>No parameter and no chat line has this.</source>
         <translation>Kein Parameter und keine Chatzeile enthält das.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
@@ -1868,6 +1876,14 @@
     <message>
         <source>Options and lists cannot be written. </source>
         <translation>Optionen und Listen lassen sich nicht schreiben. </translation>
+    </message>
+    <message>
+        <source>Average</source>
+        <translation>Durchschnitt</translation>
+    </message>
+    <message>
+        <source>All zeros</source>
+        <translation>Nullen</translation>
     </message>
 </context>
 <context>
@@ -2030,6 +2046,10 @@
     <message>
         <source>&amp;Name:</source>
         <translation>&amp;Name:</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
@@ -2814,7 +2834,7 @@ wurden nicht mit diesem Bot gelesen.</translation>
     </message>
     <message>
         <source>A load reads line %1 otherwise than the game does, and takes that value. Take the line out, or write it as a file made here has it, first.</source>
-        <translation>Das Laden liest Zeile %1 anders als das Spiel und nimmt diesen Wert. Entfernen Sie die Zeile zuerst oder schreiben Sie sie so, wie sie in einer hier erstellten Datei steht.</translation>
+        <translation>Das Laden liest Zeile %1 anders als das Spiel und nimmt diesen Wert. Entfernen Sie die Zeile zuerst, oder schreiben Sie sie so, wie sie in einer hier erstellten Datei steht.</translation>
     </message>
     <message>
         <source>A load reads three digits behind the point, no more, and %1 has more. Round it.</source>
@@ -2826,7 +2846,7 @@ wurden nicht mit diesem Bot gelesen.</translation>
     </message>
     <message>
         <source>A load takes it from line %1, where its key stands in another word. Take that line out, or put it further up, first.</source>
-        <translation>Das Laden nimmt den Wert aus Zeile %1, wo der Schlüssel in einem anderen Wort steht. Entfernen Sie diese Zeile zuerst oder setzen Sie sie weiter nach oben.</translation>
+        <translation>Das Laden nimmt den Wert aus Zeile %1, wo der Schlüssel in einem anderen Wort steht. Entfernen Sie diese Zeile zuerst, oder setzen Sie sie weiter nach oben.</translation>
     </message>
     <message>
         <source>A load takes the comment in its line for a part of it. Put that into a line of its own first.</source>
@@ -3566,7 +3586,7 @@ wurden nicht mit diesem Bot gelesen.</translation>
     </message>
     <message>
         <source>Name this file there, or edit the one that it names.</source>
-        <translation>Nennen Sie dort diese Datei oder bearbeiten Sie die, die dort genannt ist.</translation>
+        <translation>Nennen Sie dort diese Datei, oder bearbeiten Sie die, die dort genannt ist.</translation>
     </message>
     <message>
         <source>Never</source>
@@ -6014,15 +6034,15 @@ wurden nicht mit diesem Bot gelesen.</translation>
     </message>
     <message>
         <source>keeps aiming while it retreats or fetches items</source>
-        <translation>zielt weiter, während er sich zurückzieht oder Gegenstände holt</translation>
+        <translation>zielt auch bei Rückzug und Einsammeln</translation>
     </message>
     <message>
         <source>keeps its accuracy when the enemy turns back</source>
-        <translation>bleibt genau, wenn der Gegner kehrtmacht</translation>
+        <translation>bleibt bei Kehrtwenden genau</translation>
     </message>
     <message>
         <source>leads its target in a straight line</source>
-        <translation>hält dem Ziel in gerader Linie vor</translation>
+        <translation>hält geradlinig vor</translation>
     </message>
     <message>
         <source>letters with accents and other special signs become blanks</source>
@@ -6070,7 +6090,7 @@ wurden nicht mit diesem Bot gelesen.</translation>
     </message>
     <message>
         <source>predicts the target&apos;s real path</source>
-        <translation>sagt den wirklichen Weg des Ziels voraus</translation>
+        <translation>hält entlang des wirklichen Wegs vor</translation>
     </message>
     <message>
         <source>see the errors in the list of findings (F8).</source>
@@ -6086,11 +6106,11 @@ wurden nicht mit diesem Bot gelesen.</translation>
     </message>
     <message>
         <source>shoots at the floor for splash</source>
-        <translation>schießt auf den Boden, damit die Explosion trifft</translation>
+        <translation>nutzt Flächenschaden am Boden</translation>
     </message>
     <message>
         <source>shoots where the enemy will come out</source>
-        <translation>schießt dorthin, wo der Gegner herauskommen wird</translation>
+        <translation>schießt dorthin, wo der Gegner auftaucht</translation>
     </message>
     <message>
         <source>slower makes no difference from here on</source>
@@ -6254,7 +6274,7 @@ wurden nicht mit diesem Bot gelesen.</translation>
     </message>
     <message>
         <source>with bot_challenge on, the view snaps to the enemy</source>
-        <translation>mit eingeschaltetem bot_challenge springt der Blick auf den Gegner</translation>
+        <translation>mit bot_challenge springt der Blick auf den Gegner</translation>
     </message>
 </context>
 </TS>
