@@ -6276,5 +6276,9 @@ wurden nicht mit diesem Bot gelesen.</translation>
         <source>with bot_challenge on, the view snaps to the enemy</source>
         <translation>mit bot_challenge springt der Blick auf den Gegner</translation>
     </message>
+    <message>
+        <source>&apos;%1&apos;</source>
+        <translation>„%1“</translation>
+    </message>
 </context>
 </TS>
