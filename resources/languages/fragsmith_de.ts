@@ -29,7 +29,7 @@
     </message>
     <message>
         <source>%1 is no bot: give a folder, a *_c.c file or a *.pk3 package.</source>
-        <translation>%1 ist kein Bot: geben Sie einen Ordner, eine Datei *_c.c oder ein Paket *.pk3 an.</translation>
+        <translation>%1 ist kein Bot: Geben Sie einen Ordner, eine Datei *_c.c oder ein Paket *.pk3 an.</translation>
     </message>
     <message>
         <source>There is no bot in %1.</source>
@@ -106,7 +106,7 @@
     </message>
     <message>
         <source> &quot;%1&quot; on the page &quot;Chat characteristics&quot; sets the chance. Bots speak in free-for-all games only, and at most one line in 25 seconds.</source>
-        <translation> „%1“ auf der Seite „Chat characteristics“ bestimmt die Wahrscheinlichkeit. Bots sprechen nur in Spielen jeder gegen jeden und höchstens eine Zeile in 25 Sekunden.</translation>
+        <translation> „%1“ auf der Seite „Chat characteristics“ bestimmt die Wahrscheinlichkeit. Bots sprechen nur in Free-for-all-Spielen und höchstens eine Zeile in 25 Sekunden.</translation>
     </message>
     <message>
         <source>Inserts %1: in the game %2.</source>
@@ -114,7 +114,7 @@
     </message>
     <message>
         <source>The game does not fill %1 here: it speaks %2.</source>
-        <translation>Das Spiel füllt %1 hier nicht: es spricht %2.</translation>
+        <translation>Das Spiel füllt %1 hier nicht: Es spricht %2.</translation>
     </message>
     <message>
         <source>not filled here: the game speaks %1</source>
@@ -405,7 +405,7 @@
     <name>FaceStore</name>
     <message>
         <source>Icons are off: set the game and WinZip folders in Program/Options</source>
-        <translation>Die Bilder sind aus: stellen Sie in Program/Options die Ordner von Spiel und WinZip ein</translation>
+        <translation>Die Bilder sind aus: Stellen Sie unter „Program/Options“ die Ordner von Spiel und WinZip ein</translation>
     </message>
     <message>
         <source>The package of this skin is not in the game</source>
@@ -608,7 +608,7 @@
     </message>
     <message>
         <source>Version, railgun color, arenalord and comment: the game reads none of them.</source>
-        <translation>Version, Railgunfarbe, Arenalord und Kommentar: das Spiel liest nichts davon.</translation>
+        <translation>Version, Railgunfarbe, Arenalord und Kommentar: Das Spiel liest nichts davon.</translation>
     </message>
     <message>
         <source>Written into the description file. The game itself does not read it.</source>
@@ -688,7 +688,7 @@
     </message>
     <message>
         <source>What the game will do</source>
-        <translation>Was das Spiel daraus macht</translation>
+        <translation>Befunde</translation>
     </message>
     <message>
         <source>Where</source>
@@ -805,11 +805,11 @@
     </message>
     <message>
         <source>P&amp;lay it out...</source>
-        <translation>&amp;Ausspielen...</translation>
+        <translation>&amp;Testmatches...</translation>
     </message>
     <message>
         <source>Matches in fast time: is it better now?</source>
-        <translation>Matches im Zeitraffer: ist er jetzt besser?</translation>
+        <translation>Matches im Zeitraffer: Ist er jetzt besser?</translation>
     </message>
     <message>
         <source>Check a bot&apos;s &amp;files...</source>
@@ -908,7 +908,7 @@
     </message>
     <message>
         <source>Play it out</source>
-        <translation>Ausspielen</translation>
+        <translation>Testmatches</translation>
     </message>
     <message>
         <source>Help</source>
@@ -1092,7 +1092,7 @@
     </message>
     <message>
         <source>By itself</source>
-        <translation>Durch sich selbst</translation>
+        <translation>Selbst</translation>
     </message>
     <message>
         <source>Items</source>
@@ -1100,11 +1100,11 @@
     </message>
     <message>
         <source>Frags a minute</source>
-        <translation>Frags pro Minute</translation>
+        <translation>Frags/Min.</translation>
     </message>
     <message>
         <source>Deaths a minute</source>
-        <translation>Tode pro Minute</translation>
+        <translation>Tode/Min.</translation>
     </message>
     <message>
         <source>What it s&amp;aid</source>
@@ -1124,11 +1124,11 @@
     </message>
     <message>
         <source>What was found in the bot, where the matches confirm or contradict it; double click or Enter leads to it</source>
-        <translation>Was im Bot gefunden wurde, soweit die Matches es bestätigen oder ihm widersprechen; Doppelklick oder Enter führt dorthin</translation>
+        <translation>Was im Bot gefunden wurde, soweit die Matches es bestätigen oder ihm widersprechen; Doppelklick oder Eingabetaste führt dorthin</translation>
     </message>
     <message>
         <source>Double click or Enter leads to the line</source>
-        <translation>Doppelklick oder Enter führt zur Zeile</translation>
+        <translation>Doppelklick oder Eingabetaste führt zur Zeile</translation>
     </message>
     <message>
         <source>never heard: %1</source>
@@ -1260,7 +1260,7 @@
     <name>ParameterPage</name>
     <message>
         <source>Skill level %1, &quot;%2&quot;. The game mixes the levels between.</source>
-        <translation>Stufe %1, „%2“. Das Spiel mischt die Stufen dazwischen.</translation>
+        <translation>Stufe %1, „%2“. Die Spielstärken dazwischen mischt das Spiel.</translation>
     </message>
     <message>
         <source>Scale</source>
@@ -1354,7 +1354,7 @@
     <name>SkillPlot</name>
     <message>
         <source> (no value: a fraction below and a whole number above are not mixed)</source>
-        <translation> (kein Wert: ein Bruch darunter und eine ganze Zahl darüber werden nicht gemischt)</translation>
+        <translation> (kein Wert: eine Kommazahl darunter und eine ganze Zahl darüber werden nicht gemischt)</translation>
     </message>
     <message>
         <source> (a text is no value)</source>
@@ -1602,11 +1602,11 @@
     </message>
     <message>
         <source>No game was found. Bots can be made without one; with it there are its models and its lines.</source>
-        <translation>Es wurde kein Spiel gefunden. Bots lassen sich auch ohne machen; mit ihm gibt es seine Modelle und seine Zeilen.</translation>
+        <translation>Es wurde kein Spiel gefunden. Bots lassen sich auch ohne Spiel machen; mit ihm stehen seine Modelle und Zeilen zur Auswahl.</translation>
     </message>
     <message>
         <source>With its folder set there are the game&apos;s models, bots and lines.</source>
-        <translation>Ist der Ordner eingestellt, gibt es die Modelle, Bots und Zeilen des Spiels.</translation>
+        <translation>Ist der Ordner eingestellt, stehen Modelle, Bots und Zeilen des Spiels zur Auswahl.</translation>
     </message>
     <message>
         <source>Another folder...</source>
@@ -1618,7 +1618,7 @@
     </message>
     <message>
         <source>Search %1 bots</source>
-        <translation>%1 Bots durchsuchen</translation>
+        <translation>In %1 Bots suchen</translation>
     </message>
 </context>
 <context>
@@ -1788,6 +1788,10 @@
         <source>%1 of %2 skins. Grey ones have no icon in the game.</source>
         <translation>%1 von %2 Skins. Graue haben im Spiel kein Bild.</translation>
     </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
 </context>
 <context>
     <name>frmFind</name>
@@ -1810,6 +1814,10 @@
     <message>
         <source>No parameter and no chat line has this.</source>
         <translation>Kein Parameter und keine Chatzeile enthält das.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
@@ -1863,11 +1871,19 @@
     <name>frmMain</name>
     <message>
         <source>No draft of this bot can be kept: save it. </source>
-        <translation>Von diesem Bot lässt sich kein Entwurf aufbewahren: speichern Sie ihn. </translation>
+        <translation>Von diesem Bot lässt sich kein Entwurf aufbewahren: Speichern Sie ihn. </translation>
     </message>
     <message>
         <source>Options and lists cannot be written. </source>
         <translation>Optionen und Listen lassen sich nicht schreiben. </translation>
+    </message>
+    <message>
+        <source>Average</source>
+        <translation>Durchschnitt</translation>
+    </message>
+    <message>
+        <source>All zeros</source>
+        <translation>Nullen</translation>
     </message>
 </context>
 <context>
@@ -1886,7 +1902,7 @@
     </message>
     <message>
         <source>Play it out</source>
-        <translation>Ausspielen</translation>
+        <translation>Testmatches</translation>
     </message>
     <message>
         <source>Change a value and press Start: the bot as it stands plays against how it was, at some fifty times the speed of the game. You can go on editing meanwhile.</source>
@@ -2030,6 +2046,10 @@
     <message>
         <source>&amp;Name:</source>
         <translation>&amp;Name:</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
@@ -2220,7 +2240,7 @@
     </message>
     <message>
         <source>%1 are never read: the game takes its own, out of a package whose name comes later. What the bot needs belongs into a file of another name. In the player&apos;s own folder, such as ~/.q3a/baseq3, this package comes before the game&apos;s, whatever its name.</source>
-        <translation>%1 werden nie gelesen: Das Spiel nimmt seine eigenen, aus einem Paket, dessen Name später kommt. Was der Bot braucht, gehört in eine Datei mit anderem Namen. Im eigenen Ordner des Spielers, etwa ~/.q3a/baseq3, kommt dieses Paket vor denen des Spiels, wie es auch heißt.</translation>
+        <translation>%1 werden nie gelesen: Das Spiel nimmt seine eigenen, aus einem Paket, dessen Name später kommt. Was der Bot braucht, gehört in eine Datei mit anderem Namen. Im eigenen Ordner des Spielers, etwa ~/.q3a/baseq3, kommt dieses Paket vor denen des Spiels, ganz gleich, wie es heißt.</translation>
     </message>
     <message>
         <source>%1 are packed %2, and the game can unpack no such file.</source>
@@ -2376,7 +2396,7 @@
     </message>
     <message>
         <source>%1 is never read: the game takes its own, out of a package whose name comes later. What the bot needs belongs into a file of another name. In the player&apos;s own folder, such as ~/.q3a/baseq3, this package comes before the game&apos;s, whatever its name.</source>
-        <translation>%1 wird nie gelesen: Das Spiel nimmt seine eigene, aus einem Paket, dessen Name später kommt. Was der Bot braucht, gehört in eine Datei mit anderem Namen. Im eigenen Ordner des Spielers, etwa ~/.q3a/baseq3, kommt dieses Paket vor denen des Spiels, wie es auch heißt.</translation>
+        <translation>%1 wird nie gelesen: Das Spiel nimmt seine eigene, aus einem Paket, dessen Name später kommt. Was der Bot braucht, gehört in eine Datei mit anderem Namen. Im eigenen Ordner des Spielers, etwa ~/.q3a/baseq3, kommt dieses Paket vor denen des Spiels, ganz gleich, wie es heißt.</translation>
     </message>
     <message>
         <source>%1 is not between %2 and %3.</source>
@@ -2476,7 +2496,7 @@
     </message>
     <message>
         <source>%1 must be a text in quotation marks, and the game finds a number. Put it in quotation marks.</source>
-        <translation>%1 muss ein Text in Anführungszeichen sein, und das Spiel findet eine Zahl. Setzen Sie sie in Anführungszeichen.</translation>
+        <translation>%1 muss ein Text in Anführungszeichen sein, das Spiel findet aber eine Zahl. Setzen Sie sie in Anführungszeichen.</translation>
     </message>
     <message>
         <source>%1 names %2, which is another file of this bot. Write %3.</source>
@@ -2564,7 +2584,7 @@
     </message>
     <message>
         <source>%1: %2 gives way to %3</source>
-        <translation>%1: %2 weicht %3</translation>
+        <translation>%1: %2 wird durch %3 ersetzt</translation>
     </message>
     <message>
         <source>%1: %2 is no number for the game as it is written; a save makes the number of it.</source>
@@ -2682,11 +2702,11 @@ wurden nicht mit diesem Bot gelesen.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; cannot be removed.</source>
-        <translation>&apos;%1&apos; lässt sich nicht entfernen.</translation>
+        <translation>„%1“ lässt sich nicht entfernen.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; cannot be removed: %2.</source>
-        <translation>&apos;%1&apos; lässt sich nicht entfernen: %2.</translation>
+        <translation>„%1“ lässt sich nicht entfernen: %2.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; describes a bot &quot;%2&quot; too.</source>
@@ -2698,23 +2718,23 @@ wurden nicht mit diesem Bot gelesen.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; does not describe the bot any more. Do you want to make &apos;%2&apos;?</source>
-        <translation>&apos;%1&apos; beschreibt den Bot nicht mehr. Möchten Sie &apos;%2&apos; anlegen?</translation>
+        <translation>„%1“ beschreibt den Bot nicht mehr. Möchten Sie „%2“ anlegen?</translation>
     </message>
     <message>
         <source>&apos;%1&apos; has a character that the list cannot hold.</source>
-        <translation>&apos;%1&apos; enthält ein Zeichen, das die Liste nicht aufnehmen kann.</translation>
+        <translation>„%1“ enthält ein Zeichen, das die Liste nicht aufnehmen kann.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; has other files than those of %2 in it, or cannot be read. Only packages that hold a bot and nothing else are removed here.</source>
-        <translation>&apos;%1&apos; enthält außer den Dateien von %2 noch andere oder ist nicht lesbar. Hier werden nur Pakete entfernt, die einen Bot und sonst nichts enthalten.</translation>
+        <translation>„%1“ enthält außer den Dateien von %2 noch andere oder ist nicht lesbar. Hier werden nur Pakete entfernt, die einen Bot und sonst nichts enthalten.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is there already.</source>
-        <translation>&apos;%1&apos; ist schon da.</translation>
+        <translation>„%1“ ist schon da.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; lies there too, and the game takes the bot out of it and not from the files. Do you want to make it anew?</source>
-        <translation>Dort liegt auch &apos;%1&apos;, und das Spiel nimmt den Bot daraus und nicht aus den Dateien. Möchten Sie das Paket neu anlegen?</translation>
+        <translation>Dort liegt auch „%1“, und das Spiel nimmt den Bot daraus und nicht aus den Dateien. Möchten Sie das Paket neu anlegen?</translation>
     </message>
     <message>
         <source>&apos;%1&apos; then describes two bots &quot;%2&quot;: the game takes the first and passes over the other.</source>
@@ -2754,7 +2774,7 @@ wurden nicht mit diesem Bot gelesen.</translation>
     </message>
     <message>
         <source>A backslash stands where the game knows none. The text ends there.</source>
-        <translation>Ein umgekehrter Schrägstrich steht, wo das Spiel keinen kennt. Der Text endet dort.</translation>
+        <translation>Ein Backslash steht, wo das Spiel keinen kennt. Der Text endet dort.</translation>
     </message>
     <message>
         <source>A bit of everything, the right weapon for each distance.</source>
@@ -2814,7 +2834,7 @@ wurden nicht mit diesem Bot gelesen.</translation>
     </message>
     <message>
         <source>A load reads line %1 otherwise than the game does, and takes that value. Take the line out, or write it as a file made here has it, first.</source>
-        <translation>Das Laden liest Zeile %1 anders als das Spiel und nimmt diesen Wert. Entfernen Sie die Zeile zuerst oder schreiben Sie sie so, wie sie in einer hier erstellten Datei steht.</translation>
+        <translation>Das Laden liest Zeile %1 anders als das Spiel und nimmt diesen Wert. Entfernen Sie die Zeile zuerst, oder schreiben Sie sie so, wie sie in einer hier erstellten Datei steht.</translation>
     </message>
     <message>
         <source>A load reads three digits behind the point, no more, and %1 has more. Round it.</source>
@@ -2826,7 +2846,7 @@ wurden nicht mit diesem Bot gelesen.</translation>
     </message>
     <message>
         <source>A load takes it from line %1, where its key stands in another word. Take that line out, or put it further up, first.</source>
-        <translation>Das Laden nimmt den Wert aus Zeile %1, wo der Schlüssel in einem anderen Wort steht. Entfernen Sie diese Zeile zuerst oder setzen Sie sie weiter nach oben.</translation>
+        <translation>Das Laden nimmt den Wert aus Zeile %1, wo der Schlüssel in einem anderen Wort steht. Entfernen Sie diese Zeile zuerst, oder setzen Sie sie weiter nach oben.</translation>
     </message>
     <message>
         <source>A load takes the comment in its line for a part of it. Put that into a line of its own first.</source>
@@ -2882,11 +2902,11 @@ wurden nicht mit diesem Bot gelesen.</translation>
     </message>
     <message>
         <source>A switch: below {1} the bot never jumps by rocket, from {1} on it does to get about, with 3 rockets, no Quad damage and health 90 (or 60 with 40 armor), unless the server forbids it.</source>
-        <translation>Ein Schalter: unter {1} macht der Bot nie Raketensprünge, ab {1} nutzt er sie, um voranzukommen, mit 3 Raketen, ohne Quad Damage und mit 90 Gesundheit (oder 60 und 40 Rüstung), wenn der Server es nicht verbietet.</translation>
+        <translation>Ein Schalter: Unter {1} macht der Bot nie Raketensprünge, ab {1} nutzt er sie, um voranzukommen, mit 3 Raketen, ohne Quad Damage und mit Gesundheit 90 (oder 60 bei Rüstung 40), wenn der Server es nicht verbietet.</translation>
     </message>
     <message>
         <source>A switch: below {1} the bot spares players who are typing, from {1} on it shoots at them.</source>
-        <translation>Ein Schalter: unter {1} verschont der Bot Spieler, die gerade tippen, ab {1} schießt er auf sie.</translation>
+        <translation>Ein Schalter: Unter {1} verschont der Bot Spieler, die gerade tippen, ab {1} schießt er auf sie.</translation>
     </message>
     <message>
         <source>A text does not end on the line on which it begins: a quote is missing.</source>
@@ -2958,11 +2978,11 @@ wurden nicht mit diesem Bot gelesen.</translation>
     </message>
     <message>
         <source>All weapon weights are equal, and of equal ones the game takes the gauntlet: the bot fights with nothing else, whatever it carries. Give each weapon that it is to use a larger weight than %1.</source>
-        <translation>Alle Waffengewichte sind gleich, und bei gleichen nimmt das Spiel den Gauntlet: Der Bot kämpft mit nichts anderem, was er auch trägt. Geben Sie jeder Waffe, die er benutzen soll, ein größeres Gewicht als %1.</translation>
+        <translation>Alle Waffengewichte sind gleich, und bei gleichen nimmt das Spiel den Gauntlet: Der Bot kämpft mit nichts anderem, ganz gleich, was er trägt. Geben Sie jeder Waffe, die er benutzen soll, ein größeres Gewicht als %1.</translation>
     </message>
     <message>
         <source>All weights of the pages &quot;Weapon pickup&quot; and &quot;Item pickup&quot; are 0: the bot never goes anywhere to fetch a weapon, health, armor or any other item.</source>
-        <translation>Alle Gewichte der Seiten „Weapon pickup“ und „Item pickup“ sind 0: Der Bot geht nirgendwohin, um eine Waffe, Health, Armor oder einen anderen Gegenstand zu holen.</translation>
+        <translation>Alle Gewichte der Seiten „Weapon pickup“ und „Item pickup“ sind 0: Der Bot geht nirgendwohin, um eine Waffe, Gesundheit, Rüstung oder einen anderen Gegenstand zu holen.</translation>
     </message>
     <message>
         <source>All-rounder</source>
@@ -3046,7 +3066,7 @@ wurden nicht mit diesem Bot gelesen.</translation>
     </message>
     <message>
         <source>Best left at 0: none of the chat texts belongs to it, and in newer versions of the game a higher value only keeps the bot silent for 25 seconds.</source>
-        <translation>Am besten bleibt es bei 0: keine Chatzeile gehört dazu, und in neueren Fassungen des Spiels lässt ein höherer Wert den Bot nur 25 Sekunden lang schweigen.</translation>
+        <translation>Am besten bleibt es bei 0: Keine Chatzeile gehört dazu, und in neueren Fassungen des Spiels lässt ein höherer Wert den Bot nur 25 Sekunden lang schweigen.</translation>
     </message>
     <message>
         <source>Between chat types the game finds %1 where it expects type and a name in quotation marks.</source>
@@ -3170,15 +3190,15 @@ wurden nicht mit diesem Bot gelesen.</translation>
     </message>
     <message>
         <source>Do you want to remove &apos;%1&apos; from the disk? %2 is then not in the game any more.</source>
-        <translation>Möchten Sie &apos;%1&apos; von der Festplatte entfernen? %2 ist dann nicht mehr im Spiel.</translation>
+        <translation>Möchten Sie „%1“ von der Festplatte entfernen? %2 ist dann nicht mehr im Spiel.</translation>
     </message>
     <message>
         <source>Do you want to replace it?</source>
-        <translation>Möchten Sie es ersetzen?</translation>
+        <translation>Möchten Sie die Datei ersetzen?</translation>
     </message>
     <message>
         <source>Do you want to replace them?</source>
-        <translation>Möchten Sie sie ersetzen?</translation>
+        <translation>Möchten Sie die Dateien ersetzen?</translation>
     </message>
     <message>
         <source>Do you want to save it so?</source>
@@ -3186,7 +3206,7 @@ wurden nicht mit diesem Bot gelesen.</translation>
     </message>
     <message>
         <source>Do you want to write what you changed all the same?</source>
-        <translation>Wollen Sie Ihre Änderungen trotzdem schreiben?</translation>
+        <translation>Möchten Sie Ihre Änderungen trotzdem schreiben?</translation>
     </message>
     <message>
         <source>Drawn by lot, always playable.</source>
@@ -3242,7 +3262,7 @@ wurden nicht mit diesem Bot gelesen.</translation>
     </message>
     <message>
         <source>Fragsmith does not know where the game is. Set its folder with Program &gt; Options first.</source>
-        <translation>Fragsmith weiß nicht, wo das Spiel ist. Stellen Sie zuerst mit Program &gt; Options seinen Ordner ein.</translation>
+        <translation>Fragsmith weiß nicht, wo das Spiel ist. Stellen Sie zuerst unter „Program/Options“ seinen Ordner ein.</translation>
     </message>
     <message>
         <source>From 0 to %1 characters per minute in steps of %2.</source>
@@ -3314,7 +3334,7 @@ wurden nicht mit diesem Bot gelesen.</translation>
     </message>
     <message>
         <source>How long the bot waits before it may shoot after it has seen an enemy or come out of a teleporter. The game takes everything above {1} as {1}. Beware of a level with a fraction next to a higher one without (1.5 and 2): the skills between them then have no reaction time at all.</source>
-        <translation>Wie lange der Bot wartet, bevor er schießen darf, nachdem er einen Gegner gesehen hat oder aus einem Teleporter gekommen ist. Das Spiel nimmt alles über {1} als {1}. Vorsicht mit einer Stufe mit Nachkommastellen neben einer höheren ohne (1.5 und 2): die Spielstärken dazwischen haben dann gar keine Reaktionszeit.</translation>
+        <translation>Wie lange der Bot wartet, bevor er schießen darf, nachdem er einen Gegner gesehen hat oder aus einem Teleporter gekommen ist. Das Spiel nimmt alles über {1} als {1}. Vorsicht mit einer Kommazahl neben einer ganzen Zahl auf der höheren Stufe (1.5 und 2): Die Spielstärken dazwischen haben dann gar keine Reaktionszeit.</translation>
     </message>
     <message>
         <source>How much the bot wants armor, the more so the more it lacks. OpenArena&apos;s bots have 1 to 3.</source>
@@ -3342,7 +3362,7 @@ wurden nicht mit diesem Bot gelesen.</translation>
     </message>
     <message>
         <source>How often the bot answers others: with one bot in the game the chance is 0.75 times the value, with five 0.25 times.</source>
-        <translation>Wie oft der Bot anderen antwortet: mit einem Bot im Spiel ist die Wahrscheinlichkeit das 0.75-Fache des Werts, mit fünf das 0.25-Fache.</translation>
+        <translation>Wie oft der Bot anderen antwortet: Mit einem Bot im Spiel ist die Wahrscheinlichkeit das 0.75-Fache des Werts, mit fünf das 0.25-Fache.</translation>
     </message>
     <message>
         <source>How often the bot speaks while it roams: 1 is about one line in 40 seconds.</source>
@@ -3354,7 +3374,7 @@ wurden nicht mit diesem Bot gelesen.</translation>
     </message>
     <message>
         <source>How steadily the bot aims with the gauntlet and the grapple. Every other weapon has a value of its own on the page &quot;Weapon skills&quot;, and this one does nothing for it.</source>
-        <translation>Wie ruhig der Bot mit Gauntlet und Grapple zielt. Jede andere Waffe hat einen eigenen Wert auf der Seite „Weapon skills“, für sie bewirkt dieser hier nichts.</translation>
+        <translation>Wie ruhig der Bot mit Gauntlet und Enterhaken zielt. Jede andere Waffe hat einen eigenen Wert auf der Seite „Weapon skills“, für sie bewirkt dieser hier nichts.</translation>
     </message>
     <message>
         <source>How steadily the bot aims with this weapon. At 0 it misses by up to 20 map units to the side and 10 in height, at 1 by none but the weapon&apos;s own spread. Below {1} it also errs in direction at random; above {2} the view snaps to the enemy when the server has bot_challenge on.</source>
@@ -3370,7 +3390,7 @@ wurden nicht mit diesem Bot gelesen.</translation>
     </message>
     <message>
         <source>In a fight, the chance to jump at each decision, but at most once a second. Jumping is tried before crouching: with 1 the bot never crouches in a fight.</source>
-        <translation>Im Kampf die Wahrscheinlichkeit, bei einer Entscheidung zu springen, aber höchstens einmal pro Sekunde. Springen geht vor Ducken: mit 1 duckt sich der Bot im Kampf nie.</translation>
+        <translation>Im Kampf die Wahrscheinlichkeit, bei einer Entscheidung zu springen, aber höchstens einmal pro Sekunde. Springen geht vor Ducken: Mit 1 duckt sich der Bot im Kampf nie.</translation>
     </message>
     <message>
         <source>In the file a variable is a number outside the quotation marks, such as &quot;well done, &quot;, 0; and a word list its bare name. Write it without braces.</source>
@@ -3390,11 +3410,11 @@ wurden nicht mit diesem Bot gelesen.</translation>
     </message>
     <message>
         <source>In this situation the game has nothing for %1: the bot leaves it out. Take it out of the line, or choose another.</source>
-        <translation>In dieser Situation hat das Spiel nichts für %1: Der Bot lässt es weg. Nehmen Sie es aus der Zeile heraus, oder wählen Sie etwas anderes.</translation>
+        <translation>Bei diesem Anlass hat das Spiel nichts für %1: Der Bot lässt es weg. Nehmen Sie es aus der Zeile heraus, oder wählen Sie etwas anderes.</translation>
     </message>
     <message>
         <source>In this situation the game has nothing for %1: the bot says &quot;[invalid var]&quot; in its place. Take it out of the line.</source>
-        <translation>In dieser Situation hat das Spiel nichts für %1: Der Bot sagt stattdessen „[invalid var]“. Nehmen Sie es aus der Zeile heraus.</translation>
+        <translation>Bei diesem Anlass hat das Spiel nichts für %1: Der Bot sagt stattdessen „[invalid var]“. Nehmen Sie es aus der Zeile heraus.</translation>
     </message>
     <message>
         <source>Install the program anew.</source>
@@ -3414,7 +3434,7 @@ wurden nicht mit diesem Bot gelesen.</translation>
     </message>
     <message>
         <source>It is kept as &apos;%1&apos;.</source>
-        <translation>Die Datei liegt jetzt als &apos;%1&apos; daneben.</translation>
+        <translation>Die Datei liegt jetzt als „%1“ daneben.</translation>
     </message>
     <message>
         <source>It is left out.</source>
@@ -3438,7 +3458,7 @@ wurden nicht mit diesem Bot gelesen.</translation>
     </message>
     <message>
         <source>It is one of the game&apos;s own, which the game folder does not have: perhaps that is another folder, or packages of the game are missing.</source>
-        <translation>Sie ist eine der eigenen Dateien des Spiels, die der Spielordner nicht hat: Vielleicht ist das ein anderer Ordner, oder Pakete des Spiels fehlen.</translation>
+        <translation>Sie ist eine der eigenen Dateien des Spiels, die im Spielordner fehlt: Vielleicht ist es der falsche Ordner, oder es fehlen Pakete des Spiels.</translation>
     </message>
     <message>
         <source>It killed nobody in %1 match.</source>
@@ -3466,7 +3486,7 @@ wurden nicht mit diesem Bot gelesen.</translation>
     </message>
     <message>
         <source>It was left there: it cannot be renamed.</source>
-        <translation>Die Datei blieb, wo sie war: sie lässt sich nicht umbenennen.</translation>
+        <translation>Die Datei blieb, wo sie war: Sie lässt sich nicht umbenennen.</translation>
     </message>
     <message>
         <source>It would not be read from there when the bot is loaded.</source>
@@ -3494,7 +3514,7 @@ wurden nicht mit diesem Bot gelesen.</translation>
     </message>
     <message>
         <source>Leave this file</source>
-        <translation>Datei lassen</translation>
+        <translation>Datei so lassen</translation>
     </message>
     <message>
         <source>Left as it is: %1.</source>
@@ -3566,7 +3586,7 @@ wurden nicht mit diesem Bot gelesen.</translation>
     </message>
     <message>
         <source>Name this file there, or edit the one that it names.</source>
-        <translation>Nennen Sie dort diese Datei oder bearbeiten Sie die, die dort genannt ist.</translation>
+        <translation>Nennen Sie dort diese Datei, oder bearbeiten Sie die, die dort genannt ist.</translation>
     </message>
     <message>
         <source>Never</source>
@@ -3602,7 +3622,7 @@ wurden nicht mit diesem Bot gelesen.</translation>
     </message>
     <message>
         <source>No known version of the game reads &quot;%1&quot;: whatever you set, the bot plays the same.</source>
-        <translation>Keine bekannte Version des Spiels liest „%1“: Was Sie auch einstellen, der Bot spielt gleich.</translation>
+        <translation>Keine bekannte Version des Spiels liest „%1“: Ganz gleich, was Sie einstellen, der Bot spielt wie zuvor.</translation>
     </message>
     <message>
         <source>No match was played to its end.</source>
@@ -3618,7 +3638,7 @@ wurden nicht mit diesem Bot gelesen.</translation>
     </message>
     <message>
         <source>No weapon has a larger weight than the gauntlet: the bot fights with nothing else, whatever it carries. Give each weapon that it is to use a larger weight than %1.</source>
-        <translation>Keine Waffe hat ein größeres Gewicht als der Gauntlet: Der Bot kämpft mit nichts anderem, was er auch trägt. Geben Sie jeder Waffe, die er benutzen soll, ein größeres Gewicht als %1.</translation>
+        <translation>Keine Waffe hat ein größeres Gewicht als der Gauntlet: Der Bot kämpft mit nichts anderem, ganz gleich, was er trägt. Geben Sie jeder Waffe, die er benutzen soll, ein größeres Gewicht als %1.</translation>
     </message>
     <message>
         <source>No weapon has a weight above 0 yet: the bot has none that it may draw, aims badly, and the game fills its console with errors. Give weights to the weapons that it is to use.</source>
@@ -3670,7 +3690,7 @@ wurden nicht mit diesem Bot gelesen.</translation>
     </message>
     <message>
         <source>Of the weapons that the bot carries, with ammunition, it draws the one with the largest weight. Only order and proportion count. 0 is never drawn, and every bot starts with gauntlet and machinegun: keep one of the two above 0.</source>
-        <translation>Von den Waffen, die der Bot samt Munition trägt, zieht er die mit dem größten Gewicht. Nur Reihenfolge und Verhältnis zählen. 0 wird nie gezogen, und jeder Bot beginnt mit Gauntlet und Machinegun: lassen Sie eine der beiden über 0.</translation>
+        <translation>Von den Waffen, die der Bot samt Munition trägt, zieht er die mit dem größten Gewicht. Nur Reihenfolge und Verhältnis zählen. 0 wird nie gezogen, und jeder Bot beginnt mit Gauntlet und Machinegun: Lassen Sie eine der beiden über 0.</translation>
     </message>
     <message>
         <source>Of the weapons that the bot carries, with ammunition, it draws the one with the largest weight. Only order and proportion count. 0 is never drawn.</source>
@@ -3678,7 +3698,7 @@ wurden nicht mit diesem Bot gelesen.</translation>
     </message>
     <message>
         <source>Of the weapons that the bot carries, with ammunition, it draws the one with the largest weight; of equal ones the gauntlet first. Only order and proportion count. 0 is never drawn, and every bot starts with gauntlet and machinegun: keep one of the two above 0.</source>
-        <translation>Von den Waffen, die der Bot samt Munition trägt, zieht er die mit dem größten Gewicht; bei gleichen zuerst den Gauntlet. Nur Reihenfolge und Verhältnis zählen. 0 wird nie gezogen, und jeder Bot beginnt mit Gauntlet und Machinegun: lassen Sie eine der beiden über 0.</translation>
+        <translation>Von den Waffen, die der Bot samt Munition trägt, zieht er die mit dem größten Gewicht; bei gleichen zuerst den Gauntlet. Nur Reihenfolge und Verhältnis zählen. 0 wird nie gezogen, und jeder Bot beginnt mit Gauntlet und Machinegun: Lassen Sie eine der beiden über 0.</translation>
     </message>
     <message>
         <source>Of these the weight code has several numbers, and the largest is shown: %1.</source>
@@ -3882,7 +3902,7 @@ wurden nicht mit diesem Bot gelesen.</translation>
     </message>
     <message>
         <source>Surprise me</source>
-        <translation>Wundertüte</translation>
+        <translation>Überraschung</translation>
     </message>
     <message>
         <source>Take %1 out of the line</source>
@@ -4246,7 +4266,7 @@ wurden nicht mit diesem Bot gelesen.</translation>
     </message>
     <message>
         <source>The file has %1 bytes or more, and the game does not read it at all. Shorten it, for example its comments.</source>
-        <translation>Die Datei hat %1 Bytes oder mehr, und das Spiel liest sie gar nicht. Kürzen Sie sie, zum Beispiel ihre Kommentare.</translation>
+        <translation>Die Datei hat %1 Byte oder mehr, und das Spiel liest sie gar nicht. Kürzen Sie sie, zum Beispiel ihre Kommentare.</translation>
     </message>
     <message>
         <source>The file has no block for these types, and a save writes one without lines: %1.</source>
@@ -4262,7 +4282,7 @@ wurden nicht mit diesem Bot gelesen.</translation>
     </message>
     <message>
         <source>The file has no level %1, so that its values are 0, and a save writes it so. The game plays its default bot there.</source>
-        <translation>Die Datei hat keine Stufe %1, ihre Werte sind daher 0, und das Speichern schreibt sie so. Das Spiel nimmt dort seinen Standardbot.</translation>
+        <translation>Die Datei hat keine Stufe %1, ihre Werte sind daher 0, und das Speichern schreibt sie so. Das Spiel nimmt dort seinen Standardcharakter.</translation>
     </message>
     <message>
         <source>The file has none of the lines beside which it belongs.</source>
@@ -4338,7 +4358,7 @@ wurden nicht mit diesem Bot gelesen.</translation>
     </message>
     <message>
         <source>The files keep three digits behind the point, and seven digits of a number with a fraction.</source>
-        <translation>Die Dateien behalten drei Stellen hinter dem Punkt und von einer Zahl mit Bruchteil sieben Stellen.</translation>
+        <translation>Die Dateien behalten drei Stellen hinter dem Punkt und von einer Kommazahl sieben Stellen.</translation>
     </message>
     <message>
         <source>The files name their author (%1); a save names what stands in the options instead.</source>
@@ -4386,7 +4406,7 @@ wurden nicht mit diesem Bot gelesen.</translation>
     </message>
     <message>
         <source>The game cannot make sense of the file from here on.</source>
-        <translation>Das Spiel wird aus der Datei von hier an nicht klug.</translation>
+        <translation>Von hier an wird das Spiel aus der Datei nicht schlau.</translation>
     </message>
     <message>
         <source>The game cannot open this package: what it takes for the end of the archive leads to no table of contents. A comment in the archive may be the reason, or that it was made in the form for very large ones. Make the package anew. The game does not add the bot.</source>
@@ -4482,7 +4502,7 @@ wurden nicht mit diesem Bot gelesen.</translation>
     </message>
     <message>
         <source>The game does not know what the backslash in &quot;%1&quot; is to mean, complains and cuts the text there. Take it out, or write two of them.</source>
-        <translation>Das Spiel weiß nicht, was der Backslash in „%1“ bedeuten soll, meldet einen Fehler und schneidet den Text dort ab. Nehmen Sie ihn heraus oder schreiben Sie zwei davon.</translation>
+        <translation>Das Spiel weiß nicht, was der Backslash in „%1“ bedeuten soll, beschwert sich und schneidet den Text dort ab. Nehmen Sie ihn heraus, oder schreiben Sie zwei davon.</translation>
     </message>
     <message>
         <source>The game does not know what the backslash in this line is to mean, complains and cuts the text there. Take it out, or write two of them.</source>
@@ -4670,7 +4690,7 @@ wurden nicht mit diesem Bot gelesen.</translation>
     </message>
     <message>
         <source>The game knows as many bots as it can. The others are left out.</source>
-        <translation>Das Spiel kennt so viele Bots, wie es kann. Die übrigen bleiben weg.</translation>
+        <translation>Das Spiel kennt schon so viele Bots, wie es fassen kann. Die übrigen bleiben weg.</translation>
     </message>
     <message>
         <source>The game knows no characteristic %1 and throws this whole skill block away.</source>
@@ -4858,7 +4878,7 @@ wurden nicht mit diesem Bot gelesen.</translation>
     </message>
     <message>
         <source>The game will not take the bot as it is: %1</source>
-        <translation>So, wie er ist, nimmt das Spiel den Bot nicht: %1</translation>
+        <translation>So, wie er ist, wird das Spiel den Bot nicht nehmen: %1</translation>
     </message>
     <message>
         <source>The game would find a fault in the file that it has not now.</source>
@@ -4962,7 +4982,7 @@ wurden nicht mit diesem Bot gelesen.</translation>
     </message>
     <message>
         <source>The lines of this file end as on old Macintosh computers, and for the game it is all one line: the first // or #define swallows the rest of the file. Save it with the line ends of Windows or Linux.</source>
-        <translation>Die Zeilen dieser Datei enden wie auf alten Macintosh-Rechnern, und für das Spiel ist alles eine einzige Zeile: Das erste // oder #define verschluckt den Rest der Datei. Speichern Sie sie mit den Zeilenenden von Windows oder Linux.</translation>
+        <translation>Die Zeilen dieser Datei enden wie auf alten Macintosh-Computern, und für das Spiel ist alles eine einzige Zeile: Das erste // oder #define verschluckt den Rest der Datei. Speichern Sie sie mit den Zeilenenden von Windows oder Linux.</translation>
     </message>
     <message>
         <source>The lines of this situation stand in several blocks of the file, and each stays in its own: they come back in another order than given.</source>
@@ -5058,7 +5078,7 @@ wurden nicht mit diesem Bot gelesen.</translation>
     </message>
     <message>
         <source>The one before was &apos;%1&apos;.</source>
-        <translation>Der bisherige war &apos;%1&apos;.</translation>
+        <translation>Der bisherige war „%1“.</translation>
     </message>
     <message>
         <source>The other files are as they were.</source>
@@ -5102,11 +5122,11 @@ wurden nicht mit diesem Bot gelesen.</translation>
     </message>
     <message>
         <source>The packages of your game have no model %1: the game shows the bot as another model. It plays all the same. Choose a model that your game has, or put its package there.</source>
-        <translation>In den Paketen Ihres Spiels gibt es kein Modell %1: Das Spiel zeigt den Bot als anderes Modell. Er spielt trotzdem. Wählen Sie ein Modell, das Ihr Spiel hat, oder legen Sie sein Paket dorthin.</translation>
+        <translation>In den Paketen Ihres Spiels gibt es kein Modell %1: Das Spiel zeigt den Bot als anderes Modell. Spielen wird er trotzdem. Wählen Sie ein Modell, das Ihr Spiel hat, oder legen Sie sein Paket dorthin.</translation>
     </message>
     <message>
         <source>The packages of your game have no skin %1 for the model %2: the game shows the bot as another model. It plays all the same. Choose a skin that your game has.</source>
-        <translation>In den Paketen Ihres Spiels gibt es keinen Skin %1 für das Modell %2: Das Spiel zeigt den Bot als anderes Modell. Er spielt trotzdem. Wählen Sie einen Skin, den Ihr Spiel hat.</translation>
+        <translation>In den Paketen Ihres Spiels gibt es keinen Skin %1 für das Modell %2: Das Spiel zeigt den Bot als anderes Modell. Spielen wird er trotzdem. Wählen Sie einen Skin, den Ihr Spiel hat.</translation>
     </message>
     <message>
         <source>The path %1 of the %2 is too long: the game can open %3 characters, botfiles/ included. Give the bot a shorter name.</source>
@@ -5238,7 +5258,7 @@ wurden nicht mit diesem Bot gelesen.</translation>
     </message>
     <message>
         <source>The weight code of the bot&apos;s file has several numbers for %1. Which one do you want to change?</source>
-        <translation>Der Gewichtscode in der Datei des Bots hat mehrere Zahlen für %1. Welche wollen Sie ändern?</translation>
+        <translation>Der Gewichtscode in der Datei des Bots hat mehrere Zahlen für %1. Welche möchten Sie ändern?</translation>
     </message>
     <message>
         <source>The weight code of the file has several numbers for it (%1), and nobody said which one is meant.</source>
@@ -5334,11 +5354,11 @@ wurden nicht mit diesem Bot gelesen.</translation>
     </message>
     <message>
         <source>There is no folder of the game&apos;s packages, such as baseq3, in %1. Look at Program &gt; Options.</source>
-        <translation>In %1 gibt es keinen Ordner mit den Paketen des Spiels, wie etwa baseq3. Sehen Sie unter Program &gt; Options nach.</translation>
+        <translation>In %1 gibt es keinen Ordner mit den Paketen des Spiels, wie etwa baseq3. Sehen Sie unter „Program/Options“ nach.</translation>
     </message>
     <message>
         <source>There is no game folder now.</source>
-        <translation>Jetzt ist kein Spielordner eingestellt.</translation>
+        <translation>Jetzt ist kein Spielordner mehr eingestellt.</translation>
     </message>
     <message>
         <source>There is no line in front of this ;. Remove it.</source>
@@ -5702,11 +5722,11 @@ wurden nicht mit diesem Bot gelesen.</translation>
     </message>
     <message>
         <source>Without it this bot is good; with it the game stumbles in %1. Remove it.</source>
-        <translation>Ohne dies ist der Bot gut; damit stolpert das Spiel in %1. Entfernen Sie es.</translation>
+        <translation>Ohne dies ist der Bot in Ordnung; damit stolpert das Spiel in %1. Entfernen Sie es.</translation>
     </message>
     <message>
         <source>Without it this bot is good; with it the game stumbles. Remove it.</source>
-        <translation>Ohne dies ist der Bot gut; damit stolpert das Spiel. Entfernen Sie es.</translation>
+        <translation>Ohne dies ist der Bot in Ordnung; damit stolpert das Spiel. Entfernen Sie es.</translation>
     </message>
     <message>
         <source>Without quotes around these texts the game does not read the file; a save puts them on: %1.</source>
@@ -5810,7 +5830,7 @@ wurden nicht mit diesem Bot gelesen.</translation>
     </message>
     <message>
         <source>Your game calls %1 %2, and a file made anew says %3, which it does not know. A file that says %2 already stays good.</source>
-        <translation>Ihr Spiel nennt %1 %2, und eine neu erstellte Datei sagt %3, was es nicht kennt. Eine Datei, die schon %2 sagt, bleibt gut.</translation>
+        <translation>Ihr Spiel nennt %1 %2, und in einer neu erstellten Datei steht %3, was es nicht kennt. Eine Datei, in der schon %2 steht, bleibt brauchbar.</translation>
     </message>
     <message>
         <source>Your game has no ready-made line %1: in its place the bot speaks the remains of an earlier line. Use another one or write a text.</source>
@@ -5870,7 +5890,7 @@ wurden nicht mit diesem Bot gelesen.</translation>
     </message>
     <message>
         <source>&quot;No&quot; leaves it out of the file: then the game&apos;s default character decides.</source>
-        <translation>„No“ lässt den Wert aus der Datei weg: dann entscheidet der Standardcharakter des Spiels.</translation>
+        <translation>„No“ lässt den Wert aus der Datei weg: Dann entscheidet der Standardcharakter des Spiels.</translation>
     </message>
     <message>
         <source>a bot has the levels 1, 4 and 5 only.</source>
@@ -6014,15 +6034,15 @@ wurden nicht mit diesem Bot gelesen.</translation>
     </message>
     <message>
         <source>keeps aiming while it retreats or fetches items</source>
-        <translation>zielt weiter, während er sich zurückzieht oder Gegenstände holt</translation>
+        <translation>zielt auch bei Rückzug und Einsammeln</translation>
     </message>
     <message>
         <source>keeps its accuracy when the enemy turns back</source>
-        <translation>bleibt genau, wenn der Gegner kehrtmacht</translation>
+        <translation>bleibt bei Kehrtwenden genau</translation>
     </message>
     <message>
         <source>leads its target in a straight line</source>
-        <translation>hält dem Ziel in gerader Linie vor</translation>
+        <translation>hält geradlinig vor</translation>
     </message>
     <message>
         <source>letters with accents and other special signs become blanks</source>
@@ -6070,7 +6090,7 @@ wurden nicht mit diesem Bot gelesen.</translation>
     </message>
     <message>
         <source>predicts the target&apos;s real path</source>
-        <translation>sagt den wirklichen Weg des Ziels voraus</translation>
+        <translation>hält entlang des wirklichen Wegs vor</translation>
     </message>
     <message>
         <source>see the errors in the list of findings (F8).</source>
@@ -6086,15 +6106,15 @@ wurden nicht mit diesem Bot gelesen.</translation>
     </message>
     <message>
         <source>shoots at the floor for splash</source>
-        <translation>schießt auf den Boden, damit die Explosion trifft</translation>
+        <translation>nutzt Flächenschaden am Boden</translation>
     </message>
     <message>
         <source>shoots where the enemy will come out</source>
-        <translation>schießt dorthin, wo der Gegner herauskommen wird</translation>
+        <translation>schießt dorthin, wo der Gegner auftaucht</translation>
     </message>
     <message>
         <source>slower makes no difference from here on</source>
-        <translation>ab hier ändert langsamer nichts mehr</translation>
+        <translation>langsamer ändert von hier an nichts mehr</translation>
     </message>
     <message>
         <source>strength %1: %2 in %3 match</source>
@@ -6154,7 +6174,7 @@ wurden nicht mit diesem Bot gelesen.</translation>
     </message>
     <message>
         <source>the name of the enemy</source>
-        <translation>der Name des Feindes</translation>
+        <translation>der Name des Gegners</translation>
     </message>
     <message>
         <source>the name of the first in score</source>
@@ -6174,7 +6194,7 @@ wurden nicht mit diesem Bot gelesen.</translation>
     </message>
     <message>
         <source>the number in line %1</source>
-        <translation>Zeile %1</translation>
+        <translation>Zahl in Zeile %1</translation>
     </message>
     <message>
         <source>the text has a character that the game&apos;s code page lacks.</source>
@@ -6254,7 +6274,11 @@ wurden nicht mit diesem Bot gelesen.</translation>
     </message>
     <message>
         <source>with bot_challenge on, the view snaps to the enemy</source>
-        <translation>mit eingeschaltetem bot_challenge springt der Blick auf den Gegner</translation>
+        <translation>mit bot_challenge springt der Blick auf den Gegner</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos;</source>
+        <translation>„%1“</translation>
     </message>
 </context>
 </TS>

@@ -147,7 +147,7 @@
     </message>
     <message>
         <source>Go forward</source>
-        <translation>Vorgehen</translation>
+        <translation>Vorwärtsgehen</translation>
     </message>
     <message>
         <source>Alt+Right</source>
@@ -334,12 +334,12 @@ Prüfen Sie bitte den Namen.</translation>
     <message>
         <source>&apos;%1&apos; is write protected.
 Do you want to delete it anyway?</source>
-        <translation>&apos;%1&apos; ist schreibgeschützt.
+        <translation>„%1“ ist schreibgeschützt.
 Möchten Sie die Datei trotzdem löschen?</translation>
     </message>
     <message>
         <source>Are you sure you want to delete &apos;%1&apos;?</source>
-        <translation>Möchten Sie &apos;%1&apos; wirklich löschen?</translation>
+        <translation>Möchten Sie „%1“ wirklich löschen?</translation>
     </message>
     <message>
         <source>Could not delete directory.</source>
@@ -556,7 +556,7 @@ Möchten Sie die Datei trotzdem löschen?</translation>
     <name>QScrollBar</name>
     <message>
         <source>Scroll here</source>
-        <translation>Hierher rollen</translation>
+        <translation>Hierher scrollen</translation>
     </message>
     <message>
         <source>Left edge</source>
@@ -592,19 +592,19 @@ Möchten Sie die Datei trotzdem löschen?</translation>
     </message>
     <message>
         <source>Scroll left</source>
-        <translation>Nach links rollen</translation>
+        <translation>Nach links scrollen</translation>
     </message>
     <message>
         <source>Scroll up</source>
-        <translation>Nach oben rollen</translation>
+        <translation>Nach oben scrollen</translation>
     </message>
     <message>
         <source>Scroll right</source>
-        <translation>Nach rechts rollen</translation>
+        <translation>Nach rechts scrollen</translation>
     </message>
     <message>
         <source>Scroll down</source>
-        <translation>Nach unten rollen</translation>
+        <translation>Nach unten scrollen</translation>
     </message>
 </context>
 <context>
@@ -722,11 +722,11 @@ Möchten Sie die Datei trotzdem löschen?</translation>
     <name>QTabBar</name>
     <message>
         <source>Scroll Left</source>
-        <translation>Nach links rollen</translation>
+        <translation>Nach links scrollen</translation>
     </message>
     <message>
         <source>Scroll Right</source>
-        <translation>Nach rechts rollen</translation>
+        <translation>Nach rechts scrollen</translation>
     </message>
 </context>
 <context>

@@ -23,11 +23,9 @@ void frmMain::NameActions() {
        [this] { game_->CheckFiles(commands_->Places()); }},
       {QStringLiteral("mnuInstall"), [this] { InstallIntoGame(); }},
       {QStringLiteral("mnuCompareAverage"),
-       [this] {
-         Compare(CreateAverageBot(state_.random), QStringLiteral("Average"));
-       }},
+       [this] { Compare(CreateAverageBot(state_.random), tr("Average")); }},
       {QStringLiteral("mnuCompareZero"),
-       [this] { Compare(CreateZeroBot(), QStringLiteral("All zeros")); }},
+       [this] { Compare(CreateZeroBot(), tr("All zeros")); }},
       {QStringLiteral("mnuCompareOther"),
        [this] {
          const auto other = commands_->LoadToCompare();

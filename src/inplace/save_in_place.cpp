@@ -54,7 +54,7 @@ bool IsOurs(const FileEdit& edit, const SaveInPlace& save,
 
 Answer Ask(const FileEdit& edit, Prompts& prompts) {
   constexpr std::size_t kMaxShown = 8;
-  std::string text = "'" + edit.shown + "': " + edit.reason.what;
+  std::string text = Localized("'%1'", {edit.shown}) + ": " + edit.reason.what;
   if (!edit.losses.empty()) {
     text += "\n\n" + Localized("A file written anew would lose or change:");
     for (std::size_t at = 0; at < edit.losses.size() && at < kMaxShown; ++at) {

@@ -46,8 +46,8 @@ LoadedPart PartOf(OpenKind kind) {
 }
 
 std::string ModelOf(const Bot& bot) {
-  return "'" + Utf8FromGameText(bot.Text(kModelField)) + "/" +
-         Utf8FromGameText(bot.Text(kSkinField)) + "'";
+  return Localized("'%1'", {Utf8FromGameText(bot.Text(kModelField)) + "/" +
+                            Utf8FromGameText(bot.Text(kSkinField))});
 }
 
 /// Tells when the user let the window give the bot another model.

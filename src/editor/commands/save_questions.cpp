@@ -13,7 +13,7 @@ std::string InLines(const Paths& paths) {
   std::string text;
   for (const std::filesystem::path& path : paths) {
     if (!text.empty()) text += "\n";
-    text += "'" + Utf8FromPath(path) + "'";
+    text += Localized("'%1'", {Utf8FromPath(path)});
   }
   return text;
 }

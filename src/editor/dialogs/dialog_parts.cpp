@@ -45,11 +45,11 @@ class ListKeys : public QObject {
 }  // namespace
 
 QDialogButtonBox* MakeButtons(QDialogButtonBox::StandardButtons buttons,
-                              QDialog* dialog) {
+                              QDialog* dialog, const QString& cancel) {
   auto* const box = new QDialogButtonBox(buttons, dialog);
   QPushButton* const ok = box->button(QDialogButtonBox::Ok);
   NameButton(ok, QStringLiteral("OK"), QStringLiteral("cmdOK"));
-  NameButton(box->button(QDialogButtonBox::Cancel), QStringLiteral("Cancel"),
+  NameButton(box->button(QDialogButtonBox::Cancel), cancel,
              QStringLiteral("cmdCancel"));
   if (ok != nullptr) ok->setDefault(true);
   QObject::connect(box, &QDialogButtonBox::accepted, dialog, &QDialog::accept);

@@ -13,9 +13,10 @@
 namespace fragsmith {
 
 /// The closing buttons of a dialog in the platform's order: cmdOK, which
-/// Enter presses too, and cmdCancel.
+/// Enter presses too, and cmdCancel with its caption.
 QDialogButtonBox* MakeButtons(QDialogButtonBox::StandardButtons buttons,
-                              QDialog* dialog);
+                              QDialog* dialog,
+                              const QString& cancel = QStringLiteral("Cancel"));
 
 /// A line below the fields of a dialog for what they want to tell. It keeps
 /// its room when it is empty, and is read out when it speaks.

@@ -58,8 +58,8 @@ frmFaces::frmFaces(const ModelCatalogue& models, FaceStore& faces,
   column->addWidget(filter_);
   column->addWidget(list_, 1);
   column->addWidget(hint_);
-  column->addWidget(
-      MakeButtons(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this));
+  column->addWidget(MakeButtons(QDialogButtonBox::Ok | QDialogButtonBox::Cancel,
+                                this, tr("Cancel")));
   connect(filter_, &QLineEdit::textChanged, this, &frmFaces::Filter);
   connect(list_, &QListView::doubleClicked, this, &frmFaces::accept);
 

@@ -30,8 +30,8 @@ frmFind::frmFind(const Bot& bot, QWidget* parent)
   column->addWidget(box_);
   column->addWidget(list_, 1);
   column->addWidget(hint_);
-  column->addWidget(
-      MakeButtons(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this));
+  column->addWidget(MakeButtons(QDialogButtonBox::Ok | QDialogButtonBox::Cancel,
+                                this, tr("Cancel")));
   connect(box_, &QLineEdit::textChanged, this, &frmFind::ShowMatches);
   connect(list_, &QListView::doubleClicked, this, &frmFind::accept);
 

@@ -34,8 +34,8 @@ frmModelDialog::frmModelDialog(Prompts& prompts, QWidget* parent)
   layout->addWidget(red_and_blue_);
   layout->addWidget(hint);
   layout->addStretch();
-  layout->addWidget(
-      MakeButtons(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this));
+  layout->addWidget(MakeButtons(QDialogButtonBox::Ok | QDialogButtonBox::Cancel,
+                                this, tr("Cancel")));
 }
 
 std::string frmModelDialog::Name() const {
