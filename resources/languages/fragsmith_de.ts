@@ -3145,10 +3145,6 @@ wurden nicht mit diesem Bot gelesen.</translation>
         <translation>Nah und schnell: Lightning Gun, Shotgun, Raketen.</translation>
     </message>
     <message>
-        <source>Close it there, then save again. Nothing was changed.</source>
-        <translation>Schließen Sie sie dort und speichern Sie dann erneut. Es wurde nichts geändert.</translation>
-    </message>
-    <message>
         <source>Close the text on the same line; for a quotation mark inside a text write &apos;, since the game never shows a &quot;.</source>
         <translation>Schließen Sie den Text in derselben Zeile; für ein Anführungszeichen innerhalb eines Textes schreiben Sie &apos;, denn ein &quot; zeigt das Spiel nie.</translation>
     </message>
@@ -3475,10 +3471,6 @@ wurden nicht mit diesem Bot gelesen.</translation>
     <message>
         <source>It refuses a path with &quot;..&quot;: write the whole way from botfiles.</source>
         <translation>Es lehnt einen Pfad mit „..“ ab: Schreiben Sie den ganzen Weg ab botfiles.</translation>
-    </message>
-    <message>
-        <source>It stays open in the window, unsaved.</source>
-        <translation>Im Fenster bleibt er geöffnet, ungespeichert.</translation>
     </message>
     <message>
         <source>It was broken off.</source>
@@ -6279,6 +6271,36 @@ wurden nicht mit diesem Bot gelesen.</translation>
     <message>
         <source>&apos;%1&apos;</source>
         <translation>„%1“</translation>
+    </message>
+    <message>
+        <source>%1 was changed since the bot was read or saved here, and nothing that it holds was edited here. To write it takes that change away.</source>
+        <translation>%1 wurde geändert, seit der Bot hier gelesen oder gespeichert wurde, und nichts von ihrem Inhalt wurde hier bearbeitet. Wird die Datei geschrieben, geht diese Änderung verloren.</translation>
+    </message>
+    <message>
+        <source>%1
+were changed since the bot was read or saved here, and nothing that they hold was edited here. To write them takes these changes away.</source>
+        <translation>%1
+wurden geändert, seit der Bot hier gelesen oder gespeichert wurde, und nichts von ihrem Inhalt wurde hier bearbeitet. Werden die Dateien geschrieben, gehen diese Änderungen verloren.</translation>
+    </message>
+    <message>
+        <source>Close it there, then save again. This file was not changed.</source>
+        <translation>Schließen Sie sie dort und speichern Sie dann erneut. Diese Datei wurde nicht geändert.</translation>
+    </message>
+    <message>
+        <source>It stays open in the window, unsaved; what its author wrote in its files beside its values, such as comments, goes with them.</source>
+        <translation>Er bleibt im Fenster offen, ungespeichert; was sein Autor in seinen Dateien außer den Werten geschrieben hat, etwa Kommentare, geht mit ihnen verloren.</translation>
+    </message>
+    <message>
+        <source>Overwrite it</source>
+        <translation>Überschreiben</translation>
+    </message>
+    <message>
+        <source>Overwrite them</source>
+        <translation>Überschreiben</translation>
+    </message>
+    <message>
+        <source>The old file is kept beside the package as NAME.bak when it is written anew.</source>
+        <translation>Wird sie neu geschrieben, bleibt die alte Datei neben dem Paket als NAME.bak erhalten.</translation>
     </message>
 </context>
 </TS>

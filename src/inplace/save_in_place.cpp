@@ -157,6 +157,15 @@ bool Settle(const SaveInPlace& save, BotEdits& edits, InPlacePlan& result,
         left.push_back(kind);
         break;
       case Answer::kWriteAnew:
+        // What cannot be read now cannot be kept either.
+        if (const Result<std::string> old = BytesAt(edit.origin);
+            !old && IsFile(edit.origin.path)) {
+          save.prompts.Show({.title = std::string(kProgramTitle),
+                             .text = Describe(old.error()),
+                             .icon = MessageIcon::kExclamation});
+          result.is_cancelled = true;
+          return false;
+        }
         edit.outcome = FileEdit::Outcome::kEdited;
         edit.bytes = BytesOf(kind, save.bot, save.author);
         edit.made_from = nullptr;

@@ -126,7 +126,7 @@ Result<void> FileReplacement::CommitUnflushed() {
          .file = Utf8FromPath(target_),
          .line = 0,
          .advice = Localized(
-             "Close it there, then save again. Nothing was changed.")});
+             "Close it there, then save again. This file was not changed.")});
   }
   if (reason) return Failure(CannotWrite(target_, reason));
   temporary_.clear();

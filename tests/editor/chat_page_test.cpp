@@ -487,7 +487,11 @@ TEST_F(ChatPageTest, MovesNothingWhereTheHelpIsLonger) {
     page_.resize(width, 430);
     SelectType(kGameEntry);
     // The room for the help is made once its width is known.
-    QTest::qWait(50);
+    QRect last;
+    do {
+      last = Box()->geometry();
+      QTest::qWait(50);
+    } while (Box()->geometry() != last);
     const QRect place = spoken->geometry();
     const QRect box = Box()->geometry();
     for (const ChatTypeId type : kAllChatTypes) {

@@ -268,12 +268,11 @@ TEST_F(Habits, CallsABotSavedWhenAllItsFilesAre) {
 
 TEST_F(Habits, LeavesWhatOthersChangedInAFileThatWasNotEditedHere) {
   const auto file = SaveAs("Rookie", {});
-  const auto weights = folder_ / "rookie_w.c";
   window_->OpenPath(file);
-  const std::string key = "W_GAUNTLET";
-  std::string by_hand = *ReadFile(weights);
-  by_hand.replace(by_hand.find(key), key.size(), key + " 7 //");
-  ASSERT_TRUE(SaveFile(weights, by_hand));
+  const std::string key = "CHARACTERISTIC_ATTACK_SKILL";
+  std::string by_hand = *ReadFile(file);
+  by_hand.replace(by_hand.find(key), key.size(), key + " 0.5 //");
+  ASSERT_TRUE(SaveFile(file, by_hand));
   Type("txtBotPara_2", "Rookster");
   prompts_.log.clear();
   Choose("mnuSaveAgain");
@@ -282,7 +281,7 @@ TEST_F(Habits, LeavesWhatOthersChangedInAFileThatWasNotEditedHere) {
   constexpr std::size_t kSaveTheRest = 1;
   prompts_.choices = {kSaveTheRest};
   Choose("mnuSaveAgain");
-  EXPECT_EQ(*ReadFile(weights), by_hand);
+  EXPECT_EQ(*ReadFile(file), by_hand);
   EXPECT_THAT(*ReadFile(folder_ / "rookie.bot"), HasSubstr("Rookster"));
 }
 

@@ -147,12 +147,13 @@ TEST_F(SaveInPlaceByWindow, WritesWhatItShowsOverWhatAnotherHasWritten) {
                 "#include \"chars.h\"\nskill 5\n{\n"
                 "\tCHARACTERISTIC_ATTACK_SKILL\t\t\t\t\t0.77\n}\n");
   window_->current().SetParameter(Id(49), 60.0);
+  constexpr std::size_t kOverwrite = 2;
+  prompts_.choices = {kOverwrite};
   prompts_.confirmations = {true};
   prompts_.log.clear();
   Choose("mnuSaveAgain");
-  ASSERT_FALSE(prompts_.log.empty());
-  EXPECT_THAT(prompts_.log.front(), HasSubstr("rook_c.c"));
-  EXPECT_THAT(prompts_.log.front(), HasSubstr("rook_w.c"));
+  EXPECT_THAT(prompts_.log,
+              ElementsAre(HasSubstr("rook_c.c"), HasSubstr("rook_w.c")));
   EXPECT_THAT(folder_.Read("b/rook_w.c"), HasSubstr("W_SHOTGUN 20\n// theirs"));
   EXPECT_THAT(folder_.Read("b/rook_c.c"), HasSubstr("\t0.5\n"));
   EXPECT_THAT(folder_.Read("b/rook_w.c"), HasSubstr("W_RAILGUN 60"));

@@ -132,6 +132,15 @@ TEST_F(SaveInPlaceTest, AsksAboutWhatIsNotEditable) {
   EXPECT_TRUE(Save().leaves_changes);
   EXPECT_EQ(folder_.Read("botfiles/bots/rook_w.c"), kWeights);
 
+  // What cannot be read any more cannot be kept, and stays.
+  const std::string large(kMaxBotFileBytes + 1, ' ');
+  folder_.Write("botfiles/bots/rook_w.c", large);
+  prompts_.choices = {2};
+  EXPECT_TRUE(Save().is_cancelled);
+  EXPECT_EQ(folder_.Read("botfiles/bots/rook_w.c"), large);
+  EXPECT_FALSE(IsFile(folder_ / "botfiles/bots/rook_w.c.bak"));
+  folder_.Write("botfiles/bots/rook_w.c", kWeights);
+
   prompts_.choices = {2};
   EXPECT_FALSE(Save().leaves_changes);
   EXPECT_EQ(folder_.Read("botfiles/bots/rook_w.c.bak"), kWeights);
@@ -255,18 +264,6 @@ TEST_F(SaveInPlaceTest, ReplacesMembersOfTheBotsOwnPackage) {
               HasSubstr("0.500 // timid"));
   EXPECT_THAT(prompts_.log, IsEmpty());
 
-  // A member that is written anew is kept beside the package.
-  const std::string both = std::string(kCharacter) + "\n// }\n#if 0\n";
-  ASSERT_TRUE(WritePackage(package, {{"botfiles/bots/rook_c.c", both}}));
-  home_.files[BotFile::kCharacteristics].fingerprint = FingerprintOf(both);
-  bot_.Put(Id(402), 0.25);
-  prompts_.choices = {2};
-  ASSERT_TRUE(*SaveIntoOwnPackage(Saving(), home_));
-  EXPECT_THAT(prompts_.log, ElementsAre(HasSubstr("beside the package")));
-  EXPECT_EQ(folder_.Read("rook_c.c.bak"), both);
-  EXPECT_NE(*ReadPackageEntry(package, "botfiles/bots/rook_c.c"), both);
-  prompts_.log.clear();
-
   // Another program changed what is edited now; the safe answer keeps it.
   ASSERT_TRUE(WritePackage(package, {{"botfiles/bots/rook_c.c", kCharacter}}));
   bot_.Put(Id(402), 0.75);
@@ -274,6 +271,22 @@ TEST_F(SaveInPlaceTest, ReplacesMembersOfTheBotsOwnPackage) {
   EXPECT_THAT(prompts_.log,
               ElementsAre(HasSubstr("Changed since the bot was")));
   EXPECT_EQ(*ReadPackageEntry(package, "botfiles/bots/rook_c.c"), kCharacter);
+
+  // A member that is written anew is kept beside the package.
+  ASSERT_TRUE(WritePackage(package, {{"botfiles/bots/rook_w.c", kWeights}}));
+  home_.files = {{BotFile::kWeaponWeights,
+                  OriginFile{.path = package,
+                             .entry = "botfiles/bots/rook_w.c",
+                             .fingerprint = FingerprintOf(kWeights)}}};
+  home_.saved = std::make_shared<const Bot>(bot_);
+  bot_.Put(ParameterId(49), 70.0);
+  prompts_.log.clear();
+  prompts_.choices = {2};
+  ASSERT_TRUE(*SaveIntoOwnPackage(Saving(), home_));
+  EXPECT_THAT(prompts_.log, ElementsAre(HasSubstr("beside the package")));
+  EXPECT_EQ(folder_.Read("rook_w.c.bak"), kWeights);
+  EXPECT_THAT(*ReadPackageEntry(package, "botfiles/bots/rook_w.c"),
+              HasSubstr("#define W_RAILGUN\t\t\t\t70\r\n"));
 
   // Under another name the package is not its own.
   bot_.Put(kNameField, "Bishop");

@@ -332,7 +332,9 @@ BotSaver::Outcome BotSaver::Write(const SavePlan& plan, bool leaves_changes,
                       {where, Utf8FromPath(saved.package->path.filename())})
           : Localized("The bot was written to %1.", {where});
   Outcome outcome = Said(text);
-  if (!leaves_changes) {
+  // The game goes on with the old package.
+  const bool is_package_left = !has_box && plan.package && !saved.package;
+  if (!leaves_changes && !is_package_left) {
     outcome.saved = first;
     current_.SetChanged(false);
   }

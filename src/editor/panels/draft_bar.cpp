@@ -43,7 +43,7 @@ void DraftBar::Offer(const DraftKeeper::Found& found) {
                 .arg(name, when)
           : tr("The bot %1 was not saved when Fragsmith last ended. It was "
                "kept on %2; it is from %3.")
-                .arg(name, when, ShownPath(path)),
+                .arg(name, when, ShortPath(path)),
       found.notes);
 }
 

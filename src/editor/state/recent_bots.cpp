@@ -70,7 +70,7 @@ QStringList RecentBots::ToStrings() const {
 QString MenuText(const RecentBot& bot) {
   const std::string name =
       bot.name.empty() ? BotNameOfFile(bot.path).value_or("") : bot.name;
-  QString text = ToQString(name) + QStringLiteral(" - ") + ShownPath(bot.path);
+  QString text = ToQString(name) + QStringLiteral(" - ") + ShortPath(bot.path);
   return text.replace(u'&', QStringLiteral("&&"));
 }
 
