@@ -5,6 +5,7 @@
 #include <sstream>
 #include <string>
 #include <system_error>
+#include <utility>
 #include <vector>
 
 #include "cli/command_line.h"
@@ -361,26 +362,53 @@ TEST_F(EditCommand, NamesAGameFolderThatIsNotThere) {
   EXPECT_THAT(refused.err, HasSubstr("There is no such game folder."));
 }
 
-TEST_F(EditCommand, FindsABotByTheListThatItStandsIn) {
-  const std::string list =
-      "{\nname Rook\nmodel sarge\naifile bots/rook_c.c\n}\n"
-      "{\nname Tower\nmodel major\naifile bots/rook_c.c\n}\n";
-  folder_.Write("rook_c.c", "#include \"chars.h\"\n");
-  for (const char* const name : {"mine.bot", "bots.txt"}) {
-    folder_.Write(name, list);
+TEST_F(EditCommand, EditsTheOneThatIsNamedOfSeveralWithTheSameFiles) {
+  const auto block = [](const std::string& name, const std::string& model) {
+    return "{\nname " + name + "\nmodel " + model +
+           "\naifile bots/rook_c.c\n}\n";
+  };
+  const std::vector<std::string> names = {"Rook", "Tower", "Keep"};
+  folder_.Write("rook_c.c",
+                "#include \"chars.h\"\nskill 1\n{\n"
+                "CHARACTERISTIC_NAME \"Rook\"\n}\n");
+  const auto run = [this](const std::string& command, const std::string& name,
+                          std::vector<std::string> more) {
+    more.insert(more.begin(), {command, folder_.path().string(), name});
+    more.insert(more.end(),
+                {"--program-folder", (folder_ / "program").string()});
     std::istringstream in;
     std::ostringstream out;
     std::ostringstream err;
-    RunCommandLine(
-        {"edit", folder_.path().string(), "TOWER", "--set", "model=biker",
-         "--program-folder", (folder_ / "program").string()},
-        in, out, err);
-    EXPECT_EQ(folder_.Read(name),
-              "{\nname Rook\nmodel sarge\naifile bots/rook_c.c\n}\n"
-              "{\nname Tower\nmodel biker\naifile bots/rook_c.c\n}\n")
-        << err.str();
-    // Nothing is missing there.
-    EXPECT_THAT(err.str(), Not(HasSubstr("Unable to find bot file")));
+    const int status = RunCommandLine(std::move(more), in, out, err);
+    return Outcome{status, out.str(), err.str()};
+  };
+  for (const char* const file : {"mine.bot", "bots.txt", "rook.bot"}) {
+    for (const std::string& wanted : names) {
+      std::string old;
+      std::string edited;
+      for (const std::string& name : names) {
+        old += block(name, "of" + name);
+        edited += block(name, name == wanted ? "biker" : "of" + name);
+      }
+      folder_.Write(file, old);
+      EXPECT_THAT(run("load", wanted, {}).out, HasSubstr("of" + wanted));
+      const Outcome outcome = run("edit", wanted, {"--set", "model=biker"});
+      EXPECT_EQ(folder_.Read(file), edited) << file << outcome.err;
+      // Nothing is missing there.
+      EXPECT_THAT(outcome.err, Not(HasSubstr("Unable to find bot file")));
+    }
+    std::filesystem::remove(folder_ / file);
+  }
+  // The other may stand in a description of its own, beside the bot's.
+  folder_.Write("rook.bot", block("Rook", "sarge") + "// Hello\n");
+  folder_.Write("more.bot", block("Tower", "major"));
+  for (const auto& [name, file] :
+       {std::pair("TOWER", "more.bot"), {"Rook", "rook.bot"}}) {
+    const Outcome outcome = run("edit", name, {"--set", "model=biker"});
+    EXPECT_THAT(folder_.Read(file), HasSubstr("model biker")) << outcome.err;
+    EXPECT_EQ(outcome.err.find("rook.bot:") != std::string::npos,
+              std::string(file) == "rook.bot");
+    EXPECT_THAT(run("check", name, {}).out, HasSubstr(file));
   }
 }
 
