@@ -6256,5 +6256,9 @@ wurden nicht mit diesem Bot gelesen.</translation>
         <source>with bot_challenge on, the view snaps to the enemy</source>
         <translation>mit eingeschaltetem bot_challenge springt der Blick auf den Gegner</translation>
     </message>
+    <message>
+        <source>In line %1 a comment stands right behind the key, and the game takes both for one word, &quot;%2&quot;. Put a blank in front of the comment first.</source>
+        <translation>In Zeile %1 steht ein Kommentar direkt hinter dem Schlüssel, und das Spiel nimmt beides für ein Wort, &quot;%2&quot;. Setzen Sie zuerst ein Leerzeichen vor den Kommentar.</translation>
+    </message>
 </context>
 </TS>

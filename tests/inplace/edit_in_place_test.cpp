@@ -527,6 +527,16 @@ TEST(EditInPlaceTest, RefusesADescriptionWhoseLinesHoldMore) {
   }
 }
 
+TEST(EditInPlaceTest, AddsNoLineBesideAKeyThatACommentSpoils) {
+  const LoadedFile file(BotFile::kDescription,
+                        "{\nname Rook\nmodel/**/ sarge\nfunname//x Joe\n"
+                        "aifile bots/rook_c.c\n}\n");
+  EXPECT_THAT(file.Difference(file.Edited(kSkinField, "blue")),
+              HasSubstr("In line 3 a comment stands right behind the key"));
+  EXPECT_THAT(file.Difference(file.Edited(kFunNameField, "Max")),
+              HasSubstr("In line 4 a comment stands right behind the key"));
+}
+
 TEST(EditInPlaceTest, SaysThatADescriptionStandsInOneLine) {
   const LoadedFile file(BotFile::kDescription,
                         "{ name rook model sarge aifile bots/rook_c.c }\n");
