@@ -6260,5 +6260,9 @@ wurden nicht mit diesem Bot gelesen.</translation>
         <source>In line %1 a comment stands right behind the key, and the game takes both for one word, &quot;%2&quot;. Put a blank in front of the comment first.</source>
         <translation>In Zeile %1 steht ein Kommentar direkt hinter dem Schlüssel, und das Spiel nimmt beides für ein Wort, &quot;%2&quot;. Setzen Sie zuerst ein Leerzeichen vor den Kommentar.</translation>
     </message>
+    <message>
+        <source>By a link this file and %1 are one, and an edit would change both. Make two files of them first.</source>
+        <translation>Durch eine Verknüpfung sind diese Datei und %1 ein und dieselbe, und eine Bearbeitung würde beide ändern. Machen Sie zuerst zwei Dateien daraus.</translation>
+    </message>
 </context>
 </TS>

@@ -287,7 +287,15 @@ BotEdits EditAll(const OriginFiles& files, const Bot& before, const Bot& after,
     }
     const bool is_refused = edit.outcome == FileEdit::Outcome::kNotEditable;
     std::string reason;
-    if (!other.empty()) {
+    const std::string twin =
+        changes.empty() ? std::string() : OneWith(files, kind);
+    if (!twin.empty()) {
+      edit.bytes.clear();
+      reason = Localized(
+          "By a link this file and %1 are one, and an edit would change both. "
+          "Make two files of them first.",
+          {twin});
+    } else if (!other.empty()) {
       reason = Localized(
           "The game does not read this file for the bot, whose characteristic "
           "file names %1.",
@@ -301,7 +309,7 @@ BotEdits EditAll(const OriginFiles& files, const Bot& before, const Bot& after,
     edit.reason = {.what = std::move(reason),
                    .file = edit.shown,
                    .line = 0,
-                   .advice = other.empty()
+                   .advice = other.empty() || !twin.empty()
                                  ? std::string()
                                  : Localized("Name this file there, or edit "
                                              "the one that it names.")};

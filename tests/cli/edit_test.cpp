@@ -342,6 +342,26 @@ TEST_F(EditCommand, WritesThroughALink) {
   EXPECT_THAT(folder_.Read("elsewhere/real.c"), HasSubstr("W_GAUNTLET 45\n"));
 }
 
+TEST_F(EditCommand, LeavesFilesAloneThatALinkMakesOne) {
+  const auto weights = folder_ / "rook_w.c";
+  const auto items = folder_ / "rook_i.c";
+  const std::string old =
+      "#include \"inv.h\"\n#define W_GAUNTLET 20\n#define W_HEALTH 30\n";
+  folder_.Write("rook_w.c", old);
+  std::error_code reason;
+  std::filesystem::create_hard_link(weights, items, reason);
+  if (reason) GTEST_SKIP() << "no links here";
+  const Outcome linked = Run({"--set", "weaponWeights.W_GAUNTLET=45"});
+  EXPECT_EQ(linked.status, 1);
+  EXPECT_THAT(linked.err,
+              HasSubstr("rook_w.c: By a link this file and rook_i.c are one"));
+  std::filesystem::remove(items);
+  std::filesystem::create_symlink("rook_w.c", items, reason);
+  if (reason) GTEST_SKIP() << "no symbolic links here";
+  EXPECT_EQ(Run({"--set", "itemWeights.W_HEALTH=45"}).status, 1);
+  EXPECT_EQ(folder_.Read("rook_w.c"), old);
+}
+
 TEST_F(EditCommand, NamesAFileThatIsTooLarge) {
   folder_.Write("rook_w.c", kWeights + std::string(5'000'000, '\n'));
   const Outcome refused = Run({"--set", "weaponWeights.W_GAUNTLET=45"});
