@@ -362,6 +362,14 @@ TEST_F(EditCommand, LeavesFilesAloneThatALinkMakesOne) {
   EXPECT_EQ(folder_.Read("rook_w.c"), old);
 }
 
+TEST_F(EditCommand, WantsADocumentThatSaysSomething) {
+  for (const char* const empty : {"", " \n"}) {
+    const Outcome refused = Run({"--from", "-"}, empty);
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_THAT(refused.err, HasSubstr("This is no valid JSON"));
+  }
+}
+
 TEST_F(EditCommand, NamesAFileThatIsTooLarge) {
   folder_.Write("rook_w.c", kWeights + std::string(5'000'000, '\n'));
   const Outcome refused = Run({"--set", "weaponWeights.W_GAUNTLET=45"});
