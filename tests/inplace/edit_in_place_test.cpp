@@ -302,6 +302,27 @@ TEST(EditInPlaceTest, PadsALineThatOurReaderWouldReadOtherwise) {
       0.45);
 }
 
+TEST(EditInPlaceTest, GivesTheGameTheNumbersThatItMisses) {
+  const auto game = [](std::string_view path) {
+    return path.ends_with("code.c")
+               ? "weight \"Gauntlet\" { return W_GAUNTLET; }\n"
+                 "weight \"Railgun\" { return W_RAILGUN; }\n"
+                 "weight \"Shotgun\" { return W_SHOTGUN; }\n"
+               : StandInGameFile(path);
+  };
+  const LoadedFile file(BotFile::kWeaponWeights,
+                        "#include \"inv.h\"\n#define W_GAUNTLET\t\t\t\t20\n"
+                        "#include \"code.c\"\n",
+                        "rook", game);
+  Bot after = file.before();
+  after.Put(kRailgun, 70.0);
+  after.Put(kShotgun, 30.0);
+  const Result<std::string> edited = file.Edited(after);
+  ASSERT_TRUE(edited) << edited.error().what;
+  EXPECT_THAT(file.Difference(edited), HasSubstr("#define W_RAILGUN"));
+  EXPECT_EQ(file.readers().Read(*edited).first_error, "");
+}
+
 TEST(EditInPlaceTest, LeavesCommentsAlone) {
   // The game throws the first block away, and our reader takes a comment for
   // the value in the other.
