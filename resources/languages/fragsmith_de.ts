@@ -6264,5 +6264,13 @@ wurden nicht mit diesem Bot gelesen.</translation>
         <source>By a link this file and %1 are one, and an edit would change both. Make two files of them first.</source>
         <translation>Durch eine Verknüpfung sind diese Datei und %1 ein und dieselbe, und eine Bearbeitung würde beide ändern. Machen Sie zuerst zwei Dateien daraus.</translation>
     </message>
+    <message>
+        <source>The game would not read the new line: %1</source>
+        <translation>Das Spiel würde die neue Zeile nicht lesen: %1</translation>
+    </message>
+    <message>
+        <source>The game&apos;s files end at a sign with the number 0. Take it out.</source>
+        <translation>Die Dateien des Spiels enden an einem Zeichen mit der Nummer 0. Nehmen Sie es heraus.</translation>
+    </message>
 </context>
 </TS>

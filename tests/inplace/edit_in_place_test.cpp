@@ -558,6 +558,26 @@ TEST(EditInPlaceTest, AddsNoLineBesideAKeyThatACommentSpoils) {
               HasSubstr("In line 4 a comment stands right behind the key"));
 }
 
+TEST(EditInPlaceTest, SaysWhyALineCannotBeWritten) {
+  const auto chat_with = [](const std::string& lines) {
+    return LoadedFile(
+        BotFile::kChat,
+        "chat \"rook\"\n{\n\ttype \"game_enter\"\n\t{\n" + lines + "\t}\n}\n");
+  };
+  const ChatTypeId enter = TypeAt(0);
+  const LoadedFile whole = chat_with("\t\t\"one\";\n");
+  const auto refusal_of = [&](std::string line) {
+    return whole.Difference(whole.Edited(enter, {std::move(line)}));
+  };
+  EXPECT_THAT(refusal_of("say \"hi\""), HasSubstr("no double quote"));
+  EXPECT_THAT(refusal_of(std::string("a\0b", 3)), HasSubstr("the number 0"));
+  EXPECT_THAT(refusal_of(std::string(300, 'x')), HasSubstr("is too long"));
+  // The game has not read it, and so nothing can go behind it.
+  const LoadedFile open = chat_with("\t\t\"one\"\n");
+  EXPECT_THAT(open.Difference(open.Edited(enter, {"one", "two"})),
+              HasSubstr("A ; is missing at the end of this line"));
+}
+
 TEST(EditInPlaceTest, SaysThatADescriptionStandsInOneLine) {
   const LoadedFile file(BotFile::kDescription,
                         "{ name rook model sarge aifile bots/rook_c.c }\n");
