@@ -235,6 +235,8 @@ ExitStatus RunEdit(const EditOptions& options, CommandContext& context) {
   }
   PrintNotes(context, NotesOnName(edits, loaded.bot, after));
   if (options.is_dry_run) {
+    const Result<void> fits = CheckPackages(edits);
+    if (!fits) return Fail(context, fits.error());
     context.out << DiffOf(edits);
     return status;
   }

@@ -189,6 +189,19 @@ Error PutBack(const std::vector<const FileEdit*>& written, Error error) {
   return error;
 }
 
+/// The edited members of packages, by the package.
+std::map<fs::path, std::map<std::string, std::string>> PackedIn(
+    const BotEdits& edits) {
+  std::map<fs::path, std::map<std::string, std::string>> packages;
+  for (const auto& [kind, edit] : edits.files) {
+    if (edit.outcome == FileEdit::Outcome::kEdited &&
+        !edit.origin.is_on_disk()) {
+      packages[edit.origin.path][edit.origin.entry] = edit.bytes;
+    }
+  }
+  return packages;
+}
+
 /// By what name a description speaks of the bot: several of a list may share
 /// the files.
 std::string CalledIn(const std::string& description, const Bot& bot,
@@ -423,13 +436,19 @@ std::string DiffOf(const BotEdits& edits) {
   return diff;
 }
 
+Result<void> CheckPackages(const BotEdits& edits) {
+  for (const auto& [package, bytes] : PackedIn(edits)) {
+    const Result<std::string> done = PackageWith(package, bytes);
+    if (!done) return Failure(done.error());
+  }
+  return {};
+}
+
 Result<void> WriteEdits(BotEdits& edits) {
-  std::map<fs::path, std::map<std::string, std::string>> packages;
   std::vector<const FileEdit*> written;
   for (const auto& [kind, edit] : edits.files) {
-    if (edit.outcome != FileEdit::Outcome::kEdited) continue;
-    if (!edit.origin.is_on_disk()) {
-      packages[edit.origin.path][edit.origin.entry] = edit.bytes;
+    if (edit.outcome != FileEdit::Outcome::kEdited ||
+        !edit.origin.is_on_disk()) {
       continue;
     }
     const Result<void> done =
@@ -438,7 +457,7 @@ Result<void> WriteEdits(BotEdits& edits) {
     written.push_back(&edit);
   }
   // All of a bot's members lie in the same package.
-  for (const auto& [package, bytes] : packages) {
+  for (const auto& [package, bytes] : PackedIn(edits)) {
     const Result<void> done =
         ReplacePackageEntries(BehindLinks(package), bytes);
     if (!done) return Failure(PutBack(written, done.error()));
