@@ -6272,5 +6272,13 @@ wurden nicht mit diesem Bot gelesen.</translation>
         <source>The game&apos;s files end at a sign with the number 0. Take it out.</source>
         <translation>Die Dateien des Spiels enden an einem Zeichen mit der Nummer 0. Nehmen Sie es heraus.</translation>
     </message>
+    <message>
+        <source>The game does not read these lines for the bot, whose characteristic file asks for the chat &quot;%1&quot;: the file has the chat &quot;%2&quot;.</source>
+        <translation>Das Spiel liest diese Zeilen für den Bot nicht, dessen Charakterdatei nach dem Chat &quot;%1&quot; fragt: Die Datei hat den Chat &quot;%2&quot;.</translation>
+    </message>
+    <message>
+        <source>The game does not read this file for the bot: behind aifile %1 names %2.</source>
+        <translation>Das Spiel liest diese Datei für den Bot nicht: Hinter aifile nennt %1 die Datei %2.</translation>
+    </message>
 </context>
 </TS>

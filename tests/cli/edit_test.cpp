@@ -362,6 +362,36 @@ TEST_F(EditCommand, LeavesFilesAloneThatALinkMakesOne) {
   EXPECT_EQ(folder_.Read("rook_w.c"), old);
 }
 
+TEST_F(EditCommand, TellsOfFilesThatTheGameDoesNotReadForTheBot) {
+  const auto character = [](const std::string& chat) {
+    return "#include \"chars.h\"\nskill 1\n{\n\tCHARACTERISTIC_NAME\t\"rook\"\n"
+           "\tCHARACTERISTIC_CHAT_FILE\t\"bots/rook_t.c\"\n"
+           "\tCHARACTERISTIC_CHAT_NAME\t\"" +
+           chat + "\"\n}\n";
+  };
+  const auto told = [&](const std::string& file, const std::string& chat) {
+    folder_.Write("rook.bot", "{\nname rook\naifile " + file + "\n}\n");
+    folder_.Write("rook_c.c", character(chat));
+    const Outcome outcome =
+        Run({"--set", "weaponWeights.W_GAUNTLET=45", "--set",
+             "chats.kill_rail=[\"new\"]", "--dry-run"});
+    EXPECT_EQ(outcome.status, 0);
+    return outcome.err;
+  };
+  EXPECT_THAT(told("bots/rook_c.c", "Rook"),
+              Not(HasSubstr("The game does not read")));
+  EXPECT_THAT(told("bots/other_c.c", "rook"),
+              AllOf(HasSubstr("rook_w.c: The game does not read this file for "
+                              "the bot: behind aifile rook.bot names "
+                              "bots/other_c.c."),
+                    HasSubstr("rook_t.c: The game does not read this file"),
+                    Not(HasSubstr("asks for the chat"))));
+  EXPECT_THAT(told("bots\\rook_c.c", "other"),
+              AllOf(HasSubstr("asks for the chat \"other\": the file has the "
+                              "chat \"rook\"."),
+                    Not(HasSubstr("behind aifile"))));
+}
+
 TEST_F(EditCommand, WantsADocumentThatSaysSomething) {
   for (const char* const empty : {"", " \n"}) {
     const Outcome refused = Run({"--from", "-"}, empty);
