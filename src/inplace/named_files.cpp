@@ -18,6 +18,8 @@
 #include "inplace/origin_files.h"
 #include "inplace/splice.h"
 #include "model/file_names.h"
+#include "session/bot_file.h"
+#include "session/listed_description.h"
 #include "support/code_page.h"
 #include "support/files.h"
 #include "support/localization.h"
@@ -130,14 +132,29 @@ void NoteOtherChat(const OriginFiles& files, const std::string& shown,
                        {ShownText(wanted), ShownText(there)})});
 }
 
+/// The bot's description, or else one beside its files that has its name.
+std::optional<OriginFile> DescriptionOf(const OriginFiles& files,
+                                        const std::string& bot) {
+  const auto own = files.find(BotFile::kDescription);
+  if (own != files.end()) return own->second;
+  const OriginFile& character = files.at(BotFile::kCharacteristics);
+  if (!character.is_on_disk()) return std::nullopt;
+  const fs::path folder = character.path.parent_path();
+  const std::optional<fs::path> root = LayoutRootOf(folder);
+  const std::optional<fs::path> path =
+      FindListed(root ? *root / kScriptsFolder : folder, {}, bot);
+  return path ? std::optional(OriginFile{.path = *path}) : std::nullopt;
+}
+
 /// Bots that the same description gives the same characteristic file, and
 /// whether it gives this one another.
 void NoteListedBots(const OriginFiles& files, const std::string& bot,
                     const std::string& shown, Notes& notes) {
-  const auto list = files.find(BotFile::kDescription);
   const auto character = files.find(BotFile::kCharacteristics);
-  if (list == files.end() || character == files.end()) return;
-  const Result<std::string> bytes = BytesAt(list->second);
+  if (character == files.end()) return;
+  const std::optional<OriginFile> list = DescriptionOf(files, bot);
+  if (!list) return;
+  const Result<std::string> bytes = BytesAt(*list);
   if (!bytes) return;
   Complaints untold;
   NameList bots;
@@ -162,17 +179,17 @@ void NoteListedBots(const OriginFiles& files, const std::string& bot,
   if (!own_file.empty() &&
       !EqualIgnoringCase(PathLookedFor(own_file, FileHome::kPacked),
                          PathLookedFor(file, FileHome::kPacked))) {
-    notes.Add({shown, 0,
-               Localized("The game does not read this file for the bot: behind "
-                         "aifile %1 names %2.",
-                         {Utf8FromGameText(NameAt(list->second)),
-                          ShownText(own_file)})});
+    notes.Add(
+        {shown, 0,
+         Localized("The game does not read this file for the bot: behind "
+                   "aifile %1 names %2.",
+                   {Utf8FromGameText(NameAt(*list)), ShownText(own_file)})});
   }
   if (bots.empty()) return;
   notes.Add({shown, 0,
              Localized("The edit changes other bots too, which have the same "
                        "files by %1: %2.",
-                       {Utf8FromGameText(NameAt(list->second)), bots.Text()})});
+                       {Utf8FromGameText(NameAt(*list)), bots.Text()})});
 }
 
 }  // namespace

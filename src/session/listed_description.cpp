@@ -17,8 +17,10 @@ bool IsDescribed(std::string_view description, std::string_view called,
   const std::string character = CharacterPath(called);
   const std::vector<DescriptionBlock> blocks =
       ReadDescriptionBlocks(description).blocks;
+  if (called.empty() && name.empty()) return false;
   return std::ranges::any_of(blocks, [&](const DescriptionBlock& block) {
-    return EqualIgnoringCase(block.Text("aifile"), character) &&
+    return (called.empty() ||
+            EqualIgnoringCase(block.Text("aifile"), character)) &&
            (name.empty() || EqualIgnoringCase(block.Text("name"), name));
   });
 }

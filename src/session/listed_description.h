@@ -9,7 +9,7 @@
 namespace fragsmith {
 
 /// True where a description holds the bot whose files are called so, and under
-/// this name where one is given.
+/// this name where one is given. With a name alone the files do not matter.
 bool IsDescribed(std::string_view description, std::string_view called,
                  std::string_view name = {});
 

@@ -364,7 +364,8 @@ TEST_F(EditCommand, LeavesFilesAloneThatALinkMakesOne) {
 
 TEST_F(EditCommand, TellsOfFilesThatTheGameDoesNotReadForTheBot) {
   const auto character = [](const std::string& chat) {
-    return "#include \"chars.h\"\nskill 1\n{\n\tCHARACTERISTIC_NAME\t\"rook\"\n"
+    return "#include \"chars.h\"\nskill "
+           "1\n{\n\tCHARACTERISTIC_NAME\t\t\t\t\t\t\t\"rook\"\n"
            "\tCHARACTERISTIC_CHAT_FILE\t\"bots/rook_t.c\"\n"
            "\tCHARACTERISTIC_CHAT_NAME\t\"" +
            chat + "\"\n}\n";
@@ -390,6 +391,11 @@ TEST_F(EditCommand, TellsOfFilesThatTheGameDoesNotReadForTheBot) {
               AllOf(HasSubstr("asks for the chat \"other\": the file has the "
                               "chat \"rook\"."),
                     Not(HasSubstr("behind aifile"))));
+  // It is not the bot's own, and has its name.
+  std::filesystem::remove(folder_ / "rook.bot");
+  folder_.Write("bots.txt", "{\nname Rook\naifile bots/other_c.c\n}\n");
+  EXPECT_THAT(Run({"--set", "weaponWeights.W_GAUNTLET=45"}).err,
+              HasSubstr("behind aifile bots.txt names bots/other_c.c."));
 }
 
 TEST_F(EditCommand, WantsADocumentThatSaysSomething) {
