@@ -6302,5 +6302,29 @@ wurden geändert, seit der Bot hier gelesen oder gespeichert wurde, und nichts v
         <source>The old file is kept beside the package as NAME.bak when it is written anew.</source>
         <translation>Wird sie neu geschrieben, bleibt die alte Datei neben dem Paket als NAME.bak erhalten.</translation>
     </message>
+    <message>
+        <source>In line %1 a comment stands right behind the key, and the game takes both for one word, &quot;%2&quot;. Put a blank in front of the comment first.</source>
+        <translation>In Zeile %1 steht ein Kommentar direkt hinter dem Schlüssel, und das Spiel nimmt beides für ein Wort, &quot;%2&quot;. Setzen Sie zuerst ein Leerzeichen vor den Kommentar.</translation>
+    </message>
+    <message>
+        <source>By a link this file and %1 are one, and an edit would change both. Make two files of them first.</source>
+        <translation>Durch eine Verknüpfung sind diese Datei und %1 ein und dieselbe, und eine Bearbeitung würde beide ändern. Machen Sie zuerst zwei Dateien daraus.</translation>
+    </message>
+    <message>
+        <source>The game would not read the new line: %1</source>
+        <translation>Das Spiel würde die neue Zeile nicht lesen: %1</translation>
+    </message>
+    <message>
+        <source>The game&apos;s files end at a sign with the number 0. Take it out.</source>
+        <translation>Die Dateien des Spiels enden an einem Zeichen mit der Nummer 0. Nehmen Sie es heraus.</translation>
+    </message>
+    <message>
+        <source>The game does not read these lines for the bot, whose characteristic file asks for the chat &quot;%1&quot;: the file has the chat &quot;%2&quot;.</source>
+        <translation>Das Spiel liest diese Zeilen für den Bot nicht, dessen Charakterdatei nach dem Chat &quot;%1&quot; fragt: Die Datei hat den Chat &quot;%2&quot;.</translation>
+    </message>
+    <message>
+        <source>The game does not read this file for the bot: behind aifile %1 names %2.</source>
+        <translation>Das Spiel liest diese Datei für den Bot nicht: Hinter aifile nennt %1 die Datei %2.</translation>
+    </message>
 </context>
 </TS>

@@ -22,9 +22,13 @@ class BlockReader {
         Open(line);
       } else if (key == "}") {
         if (!file_.blocks.empty()) file_.blocks.back().last_line = line;
+        is_closed_ = true;
       } else {
-        // Behind a "}" that came too early the bot goes on.
-        if (file_.blocks.empty()) Open(line);
+        // Behind a "}" that came too early the bot goes on. But a brace with
+        // the key right behind it was meant to begin another.
+        if (file_.blocks.empty() || (is_closed_ && key.starts_with('{'))) {
+          Open(line);
+        }
         // The value stands on the line of its key, or is missing.
         const std::string_view value = TakeToken(code);
         DescriptionBlock& block = file_.blocks.back();
@@ -47,6 +51,7 @@ class BlockReader {
         !file_.blocks.empty() && file_.blocks.back().pairs.empty();
     if (is_empty) file_.blocks.pop_back();
     file_.blocks.push_back({line, line, {}});
+    is_closed_ = false;
   }
 
   /// Braces count only where they stand by themselves. What begins with curly
@@ -72,6 +77,7 @@ class BlockReader {
 
   DescriptionBlocks file_;
   std::size_t pairs_ = 0;
+  bool is_closed_ = false;  ///< The last block is.
 };
 
 }  // namespace

@@ -287,10 +287,11 @@ void TellOthers(const DescriptionBlocks& file, const DescriptionBlock& own,
   NameList others;
   for (const DescriptionBlock& block : file.blocks) {
     if (&block == &own) continue;
-    others.Add(Localized(
-        "\"%1\" (lines %2-%3)",
-        {ShownText(block.Text("name")), std::to_string(block.first_line),
-         std::to_string(block.last_line)}));
+    std::string name = block.Text("name");
+    if (name.empty()) name = block.Text("{name");
+    others.Add(Localized("\"%1\" (lines %2-%3)",
+                         {ShownText(name), std::to_string(block.first_line),
+                          std::to_string(block.last_line)}));
   }
   reader.AddNote(own.first_line,
                  Localized("The file describes several bots; this one is read "

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <set>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -29,14 +30,24 @@ std::vector<std::string> DescriptionPaths(const GivenFiles& given) {
   return paths;
 }
 
+bool HasBotNamed(const GameFile& file, const std::string& name) {
+  Complaints untold;
+  return std::ranges::any_of(ReadGameDescription(file, untold),
+                             [&name](const DescriptionSet& set) {
+                               return EqualIgnoringCase(set.Text("name"), name);
+                             });
+}
+
+using Speaks = bool (*)(const GameFile& file, const std::string& name);
+
 std::optional<GameFile> FindDescription(const GivenFiles& given,
-                                        const std::string& name,
+                                        const std::string& name, Speaks speaks,
                                         bool reads_list, bool& is_list) {
   std::vector<std::string> paths = DescriptionPaths(given);
   if (reads_list) paths.emplace_back(kBotListPath);
   for (const std::string& path : paths) {
     std::optional<GameFile> file = given.OpenInAnyCase(path);
-    if (!file || !SpeaksOf(*file, name)) continue;
+    if (!file || !speaks(*file, name)) continue;
     is_list = path == kBotListPath;
     return file;
   }
@@ -68,17 +79,27 @@ std::optional<ListedBot> FindListedBot(const GivenFiles& given,
                                        const std::string& name) {
   std::vector<std::string> paths = DescriptionPaths(given);
   paths.insert(paths.begin(), std::string(kBotListPath));
+  std::optional<ListedBot> listed;
+  std::set<std::string> others;
   for (const std::string& path : paths) {
     const std::optional<GameFile> file = given.OpenInAnyCase(path);
     if (!file) continue;
     Complaints untold;
     for (const DescriptionSet& set : ReadGameDescription(*file, untold)) {
-      if (!EqualIgnoringCase(set.Text("name"), name)) continue;
-      return ListedBot{std::string(set.Text("name")),
-                       BotOfPath(set.Text("aifile")), path == kBotListPath};
+      std::string file_name = BotOfPath(set.Text("aifile"));
+      if (!EqualIgnoringCase(set.Text("name"), name)) {
+        others.insert(std::move(file_name));
+      } else if (!listed) {
+        listed = {std::string(set.Text("name")), std::move(file_name),
+                  path == kBotListPath};
+      }
     }
   }
-  return std::nullopt;
+  if (listed) {
+    listed->shares_files =
+        !listed->file_name.empty() && others.contains(listed->file_name);
+  }
+  return listed;
 }
 
 BotOnDisk ReadBot(const GivenFiles& given, const std::string& name,
@@ -92,10 +113,15 @@ BotOnDisk ReadBot(const GivenFiles& given, const std::string& name,
     bot.files.*row.member = given.OpenInAnyCase(
         std::string(folder) + "/" + name + std::string(FileSuffix(row.file)));
   }
-  if (!bot.files.description || !listed_name.empty()) {
-    const std::string& wanted = listed_name.empty() ? name : listed_name;
+  const bool is_own =
+      bot.files.description &&
+      (listed_name.empty() || HasBotNamed(*bot.files.description, listed_name));
+  if (!is_own && !listed_name.empty()) {
+    bot.files.description = FindDescription(given, listed_name, HasBotNamed,
+                                            reads_list, bot.is_in_bot_list);
+  } else if (!is_own) {
     bot.files.description =
-        FindDescription(given, wanted, reads_list, bot.is_in_bot_list);
+        FindDescription(given, name, SpeaksOf, reads_list, bot.is_in_bot_list);
   }
   TakeNames(given, reads_list, bot);
   return bot;

@@ -31,6 +31,7 @@ struct ListedBot {
   std::string file_name;  ///< What its files are called by, in lower case.
   bool is_of_list =
       false;  ///< Of the list of bots, which the game reads first.
+  bool shares_files = false;  ///< With a bot of another name there.
 };
 
 /// The bot that the game adds by that name, whatever the case.

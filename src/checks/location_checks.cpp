@@ -135,8 +135,13 @@ Bot LocationCheck::Read() const {
                   read);
     read(kBotFileMembers.front());
   }
-  TakeGameValues(loaded, has_description, no_models,
-                 [this](std::string_view path) { return LookUp(path); });
+  const std::string name = loaded.bot.Name();
+  const bool is_listed = !location_.listed_name.empty();
+  if (is_listed) loaded.bot.Put(kNameField, location_.listed_name);
+  TakeGameValues(
+      loaded, has_description, no_models,
+      [this](std::string_view path) { return LookUp(path); }, is_listed);
+  loaded.bot.Put(kNameField, name);
   TakeValuesAsGame(loaded.bot, ReportOf(loaded, loaded.bot), no_models);
   if (on_disk_.files.chat) {
     TakeGameChats(

@@ -92,7 +92,8 @@ std::optional<BotChoice> FindListed(const std::vector<std::string>& names,
   if (found == names.end()) return std::nullopt;
   return BotChoice{.index = static_cast<std::size_t>(found - names.begin()),
                    .refusal = {},
-                   .listed_name = std::move(listed->name)};
+                   .listed_name = std::move(listed->name),
+                   .shares_files = listed->shares_files};
 }
 
 std::optional<ListedBot> FindUnfinished(const std::string& wanted,
@@ -151,8 +152,13 @@ BotChoice ChooseBot(const std::vector<std::string>& names,
   }
   const std::optional<std::size_t> index =
       wanted ? FindName(names, *wanted, given) : std::nullopt;
-  if (wanted && !index) {
-    if (auto listed = FindListed(names, *wanted, given)) return *listed;
+  if (wanted) {
+    // Of several bots with the same files the one is meant that is named.
+    if (auto listed = FindListed(names, *wanted, given);
+        listed &&
+        (!index || (listed->index == index && listed->shares_files))) {
+      return *listed;
+    }
   }
   if (!index) {
     context.err << "There is no bot " << Printable(options.name)

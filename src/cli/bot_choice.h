@@ -19,6 +19,7 @@ struct BotChoice {
   std::optional<std::size_t> index;
   ExitStatus refusal = kFailed;
   std::string listed_name = {};  ///< As in BotLocation.
+  bool shares_files = false;     ///< With another bot of the descriptions.
 };
 
 /// The bot whose files are called so, or which the game adds by that name.

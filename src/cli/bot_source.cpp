@@ -256,7 +256,8 @@ BotSourceOutcome ReadBotSource(const BotSource& options,
   const std::string& listed_name = outcome.found->listed_name;
   if (!listed_name.empty()) loaded->bot.Put(kNameField, listed_name);
   TakeGameValues(*loaded, !options.no_description, models,
-                 GameLookUpFor(options, outcome.found, context));
+                 GameLookUpFor(options, outcome.found, context),
+                 !listed_name.empty());
   PrintNotes(context, loaded->notes);
   if (options.as_game) {
     TakeValuesAsGame(loaded->bot, ReportOf(*loaded, loaded->bot), models);

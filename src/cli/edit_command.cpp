@@ -1,6 +1,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "chat/vocabulary.h"
@@ -26,6 +27,8 @@ struct EditOptions {
   std::string document;
   bool is_dry_run = false;
 };
+
+constexpr std::string_view kNoDocument = "{}";
 
 /// "PATH=VALUE"; nothing where there is no "=".
 std::optional<ValueAtPath> ValueIn(const std::string& text) {
@@ -59,7 +62,7 @@ void TakeOutRefused(const std::string& document, EditedBot& edited) {
 std::optional<WishedBot> EditedBotOf(const EditOptions& options,
                                      const std::vector<ValueAtPath>& values,
                                      const Bot& bot, CommandContext& context) {
-  std::string json;
+  std::string json(kNoDocument);
   if (!options.document.empty()) {
     Result<std::string> bytes = ReadDocumentBytes(options.document, context);
     if (!bytes) {
@@ -92,7 +95,7 @@ Bot BotBefore(const LoadedBot& loaded, const std::vector<ValueAtPath>& values,
   for (const auto& [id, value] : loaded.plain_values) as_game.Put(id, value);
   Notes untold;
   const Result<EditedBot> edited =
-      EditByDocument(as_game, {}, {}, values, untold);
+      EditByDocument(as_game, kNoDocument, {}, values, untold);
   Bot before = loaded.bot;
   if (!edited) return before;
   for (const auto& [id, value] : loaded.plain_values) {
@@ -232,6 +235,8 @@ ExitStatus RunEdit(const EditOptions& options, CommandContext& context) {
   }
   PrintNotes(context, NotesOnName(edits, loaded.bot, after));
   if (options.is_dry_run) {
+    const Result<void> fits = CheckPackages(edits);
+    if (!fits) return Fail(context, fits.error());
     context.out << DiffOf(edits);
     return status;
   }

@@ -2,9 +2,7 @@
 
 #include <algorithm>
 #include <array>
-#include <filesystem>
 #include <optional>
-#include <system_error>
 #include <utility>
 #include <variant>
 
@@ -18,8 +16,6 @@
 #include "inplace/lines_there.h"
 #include "inplace/named_files.h"
 #include "inplace/origin_files.h"
-#include "install/packages/package.h"
-#include "install/packages/package_writer.h"
 #include "model/characteristic_catalogue.h"
 #include "model/file_names.h"
 #include "session/bot_difference.h"
@@ -27,10 +23,8 @@
 #include "support/files.h"
 #include "support/localization.h"
 #include "support/text.h"
-#include "support/unified_diff.h"
 
 namespace fragsmith {
-namespace fs = std::filesystem;
 namespace {
 
 struct EditRules {
@@ -140,55 +134,6 @@ Bot AsInFile(const BothReaders& readers, std::string_view bytes,
   return now;
 }
 
-/// The folder that all of the bot's files lie below.
-fs::path RootOf(const BotEdits& edits) {
-  std::optional<fs::path> root;
-  for (const auto& [kind, edit] : edits.files) {
-    if (!edit.origin.is_on_disk()) continue;
-    const fs::path folder = edit.origin.path.parent_path();
-    if (!root) root = folder;
-    const auto [mine, theirs] =
-        std::mismatch(root->begin(), root->end(), folder.begin(), folder.end());
-    fs::path common;
-    for (auto part = root->begin(); part != mine; ++part) common /= *part;
-    root = common;
-  }
-  return root.value_or(fs::path());
-}
-
-/// What a patch calls the file: a member by its name, another from the root.
-std::string NameInDiff(const OriginFile& file, const fs::path& root) {
-  if (!file.is_on_disk()) return Utf8FromGameText(file.entry);
-  const fs::path name = file.path.lexically_relative(root);
-  return BytesFromPath(name.generic_u8string());
-}
-
-/// Where a symbolic link leads to: an edit leaves the link itself as it is. A
-/// file made anew takes the place of a link, but this one is the user's own.
-fs::path BehindLinks(const fs::path& path) {
-  std::error_code reason;
-  if (!fs::is_symlink(fs::symlink_status(path, reason))) return path;
-  fs::path target = fs::canonical(path, reason);
-  return reason ? path : target;
-}
-
-/// Gives files that were written their old bytes again. The error says what
-/// became of them.
-Error PutBack(const std::vector<const FileEdit*>& written, Error error) {
-  std::string kept;
-  for (const FileEdit* const edit : written) {
-    if (SaveFile(BehindLinks(edit->origin.path), edit->old_bytes)) continue;
-    kept += (kept.empty() ? "" : ", ") + edit->shown;
-  }
-  if (!kept.empty()) {
-    error.advice +=
-        " " + Localized("Written already, and not put back: %1.", {kept});
-  } else if (!written.empty()) {
-    error.advice += " " + Localized("The other files are as they were.");
-  }
-  return error;
-}
-
 /// By what name a description speaks of the bot: several of a list may share
 /// the files.
 std::string CalledIn(const std::string& description, const Bot& bot,
@@ -287,7 +232,15 @@ BotEdits EditAll(const OriginFiles& files, const Bot& before, const Bot& after,
     }
     const bool is_refused = edit.outcome == FileEdit::Outcome::kNotEditable;
     std::string reason;
-    if (!other.empty()) {
+    const std::string twin =
+        changes.empty() ? std::string() : OneWith(files, kind);
+    if (!twin.empty()) {
+      edit.bytes.clear();
+      reason = Localized(
+          "By a link this file and %1 are one, and an edit would change both. "
+          "Make two files of them first.",
+          {twin});
+    } else if (!other.empty()) {
       reason = Localized(
           "The game does not read this file for the bot, whose characteristic "
           "file names %1.",
@@ -301,7 +254,7 @@ BotEdits EditAll(const OriginFiles& files, const Bot& before, const Bot& after,
     edit.reason = {.what = std::move(reason),
                    .file = edit.shown,
                    .line = 0,
-                   .advice = other.empty()
+                   .advice = other.empty() || !twin.empty()
                                  ? std::string()
                                  : Localized("Name this file there, or edit "
                                              "the one that it names.")};
@@ -395,52 +348,6 @@ Notes KeepLinesElsewhere(const OriginFiles& files, const Bot& before,
                     std::to_string(kept.size())})});
   }
   return notes;
-}
-
-std::string DiffOf(const BotEdits& edits) {
-  std::string diff;
-  const fs::path root = RootOf(edits);
-  for (const BotFile kind : kOwnFilesFirst) {
-    const auto edit = edits.files.find(kind);
-    if (edit == edits.files.end() ||
-        edit->second.outcome != FileEdit::Outcome::kEdited) {
-      continue;
-    }
-    const std::string name = NameInDiff(edit->second.origin, root);
-    const bool is_new =
-        edit->second.origin.is_on_disk() && !IsFile(edit->second.origin.path);
-    diff += UnifiedDiff(edit->second.old_bytes, edit->second.bytes,
-                        is_new ? "/dev/null" : "a/" + name, "b/" + name);
-  }
-  return diff;
-}
-
-Result<void> WriteEdits(BotEdits& edits) {
-  std::map<fs::path, std::map<std::string, std::string>> packages;
-  std::vector<const FileEdit*> written;
-  for (const auto& [kind, edit] : edits.files) {
-    if (edit.outcome != FileEdit::Outcome::kEdited) continue;
-    if (!edit.origin.is_on_disk()) {
-      packages[edit.origin.path][edit.origin.entry] = edit.bytes;
-      continue;
-    }
-    const Result<void> done =
-        SaveFile(BehindLinks(edit.origin.path), edit.bytes);
-    if (!done) return Failure(PutBack(written, done.error()));
-    written.push_back(&edit);
-  }
-  // All of a bot's members lie in the same package.
-  for (const auto& [package, bytes] : packages) {
-    const Result<void> done =
-        ReplacePackageEntries(BehindLinks(package), bytes);
-    if (!done) return Failure(PutBack(written, done.error()));
-  }
-  for (auto& [kind, edit] : edits.files) {
-    if (edit.outcome != FileEdit::Outcome::kEdited) continue;
-    edit.origin.fingerprint = FingerprintOf(edit.bytes);
-    edit.origin.before_edits = edit.made_from;
-  }
-  return {};
 }
 
 }  // namespace fragsmith

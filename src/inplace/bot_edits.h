@@ -78,6 +78,9 @@ Notes KeepLinesElsewhere(const OriginFiles& files, const Bot& before,
 /// What the edits do to the files, as one unified diff.
 std::string DiffOf(const BotEdits& edits);
 
+/// Why a package cannot take its edited files; success where each can.
+Result<void> CheckPackages(const BotEdits& edits);
+
 /// Writes the edited files, in packages in the place of the old members, and
 /// holds fast in the origins what is there then. At an error the files before
 /// it are put back as they were; the error names those that cannot be.

@@ -26,14 +26,16 @@ namespace fragsmith {
 namespace fs = std::filesystem;
 namespace {
 
-/// The description of another name that has the bot, where its own would lie.
+/// The description of another name that has the bot, where its own would lie;
+/// the one that has it under this name where one is given.
 std::optional<OriginFile> ListBeside(const OriginFile& character,
-                                     const std::string& called) {
+                                     const std::string& called,
+                                     const std::string& name) {
   if (character.is_on_disk()) {
     const fs::path folder = character.path.parent_path();
     const std::optional<fs::path> root = LayoutRootOf(folder);
     const std::optional<fs::path> path =
-        FindListed(root ? *root / kScriptsFolder : folder, called);
+        FindListed(root ? *root / kScriptsFolder : folder, called, name);
     return path ? std::optional(OriginFile{.path = *path}) : std::nullopt;
   }
   Notes ignored;
@@ -52,9 +54,23 @@ std::optional<OriginFile> ListBeside(const OriginFile& character,
   for (const std::string& entry : entries) {
     OriginFile file = {.path = character.path, .entry = entry};
     const Result<std::string> bytes = BytesAt(file);
-    if (bytes && IsDescribed(*bytes, called)) return file;
+    if (bytes && IsDescribed(*bytes, called, name)) return file;
   }
   return std::nullopt;
+}
+
+/// Takes back what was read of another bot of the same files.
+void ForgetDescription(LoadedBot& loaded) {
+  const std::string shown = ShownAt(loaded.files.at(BotFile::kDescription));
+  loaded.notes.Remove(shown);
+  const Bot fresh;
+  for (const ParameterId id : {kFunNameField, kRailColorField, kModelField,
+                               kSkinField, kArenaLordField}) {
+    loaded.plain_values.erase(id);
+    // That of a standard bot stands in no file.
+    if (id == kArenaLordField && !loaded.has_arena_lord) continue;
+    loaded.bot.Put(id, fresh.Parameter(id));
+  }
 }
 
 }  // namespace
@@ -117,11 +133,28 @@ void TakeListedIdentity(LoadedBot& loaded, const ModelCatalogue& models) {
   const auto character = loaded.files.find(BotFile::kCharacteristics);
   if (character == loaded.files.end()) return;
   const std::string called = CalledBy(loaded.files);
-  std::optional<OriginFile> list = ListBeside(character->second, called);
+  const std::string name = loaded.bot.Name();
+  std::optional<OriginFile> list;
+  const auto own = loaded.files.find(BotFile::kDescription);
+  const bool has_own = own != loaded.files.end();
+  const bool is_own =
+      has_own &&
+      IsDescribed(BytesAt(own->second).value_or(std::string()), called, name);
+  if (is_own) list = own->second;
+  if (!list) list = ListBeside(character->second, called, name);
+  if (!list && !has_own) list = ListBeside(character->second, called, {});
   if (!list) return;
   const Result<std::string> bytes = BytesAt(*list);
   if (!bytes) return;
+  if (has_own) ForgetDescription(loaded);
   list->fingerprint = FingerprintOf(*bytes);
+  if (is_own) {
+    own->second.fingerprint = list->fingerprint;
+    ReadBotFile(BotFile::kDescription, WholeBot{}, *bytes, called,
+                ShownAt(*list), loaded);
+    UseCatalogueSpelling(loaded.bot, models);
+    return;
+  }
   const DescriptionReport report =
       ReadDescriptionFile(*bytes, ShownAt(*list), loaded.bot, called);
   for (const auto& [id, value] : report.plain_values) {
@@ -137,7 +170,7 @@ void TakeListedIdentity(LoadedBot& loaded, const ModelCatalogue& models) {
                     Localized("The bot has no description of its own; its "
                               "model, fun name and the rest are those of this "
                               "file.")});
-  loaded.files.emplace(BotFile::kDescription, std::move(*list));
+  loaded.files.insert_or_assign(BotFile::kDescription, *std::move(list));
 }
 
 namespace {

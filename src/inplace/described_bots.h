@@ -36,8 +36,9 @@ std::string BotsThatGo(const SavePlan& plan, const Bot& bot);
 /// game takes; UTF-8, empty without one.
 std::string NameDescribedTwice(const SavePlan& plan, const Bot& bot);
 
-/// A bot without a description of its own has what another one says of it, on
-/// disk or in its package, and that is then a file of the bot.
+/// A bot has what the description says of it that has its files and its name,
+/// on disk or in its package; without a description of its own also what
+/// another one says of its files. That is then a file of the bot.
 void TakeListedIdentity(LoadedBot& loaded, const ModelCatalogue& models);
 
 }  // namespace fragsmith

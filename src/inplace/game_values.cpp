@@ -199,8 +199,10 @@ void TakeGameChats(std::string_view bytes, const IncludeLookup& game,
 }
 
 void TakeGameValues(LoadedBot& loaded, bool wants_description,
-                    const ModelCatalogue& models, const IncludeLookup& game) {
-  if (wants_description && !loaded.files.contains(BotFile::kDescription)) {
+                    const ModelCatalogue& models, const IncludeLookup& game,
+                    bool is_listed_name) {
+  if (wants_description &&
+      (is_listed_name || !loaded.files.contains(BotFile::kDescription))) {
     TakeListedIdentity(loaded, models);
   }
   for (const BotFile kind : {BotFile::kCharacteristics, BotFile::kWeaponWeights,

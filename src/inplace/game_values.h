@@ -28,10 +28,12 @@ void TakeGameChats(std::string_view bytes, const IncludeLookup& game, Bot& bot);
 
 /// Gives a loaded bot what its author said in the game's own way: weights under
 /// other macros than ours, and where it has no description of its own and one
-/// is wanted, what a list of bots beside it says. Notes say what was found
-/// where.
+/// is wanted, what a list of bots beside it says. Of several bots with the same
+/// files the one is taken that has the bot's name, if it is one of a list.
+/// Notes say what was found where.
 void TakeGameValues(LoadedBot& loaded, bool wants_description,
-                    const ModelCatalogue& models, const IncludeLookup& game);
+                    const ModelCatalogue& models, const IncludeLookup& game,
+                    bool is_listed_name = false);
 
 }  // namespace fragsmith
 

@@ -12,10 +12,14 @@
 #include "botfiles/left_out.h"
 #include "game/character_reader.h"
 #include "game/description_reader.h"
+#include "game/game_path.h"
 #include "game/stand_ins.h"
+#include "inplace/file_reading.h"
 #include "inplace/origin_files.h"
 #include "inplace/splice.h"
 #include "model/file_names.h"
+#include "session/bot_file.h"
+#include "session/listed_description.h"
 #include "support/code_page.h"
 #include "support/files.h"
 #include "support/localization.h"
@@ -109,35 +113,83 @@ void NoteOtherBots(const fs::path& character, ParameterId field,
                        {bots.Text()})});
 }
 
-/// Bots that the same description gives the same characteristic file.
+/// The bot may ask for another chat than the file has.
+void NoteOtherChat(const OriginFiles& files, const std::string& shown,
+                   Notes& notes) {
+  const Result<std::string> bytes = BytesAt(files.at(BotFile::kChat));
+  if (!bytes) return;
+  std::string wanted;
+  for (const NamedFile& name : NamesInCharacter(files, kChatNameField)) {
+    if (EqualIgnoringCase(ChatNameIn(*bytes, {name.text}), name.text)) return;
+    wanted = name.text;
+  }
+  const std::string there = ChatNameIn(*bytes, {});
+  if (wanted.empty() || there.empty()) return;
+  notes.Add({shown, 0,
+             Localized("The game does not read these lines for the bot, whose "
+                       "characteristic file asks for the chat \"%1\": the file "
+                       "has the chat \"%2\".",
+                       {ShownText(wanted), ShownText(there)})});
+}
+
+/// The bot's description, or else one beside its files that has its name.
+std::optional<OriginFile> DescriptionOf(const OriginFiles& files,
+                                        const std::string& bot) {
+  const auto own = files.find(BotFile::kDescription);
+  if (own != files.end()) return own->second;
+  const OriginFile& character = files.at(BotFile::kCharacteristics);
+  if (!character.is_on_disk()) return std::nullopt;
+  const fs::path folder = character.path.parent_path();
+  const std::optional<fs::path> root = LayoutRootOf(folder);
+  const std::optional<fs::path> path =
+      FindListed(root ? *root / kScriptsFolder : folder, {}, bot);
+  return path ? std::optional(OriginFile{.path = *path}) : std::nullopt;
+}
+
+/// Bots that the same description gives the same characteristic file, and
+/// whether it gives this one another.
 void NoteListedBots(const OriginFiles& files, const std::string& bot,
                     const std::string& shown, Notes& notes) {
-  const auto list = files.find(BotFile::kDescription);
   const auto character = files.find(BotFile::kCharacteristics);
-  if (list == files.end() || character == files.end()) return;
-  const Result<std::string> bytes = BytesAt(list->second);
+  if (character == files.end()) return;
+  const std::optional<OriginFile> list = DescriptionOf(files, bot);
+  if (!list) return;
+  const Result<std::string> bytes = BytesAt(*list);
   if (!bytes) return;
   Complaints untold;
   NameList bots;
+  std::string_view own_file;
+  const std::string file = InBots(NameAt(character->second));
+  const std::vector<DescriptionSet> sets =
+      ReadGameDescription({{}, {}, *bytes}, untold);
   // The game's name of the bot itself may be another than its character's.
   Bot own;
   own.Put(kNameField, bot);
   const TextSpan block =
       ReadDescriptionFile(*bytes, {}, own, CalledBy(files)).block;
-  for (const DescriptionSet& set :
-       ReadGameDescription({{}, {}, *bytes}, untold)) {
+  for (const DescriptionSet& set : sets) {
     const std::string_view name = set.Text("name");
-    if (EqualIgnoringCase(set.Text("aifile"),
-                          InBots(NameAt(character->second))) &&
-        !EqualIgnoringCase(name, bot) && !Overlap(set.span, block)) {
+    const bool is_own = Overlap(set.span, block);
+    if (is_own) own_file = set.Text("aifile");
+    if (EqualIgnoringCase(set.Text("aifile"), file) && !is_own &&
+        !EqualIgnoringCase(name, bot)) {
       bots.Add(ShownText(name));
     }
+  }
+  if (!own_file.empty() &&
+      !EqualIgnoringCase(PathLookedFor(own_file, FileHome::kPacked),
+                         PathLookedFor(file, FileHome::kPacked))) {
+    notes.Add(
+        {shown, 0,
+         Localized("The game does not read this file for the bot: behind "
+                   "aifile %1 names %2.",
+                   {Utf8FromGameText(NameAt(*list)), ShownText(own_file)})});
   }
   if (bots.empty()) return;
   notes.Add({shown, 0,
              Localized("The edit changes other bots too, which have the same "
                        "files by %1: %2.",
-                       {Utf8FromGameText(NameAt(list->second)), bots.Text()})});
+                       {Utf8FromGameText(NameAt(*list)), bots.Text()})});
 }
 
 }  // namespace
@@ -173,6 +225,7 @@ std::string NamedInstead(const OriginFiles& files, BotFile kind) {
 void NoteOthers(const OriginFiles& files, BotFile kind, const std::string& bot,
                 const std::string& shown, Notes& notes) {
   if (kind != BotFile::kDescription) NoteListedBots(files, bot, shown, notes);
+  if (kind == BotFile::kChat) NoteOtherChat(files, shown, notes);
   const std::optional<ParameterId> field = FieldNaming(kind);
   const auto character = files.find(BotFile::kCharacteristics);
   if (!field || character == files.end()) return;

@@ -28,8 +28,9 @@ std::vector<NamedFile> NamesInCharacter(const OriginFiles& files,
 /// where it is this one, or where the character says nothing of it.
 std::string NamedInstead(const OriginFiles& files, BotFile kind);
 
-/// Notes at which levels the game has another file in this one's place, and
-/// which other bots of the folder or the description have it too.
+/// Notes at which levels the game has another file in this one's place, or for
+/// the bot as a whole, and which other bots of the folder or the description
+/// have it too.
 void NoteOthers(const OriginFiles& files, BotFile kind, const std::string& bot,
                 const std::string& shown, Notes& notes);
 

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <optional>
+#include <system_error>
 #include <utility>
 
 #include "game/game_path.h"
@@ -62,6 +63,18 @@ std::string CalledBy(const OriginFiles& files) {
     const std::string_view suffix = FileSuffix(kind);
     if (EndsWithIgnoringCase(name, suffix)) {
       return name.substr(0, name.size() - suffix.size());
+    }
+  }
+  return {};
+}
+
+std::string OneWith(const OriginFiles& files, BotFile kind) {
+  const OriginFile& own = files.at(kind);
+  for (const auto& [other, file] : files) {
+    std::error_code ignored;
+    if (other != kind && own.is_on_disk() && file.is_on_disk() &&
+        fs::equivalent(own.path, file.path, ignored)) {
+      return Utf8FromPath(file.path.filename());
     }
   }
   return {};

@@ -26,6 +26,10 @@ std::string ShownAt(const OriginFile& file);
 /// have other names.
 std::string CalledBy(const OriginFiles& files);
 
+/// Another file of the bot that a link makes one with this; UTF-8, empty
+/// without one.
+std::string OneWith(const OriginFiles& files, BotFile kind);
+
 /// What a bot's files include: from the package or the folder in which the
 /// file lies, else from the game.
 IncludeLookup LookUpBeside(const OriginFile& file, IncludeLookup game);

@@ -184,7 +184,7 @@ class ChatPlan {
     GameChat chat;
     if (!ReadGameChat(file, "c", context_.readers.game(), complaints, &chat) ||
         chat.types.size() != 1 || chat.types.front().lines.size() != 1) {
-      Refuse(Localized("The game would not read the new line."));
+      Refuse(WhyUnreadable(text, complaints));
       return std::nullopt;
     }
     const auto& list = complaints.list();
@@ -200,6 +200,22 @@ class ChatPlan {
     }
     line.words = std::move(chat.types.front().lines.front().words);
     return line;
+  }
+
+  static std::string WhyUnreadable(const std::string& text,
+                                   const Complaints& complaints) {
+    if (Contains(text, "\"")) {
+      return Localized(
+          "The game's files have no double quote within a text. Take it out.");
+    }
+    if (text.find('\0') != std::string::npos) {
+      return Localized(
+          "The game's files end at a sign with the number 0. Take it out.");
+    }
+    const std::optional<Complaint> fault = complaints.FirstError(0);
+    return fault ? Localized("The game would not read the new line: %1",
+                             {fault->text})
+                 : Localized("The game would not read the new line.");
   }
 
   static Lines Statements(const std::vector<NewLine>& lines,
@@ -315,7 +331,7 @@ class ChatPlan {
       if (!span.empty()) AddNewBlock(span, {});
     }
     if (last.empty() && !chat_.open.empty()) AddNewBlock(chat_.open, "\t");
-    if (plan_.attempts.empty()) {
+    if (plan_.attempts.empty() && plan_.refusal.empty()) {
       plan_.refusal = Localized("The file has no chat that the game reads.");
     }
   }
@@ -354,21 +370,34 @@ class ChatPlan {
     Lines texts;
     for (auto& [position, text] : ours) texts.push_back(std::move(text));
     attempt.expected[RuleFact(type_)] = FactOf(texts);
-    NoteOrder(texts);
+    if (!HasWantedOrder(texts)) {
+      const auto unread = std::ranges::find_if(old_, [](const OldLine& line) {
+        return !line.in_game && line.elsewhere.empty();
+      });
+      if (unread != old_.end()) {
+        plan_.refusal = context_.reading.first_error.empty()
+                            ? unread->why_fixed
+                            : BrokenRefusal(context_.reading);
+        return;
+      }
+      NoteOrder();
+    }
     plan_.attempts.push_back(std::move(attempt));
+  }
+
+  bool HasWantedOrder(const Lines& texts) const {
+    Lines wanted = context_.after.ChatLines(type_);
+    std::erase(wanted, std::string());
+    return texts == wanted;
   }
 
   /// Lines of several blocks stay in their own, and a load takes these one
   /// behind the other.
-  void NoteOrder(const Lines& texts) {
-    Lines wanted = context_.after.ChatLines(type_);
-    std::erase(wanted, std::string());
+  void NoteOrder() {
     const std::string note = Localized(
         "The lines of this situation stand in several blocks of the file, and "
         "each stays in its own: they come back in another order than given.");
-    if (texts != wanted && std::ranges::find(notes_, note) == notes_.end()) {
-      notes_.push_back(note);
-    }
+    if (std::ranges::find(notes_, note) == notes_.end()) notes_.push_back(note);
   }
 
   const PlanContext& context_;

@@ -113,6 +113,9 @@ class DescriptionPlan {
       }
       return plan;
     }
+    if (std::string glued = GluedCommentRefusal(key); !glued.empty()) {
+      return {.attempts = {}, .refusal = std::move(glued)};
+    }
     if (!text) return {.attempts = {}, .refusal = {}, .is_needless = true};
     Plan plan = {.attempts = {}, .refusal = OtherLineRefusal(key, false)};
     if (old != nullptr) {
@@ -195,6 +198,24 @@ class DescriptionPlan {
                           "in another word. Take that line out, or put it "
                           "further up, first."),
         {number});
+  }
+
+  /// Why there is no line of the key for the game, though one is meant to be
+  /// it; empty where there is none.
+  std::string GluedCommentRefusal(const std::string& key) const {
+    for (const auto& [word, value] : set_.values) {
+      const bool is_glued =
+          word.starts_with(key + "/*") || word.starts_with(key + "//");
+      if (!is_glued) continue;
+      return Localized(
+          "In line %1 a comment stands right behind the key, and the game "
+          "takes "
+          "both for one word, \"%2\". Put a blank in front of the comment "
+          "first.",
+          {std::to_string(LineNumberAt(context_.bytes, value.key.begin)),
+           ShownText(word)});
+    }
+    return {};
   }
 
   /// Why the name of one of several bots with the same files has to stay.

@@ -139,10 +139,14 @@ std::vector<FactKey> GivenFactsOf(const FileReading& reading, ParameterId id) {
 Plan PlanNewMacro(const PlanContext& context, ParameterId id,
                   std::string_view name) {
   const FileReading& reading = context.reading;
-  if (!reading.found.empty() && !reading.first_error.empty()) {
+  // What the game lacks may be this very number, or one given along with it.
+  const bool lacks_numbers_alone =
+      reading.errors.size() == 1 && reading.errors.contains("macro-missing");
+  if (!reading.found.empty() && !lacks_numbers_alone &&
+      !reading.first_error.empty()) {
     return {.attempts = {}, .refusal = BrokenRefusal(reading)};
   }
-  if (!reading.found.empty()) {
+  if (!reading.found.empty() && !lacks_numbers_alone) {
     return {.attempts = {},
             .refusal =
                 GivenFactsOf(reading, id).empty()

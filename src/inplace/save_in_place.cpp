@@ -404,6 +404,9 @@ std::string ChangesToShow(const SaveInPlace& save) {
     notes = AddNewFiles(shown, *std::move(plan), edits);
   }
   std::string text = DiffOf(edits);
+  if (const Result<void> fits = CheckPackages(edits); !fits) {
+    text += Describe(fits.error()) + "\n";
+  }
   notes.Append(NotesOf(edits));
   for (const Note& note : notes.list()) {
     text += note.file + ": " + note.text + "\n";

@@ -251,7 +251,7 @@ Result<EditedBot> EditByDocument(const Bot& bot, std::string_view json,
                                  const std::vector<ValueAtPath>& values,
                                  Notes& notes) {
   const Json own = BotDocumentToJson(bot);
-  return ReadJson(json.empty() ? "{}" : json, file, [&](const Json& patch) {
+  return ReadJson(json, file, [&](const Json& patch) {
     const UnknownKeys unknown = {
         .are_slips = true, .file = file, .notes = notes};
     RefuseNulls(patch, {});

@@ -29,8 +29,8 @@ struct EditedBot {
 };
 
 /// Gives the bot the values of a document, which may leave keys out, and then
-/// those at the paths. All that they do not speak of stays as it is. The
-/// document is empty where there is none.
+/// those at the paths. All that they do not speak of stays as it is. Where
+/// there is no document it is "{}".
 Result<EditedBot> EditByDocument(const Bot& bot, std::string_view json,
                                  const std::string& file,
                                  const std::vector<ValueAtPath>& values,

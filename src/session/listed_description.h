@@ -8,14 +8,17 @@
 
 namespace fragsmith {
 
-/// True where a description holds the bot whose files are called so.
-bool IsDescribed(std::string_view description, std::string_view called);
+/// True where a description holds the bot whose files are called so, and under
+/// this name where one is given. With a name alone the files do not matter.
+bool IsDescribed(std::string_view description, std::string_view called,
+                 std::string_view name = {});
 
 /// Of a folder's descriptions the one that holds the bot whose files are called
-/// so: the list of bots, which the game reads first, or one that is called
-/// otherwise.
+/// so, and under this name where one is given: the list of bots, which the game
+/// reads first, or one that is called otherwise.
 std::optional<std::filesystem::path> FindListed(
-    const std::filesystem::path& folder, std::string_view called);
+    const std::filesystem::path& folder, std::string_view called,
+    std::string_view name = {});
 
 }  // namespace fragsmith
 

@@ -45,4 +45,8 @@ void Notes::Remove(const std::string& file, NoteKind kind, std::size_t line) {
   });
 }
 
+void Notes::Remove(const std::string& file) {
+  std::erase_if(list_, [&file](const Note& note) { return note.file == file; });
+}
+
 }  // namespace fragsmith

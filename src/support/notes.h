@@ -41,6 +41,8 @@ class Notes {
   /// Takes back what has proved wrong: the notes of that kind on the file, or
   /// on one line of it.
   void Remove(const std::string& file, NoteKind kind, std::size_t line = 0);
+  /// Takes back all notes on the file.
+  void Remove(const std::string& file);
 
   const std::vector<Note>& list() const { return list_; }
   std::size_t left_out() const { return left_out_; }

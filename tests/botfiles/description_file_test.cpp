@@ -88,6 +88,10 @@ TEST(DescriptionFile, ReadsOddLinesByItsOwnRules) {
       // Of several bots the one with the file, or with the name.
       {"{|model>a|}|{|name>n|model>b|}", "|None|b|default|5", 0},
       {"{|name>N|color>3|}|{|aifile>bots/n_c.c|model>b|} {|name n|}",
+       "|None|b|default|5", 0},
+      // A brace that the key is glued to takes nothing from the one before.
+      {"{|model>a|aifile bots/n_c.c|}|{|name N|model>b|aifile bots/n_c.c|}|"
+       "{name O model c aifile bots/o_c.c}",
        "|None|b|default|5", 0}};
   // clang-format on
   for (const auto& row : cases) {

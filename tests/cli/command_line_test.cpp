@@ -338,6 +338,22 @@ TEST_F(CommandLine, LeavesTheNameOfABotInItsOwnPackage) {
                         "Take the bot's files out of it"));
 }
 
+TEST_F(CommandLine, TriesAPackageThatCannotTakeAnEdit) {
+  Run("make - --into @to --pk3", R"({"name": "Rookie"})");
+  const std::string name = "to/bot-Rookie.pk3";
+  const std::string odd = "junk" + folder_.Read(name);
+  folder_.Write(name, odd);
+  ASSERT_EQ(Run("load @" + name).status, 0);
+  for (const std::string more : {"", " --dry-run"}) {
+    const Outcome refused =
+        Run("edit @" + name + " --set weaponWeights.W_GAUNTLET=45" + more);
+    EXPECT_EQ(refused.status, 1) << more;
+    EXPECT_EQ(refused.out, "") << more;
+    EXPECT_THAT(refused.err, HasSubstr("bot-Rookie.pk3: ")) << more;
+  }
+  EXPECT_EQ(folder_.Read(name), odd);
+}
+
 TEST_F(CommandLine, TakesADocumentOfANewerVersion) {
   const std::string newer = R"({"format": 2, "name": "Newt", "tags": []})";
   const Outcome made = Run("make - --into @to", newer);

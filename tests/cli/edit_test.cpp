@@ -5,6 +5,7 @@
 #include <sstream>
 #include <string>
 #include <system_error>
+#include <utility>
 #include <vector>
 
 #include "cli/command_line.h"
@@ -341,6 +342,70 @@ TEST_F(EditCommand, WritesThroughALink) {
   EXPECT_THAT(folder_.Read("elsewhere/real.c"), HasSubstr("W_GAUNTLET 45\n"));
 }
 
+TEST_F(EditCommand, LeavesFilesAloneThatALinkMakesOne) {
+  const auto weights = folder_ / "rook_w.c";
+  const auto items = folder_ / "rook_i.c";
+  const std::string old =
+      "#include \"inv.h\"\n#define W_GAUNTLET 20\n#define W_HEALTH 30\n";
+  folder_.Write("rook_w.c", old);
+  std::error_code reason;
+  std::filesystem::create_hard_link(weights, items, reason);
+  if (reason) GTEST_SKIP() << "no links here";
+  const Outcome linked = Run({"--set", "weaponWeights.W_GAUNTLET=45"});
+  EXPECT_EQ(linked.status, 1);
+  EXPECT_THAT(linked.err,
+              HasSubstr("rook_w.c: By a link this file and rook_i.c are one"));
+  std::filesystem::remove(items);
+  std::filesystem::create_symlink("rook_w.c", items, reason);
+  if (reason) GTEST_SKIP() << "no symbolic links here";
+  EXPECT_EQ(Run({"--set", "itemWeights.W_HEALTH=45"}).status, 1);
+  EXPECT_EQ(folder_.Read("rook_w.c"), old);
+}
+
+TEST_F(EditCommand, TellsOfFilesThatTheGameDoesNotReadForTheBot) {
+  const auto character = [](const std::string& chat) {
+    return "#include \"chars.h\"\nskill "
+           "1\n{\n\tCHARACTERISTIC_NAME\t\t\t\t\t\t\t\"rook\"\n"
+           "\tCHARACTERISTIC_CHAT_FILE\t\"bots/rook_t.c\"\n"
+           "\tCHARACTERISTIC_CHAT_NAME\t\"" +
+           chat + "\"\n}\n";
+  };
+  const auto told = [&](const std::string& file, const std::string& chat) {
+    folder_.Write("rook.bot", "{\nname rook\naifile " + file + "\n}\n");
+    folder_.Write("rook_c.c", character(chat));
+    const Outcome outcome =
+        Run({"--set", "weaponWeights.W_GAUNTLET=45", "--set",
+             "chats.kill_rail=[\"new\"]", "--dry-run"});
+    EXPECT_EQ(outcome.status, 0);
+    return outcome.err;
+  };
+  EXPECT_THAT(told("bots/rook_c.c", "Rook"),
+              Not(HasSubstr("The game does not read")));
+  EXPECT_THAT(told("bots/other_c.c", "rook"),
+              AllOf(HasSubstr("rook_w.c: The game does not read this file for "
+                              "the bot: behind aifile rook.bot names "
+                              "bots/other_c.c."),
+                    HasSubstr("rook_t.c: The game does not read this file"),
+                    Not(HasSubstr("asks for the chat"))));
+  EXPECT_THAT(told("bots\\rook_c.c", "other"),
+              AllOf(HasSubstr("asks for the chat \"other\": the file has the "
+                              "chat \"rook\"."),
+                    Not(HasSubstr("behind aifile"))));
+  // It is not the bot's own, and has its name.
+  std::filesystem::remove(folder_ / "rook.bot");
+  folder_.Write("bots.txt", "{\nname Rook\naifile bots/other_c.c\n}\n");
+  EXPECT_THAT(Run({"--set", "weaponWeights.W_GAUNTLET=45"}).err,
+              HasSubstr("behind aifile bots.txt names bots/other_c.c."));
+}
+
+TEST_F(EditCommand, WantsADocumentThatSaysSomething) {
+  for (const char* const empty : {"", " \n"}) {
+    const Outcome refused = Run({"--from", "-"}, empty);
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_THAT(refused.err, HasSubstr("This is no valid JSON"));
+  }
+}
+
 TEST_F(EditCommand, NamesAFileThatIsTooLarge) {
   folder_.Write("rook_w.c", kWeights + std::string(5'000'000, '\n'));
   const Outcome refused = Run({"--set", "weaponWeights.W_GAUNTLET=45"});
@@ -361,26 +426,53 @@ TEST_F(EditCommand, NamesAGameFolderThatIsNotThere) {
   EXPECT_THAT(refused.err, HasSubstr("There is no such game folder."));
 }
 
-TEST_F(EditCommand, FindsABotByTheListThatItStandsIn) {
-  const std::string list =
-      "{\nname Rook\nmodel sarge\naifile bots/rook_c.c\n}\n"
-      "{\nname Tower\nmodel major\naifile bots/rook_c.c\n}\n";
-  folder_.Write("rook_c.c", "#include \"chars.h\"\n");
-  for (const char* const name : {"mine.bot", "bots.txt"}) {
-    folder_.Write(name, list);
+TEST_F(EditCommand, EditsTheOneThatIsNamedOfSeveralWithTheSameFiles) {
+  const auto block = [](const std::string& name, const std::string& model) {
+    return "{\nname " + name + "\nmodel " + model +
+           "\naifile bots/rook_c.c\n}\n";
+  };
+  const std::vector<std::string> names = {"Rook", "Tower", "Keep"};
+  folder_.Write("rook_c.c",
+                "#include \"chars.h\"\nskill 1\n{\n"
+                "CHARACTERISTIC_NAME \"Rook\"\n}\n");
+  const auto run = [this](const std::string& command, const std::string& name,
+                          std::vector<std::string> more) {
+    more.insert(more.begin(), {command, folder_.path().string(), name});
+    more.insert(more.end(),
+                {"--program-folder", (folder_ / "program").string()});
     std::istringstream in;
     std::ostringstream out;
     std::ostringstream err;
-    RunCommandLine(
-        {"edit", folder_.path().string(), "TOWER", "--set", "model=biker",
-         "--program-folder", (folder_ / "program").string()},
-        in, out, err);
-    EXPECT_EQ(folder_.Read(name),
-              "{\nname Rook\nmodel sarge\naifile bots/rook_c.c\n}\n"
-              "{\nname Tower\nmodel biker\naifile bots/rook_c.c\n}\n")
-        << err.str();
-    // Nothing is missing there.
-    EXPECT_THAT(err.str(), Not(HasSubstr("Unable to find bot file")));
+    const int status = RunCommandLine(std::move(more), in, out, err);
+    return Outcome{status, out.str(), err.str()};
+  };
+  for (const char* const file : {"mine.bot", "bots.txt", "rook.bot"}) {
+    for (const std::string& wanted : names) {
+      std::string old;
+      std::string edited;
+      for (const std::string& name : names) {
+        old += block(name, "of" + name);
+        edited += block(name, name == wanted ? "biker" : "of" + name);
+      }
+      folder_.Write(file, old);
+      EXPECT_THAT(run("load", wanted, {}).out, HasSubstr("of" + wanted));
+      const Outcome outcome = run("edit", wanted, {"--set", "model=biker"});
+      EXPECT_EQ(folder_.Read(file), edited) << file << outcome.err;
+      // Nothing is missing there.
+      EXPECT_THAT(outcome.err, Not(HasSubstr("Unable to find bot file")));
+    }
+    std::filesystem::remove(folder_ / file);
+  }
+  // The other may stand in a description of its own, beside the bot's.
+  folder_.Write("rook.bot", block("Rook", "sarge") + "// Hello\n");
+  folder_.Write("more.bot", block("Tower", "major"));
+  for (const auto& [name, file] :
+       {std::pair("TOWER", "more.bot"), {"Rook", "rook.bot"}}) {
+    const Outcome outcome = run("edit", name, {"--set", "model=biker"});
+    EXPECT_THAT(folder_.Read(file), HasSubstr("model biker")) << outcome.err;
+    EXPECT_EQ(outcome.err.find("rook.bot:") != std::string::npos,
+              std::string(file) == "rook.bot");
+    EXPECT_THAT(run("check", name, {}).out, HasSubstr(file));
   }
 }
 

@@ -302,6 +302,27 @@ TEST(EditInPlaceTest, PadsALineThatOurReaderWouldReadOtherwise) {
       0.45);
 }
 
+TEST(EditInPlaceTest, GivesTheGameTheNumbersThatItMisses) {
+  const auto game = [](std::string_view path) {
+    return path.ends_with("code.c")
+               ? "weight \"Gauntlet\" { return W_GAUNTLET; }\n"
+                 "weight \"Railgun\" { return W_RAILGUN; }\n"
+                 "weight \"Shotgun\" { return W_SHOTGUN; }\n"
+               : StandInGameFile(path);
+  };
+  const LoadedFile file(BotFile::kWeaponWeights,
+                        "#include \"inv.h\"\n#define W_GAUNTLET\t\t\t\t20\n"
+                        "#include \"code.c\"\n",
+                        "rook", game);
+  Bot after = file.before();
+  after.Put(kRailgun, 70.0);
+  after.Put(kShotgun, 30.0);
+  const Result<std::string> edited = file.Edited(after);
+  ASSERT_TRUE(edited) << edited.error().what;
+  EXPECT_THAT(file.Difference(edited), HasSubstr("#define W_RAILGUN"));
+  EXPECT_EQ(file.readers().Read(*edited).first_error, "");
+}
+
 TEST(EditInPlaceTest, LeavesCommentsAlone) {
   // The game throws the first block away, and our reader takes a comment for
   // the value in the other.
@@ -525,6 +546,36 @@ TEST(EditInPlaceTest, RefusesADescriptionWhoseLinesHoldMore) {
           << text;
     }
   }
+}
+
+TEST(EditInPlaceTest, AddsNoLineBesideAKeyThatACommentSpoils) {
+  const LoadedFile file(BotFile::kDescription,
+                        "{\nname Rook\nmodel/**/ sarge\nfunname//x Joe\n"
+                        "aifile bots/rook_c.c\n}\n");
+  EXPECT_THAT(file.Difference(file.Edited(kSkinField, "blue")),
+              HasSubstr("In line 3 a comment stands right behind the key"));
+  EXPECT_THAT(file.Difference(file.Edited(kFunNameField, "Max")),
+              HasSubstr("In line 4 a comment stands right behind the key"));
+}
+
+TEST(EditInPlaceTest, SaysWhyALineCannotBeWritten) {
+  const auto chat_with = [](const std::string& lines) {
+    return LoadedFile(
+        BotFile::kChat,
+        "chat \"rook\"\n{\n\ttype \"game_enter\"\n\t{\n" + lines + "\t}\n}\n");
+  };
+  const ChatTypeId enter = TypeAt(0);
+  const LoadedFile whole = chat_with("\t\t\"one\";\n");
+  const auto refusal_of = [&](std::string line) {
+    return whole.Difference(whole.Edited(enter, {std::move(line)}));
+  };
+  EXPECT_THAT(refusal_of("say \"hi\""), HasSubstr("no double quote"));
+  EXPECT_THAT(refusal_of(std::string("a\0b", 3)), HasSubstr("the number 0"));
+  EXPECT_THAT(refusal_of(std::string(300, 'x')), HasSubstr("is too long"));
+  // The game has not read it, and so nothing can go behind it.
+  const LoadedFile open = chat_with("\t\t\"one\"\n");
+  EXPECT_THAT(open.Difference(open.Edited(enter, {"one", "two"})),
+              HasSubstr("A ; is missing at the end of this line"));
 }
 
 TEST(EditInPlaceTest, SaysThatADescriptionStandsInOneLine) {

@@ -151,7 +151,7 @@ Result<void> WritePackage(const std::filesystem::path& path,
   return Failure(InFile(bytes.error(), path));
 }
 
-Result<void> ReplacePackageEntries(
+Result<std::string> PackageWith(
     const std::filesystem::path& path,
     const std::map<std::string, std::string>& contents) {
   // Refuses what would not be opened for reading either. Closed again: Windows
@@ -161,7 +161,7 @@ Result<void> ReplacePackageEntries(
   }
   const Result<std::string> old = ReadFile(path);
   if (!old) return Failure(old.error());
-  const Result<std::string> bytes =
+  Result<std::string> bytes =
       Changed(*old, 0, [&contents](zip_t* archive) -> Result<void> {
         for (const auto& [name, content] : contents) {
           Result<void> replaced = ReplaceEntry(archive, name, content);
@@ -170,6 +170,14 @@ Result<void> ReplacePackageEntries(
         return {};
       });
   if (!bytes) return Failure(InFile(bytes.error(), path));
+  return bytes;
+}
+
+Result<void> ReplacePackageEntries(
+    const std::filesystem::path& path,
+    const std::map<std::string, std::string>& contents) {
+  const Result<std::string> bytes = PackageWith(path, contents);
+  if (!bytes) return Failure(bytes.error());
   return SaveFile(path, *bytes);
 }
 

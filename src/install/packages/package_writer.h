@@ -23,9 +23,14 @@ Result<std::string> FormatPackage(const std::vector<PackageEntry>& entries);
 Result<void> WritePackage(const std::filesystem::path& path,
                           const std::vector<PackageEntry>& entries);
 
-/// Gives files of the package other contents, by their names in any case and
+/// The package with other contents of files, by their names in any case and
 /// with either slash. All else in it stays as it is, packed data and dates
 /// too. A name that is not there, or several times, is refused.
+Result<std::string> PackageWith(
+    const std::filesystem::path& path,
+    const std::map<std::string, std::string>& contents);
+
+/// Puts that in the place of the package.
 Result<void> ReplacePackageEntries(
     const std::filesystem::path& path,
     const std::map<std::string, std::string>& contents);
