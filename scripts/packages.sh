@@ -14,7 +14,7 @@ packages_pictures=(imagemagick python3)
 packages_trust=(python3 valgrind)
 packages_windows=(cmake ninja-build pkg-config dpkg-dev
   qt6-l10n-tools g++-mingw-w64-x86-64-posix libz-mingw-w64-dev libstb-dev libexpected-dev
-  libcli11-dev nlohmann-json3-dev googletest)
+  libcli11-dev nlohmann-json3-dev googletest python3)
 packages_installer=(nsis)
 packages_wine=(wine wine64 python3)
 packages_packaging=(dpkg-dev lintian desktop-file-utils appstream file

@@ -11,6 +11,7 @@ Unicode true
 ManifestDPIAware true
 SetCompressor /SOLID lzma
 SetDateSave off
+AllowSkipFiles off
 RequestExecutionLevel user
 
 !include MUI2.nsh
@@ -108,6 +109,31 @@ Function TakeForWhom
   ${EndIf}
 FunctionEnd
 
+; A program that runs cannot be written over or removed: the files of two
+; versions would lie side by side, or be left with nothing that removes them.
+!macro NeedWritable PROGRAM
+  ${Do}
+    ClearErrors
+    ${IfNot} ${FileExists} "$INSTDIR\${PROGRAM}"
+      ${ExitDo}
+    ${EndIf}
+    FileOpen $0 "$INSTDIR\${PROGRAM}" a
+    FileClose $0
+    ${IfNot} ${Errors}
+      ${ExitDo}
+    ${EndIf}
+    MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "Close Fragsmith first: \
+      $INSTDIR\${PROGRAM} is in use, or you have no right to change it." \
+      /SD IDCANCEL IDRETRY +2
+    Abort
+  ${Loop}
+!macroend
+!macro NeedAllWritable
+  !insertmacro NeedWritable "fragsmith.exe"
+  !insertmacro NeedWritable "fragsmith-cli.exe"
+  !insertmacro NeedWritable "wzunzip.exe"
+!macroend
+
 ; Offers the program for what it opens and takes no file away from another.
 !macro OfferFor ENDING
   WriteRegStr SHCTX "${PROGRAM}\SupportedTypes" "${ENDING}" ""
@@ -120,6 +146,7 @@ FunctionEnd
 !macroend
 
 Section
+  !insertmacro NeedAllWritable
   SetOutPath "$INSTDIR"
   File "${DIST}/*"
   WriteUninstaller "$INSTDIR\uninstall.exe"
@@ -159,6 +186,7 @@ FunctionEnd
 
 ; Only what was put there goes, and the folder when nothing else is in it.
 Section Uninstall
+  !insertmacro NeedAllWritable
   Delete "$INSTDIR\fragsmith.exe"
   Delete "$INSTDIR\fragsmith-cli.exe"
   Delete "$INSTDIR\wzunzip.exe"
