@@ -336,6 +336,21 @@ TEST_F(ProcessTest, PlaysMatchesAndTellsWhatCameOfThem) {
   EXPECT_EQ(none.out, "");
 }
 
+TEST_F(ProcessTest, FindsTheServerOfTheGameFolder) {
+  folder_.WriteProgram("game/oa_ded.x86_64", "#!/bin/sh\necho \"$@\"\n");
+  folder_.Write("game/baseoa/pak0.pk3", "");
+  const std::string game = (folder_ / "game").string();
+  folder_.Write("program/fgs.ini", FormatSettings({.Q3Baseq3 = game}));
+  const std::string line = "$cli new --preset average --name x | $cli try -";
+  EXPECT_THAT(Run(line).err,
+              AllOf(HasSubstr("+set fs_basepath " + game + " "),
+                    HasSubstr("+set com_basegame baseoa "),
+                    HasSubstr("+map oa_dm1 ")));
+  // What is given counts.
+  EXPECT_THAT(Run(line + " --data .").err,
+              HasSubstr("+set fs_basepath " + (folder_ / "run").string()));
+}
+
 TEST_F(ProcessTest, BearsABabblingServerAndOddPaths) {
   ASSERT_EQ(Run("$cli new --preset average --name x >x.json").status, 0);
   folder_.WriteProgram("run/babble-ded", "#!/bin/sh\nexec yes\n");

@@ -172,7 +172,7 @@ TEST_F(SettingsFolder, MissingFileGivesDefaults) {
   EXPECT_EQ(state.CurrentFolder, folder_.path());
 }
 
-TEST_F(SettingsFolder, NamesTheProgramsOwnToolWhereTheUserNamesNone) {
+TEST_F(SettingsFolder, NamesTheProgramsOwnToolWhereThereIsNoOther) {
   folder_.Write("own/wzunzip.exe", "");
   const auto load = [&](std::string_view own) {
     settings_ = {};
@@ -187,10 +187,20 @@ TEST_F(SettingsFolder, NamesTheProgramsOwnToolWhereTheUserNamesNone) {
   // The file could not hold that folder.
   EXPECT_FALSE(load("own, other").WinZipFound);
   EXPECT_EQ(settings_.WinZipDir, "");
-  // The user's own stays, also where it has no tool any more.
+  // The program was moved together with its settings.
   folder_.Write("fgs.ini", FormatSettings({.WinZipDir = "/no/tool"}));
-  EXPECT_FALSE(load("own").WinZipFound);
+  EXPECT_TRUE(load("own").WinZipFound);
+  EXPECT_EQ(settings_.WinZipDir, folder_ / "own");
+  EXPECT_THAT(prompts_.log, IsEmpty());
+  EXPECT_FALSE(load("own, other").WinZipFound);
   EXPECT_EQ(settings_.WinZipDir, "/no/tool");
+  EXPECT_EQ(prompts_.log.size(), 1U);
+  // The user's own stays.
+  folder_.Write("mine/wzunzip.exe", "");
+  const std::string mine = BytesFromPath(folder_ / "mine");
+  folder_.Write("fgs.ini", FormatSettings({.WinZipDir = mine}));
+  EXPECT_TRUE(load("own").WinZipFound);
+  EXPECT_EQ(settings_.WinZipDir, mine);
 }
 
 TEST_F(SettingsFolder, KeepsADamagedFileBesideTheNewOne) {
@@ -262,12 +272,24 @@ TEST(GameFolder, KnowsTheProgramByItsNames) {
     bool is_executable;
     bool counts;
   } cases[] = {
-      {"quake3.exe", false, true},        {"Quake3.EXE", false, true},
-      {"ioquake3", true, kIsUnix},        {"quake3e.x64", true, kIsUnix},
-      {"openarena", true, kIsUnix},       {"quake3", false, false},
-      {"quake2.exe", true, false},        {"quake3.exe/x", true, false},
-      {"ioquake3/a-file", true, false},   {"baseoa/pak0.pk3", false, kIsUnix},
-      {"baseoa/other.pk3", false, false}, {"baseq3/pak0.pk3", false, false}};
+      {"quake3.exe", false, true},
+      {"Quake3.EXE", false, true},
+      {"OpenArena.exe", false, true},
+      {"ioquake3.x86_64.exe", false, true},
+      {"quake3e.x64.exe", false, true},
+      {"oa_ded.exe", false, true},
+      {"ioquake3", true, kIsUnix},
+      {"quake3e.x64", true, kIsUnix},
+      {"openarena", true, kIsUnix},
+      {"ioq3ded", true, kIsUnix},
+      {"quake3", false, false},
+      {"quake3.txt", false, false},
+      {"quake2.exe", true, false},
+      {"quake3.exe/x", true, false},
+      {"ioquake3/a-file", true, false},
+      {"baseoa/pak0.pk3", false, true},
+      {"baseoa/other.pk3", false, false},
+      {"baseq3/pak0.pk3", false, false}};
   for (const auto& one : cases) {
     const TestFolder folder;
     if (one.is_executable) {

@@ -141,7 +141,9 @@ std::string FormatSettings(const ProgramSettings& settings) {
 
 void UseOwnUnzipTool(const std::filesystem::path& own_folder,
                      ProgramSettings& settings) {
-  if (!settings.WinZipDir.empty()) return;
+  if (own_folder.empty() || FindUnzipTool(PathFromBytes(settings.WinZipDir))) {
+    return;
+  }
   ProgramSettings with_own = settings;
   with_own.WinZipDir = BytesFromPath(own_folder);
   // A comma in the path would be read as the end of it.
