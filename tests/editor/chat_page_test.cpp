@@ -470,7 +470,10 @@ TEST_F(ChatPageTest, ShowsTheReadyMadeLinesOfTheOccasion) {
   SelectType(kKillByRail);
   EXPECT_EQ(List("lstPreDef")->currentItem()->text(),
             QStringLiteral("Kills with railgun"));
+  EXPECT_EQ(remark(0), "(not in this game)");
   EXPECT_EQ(remark(1), "Zap, marla!");
+  // The first that the game has.
+  EXPECT_EQ(List("lstPreDefNumber")->currentRow(), 1);
   List("lstPreDefNumber")->setCurrentRow(1);
   // Only another occasion changes what was chosen.
   Click("cmdNewLine");

@@ -19,6 +19,7 @@
 #include "editor/controls/max_select.h"
 #include "editor/controls/one_slider.h"
 #include "editor/controls/three_slider.h"
+#include "editor/controls/value_label.h"
 
 namespace fragsmith {
 namespace {
@@ -403,6 +404,40 @@ TEST(FunNamePreview, TakesOnlyRealCodesAway) {
   EXPECT_EQ(CountPixels(preview, QColor(0, 255, 0)), 0);
   EXPECT_EQ(preview.grab().toImage().copy(199, 0, 1, 40).pixelColor(0, 20),
             preview.palette().color(QPalette::Window));
+}
+
+TEST(FunNamePreview, GoesOnInAnotherLineWhereItMay) {
+  FunNamePreview preview;
+  const QColor green(0, 255, 0);
+  preview.resize(200, 60);
+  const QString text =
+      "^1Some words " + QString("and more ").repeated(2) + "^2M";
+  preview.DrawFunName(text);
+  EXPECT_EQ(CountPixels(preview, green), 0);
+  preview.LetWrap(2);
+  preview.resize(200, preview.sizeHint().height());
+  EXPECT_GT(CountPixels(preview, green), 10);
+  // It stands below the words.
+  EXPECT_EQ(preview.grab().toImage().copy(0, 0, 200, 10), [&preview] {
+    preview.DrawFunName("^1Some words " + QString("and more ").repeated(2) +
+                        "^1M");
+    return preview.grab().toImage().copy(0, 0, 200, 10);
+  }());
+}
+
+TEST(ValueLabel, HasRoomForThreePlacesBesideTheArrow) {
+  for (int size = 6; size < 25; ++size) {
+    ValueLabel label;
+    QFont font = label.font();
+    font.setPointSize(size);
+    label.setFont(font);
+    const QString text = QStringLiteral("0.777");
+    EXPECT_EQ(label.fontMetrics().elidedText(
+                  text, Qt::ElideRight,
+                  label.sizeHint().width() - label.RoomAtLeft()),
+              text)
+        << size;
+  }
 }
 
 TEST(IconBox, ShowsAPictureAndNothingAfterClear) {

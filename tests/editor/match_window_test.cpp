@@ -158,6 +158,12 @@ class MatchWindow : public WindowFixture {
   frmMatch* matches_ = nullptr;
 };
 
+TEST_F(MatchWindow, FitsOnASmallScreen) {
+  // With the frame that a desktop puts around it.
+  EXPECT_LE(matches_->minimumSizeHint().width(), WithThisFont(790));
+  EXPECT_LE(matches_->minimumSizeHint().height(), WithThisFont(570));
+}
+
 TEST_F(MatchWindow, PlaysAgainstHowTheBotWasAndShowsWhatCameOfIt) {
   UseServer(Log("Bot") + End());
   In<QSpinBox>("spnGames").setValue(3);

@@ -180,6 +180,42 @@ TEST(FindingsViewTest, StaysWhereItIsWhileRowsComeAndGoAboveIt) {
   EXPECT_EQ(view.verticalScrollBar()->value(), 0);
 }
 
+TEST(FindingsViewTest, ShowsTheWholeTextOfAButton) {
+  FindingsView view;
+  Finding finding = MakeFinding("a", 0, "Some words.");
+  finding.mends.push_back(
+      {.title = "Set \"Reaction time\" to 1 wherever it is more than that",
+       .apply = {}});
+  view.ShowFindings({finding});
+  Show(view);
+  const QFontMetrics metrics = view.fontMetrics();
+  const QModelIndex first = view.model()->index(0, 0);
+  const QString text = first.data(FindingsModel::kMendTextRole).toString();
+  int last_height = 0;
+  for (const int letters : {90, 30, 20}) {
+    view.resize(letters * metrics.averageCharWidth(), 400);
+    QCoreApplication::processEvents();
+    QStyleOptionViewItem row;
+    row.rect = view.visualRect(first);
+    row.fontMetrics = metrics;
+    row.decorationSize = view.iconSize();
+    EXPECT_LE(row.rect.width(), view.viewport()->width());
+    const auto& delegate =
+        static_cast<const FindingDelegate&>(*view.itemDelegate());
+    const QRect button = delegate.ButtonIn(row, first);
+    EXPECT_TRUE(row.rect.contains(button)) << letters;
+    const QRect lines =
+        metrics.boundingRect(QRect(0, 0, button.width() - metrics.height(), 0),
+                             Qt::TextWordWrap, text);
+    EXPECT_LE(lines.width(), button.width());
+    EXPECT_LT(lines.height(), button.height());
+    EXPECT_GT(button.height(), last_height);
+    // Above it there is room for the words.
+    EXPECT_GE(button.top() - row.rect.top(), metrics.height());
+    last_height = button.height();
+  }
+}
+
 class Differences : public testing::Test {
  protected:
   Differences() {

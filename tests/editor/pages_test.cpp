@@ -264,6 +264,26 @@ TEST_F(ParameterPages, FitIntoASmallWindowAndScrollInASmallerOne) {
   }
 }
 
+TEST_F(ParameterPages, KeepTheHeightOfTheFootFromOneParameterToTheNext) {
+  for (const auto& page : pages_) {
+    page->resize(WithThisFont(1000), 800);
+    page->show();
+    auto* const foot = page->findChild<GamePicture*>();
+    const bool has_picture = foot->findChild<SkillPlot*>() != nullptr ||
+                             foot->findChild<WeaponBars*>() != nullptr;
+    const int height = foot->height();
+    EXPECT_EQ(height < 150, !has_picture) << height;
+    for (int index = 2; index <= 80; ++index) {
+      foot->Show(index < 32 ? Id(100 + index) : Id(index));
+      EXPECT_EQ(foot->height(), height);
+      for (const auto* const text : foot->findChildren<QLabel*>()) {
+        if (has_picture || !text->wordWrap()) continue;
+        EXPECT_LE(text->heightForWidth(text->width()), text->height()) << index;
+      }
+    }
+  }
+}
+
 TEST_F(ParameterPages, TellAssistiveToolsWhatEachSliderIs) {
   std::set<QString> names;
   int sliders = 0;

@@ -55,18 +55,64 @@ void FunNamePreview::DrawFunName(const QString& text) {
   update();
 }
 
+void FunNamePreview::LetWrap(int lines) {
+  lines_ = lines;
+  updateGeometry();
+}
+
 QSize FunNamePreview::sizeHint() const {
-  const QFontMetrics metrics(NameFont());
-  return {metrics.averageCharWidth() * 16, metrics.height() * 5 / 4};
+  const QFontMetrics metrics(NameFont(letter_scale_));
+  return {metrics.averageCharWidth() * 16,
+          metrics.height() * lines_ + metrics.height() / 4};
 }
 
 QSize FunNamePreview::minimumSizeHint() const {
-  return {QFontMetrics(NameFont()).averageCharWidth() * 10,
-          sizeHint().height()};
+  const QFontMetrics metrics(NameFont(letter_scale_));
+  return {metrics.averageCharWidth() * 10, metrics.height() * 5 / 4};
+}
+
+FunNamePreview::Lines FunNamePreview::Layout(
+    const QFontMetricsF& metrics) const {
+  const int most_lines =
+      std::clamp(static_cast<int>(height() / metrics.height()), 1, lines_);
+  const double margin = metrics.averageCharWidth();
+  const double end = width() - margin;
+  Lines lines;
+  QPointF place(margin, 0);
+  for (const Run& run : runs_) {
+    qsizetype begin = 0;
+    while (begin < run.text.size()) {
+      const bool is_last = lines.count == most_lines;
+      const qsizetype space = is_last ? -1 : run.text.indexOf(u' ', begin);
+      const qsizetype next = space < 0 ? run.text.size() : space + 1;
+      const QString text = run.text.mid(begin, next - begin);
+      if (place.x() + metrics.horizontalAdvance(text.trimmed()) > end) {
+        if (!is_last && place.x() > margin) {
+          place = {margin, place.y() + metrics.height()};
+          ++lines.count;
+          continue;
+        }
+        lines.pieces.push_back(
+            {place, metrics.elidedText(text, Qt::ElideRight, end - place.x()),
+             run.color});
+        lines.is_cut = true;
+        return lines;
+      }
+      lines.pieces.push_back({place, text, run.color});
+      place.rx() += metrics.horizontalAdvance(text);
+      begin = next;
+    }
+  }
+  return lines;
 }
 
 void FunNamePreview::paintEvent(QPaintEvent* /*event*/) {
-  const QFont font = NameFont();
+  QFont font = NameFont(letter_scale_);
+  Lines lines = Layout(QFontMetricsF(font));
+  if (lines.is_cut && lines_ > 1) {
+    font = NameFont(1);
+    lines = Layout(QFontMetricsF(font));
+  }
   const QFontMetricsF metrics(font);
   const QColor text_color = palette().color(QPalette::WindowText);
   const QColor ground = palette().color(QPalette::Window);
@@ -79,19 +125,12 @@ void FunNamePreview::paintEvent(QPaintEvent* /*event*/) {
   painter.setBrush(ground);
   painter.drawRoundedRect(rect(), kCorner, kCorner);
   painter.setBrush(Qt::NoBrush);
-  const double base_line = (height() - metrics.height()) / 2 + metrics.ascent();
-  const double margin = metrics.averageCharWidth();
-  const double end = width() - margin;
-  double left = margin;
-  for (const Run& run : runs_) {
-    const double advance = metrics.horizontalAdvance(run.text);
-    const bool is_cut = left + advance > end;
+  const double base_line =
+      (height() - metrics.height() * lines.count) / 2 + metrics.ascent();
+  for (const Piece& piece : lines.pieces) {
     QPainterPath letters;
-    letters.addText(
-        left, base_line, font,
-        is_cut ? metrics.elidedText(run.text, Qt::ElideRight, end - left)
-               : run.text);
-    const QColor color = run.color.value_or(text_color);
+    letters.addText(piece.place + QPointF(0, base_line), font, piece.text);
+    const QColor color = piece.color.value_or(text_color);
     if (Contrast(color, ground) < kReadableContrast) {
       // Half of the pen's width lies under the letter.
       painter.strokePath(
@@ -99,19 +138,17 @@ void FunNamePreview::paintEvent(QPaintEvent* /*event*/) {
                         Qt::RoundJoin));
     }
     painter.fillPath(letters, color);
-    if (is_cut) break;
-    left += advance;
   }
 }
 
-QFont FunNamePreview::NameFont() const {
+QFont FunNamePreview::NameFont(double scale) const {
   QFont large = font();
   large.setBold(true);
   // A font is sized in points or, now and then, in pixels.
   if (large.pointSizeF() > 0) {
-    large.setPointSizeF(large.pointSizeF() * letter_scale_);
+    large.setPointSizeF(large.pointSizeF() * scale);
   } else {
-    large.setPixelSize(static_cast<int>(large.pixelSize() * letter_scale_));
+    large.setPixelSize(static_cast<int>(large.pixelSize() * scale));
   }
   return large;
 }

@@ -2,6 +2,8 @@
 #define FRAGSMITH_EDITOR_CONTROLS_FUN_NAME_PREVIEW_H_
 
 #include <QColor>
+#include <QFontMetricsF>
+#include <QPointF>
 #include <QString>
 #include <QWidget>
 #include <array>
@@ -31,6 +33,10 @@ class FunNamePreview : public QWidget {
   /// How many times as large as the window's font; 1.7 at first.
   void SetLetterScale(double scale);
 
+  /// A longer text goes on in further lines, as many as there is height for:
+  /// its hint is for this many. Letters are smaller where that shows it all.
+  void LetWrap(int lines);
+
   /// Text before the first code has the window's text colour; a "^" without
   /// such a digit is drawn as it stands.
   void DrawFunName(const QString& text);
@@ -47,10 +53,26 @@ class FunNamePreview : public QWidget {
     QString text;
   };
 
-  QFont NameFont() const;
+  /// A part of the text that stands in one line.
+  struct Piece {
+    QPointF place;  ///< Where it begins, from the base line of the first.
+    QString text;
+    std::optional<QColor> color;
+  };
+
+  struct Lines {
+    std::vector<Piece> pieces;
+    int count = 1;
+    bool is_cut = false;  ///< It ends with an ellipsis.
+  };
+
+  QFont NameFont(double scale) const;
+  /// As many lines as the height has room for.
+  Lines Layout(const QFontMetricsF& metrics) const;
 
   std::vector<Run> runs_;
   double letter_scale_ = 1.7;
+  int lines_ = 1;
 };
 
 }  // namespace fragsmith

@@ -79,7 +79,7 @@ QSize KillBars::minimumSizeHint() const {
   constexpr int kUsualRows = 10;
   const int line = fontMetrics().lineSpacing();
   const int rows = std::max(kUsualRows, static_cast<int>(rows_.size()));
-  return {20 * line, (rows + 3) * line};
+  return {17 * line, (rows + 3) * line};
 }
 
 void KillBars::paintEvent(QPaintEvent* /*event*/) {

@@ -43,7 +43,7 @@ void SharePlot::ShowShares(std::vector<ShareLine> lines, int matches) {
 
 QSize SharePlot::minimumSizeHint() const {
   const int line = fontMetrics().lineSpacing();
-  return {14 * line, 8 * line};
+  return {12 * line, 8 * line};
 }
 
 void SharePlot::paintEvent(QPaintEvent* /*event*/) {

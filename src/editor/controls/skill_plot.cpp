@@ -36,27 +36,50 @@ QString OriginText(ValueOrigin origin) {
   return {};
 }
 
-/// Where the caption of a line stands clear of the others: above its line,
-/// below it, or behind what is there already. Empty where there is no room; the
-/// tool tip has them all.
+/// Whether a part of the curve lies in the spot.
+bool IsCrossed(const QRectF& spot, const QPolygonF& curve) {
+  for (qsizetype at = 1; at < curve.size(); ++at) {
+    const QPointF from = curve[at - 1];
+    const QPointF to = curve[at];
+    const double left = std::max(from.x(), spot.left());
+    const double right = std::min(to.x(), spot.right());
+    if (left > right) continue;
+    const auto height_at = [&](double x) {
+      return from.y() + (to.y() - from.y()) * (x - from.x()) /
+                            std::max(to.x() - from.x(), 1.0);
+    };
+    const auto [upper, lower] =
+        std::minmax({height_at(left), height_at(right)});
+    if (upper <= spot.bottom() && lower >= spot.top()) return true;
+  }
+  return false;
+}
+
+/// Where the caption of a line stands clear of the others, above its line or
+/// below it: as far at the left as the curve leaves room, or where it crosses
+/// the curve when there is none. Empty where there is no room at all; the tool
+/// tip has them all.
 QRectF PlaceOfCaption(const QRectF& above, const QRectF& area,
-                      const std::vector<QRectF>& others) {
+                      const std::vector<QRectF>& others,
+                      const QPolygonF& curve) {
   const auto is_free = [&](const QRectF& spot) {
     return area.contains(spot) &&
            std::ranges::none_of(others, [&spot](const QRectF& other) {
              return other.intersects(spot);
            });
   };
-  std::vector<QRectF> spots = {above, above.translated(0, above.height())};
-  for (const QRectF& other : others) {
-    for (std::size_t at : {0U, 1U}) {
-      QRectF behind = spots.at(at);
-      behind.moveLeft(other.right());
-      spots.push_back(behind);
+  QRectF crossed;
+  for (QRectF spot = above; spot.right() <= area.right();
+       spot.translate(above.height() / 2, 0)) {
+    for (const QRectF& one : {spot, spot.translated(0, spot.height())}) {
+      if (!is_free(one)) continue;
+      // The points on the curve have a size.
+      const double around = above.height() / 5;
+      if (!IsCrossed(one.adjusted(0, -around, 0, around), curve)) return one;
+      if (crossed.isEmpty()) crossed = one;
     }
   }
-  const auto found = std::ranges::find_if(spots, is_free);
-  return found == spots.end() ? QRectF() : *found;
+  return crossed;
 }
 
 }  // namespace
@@ -143,23 +166,11 @@ void SkillPlot::paintEvent(QPaintEvent* /*event*/) {
   painter.setPen(faint);
   painter.drawLine(area.bottomLeft(), area.bottomRight());
   painter.drawLine(area.bottomLeft(), area.topLeft());
-  std::vector<QRectF> captions;
+  painter.setPen(QPen(faint, 1, Qt::DashLine));
   for (const Threshold& threshold : thresholds_) {
     if (threshold.value > top) continue;
     const QPointF left = point_of(1, threshold.value);
-    painter.setPen(QPen(faint, 1, Qt::DashLine));
     painter.drawLine(left, QPointF(area.right(), left.y()));
-    const QString caption =
-        metrics.elidedText(QString::fromStdString(Localized(threshold.text)),
-                           Qt::ElideRight, static_cast<int>(area.width()));
-    const QRectF room = PlaceOfCaption(
-        QRectF(left.x() + line / 3.0, left.y() - line,
-               metrics.horizontalAdvance(caption) + line / 3.0, line),
-        area, captions);
-    if (room.isEmpty()) continue;
-    captions.push_back(room);
-    painter.setPen(hint);
-    painter.drawText(room, Qt::AlignLeft | Qt::AlignBottom, caption);
   }
 
   const QColor color = palette().color(QPalette::Highlight);
@@ -176,6 +187,29 @@ void SkillPlot::paintEvent(QPaintEvent* /*event*/) {
     painter.setBrush(is_sure ? QBrush(color) : palette().window());
     const double radius = is_sure ? line / 4.0 : line / 5.0;
     painter.drawEllipse(point_of(value.skill, value.used), radius, radius);
+  }
+
+  QPolygonF curve;
+  for (const ValueAtSkill& value : values_) {
+    curve << point_of(value.skill, value.used);
+  }
+  std::vector<QRectF> captions;
+  for (const Threshold& threshold : thresholds_) {
+    if (threshold.value > top) continue;
+    const QPointF left = point_of(1, threshold.value);
+    const QString caption =
+        metrics.elidedText(QString::fromStdString(Localized(threshold.text)),
+                           Qt::ElideRight, static_cast<int>(area.width()));
+    const QRectF room = PlaceOfCaption(
+        QRectF(left.x() + line / 3.0, left.y() - line,
+               metrics.horizontalAdvance(caption) + line / 3.0, line),
+        area, captions, curve);
+    if (room.isEmpty()) continue;
+    captions.push_back(room);
+    // No line goes through the letters.
+    painter.fillRect(room.adjusted(0, 1, 0, -1), palette().base());
+    painter.setPen(hint);
+    painter.drawText(room, Qt::AlignCenter, caption);
   }
 }
 

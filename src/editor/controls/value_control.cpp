@@ -48,6 +48,7 @@ ValueControl::ValueControl(ScaleLookup lookup, QWidget* parent)
   // the captions of a page stand in line.
   grid_->setAlignment(Qt::AlignTop);
   grid_->setVerticalSpacing(0);
+  grid_->setHorizontalSpacing(2);
   grid_->setColumnStretch(kSliderColumn, 1);
   grid_->addWidget(caption_, 0, 0, 1, kTextColumn);
 }
@@ -218,7 +219,9 @@ void ValueControl::AlignTexts() {
   for (const Row& row : rows_) {
     const QMargins ticks(0, 0, 0, row.slider->TickRoom());
     row.text->setContentsMargins(ticks);
-    if (row.number != nullptr) row.number->setContentsMargins(ticks);
+    if (row.number != nullptr) {
+      row.number->setContentsMargins(ticks + QMargins(0, 0, 4, 0));
+    }
   }
 }
 

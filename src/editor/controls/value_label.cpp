@@ -4,6 +4,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyle>
+#include <cmath>
 
 namespace fragsmith {
 namespace {
@@ -37,8 +38,11 @@ int ValueLabel::RoomAtLeft() const { return fontMetrics().ascent(); }
 
 int ValueLabel::Width() const {
   if (width_ == 0) {
-    width_ =
-        fontMetrics().horizontalAdvance(QStringLiteral("0.000")) + RoomAtLeft();
+    // Not the rounded width, by which a part of a pixel would cut the text.
+    const QFontMetricsF metrics(font());
+    width_ = static_cast<int>(std::ceil(
+                 metrics.horizontalAdvance(QStringLiteral("0.000")))) +
+             1 + RoomAtLeft();
   }
   return width_;
 }

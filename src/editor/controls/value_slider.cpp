@@ -189,6 +189,8 @@ void ValueSlider::DrawMarks(QPainter& painter,
     const QRect line(middle - kWidth / 2, option.rect.center().y() - height / 2,
                      kWidth, height);
     if (line.intersects(handle)) continue;
+    // Around it, the ground keeps it apart from the filled part of the groove.
+    painter.fillRect(line.adjusted(-1, 0, 1, 0), palette().base());
     painter.fillRect(line, SeverityColor(Severity::kWarning, palette()));
   }
 }

@@ -144,13 +144,12 @@ void ChatPage::ShowMarks(const std::vector<Finding>& findings) {
     const auto* const place = std::get_if<ChatPlace>(&finding.place);
     if (place != nullptr) marks_[{place->type, place->line}].Add(finding);
   }
-  type_marks_->ReserveMarks(MarkTypes(marks_, *types_));
+  MarkTypes(marks_, *types_);
   types_->viewport()->update();
   MarkLines();
 }
 
 void ChatPage::MarkLines() {
-  bool has_marks = false;
   for (int row = 0; row < lines_->count(); ++row) {
     const auto mark =
         Type() ? marks_.find({*Type(), LineOfRow(row)}) : marks_.end();
@@ -159,9 +158,7 @@ void ChatPage::MarkLines() {
         has_mark ? SeverityIcon(*mark->second.gravest, *style()) : QIcon());
     lines_->item(row)->setToolTip(
         has_mark ? WrappedToolTip({}, mark->second.text) : QString());
-    has_marks = has_marks || has_mark;
   }
-  line_marks_->ReserveMarks(has_marks);
   lines_->viewport()->update();
 }
 

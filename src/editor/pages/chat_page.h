@@ -25,8 +25,6 @@ class QGridLayout;
 
 namespace fragsmith {
 
-class MarkedDelegate;
-
 /// The page on which the bot's chat lines are written: the chat types, the
 /// lines of the selected type, a box for the selected line, and the lists and
 /// buttons that put ready-made lines and variables in.
@@ -120,9 +118,7 @@ class ChatPage : public ScrollingPage {
   const WordLists* game_words_ = nullptr;  ///< Null where none are known.
 
   QListWidget* types_ = nullptr;
-  MarkedDelegate* type_marks_ = nullptr;
   QListWidget* lines_ = nullptr;
-  MarkedDelegate* line_marks_ = nullptr;
   QLineEdit* box_ = nullptr;
   PointerButtons* pointers_ = nullptr;
   QPushButton* remove_line_ = nullptr;

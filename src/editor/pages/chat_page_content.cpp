@@ -49,8 +49,7 @@ QWidget* ChatPage::MakeContent() {
 void ChatPage::MakeTypes(QGridLayout& grid) {
   types_ = MakeList(QStringLiteral("lstChatGroups"),
                     QStringLiteral("Chat gr&oups"), grid, 0, 5);
-  type_marks_ = new TypeDelegate(types_);
-  types_->setItemDelegate(type_marks_);
+  types_->setItemDelegate(new TypeDelegate(types_));
   FillTypes(*types_);
   const auto tell = [this] { TellOfLines(current_.bot(), *types_); };
   for (const auto change : {&CurrentBot::ChatsEdited, &CurrentBot::Replaced}) {
@@ -68,8 +67,7 @@ void ChatPage::MakeTypes(QGridLayout& grid) {
 void ChatPage::MakeLines(QGridLayout& grid) {
   lines_ = MakeList(QStringLiteral("lstChatLines"),
                     QStringLiteral("Chat group te&xts"), grid, 1, 2);
-  line_marks_ = new LineDelegate(lines_);
-  lines_->setItemDelegate(line_marks_);
+  lines_->setItemDelegate(new LineDelegate(lines_));
   connect(lines_, &QListWidget::currentRowChanged, this, &ChatPage::ShowLine);
   OnChoice(*lines_, this, [this] { box_->setFocus(Qt::OtherFocusReason); });
   // Without the other keys of a desktop for this, such as Ctrl+D.

@@ -48,26 +48,20 @@ QLineEdit* MakeLineBox();
 int CursorAmongMarks(std::string_view text, std::string_view marked,
                      int cursor);
 
-/// Keeps the texts of a list in line where only some have a mark in front.
+/// Keeps room for a mark in front of each entry, so that nothing moves when
+/// there is one.
 class MarkedDelegate : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
-
-  /// Whether there is any mark in the list.
-  void ReserveMarks(bool has_marks) { has_marks_ = has_marks; }
 
  protected:
   void initStyleOption(QStyleOptionViewItem* option,
                        const QModelIndex& index) const override {
     QStyledItemDelegate::initStyleOption(option, index);
-    if (!has_marks_) return;
     option->features |= QStyleOptionViewItem::HasDecoration;
     const int side = option->fontMetrics.ascent();
     option->decorationSize = QSize(side, side);
   }
-
- private:
-  bool has_marks_ = false;
 };
 
 /// Shows the lines as the list has room for them.

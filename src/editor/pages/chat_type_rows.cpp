@@ -106,8 +106,7 @@ void FillTypes(QListWidget& types) {
   types.setMaximumWidth(types.maximumWidth() + end);
 }
 
-bool MarkTypes(const ChatMarks& marks, QListWidget& types) {
-  bool has_marks = false;
+void MarkTypes(const ChatMarks& marks, QListWidget& types) {
   for (const ChatTypeId type : kAllChatTypes) {
     // A type shows the gravest of its lines.
     std::optional<Severity> gravest;
@@ -119,9 +118,7 @@ bool MarkTypes(const ChatMarks& marks, QListWidget& types) {
     const bool is_marked = gravest && *gravest != Severity::kHint;
     types.item(static_cast<int>(type))
         ->setIcon(is_marked ? SeverityIcon(*gravest, *types.style()) : QIcon());
-    has_marks = has_marks || is_marked;
   }
-  return has_marks;
 }
 
 void TellOfLines(const Bot& bot, QListWidget& types) {

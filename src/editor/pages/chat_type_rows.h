@@ -35,9 +35,8 @@ void FillTypes(QListWidget& types);
 using ChatMarks =
     std::map<std::pair<ChatTypeId, std::optional<ChatLineIndex>>, MarkText>;
 
-/// Marks the types of which something graver than a hint is told. True when
-/// there is any.
-bool MarkTypes(const ChatMarks& marks, QListWidget& types);
+/// Marks the types of which something graver than a hint is told.
+void MarkTypes(const ChatMarks& marks, QListWidget& types);
 
 /// Tells of the bot's lines at the end of each row.
 void TellOfLines(const Bot& bot, QListWidget& types);

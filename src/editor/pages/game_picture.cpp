@@ -3,6 +3,7 @@
 #include <QHBoxLayout>
 #include <QPainter>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "chat/vocabulary.h"
 #include "editor/pages/parameter_help.h"
@@ -13,6 +14,9 @@ namespace {
 
 constexpr int kCorner = 8;
 constexpr int kLines = 12;
+constexpr int kBeside = 16;
+constexpr int kAbove = 12;
+constexpr int kBetween = 4;
 
 const ControlRow* RowOf(const PageRow& page, ParameterId id) {
   const ParameterId wanted = id.level() ? id.At(kLevels.front()) : id;
@@ -36,7 +40,7 @@ GamePicture::GamePicture(const PageRow& page, CurrentBot& current,
       help_(new QLabel(this)) {
   setObjectName(QStringLiteral("picGame"));
   auto* const row = new QHBoxLayout(this);
-  row->setContentsMargins(16, 12, 16, 12);
+  row->setContentsMargins(kBeside, kAbove, kBeside, kAbove);
   row->setSpacing(16);
   if (page.frames.front().controls.front().HasLevels()) {
     plot_ = new SkillPlot(this);
@@ -53,7 +57,7 @@ GamePicture::GamePicture(const PageRow& page, CurrentBot& current,
   help_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
   help_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
   auto* const column = new QVBoxLayout;
-  column->setSpacing(4);
+  column->setSpacing(kBetween);
   column->addWidget(name_);
   column->addWidget(help_, 1);
   row->addLayout(column, 2);
@@ -61,7 +65,23 @@ GamePicture::GamePicture(const PageRow& page, CurrentBot& current,
 }
 
 QSize GamePicture::sizeHint() const {
-  return {0, fontMetrics().lineSpacing() * kLines + 24};
+  return {0, fontMetrics().lineSpacing() * kLines + 2 * kAbove};
+}
+
+int GamePicture::heightForWidth(int width) const {
+  if (plot_ != nullptr || bars_ != nullptr) return sizeHint().height();
+  int help = 0;
+  for (const FrameRow& frame : page_.frames) {
+    for (const ControlRow& control : frame.controls) {
+      if (control.IsEmptyPlace()) continue;
+      const QRect text = help_->fontMetrics().boundingRect(
+          QRect(0, 0, width - 2 * kBeside, 0), Qt::TextWordWrap,
+          PlainHelp(control));
+      help = std::max(help, text.height());
+    }
+  }
+  return name_->sizeHint().height() + kBetween + help + 2 * kAbove +
+         fontMetrics().lineSpacing() / 2;
 }
 
 void GamePicture::Show(ParameterId id) {

@@ -28,7 +28,11 @@ class GamePicture : public QWidget {
   /// Draws anew, after an edit.
   void ShowBot();
 
+  /// As high as with a picture.
   QSize sizeHint() const override;
+  /// The same for each parameter of the page, so that nothing jumps.
+  bool hasHeightForWidth() const override { return true; }
+  int heightForWidth(int width) const override;
 
  protected:
   void paintEvent(QPaintEvent* event) override;

@@ -155,7 +155,10 @@ QWidget* ParameterPage::MakeScaleSelector(int number) {
 QGroupBox* ParameterPage::MakeFrame(const FrameRow& frame) {
   auto* const box = new QGroupBox(QString::fromUtf8(frame.caption));
   auto* const grid = new QGridLayout(box);
-  grid->setHorizontalSpacing(fontMetrics().averageCharWidth() * 2);
+  // More than between a slider and its value. Four columns hardly fit into the
+  // smallest window.
+  grid->setHorizontalSpacing(fontMetrics().averageCharWidth() *
+                             (frame.columns < 4 ? 8 : 5) / 2);
   // Behind each row there is an empty one; those that part the rows grow.
   const int together = RowsTogether(frame);
   for (int gap = 1; gap <= GapCount(frame); ++gap) {

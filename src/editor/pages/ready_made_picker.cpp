@@ -80,9 +80,11 @@ void ReadyMadePicker::ShowNumbers() {
 }
 
 void ReadyMadePicker::ShowRemarks() {
+  int first = -1;
   for (int row = 0; row < numbers_->count(); ++row) {
     QListWidgetItem& item = *numbers_->item(row);
     QString remark;
+    bool is_missing = false;
     if (words_ != nullptr) {
       // The first of its lines, so that it reads the same each time.
       const SpokenLine line =
@@ -90,12 +92,18 @@ void ReadyMadePicker::ShowRemarks() {
                     GroupMember(groups_->currentRow(),
                                 std::to_string(item.data(kNumberRole).toInt())),
                     {}, *words_, [] { return 0.0; });
-      remark = line.unknown_lists.empty() ? ToQString(line.text)
-                                          : tr("(not in this game)");
+      is_missing = !line.unknown_lists.empty();
+      remark = is_missing ? tr("(not in this game)") : ToQString(line.text);
     }
+    if (!is_missing && first < 0) first = row;
+    item.setData(kFaintRole, is_missing);
     item.setData(kRemarkRole, remark);
     item.setData(Qt::AccessibleDescriptionRole, remark);
     item.setToolTip(remark.isEmpty() ? QString() : WrappedToolTip({}, remark));
+  }
+  const QListWidgetItem* const current = numbers_->currentItem();
+  if (first >= 0 && current != nullptr && current->data(kFaintRole).toBool()) {
+    numbers_->setCurrentRow(first);
   }
 }
 

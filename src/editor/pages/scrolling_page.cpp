@@ -29,8 +29,13 @@ void ScrollingPage::PlaceFoot() {
   if (foot_ == nullptr) return;
   constexpr int kSpace = 8;
   constexpr double kMinShareOfContent = 0.55;
-  const int needed = foot_->sizeHint().height() + 2 * kSpace;
-  const bool fits = height() * (1 - kMinShareOfContent) >= needed;
+  const int width = viewport()->width() - 2 * kSpace;
+  const int foot_height = foot_->hasHeightForWidth()
+                              ? foot_->heightForWidth(width)
+                              : foot_->sizeHint().height();
+  const int needed = foot_height + 2 * kSpace;
+  const bool fits = height() * (1 - kMinShareOfContent) >=
+                    foot_->sizeHint().height() + 2 * kSpace;
   foot_->setVisible(fits);
   setViewportMargins(0, 0, 0, fits ? needed : 0);
   // The bar that scrolls, where there is one, stands beside both.

@@ -65,6 +65,7 @@ SpokenPreview::SpokenPreview(RandomSource random, QWidget* parent)
   constexpr double kLetterScale = 1.15;
   text_->SetLetterScale(kLetterScale);
   text_->StandOnGameGround();
+  text_->LetWrap(2);
   lengths_->setObjectName(QStringLiteral("lblLengths"));
   lengths_->setTextFormat(Qt::RichText);
   QFont bold = lengths_->font();

@@ -61,7 +61,7 @@ void MakeOutlinesVisible() {
   for (const char* const widget :
        {"QCheckBox", "QRadioButton", "QLineEdit", "QComboBox",
         "QAbstractSpinBox", "QListView", "QTreeView", "QPlainTextEdit",
-        "QProgressBar"}) {
+        "QProgressBar", "QPushButton", "QSlider"}) {
     QPalette palette = QApplication::palette(widget);
     for (const QPalette::ColorGroup group : kGroups) {
       const QColor window = palette.color(group, QPalette::Window);

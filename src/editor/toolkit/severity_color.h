@@ -11,7 +11,8 @@ namespace fragsmith {
 /// The ground of a count of findings, dark enough in light themes and light
 /// enough in dark ones that the window's own ground is readable on it.
 inline QColor SeverityColor(Severity severity, const QPalette& palette) {
-  const bool is_dark = palette.color(QPalette::Window).lightness() < 128;
+  // The colour of the window is that of the outlines in some controls.
+  const bool is_dark = palette.color(QPalette::WindowText).lightness() > 127;
   switch (severity) {
     case Severity::kError:
       return is_dark ? QColor(0xff, 0x7b, 0x6e) : QColor(0xb3, 0x26, 0x1e);
