@@ -24,7 +24,7 @@ fi
 
 failures=0
 fail() {
-  echo "FAILED: $*"
+  echo "FAILED: $*" >&2
   ((++failures))
 }
 # expect WHAT COMMAND...: the command has to succeed.
