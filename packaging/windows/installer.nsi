@@ -58,8 +58,15 @@ Var ForAllBox
   ${EndIf}
 !macroend
 
-; A folder that /D= or the user named stays.
+; A folder that /D= or the user named stays; else it is that of the version that
+; is there.
 !macro UseFolder
+  ${If} $INSTDIR == ""
+    ReadRegStr $INSTDIR SHCTX "${UNINSTALL}" "InstallLocation"
+    ${IfNot} ${FileExists} "$INSTDIR\uninstall.exe"
+      StrCpy $INSTDIR ""
+    ${EndIf}
+  ${EndIf}
   ${If} $INSTDIR == ""
     ${If} $ForAll == 1
       StrCpy $INSTDIR "$PROGRAMFILES64\Fragsmith"
@@ -173,20 +180,30 @@ Section
   WriteRegDWORD SHCTX "${UNINSTALL}" "EstimatedSize" $0
 SectionEnd
 
-; An installation for one user is in that user's list of programs.
-Function un.onInit
-  SetRegView 64
-  StrCpy $ForAll 1
-  ReadRegStr $0 HKCU "${UNINSTALL}" "InstallLocation"
-  ${If} $0 == $INSTDIR
-    StrCpy $ForAll 0
+; Of what is written for a user or for all, only that goes which was written for
+; the copy in this folder: there may be another.
+!macro ForgetCopy CONTEXT
+  SetShellVarContext ${CONTEXT}
+  ReadRegStr $0 SHCTX "${UNINSTALL}" "InstallLocation"
+  GetFullPathName /SHORT $0 $0
+  GetFullPathName /SHORT $1 $INSTDIR
+  ${If} $0 == $1
+  ${AndIf} $0 != ""
+    Delete "$SMPROGRAMS\Fragsmith.lnk"
+    DeleteRegKey SHCTX "${PROGRAM}"
+    DeleteRegKey SHCTX "Software\Classes\Fragsmith.Bot"
+    !insertmacro OfferNoMoreFor ".pk3"
+    !insertmacro OfferNoMoreFor ".c"
+    DeleteRegKey SHCTX "${UNINSTALL}"
   ${EndIf}
-  !insertmacro UseContext
-FunctionEnd
+!macroend
 
 ; Only what was put there goes, and the folder when nothing else is in it.
 Section Uninstall
   !insertmacro NeedAllWritable
+  SetRegView 64
+  !insertmacro ForgetCopy current
+  !insertmacro ForgetCopy all
   Delete "$INSTDIR\fragsmith.exe"
   Delete "$INSTDIR\fragsmith-cli.exe"
   Delete "$INSTDIR\wzunzip.exe"
@@ -196,10 +213,4 @@ Section Uninstall
   Delete "$INSTDIR\userdef.tga"
   Delete "$INSTDIR\uninstall.exe"
   RMDir "$INSTDIR"
-  Delete "$SMPROGRAMS\Fragsmith.lnk"
-  DeleteRegKey SHCTX "${PROGRAM}"
-  DeleteRegKey SHCTX "Software\Classes\Fragsmith.Bot"
-  !insertmacro OfferNoMoreFor ".pk3"
-  !insertmacro OfferNoMoreFor ".c"
-  DeleteRegKey SHCTX "${UNINSTALL}"
 SectionEnd
