@@ -58,9 +58,6 @@ TEST(GamesOfTheSystemsList, AreKnownByTheirNames) {
 }
 
 TEST_F(Games, OfPackagesAloneAreFoundWhereSystemsPutThem) {
-#ifdef _WIN32
-  GTEST_SKIP() << "Packages lie beside their program.";
-#endif
   folder_.Write("usr/share/games/openarena/baseoa/pak0.pk3", "");
   folder_.Write("usr/share/games/openarena/missionpack/mp-pak0.pk3", "");
   folder_.Write("home/.q3a/baseq3/pak0.pk3", "");

@@ -12,7 +12,7 @@ namespace fragsmith {
 namespace fs = std::filesystem;
 namespace {
 
-constexpr std::string_view kWindowsGame = "quake3.exe";
+constexpr std::string_view kWindowsProgramEnd = ".exe";
 constexpr std::string_view kWindowsUnzipTool = "wzunzip.exe";
 constexpr std::string_view kStandardFolder = "baseq3";
 /// How the folders begin that take its place.
@@ -34,8 +34,9 @@ bool IsExecutable(const fs::path& path) {
 }
 
 bool IsGameName(std::string_view name) {
-  constexpr std::array<std::string_view, 3> kBeginnings = {"quake3", "ioquake3",
-                                                           "openarena"};
+  // The last three are servers, which some have alone.
+  constexpr std::array<std::string_view, 6> kBeginnings = {
+      "quake3", "ioquake3", "openarena", "ioq3ded", "q3ded", "oa_ded"};
   return std::any_of(kBeginnings.begin(), kBeginnings.end(),
                      [name](std::string_view beginning) {
                        return EqualIgnoringCase(
@@ -60,12 +61,12 @@ bool IsPlaceOfPackages(const fs::path& gameFolder) {
 }  // namespace
 
 bool HasGameProgram(const fs::path& gameFolder) {
-  if (FindFile(gameFolder, kWindowsGame)) return true;
-  if (kIsWindows) return false;
   const std::vector<fs::path> names = ListFiles(gameFolder, "");
   if (std::ranges::any_of(names, [&](const fs::path& name) {
-        return IsGameName(BytesFromPath(name)) &&
-               IsExecutable(gameFolder / name);
+        const std::string bytes = BytesFromPath(name);
+        return IsGameName(bytes) &&
+               (EndsWithIgnoringCase(bytes, kWindowsProgramEnd) ||
+                IsExecutable(gameFolder / name));
       })) {
     return true;
   }

@@ -14,11 +14,11 @@ inline constexpr std::string_view kGamePackage = "pak0.pk3";
 /// In place of a package: the user entered the model or skin by hand.
 inline constexpr std::string_view kUserDefinedPackage = "UserDef";
 
-/// True when the game's program lies in the folder: quake3.exe in any case;
-/// elsewhere than on Windows also an executable under one of the names that
-/// the program has there. True as well for packages without their program:
-/// those of a game of another name, wherever they lie, and the others in the
-/// places where systems keep them apart, such as ~/.q3a.
+/// True when the game's program lies in the folder: a program, of this system
+/// or of Windows, under one of the names that makers give it (quake3.exe,
+/// ioquake3.x86_64, oa_ded.exe). True as well for packages without their
+/// program: those of a game of another name, wherever they lie, and the others
+/// in the places where systems keep them apart, such as ~/.q3a.
 bool HasGameProgram(const std::filesystem::path& gameFolder);
 
 /// The folder of the game's packages: baseq3, or in a game of another name the
