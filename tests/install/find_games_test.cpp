@@ -25,7 +25,7 @@ class Games : public ::testing::Test {
     std::vector<std::string> found;
     for (const FoundGame& game : FindGames({.home = folder_ / "home",
                                  .root = folder_.path(),
-                                 .installed = {folder_ / "listed"}})) {
+                                 .installed = installed_})) {
       found.push_back(
           game.name + ": " +
           fs::relative(game.folder, folder_.path()).generic_string());
@@ -34,6 +34,8 @@ class Games : public ::testing::Test {
   }
 
   TestFolder folder_;
+  std::vector<InstalledProgram> installed_ = {
+      {"QUAKE III: Gold", folder_ / "listed"}};
 };
 
 TEST_F(Games, AreFoundWhereTheyArePut) {
@@ -50,11 +52,20 @@ TEST_F(Games, AreFoundWhereTheyArePut) {
                                        shop.substr(0, shop.size() - 1)));
 }
 
-TEST(GamesOfTheSystemsList, AreKnownByTheirNames) {
-  EXPECT_THAT(GamesAmong({{"QUAKE III: Gold", "/a"},
-                          {"Paint", "/b"},
-                          {"OpenArena 0.8.8", "/c"}}),
-              ElementsAre(fs::path("/a"), fs::path("/c")));
+TEST_F(Games, OfTheSystemsListAreKnownByTheirNames) {
+  const std::string shop = "shop/steamapps/common/Quake 3 Arena";
+  for (const std::string& game :
+       {std::string("a"), std::string("b"), std::string("c"), shop}) {
+    folder_.Write(game + "/quake3.exe", "");
+    folder_.Write(game + "/baseq3/pak0.pk3", "");
+  }
+  installed_ = {{"Quake III Arena", folder_ / "a/"},
+                {"Paint", folder_ / "b"},
+                {"OpenArena 0.8.8", folder_ / "c"},
+                {"Quake III Arena", folder_ / "a"},
+                {"Steam", folder_ / "shop/"}};
+  EXPECT_THAT(Found(), ElementsAre("Quake III Arena: a", "Quake III Arena: c",
+                                   "Quake III Arena: " + shop));
 }
 
 TEST_F(Games, OfPackagesAloneAreFoundWhereSystemsPutThem) {

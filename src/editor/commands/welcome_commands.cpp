@@ -15,7 +15,7 @@ namespace {
 GameRoots RootsOfGames() {
   return {.home = PathFromBytes(QDir::homePath().toStdString()),
           .root = PathFromBytes(QDir::rootPath().toStdString()),
-          .installed = GamesAmong(InstalledPrograms())};
+          .installed = InstalledPrograms()};
 }
 
 }  // namespace

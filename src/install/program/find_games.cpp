@@ -4,6 +4,7 @@
 #include <array>
 #include <string_view>
 #include <system_error>
+#include <utility>
 
 #include "install/program/game_folder.h"
 #include "support/files.h"
@@ -94,8 +95,26 @@ void AddSteam(const fs::path& steam, std::vector<fs::path>& folders) {
   }
 }
 
+/// Those that are called as the game or its relatives are, and those of the
+/// shop.
+void AddInstalled(const std::vector<InstalledProgram>& programs,
+                  std::vector<fs::path>& folders) {
+  for (const InstalledProgram& program : programs) {
+    const std::string name = ToLower(program.name);
+    // Some are noted with a slash at the end, or with the other system's.
+    fs::path folder = program.folder.lexically_normal();
+    if (!folder.has_filename()) folder = folder.parent_path();
+    if (name == "steam") {
+      AddSteam(folder, folders);
+    } else if (Contains(name, "quake") || Contains(name, "openarena")) {
+      folders.push_back(std::move(folder));
+    }
+  }
+}
+
 std::vector<fs::path> Candidates(const GameRoots& roots) {
-  std::vector<fs::path> folders = roots.installed;
+  std::vector<fs::path> folders;
+  AddInstalled(roots.installed, folders);
   const auto add = [&folders](const fs::path& top, const auto& steams,
                               const auto& names) {
     if (top.empty()) return;
@@ -119,24 +138,12 @@ std::vector<FoundGame> FindGames(const GameRoots& roots) {
     const bool is_known =
         std::ranges::any_of(games, [&folder](const FoundGame& game) {
           std::error_code ignored;
-          return fs::equivalent(game.folder, folder, ignored);
+          return game.folder == folder ||
+                 fs::equivalent(game.folder, folder, ignored);
         });
     if (!is_known) games.push_back({GameName(folder), folder});
   }
   return games;
-}
-
-std::vector<fs::path> GamesAmong(
-    const std::vector<InstalledProgram>& programs) {
-  std::vector<fs::path> folders;
-  for (const InstalledProgram& program : programs) {
-    const std::string name = ToLower(program.name);
-    if (name.find("quake") != std::string::npos ||
-        name.find("openarena") != std::string::npos) {
-      folders.push_back(program.folder);
-    }
-  }
-  return folders;
 }
 
 std::string GameName(const fs::path& game_folder) {

@@ -14,8 +14,8 @@ struct GameRoots {
   std::filesystem::path home;  ///< The user's; empty where it is not known.
   /// The top of the file system, or the drive that has the programs.
   std::filesystem::path root;
-  /// Folders that the system's list of installed programs names.
-  std::vector<std::filesystem::path> installed;
+  /// Of these, games are known by their names, and so is their shop.
+  std::vector<InstalledProgram> installed;
 };
 
 /// A folder that can be set as the game's.
@@ -27,10 +27,6 @@ struct FoundGame {
 /// The game folders in the places where shops, systems and the game itself put
 /// them, each once. Looks at names alone and reads no package.
 std::vector<FoundGame> FindGames(const GameRoots& roots);
-
-/// The folders of those that are called as the game or its relatives are.
-std::vector<std::filesystem::path> GamesAmong(
-    const std::vector<InstalledProgram>& programs);
 
 /// What a game in that folder is called, by the name of its package folder.
 std::string GameName(const std::filesystem::path& game_folder);

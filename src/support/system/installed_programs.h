@@ -13,8 +13,9 @@ struct InstalledProgram {
   std::filesystem::path folder;
 };
 
-/// The programs of that list, shops' games among them, that tell their folder.
-/// Only Windows has one list for all; empty elsewhere.
+/// The programs of that list, shops' games among them, that tell their folder,
+/// and those that note it in a place of their own: "Steam" and the game. Only
+/// Windows has such places; empty elsewhere.
 std::vector<InstalledProgram> InstalledPrograms();
 
 }  // namespace fragsmith

@@ -11,6 +11,22 @@ namespace {
 constexpr const wchar_t* kList =
     L"Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall";
 
+constexpr REGSAM kViews[] = {KEY_WOW64_64KEY, KEY_WOW64_32KEY};
+
+/// Where a program notes its folder itself.
+struct NotedFolder {
+  const char* program;
+  HKEY top;
+  const wchar_t* key;
+  const wchar_t* name;
+};
+/// The user's note about the shop is in small letters, so it comes last.
+const NotedFolder kNotedFolders[] = {
+    {"Quake III Arena", HKEY_LOCAL_MACHINE, L"Software\\id\\Quake III Arena",
+     L"INSTALLPATH"},
+    {"Steam", HKEY_LOCAL_MACHINE, L"Software\\Valve\\Steam", L"InstallPath"},
+    {"Steam", HKEY_CURRENT_USER, L"Software\\Valve\\Steam", L"SteamPath"}};
+
 /// A text of a key; empty when it is not there.
 std::wstring Text(HKEY key, const wchar_t* name) {
   constexpr DWORD kMaxBytes = 65536;
@@ -28,6 +44,22 @@ std::wstring Text(HKEY key, const wchar_t* name) {
 std::wstring WithoutQuotes(std::wstring text) {
   std::erase(text, L'"');
   return text;
+}
+
+void Add(const std::string& name, const std::filesystem::path& folder,
+         std::vector<InstalledProgram>& found) {
+  if (folder.is_absolute()) found.push_back({name, folder});
+}
+
+void AddNoted(const NotedFolder& noted, std::vector<InstalledProgram>& found) {
+  for (const REGSAM view : kViews) {
+    HKEY key = nullptr;
+    if (::RegOpenKeyExW(noted.top, noted.key, 0, KEY_READ | view, &key) ==
+        ERROR_SUCCESS) {
+      Add(noted.program, WithoutQuotes(Text(key, noted.name)), found);
+      ::RegCloseKey(key);
+    }
+  }
 }
 
 void AddPrograms(HKEY top, REGSAM view, std::vector<InstalledProgram>& found) {
@@ -49,9 +81,8 @@ void AddPrograms(HKEY top, REGSAM view, std::vector<InstalledProgram>& found) {
       continue;
     }
     const std::filesystem::path shown = Text(key, L"DisplayName");
-    const std::filesystem::path folder =
-        WithoutQuotes(Text(key, L"InstallLocation"));
-    if (folder.is_absolute()) found.push_back({Utf8FromPath(shown), folder});
+    Add(Utf8FromPath(shown), WithoutQuotes(Text(key, L"InstallLocation")),
+        found);
     ::RegCloseKey(key);
   }
   ::RegCloseKey(list);
@@ -61,10 +92,11 @@ void AddPrograms(HKEY top, REGSAM view, std::vector<InstalledProgram>& found) {
 
 std::vector<InstalledProgram> InstalledPrograms() {
   std::vector<InstalledProgram> found;
-  for (const REGSAM view : {KEY_WOW64_64KEY, KEY_WOW64_32KEY}) {
+  for (const REGSAM view : kViews) {
     AddPrograms(HKEY_LOCAL_MACHINE, view, found);
     AddPrograms(HKEY_CURRENT_USER, view, found);
   }
+  for (const NotedFolder& noted : kNotedFolders) AddNoted(noted, found);
   return found;
 }
 
