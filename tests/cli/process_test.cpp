@@ -16,6 +16,7 @@
 #include <utility>
 #include <vector>
 
+#include "install/program/settings_file.h"
 #include "tests/support/package_maker.h"
 #include "tests/support/test_folder.h"
 
@@ -24,6 +25,7 @@ namespace {
 
 namespace fs = std::filesystem;
 using nlohmann::json;
+using ::testing::AllOf;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::Not;
@@ -334,6 +336,20 @@ TEST_F(ProcessTest, PlaysMatchesAndTellsWhatCameOfThem) {
           " $cli match x.json x.json --engine ded");
   EXPECT_EQ(none.status, 1);
   EXPECT_EQ(none.out, "");
+}
+
+TEST_F(ProcessTest, FindsTheServerOfTheGameFolder) {
+  folder_.WriteProgram("game/oa_ded.x86_64", "#!/bin/sh\necho \"$@\"\n");
+  folder_.Write("game/baseoa/pak0.pk3", "");
+  const std::string game = (folder_ / "game").string();
+  folder_.Write("program/fgs.ini", FormatSettings({.Q3Baseq3 = game}));
+  const std::string line = "$cli new --preset average --name x | $cli try -";
+  EXPECT_THAT(Run(line).err, AllOf(HasSubstr("+set fs_basepath " + game + " "),
+                                   HasSubstr("+set com_basegame baseoa "),
+                                   HasSubstr("+map oa_dm1 ")));
+  // What is given counts.
+  EXPECT_THAT(Run(line + " --data .").err,
+              HasSubstr("+set fs_basepath " + (folder_ / "run").string()));
 }
 
 TEST_F(ProcessTest, BearsABabblingServerAndOddPaths) {
