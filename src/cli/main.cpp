@@ -8,7 +8,7 @@
 
 int main(int count, char** arguments) try {
   std::ios::sync_with_stdio(false);
-  fragsmith::PrepareConsole();
+  const fragsmith::Console console;
   fragsmith::PrepareTimeZone();
   return fragsmith::RunCommandLine(
       fragsmith::ProgramArguments(count, arguments), std::cin, std::cout,

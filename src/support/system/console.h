@@ -3,8 +3,15 @@
 
 namespace fragsmith {
 
-/// To be called first: what is printed is UTF-8, and the same bytes everywhere.
-void PrepareConsole();
+/// While there is one, what is printed is UTF-8, and the same bytes everywhere;
+/// then the console is the user's again. To be made first.
+class Console {
+ public:
+  Console();
+  Console(const Console&) = delete;
+  Console& operator=(const Console&) = delete;
+  ~Console();
+};
 
 /// True when standard error is a terminal with somebody before it.
 bool IsErrorTerminal();

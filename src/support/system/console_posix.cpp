@@ -6,7 +6,8 @@
 
 namespace fragsmith {
 
-void PrepareConsole() {}
+Console::Console() = default;
+Console::~Console() = default;
 
 bool IsErrorTerminal() { return ::isatty(STDERR_FILENO) != 0; }
 
