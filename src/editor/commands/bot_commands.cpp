@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <system_error>
 #include <utility>
 
 #include "checks/bot_location.h"
@@ -250,6 +251,11 @@ void BotCommands::Take(const LoadedPart& part, std::optional<LoadedBot> loaded,
 void BotCommands::OpenPath(const fs::path& path) {
   const fs::path whole = WholePath(path);
   if (IsFolder(whole)) return OpenFolder(whole);
+  std::error_code reason;
+  if (!fs::exists(whole, reason) && !reason) {
+    emit StatusText(tr("%1 does not exist.").arg(ShownPath(whole)));
+    return;
+  }
   const bool is_package =
       EndsWithIgnoringCase(BytesFromPath(whole.filename()), kPackageEnd);
   if (!IsFile(whole) || !(is_package || BotNameOfFile(whole))) {
