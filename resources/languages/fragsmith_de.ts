@@ -32,6 +32,10 @@
         <translation>%1 ist kein Bot: Geben Sie einen Ordner, eine Datei *_c.c oder ein Paket *.pk3 an.</translation>
     </message>
     <message>
+        <source>%1 does not exist.</source>
+        <translation>%1 gibt es nicht.</translation>
+    </message>
+    <message>
         <source>There is no bot in %1.</source>
         <translation>In %1 ist kein Bot.</translation>
     </message>

@@ -16,6 +16,7 @@
 #include <utility>
 #include <vector>
 
+#include "install/program/settings_file.h"
 #include "tests/support/package_maker.h"
 #include "tests/support/test_folder.h"
 
@@ -24,6 +25,7 @@ namespace {
 
 namespace fs = std::filesystem;
 using nlohmann::json;
+using ::testing::AllOf;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::Not;
@@ -342,10 +344,9 @@ TEST_F(ProcessTest, FindsTheServerOfTheGameFolder) {
   const std::string game = (folder_ / "game").string();
   folder_.Write("program/fgs.ini", FormatSettings({.Q3Baseq3 = game}));
   const std::string line = "$cli new --preset average --name x | $cli try -";
-  EXPECT_THAT(Run(line).err,
-              AllOf(HasSubstr("+set fs_basepath " + game + " "),
-                    HasSubstr("+set com_basegame baseoa "),
-                    HasSubstr("+map oa_dm1 ")));
+  EXPECT_THAT(Run(line).err, AllOf(HasSubstr("+set fs_basepath " + game + " "),
+                                   HasSubstr("+set com_basegame baseoa "),
+                                   HasSubstr("+map oa_dm1 ")));
   // What is given counts.
   EXPECT_THAT(Run(line + " --data .").err,
               HasSubstr("+set fs_basepath " + (folder_ / "run").string()));

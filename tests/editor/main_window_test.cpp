@@ -45,6 +45,7 @@ namespace {
 
 using testing::AllOf;
 using testing::ElementsAre;
+using testing::EndsWith;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
@@ -208,6 +209,17 @@ TEST_F(MainWindow, SaysOnceThatItCannotKeepADraft) {
   std::filesystem::remove_all(folder_ / "fgs.draft");
   EXPECT_EQ(keep("Three"), "");
   EXPECT_TRUE(IsFile(folder_ / "fgs.draft"));
+}
+
+TEST_F(MainWindow, TellsWhatIsNotThereFromWhatIsNoBot) {
+  const auto open = [this](const std::filesystem::path& path) {
+    window_->OpenPath(path);
+    return window_->statusBar()->currentMessage().toStdString();
+  };
+  EXPECT_THAT(open(folder_ / "missing.pk3"),
+              EndsWith("missing.pk3 does not exist."));
+  EXPECT_THAT(open(folder_.Write("odd.txt", "")),
+              HasSubstr("odd.txt is no bot: "));
 }
 
 TEST_F(MainWindow, OffersADraftUntilItIsAnswered) {

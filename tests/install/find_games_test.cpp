@@ -64,9 +64,8 @@ TEST_F(Games, OfTheSystemsListAreKnownByTheirNames) {
                 {"OpenArena 0.8.8", folder_ / "c"},
                 {"Quake III Arena", folder_ / "a"},
                 {"Steam", folder_ / "shop/"}};
-  EXPECT_THAT(Found(),
-              ElementsAre("Quake III Arena: a", "Quake III Arena: c",
-                          "Quake III Arena: " + shop));
+  EXPECT_THAT(Found(), ElementsAre("Quake III Arena: a", "Quake III Arena: c",
+                                   "Quake III Arena: " + shop));
 }
 
 TEST_F(Games, OfPackagesAloneAreFoundWhereSystemsPutThem) {

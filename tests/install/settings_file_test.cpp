@@ -272,24 +272,15 @@ TEST(GameFolder, KnowsTheProgramByItsNames) {
     bool is_executable;
     bool counts;
   } cases[] = {
-      {"quake3.exe", false, true},
-      {"Quake3.EXE", false, true},
-      {"OpenArena.exe", false, true},
-      {"ioquake3.x86_64.exe", false, true},
-      {"quake3e.x64.exe", false, true},
-      {"oa_ded.exe", false, true},
-      {"ioquake3", true, kIsUnix},
-      {"quake3e.x64", true, kIsUnix},
-      {"openarena", true, kIsUnix},
-      {"ioq3ded", true, kIsUnix},
-      {"quake3", false, false},
-      {"quake3.txt", false, false},
-      {"quake2.exe", true, false},
-      {"quake3.exe/x", true, false},
-      {"ioquake3/a-file", true, false},
-      {"baseoa/pak0.pk3", false, true},
-      {"baseoa/other.pk3", false, false},
-      {"baseq3/pak0.pk3", false, false}};
+      {"quake3.exe", false, true},        {"Quake3.EXE", false, true},
+      {"OpenArena.exe", false, true},     {"ioquake3.x86_64.exe", false, true},
+      {"quake3e.x64.exe", false, true},   {"oa_ded.exe", false, true},
+      {"ioquake3", true, kIsUnix},        {"quake3e.x64", true, kIsUnix},
+      {"openarena", true, kIsUnix},       {"ioq3ded", true, kIsUnix},
+      {"quake3", false, false},           {"quake3.txt", false, false},
+      {"quake2.exe", true, false},        {"quake3.exe/x", true, false},
+      {"ioquake3/a-file", true, false},   {"baseoa/pak0.pk3", false, true},
+      {"baseoa/other.pk3", false, false}, {"baseq3/pak0.pk3", false, false}};
   for (const auto& one : cases) {
     const TestFolder folder;
     if (one.is_executable) {

@@ -253,7 +253,7 @@ void BotCommands::OpenPath(const fs::path& path) {
   if (IsFolder(whole)) return OpenFolder(whole);
   std::error_code reason;
   if (!fs::exists(whole, reason) && !reason) {
-    emit StatusText(tr("There is no %1.").arg(ShownPath(whole)));
+    emit StatusText(tr("%1 does not exist.").arg(ShownPath(whole)));
     return;
   }
   const bool is_package =

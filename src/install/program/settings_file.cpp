@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "install/program/damaged_file.h"
+#include "install/program/game_folder.h"
 #include "support/field_reader.h"
 #include "support/files.h"
 #include "support/numbers.h"

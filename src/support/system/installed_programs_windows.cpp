@@ -11,6 +11,8 @@ namespace {
 constexpr const wchar_t* kList =
     L"Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall";
 
+constexpr REGSAM kViews[] = {KEY_WOW64_64KEY, KEY_WOW64_32KEY};
+
 /// Where a program notes its folder itself.
 struct NotedFolder {
   const char* program;
@@ -20,8 +22,8 @@ struct NotedFolder {
 };
 /// The user's note about the shop is in small letters, so it comes last.
 const NotedFolder kNotedFolders[] = {
-    {"Quake III Arena", HKEY_LOCAL_MACHINE,
-     L"Software\\id\\Quake III Arena", L"INSTALLPATH"},
+    {"Quake III Arena", HKEY_LOCAL_MACHINE, L"Software\\id\\Quake III Arena",
+     L"INSTALLPATH"},
     {"Steam", HKEY_LOCAL_MACHINE, L"Software\\Valve\\Steam", L"InstallPath"},
     {"Steam", HKEY_CURRENT_USER, L"Software\\Valve\\Steam", L"SteamPath"}};
 
@@ -49,15 +51,14 @@ void Add(const std::string& name, const std::filesystem::path& folder,
   if (folder.is_absolute()) found.push_back({name, folder});
 }
 
-void AddNoted(REGSAM view, std::vector<InstalledProgram>& found) {
-  for (const NotedFolder& noted : kNotedFolders) {
+void AddNoted(const NotedFolder& noted, std::vector<InstalledProgram>& found) {
+  for (const REGSAM view : kViews) {
     HKEY key = nullptr;
-    if (::RegOpenKeyExW(noted.top, noted.key, 0, KEY_READ | view, &key) !=
+    if (::RegOpenKeyExW(noted.top, noted.key, 0, KEY_READ | view, &key) ==
         ERROR_SUCCESS) {
-      continue;
+      Add(noted.program, WithoutQuotes(Text(key, noted.name)), found);
+      ::RegCloseKey(key);
     }
-    Add(noted.program, WithoutQuotes(Text(key, noted.name)), found);
-    ::RegCloseKey(key);
   }
 }
 
@@ -91,11 +92,12 @@ void AddPrograms(HKEY top, REGSAM view, std::vector<InstalledProgram>& found) {
 
 std::vector<InstalledProgram> InstalledPrograms() {
   std::vector<InstalledProgram> found;
-  for (const REGSAM view : {KEY_WOW64_64KEY, KEY_WOW64_32KEY}) {
+  for (const REGSAM view : kViews) {
     AddPrograms(HKEY_LOCAL_MACHINE, view, found);
     AddPrograms(HKEY_CURRENT_USER, view, found);
     AddNoted(view, found);
   }
+  for (const NotedFolder& noted : kNotedFolders) AddNoted(noted, found);
   return found;
 }
 
