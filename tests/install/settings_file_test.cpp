@@ -172,7 +172,7 @@ TEST_F(SettingsFolder, MissingFileGivesDefaults) {
   EXPECT_EQ(state.CurrentFolder, folder_.path());
 }
 
-TEST_F(SettingsFolder, NamesTheProgramsOwnToolWhereThereIsNoOther) {
+TEST_F(SettingsFolder, NamesTheProgramsOwnToolWhereTheUserNamesNone) {
   folder_.Write("own/wzunzip.exe", "");
   const auto load = [&](std::string_view own) {
     settings_ = {};
@@ -187,20 +187,10 @@ TEST_F(SettingsFolder, NamesTheProgramsOwnToolWhereThereIsNoOther) {
   // The file could not hold that folder.
   EXPECT_FALSE(load("own, other").WinZipFound);
   EXPECT_EQ(settings_.WinZipDir, "");
-  // The program was moved together with its settings.
+  // The user's own stays, also where it has no tool any more.
   folder_.Write("fgs.ini", FormatSettings({.WinZipDir = "/no/tool"}));
-  EXPECT_TRUE(load("own").WinZipFound);
-  EXPECT_EQ(settings_.WinZipDir, folder_ / "own");
-  EXPECT_THAT(prompts_.log, IsEmpty());
-  EXPECT_FALSE(load("own, other").WinZipFound);
+  EXPECT_FALSE(load("own").WinZipFound);
   EXPECT_EQ(settings_.WinZipDir, "/no/tool");
-  EXPECT_EQ(prompts_.log.size(), 1U);
-  // The user's own stays.
-  folder_.Write("mine/wzunzip.exe", "");
-  const std::string mine = BytesFromPath(folder_ / "mine");
-  folder_.Write("fgs.ini", FormatSettings({.WinZipDir = mine}));
-  EXPECT_TRUE(load("own").WinZipFound);
-  EXPECT_EQ(settings_.WinZipDir, mine);
 }
 
 TEST_F(SettingsFolder, KeepsADamagedFileBesideTheNewOne) {

@@ -6,7 +6,6 @@
 #include <optional>
 
 #include "install/program/damaged_file.h"
-#include "install/program/game_folder.h"
 #include "support/field_reader.h"
 #include "support/files.h"
 #include "support/numbers.h"
@@ -142,9 +141,7 @@ std::string FormatSettings(const ProgramSettings& settings) {
 
 void UseOwnUnzipTool(const std::filesystem::path& own_folder,
                      ProgramSettings& settings) {
-  if (own_folder.empty() || FindUnzipTool(PathFromBytes(settings.WinZipDir))) {
-    return;
-  }
+  if (!settings.WinZipDir.empty()) return;
   ProgramSettings with_own = settings;
   with_own.WinZipDir = BytesFromPath(own_folder);
   // A comma in the path would be read as the end of it.

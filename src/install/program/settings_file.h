@@ -69,13 +69,12 @@ FolderState ValidateFolders(ProgramSettings& settings,
 inline constexpr std::string_view kSettingsFile = "fgs.ini";
 
 /// Names the unzip tool's folder that came with the program, which may be
-/// empty, where the folder of the settings has no tool: they name none, or the
-/// program was moved together with them.
+/// empty, where the settings name none.
 void UseOwnUnzipTool(const std::filesystem::path& own_folder,
                      ProgramSettings& settings);
 
 /// Reads the settings file of the folder where there is one, then checks the
-/// folders. Settings whose unzip tool is not there get the program's own.
+/// folders. Settings without an unzip tool get the program's own.
 FolderState LoadSettings(const std::filesystem::path& program_folder,
                          ProgramSettings& settings, Prompts& prompts,
                          const std::filesystem::path& own_unzip_folder = {});
