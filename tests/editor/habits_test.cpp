@@ -282,7 +282,8 @@ TEST_F(Habits, LeavesWhatOthersChangedInAFileThatWasNotEditedHere) {
   prompts_.choices = {kSaveTheRest};
   Choose("mnuSaveAgain");
   EXPECT_EQ(*ReadFile(file), by_hand);
-  EXPECT_THAT(*ReadFile(folder_ / "rookie.bot"), HasSubstr("Rookster"));
+  EXPECT_THAT(*ReadFile(file.parent_path() / "rookie.bot"),
+              HasSubstr("Rookster"));
 }
 
 TEST_F(Habits, NoticesWhatOthersChangeAfterALoad) {
