@@ -193,7 +193,7 @@ class DescriptionReader {
     }
     AddNote(
         fed == fed_by_.end() ? plain_line : fed->second,
-        Localized("%1: read as \"%2\", but the game takes \"%3\".",
+        Localized(R"(%1: read as "%2", but the game takes "%3".)",
                   {what, ShownText(ToText(read)), ShownText(ToText(plain))}),
         NoteKind::kOddValue);
     report_.plain_values.insert_or_assign(field, plain);

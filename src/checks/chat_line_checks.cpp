@@ -109,7 +109,7 @@ void AddChanges(std::string_view text, std::vector<std::string>& changes) {
   add(HasAccents(text),
       Localizable(
           "letters with accents and other special signs become blanks"));
-  add(Contains(text, "%"), Localizable("\"%\" becomes a dot"));
+  add(Contains(text, "%"), Localizable(R"("%" becomes a dot)"));
   // Between double quotes these stay.
   const std::string shown = AsOnScreen(text);
   add(Contains(text, "//") && !Contains(shown, "//"),

@@ -187,6 +187,33 @@ void NoteFault(const BothReaders& readers, FileEdit& edit) {
                             {fault->text})});
 }
 
+void Refuse(Error reason, FileEdit& edit) {
+  edit.outcome = FileEdit::Outcome::kNotEditable;
+  edit.reason = std::move(reason);
+  edit.reason.file = edit.shown;
+}
+
+/// Where an edit would change another file of the bot too, or one that the game
+/// does not read for it.
+void RefuseOtherFile(const OriginFiles& files, BotFile kind, FileEdit& edit) {
+  if (const std::string twin = OneWith(files, kind); !twin.empty()) {
+    edit.bytes.clear();
+    return Refuse(
+        {.what = Localized("By a link this file and %1 are one, and an edit "
+                           "would change both. Make two files of them first.",
+                           {twin})},
+        edit);
+  }
+  const std::string other = NamedInstead(files, kind);
+  if (other.empty()) return;
+  Refuse({.what = Localized("The game does not read this file for the bot, "
+                            "whose characteristic file names %1.",
+                            {Utf8FromGameText(other)}),
+          .advice = Localized("Name this file there, or edit the one that it "
+                              "names.")},
+         edit);
+}
+
 BotEdits EditAll(const OriginFiles& files, const Bot& before, const Bot& after,
                  const IncludeLookup& game, const EditRules& rules) {
   BotEdits edits;
@@ -224,40 +251,16 @@ BotEdits EditAll(const OriginFiles& files, const Bot& before, const Bot& after,
     const Bot now = is_changed ? AsInFile(readers, *bytes, before) : before;
     const std::vector<FileChange> changes = ChangesIn(kind, now, after);
     Edit(readers, std::move(bytes), now, after, rules, edit);
-    const std::string other =
-        changes.empty() ? std::string() : NamedInstead(files, kind);
     if (edit.outcome == FileEdit::Outcome::kEdited) {
       NoteOthers(files, kind, before.Name(), edit.shown, edit.notes);
       if (!is_broken) NoteFault(readers, edit);
     }
-    const bool is_refused = edit.outcome == FileEdit::Outcome::kNotEditable;
-    std::string reason;
-    const std::string twin =
-        changes.empty() ? std::string() : OneWith(files, kind);
-    if (!twin.empty()) {
-      edit.bytes.clear();
-      reason = Localized(
-          "By a link this file and %1 are one, and an edit would change both. "
-          "Make two files of them first.",
-          {twin});
-    } else if (!other.empty()) {
-      reason = Localized(
-          "The game does not read this file for the bot, whose characteristic "
-          "file names %1.",
-          {Utf8FromGameText(other)});
-    } else if (is_broken && !is_refused) {
-      reason = Localized("The game does not take this file as it is.") + " " +
-               fault->second;
+    if (!changes.empty()) RefuseOtherFile(files, kind, edit);
+    if (is_broken && edit.outcome != FileEdit::Outcome::kNotEditable) {
+      Refuse({.what = Localized("The game does not take this file as it is.") +
+                      " " + fault->second},
+             edit);
     }
-    if (reason.empty()) continue;
-    edit.outcome = FileEdit::Outcome::kNotEditable;
-    edit.reason = {.what = std::move(reason),
-                   .file = edit.shown,
-                   .line = 0,
-                   .advice = other.empty() || !twin.empty()
-                                 ? std::string()
-                                 : Localized("Name this file there, or edit "
-                                             "the one that it names.")};
   }
   for (const ParameterId id : ChangesInNoFile(before, after)) {
     add_homeless(QuotedName(id));

@@ -19,7 +19,7 @@ inline QString ShownPath(const std::filesystem::path& path) {
 inline QString ShortPath(const std::filesystem::path& path) {
   constexpr qsizetype kMax = 80;
   constexpr qsizetype kBegin = 20;
-  const QString whole = ShownPath(path);
+  QString whole = ShownPath(path);
   if (whole.size() <= kMax) return whole;
   return whole.first(kBegin) + u'\u2026' + whole.last(kMax - kBegin);
 }
