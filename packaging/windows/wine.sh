@@ -13,7 +13,7 @@ fi
 # A Windows of our own; nothing is shown, and arguments are UTF-8.
 export WINEPREFIX=$build/wine WINEARCH=win64 WINEDEBUG=-all DISPLAY=
 export WINEDLLOVERRIDES="mscoree,mshtml,winedbg.exe,winemenubuilder.exe="
-export LC_ALL=C.UTF-8
+export LC_ALL=C.UTF-8 LANG=C.UTF-8 LANGUAGE=
 trap 'wineserver -k' EXIT
 timeout 120 wineboot -i >"$build/wineboot.log" 2>&1
 timeout 120 wineserver -w

@@ -131,7 +131,7 @@ std::optional<FoundFile> Find(BotFile file, const std::string& name,
 std::optional<FoundFile> FindExact(BotFile file, const std::string& name,
                                    const fs::path& folder) {
   const std::string file_name = name + std::string(FileSuffix(file));
-  if (!IsFileName(file_name)) return std::nullopt;
+  if (!kCaseCounts || !IsFileName(file_name)) return std::nullopt;
   fs::path path = folder / PathFromGameText(file_name);
   Result<std::string> bytes = ReadFile(path, kMaxBotFileBytes);
   if (!bytes) return std::nullopt;

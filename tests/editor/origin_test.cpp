@@ -283,16 +283,17 @@ TEST_F(Origin, IsAFolderBelowTheLayoutsToo) {
     fs::rename(made.parent_path() / name, old / name);
   }
   // A file keeps the spelling that it has.
-  fs::rename(old / "rookie_w.c", old / "Rookie_W.C");
+  const std::string weights = kIsUnix ? "Rookie_W.C" : "rookie_w.c";
+  fs::rename(old / "rookie_w.c", old / weights);
   auto wanted = Contents("a");
   Open(old / "rookie_c.c");
   Press(Qt::Key_End);
   Choose("mnuSaveAgain");
   EXPECT_THAT(prompts_.log, IsEmpty());
   const auto saved = Contents("a");
-  EXPECT_THAT(saved.at("botfiles/bots/old/Rookie_W.C"), HasSubstr("400"));
-  wanted["botfiles/bots/old/Rookie_W.C"] =
-      saved.at("botfiles/bots/old/Rookie_W.C");
+  EXPECT_THAT(saved.at("botfiles/bots/old/" + weights), HasSubstr("400"));
+  wanted["botfiles/bots/old/" + weights] =
+      saved.at("botfiles/bots/old/" + weights);
   EXPECT_EQ(saved, wanted);
 
   // A bot of another name has files of its own there.
