@@ -158,7 +158,7 @@ std::string ParameterTitle(ParameterId id) {
 }
 
 std::string QuotedName(ParameterId id) {
-  const std::string name = Localized("\"%1\"", {ParameterName(id)});
+  std::string name = Localized("\"%1\"", {ParameterName(id)});
   if (!id.level()) return name;
   return Localized("%1 at level %2",
                    {name, std::to_string(NumberOf(*id.level()))});

@@ -95,7 +95,7 @@ std::string Fixed(double number, int digits) {
 
 std::string Shown(const Estimate& estimate, double scale, int digits,
                   const std::string& unit) {
-  const std::string value = Fixed(estimate.value * scale, digits) + unit;
+  std::string value = Fixed(estimate.value * scale, digits) + unit;
   if (!estimate.interval) return value;
   return Localized("%1 (%2 to %3)",
                    {value, Fixed(estimate.interval->low * scale, digits),
