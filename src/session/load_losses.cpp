@@ -127,7 +127,7 @@ void NoteOtherNames(const ReadReport& report, const Bot& bot,
     const std::string saved = SavedName(name, bot);
     if (EqualIgnoringCase(name.text, saved)) continue;
     if (first_line == 0) first_line = name.line;
-    others.Add(Localized("%1 \"%2\" becomes \"%3\"",
+    others.Add(Localized(R"(%1 "%2" becomes "%3")",
                          {name.key, ShownText(name.text), ShownText(saved)}));
   }
   if (others.empty()) return;

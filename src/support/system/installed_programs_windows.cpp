@@ -95,7 +95,6 @@ std::vector<InstalledProgram> InstalledPrograms() {
   for (const REGSAM view : kViews) {
     AddPrograms(HKEY_LOCAL_MACHINE, view, found);
     AddPrograms(HKEY_CURRENT_USER, view, found);
-    AddNoted(view, found);
   }
   for (const NotedFolder& noted : kNotedFolders) AddNoted(noted, found);
   return found;
