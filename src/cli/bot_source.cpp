@@ -254,7 +254,11 @@ BotSourceOutcome ReadBotSource(const BotSource& options,
            {models, bots, context.prompts, AuthorOf(settings)}, context);
   if (!loaded) return {};
   const std::string& listed_name = outcome.found->listed_name;
-  if (!listed_name.empty()) loaded->bot.Put(kNameField, listed_name);
+  // One that differs in case alone is the bot's own.
+  if (!listed_name.empty() &&
+      !EqualIgnoringCase(listed_name, loaded->bot.Name())) {
+    loaded->bot.Put(kNameField, listed_name);
+  }
   TakeGameValues(*loaded, !options.no_description, models,
                  GameLookUpFor(options, outcome.found, context),
                  !listed_name.empty());
