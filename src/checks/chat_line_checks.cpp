@@ -115,7 +115,7 @@ void AddChanges(std::string_view text, std::vector<std::string>& changes) {
   add(Contains(text, "//") && !Contains(shown, "//"),
       Localizable("everything from \"//\" on is cut off"));
   add(Contains(text, "/*") && !Contains(shown, "/*"),
-      Localizable("\"/*\" takes away all up to \"*/\""));
+      Localizable(R"("/*" takes away all up to "*/")"));
   add(Contains(text, ";"), Localizable("a semicolon becomes a blank"));
   add((Contains(text, "  ") && !Contains(shown, "  ")) || Contains(text, "\t"),
       Localizable("several blanks become one"));

@@ -10,6 +10,8 @@ class Console {
   Console();
   Console(const Console&) = delete;
   Console& operator=(const Console&) = delete;
+  // On Windows it does something.
+  // NOLINTNEXTLINE(performance-trivially-destructible)
   ~Console();
 };
 
