@@ -32,10 +32,8 @@ std::optional<OriginFile> ListBeside(const OriginFile& character,
                                      const std::string& called,
                                      const std::string& name) {
   if (character.is_on_disk()) {
-    const fs::path folder = character.path.parent_path();
-    const std::optional<fs::path> root = LayoutRootOf(folder);
     const std::optional<fs::path> path =
-        FindListed(root ? *root / kScriptsFolder : folder, called, name);
+        FindListedBeside(character.path, called, name);
     return path ? std::optional(OriginFile{.path = *path}) : std::nullopt;
   }
   Notes ignored;

@@ -165,7 +165,7 @@ enum class Target { kAsPlanned, kElsewhere };
 Notes Keep(const Bot& bot, const BotHome& home, const IncludeLookup& game,
            const NumberChooser& chooser, Target target, SavePlan& plan) {
   Notes notes;
-  const Bot& before = home.saved ? *home.saved : *home.loaded;
+  const Bot& before = *Before(home);
   const std::string called = CalledBy(home.files);
   const BotEdits edits = EditBotFiles(home.files, before, bot, game, chooser);
   for (const auto& [kind, edit] : edits.files) {
@@ -243,7 +243,7 @@ Notes KeepFilesUnderNewName(const SaveInPlace& save, SavePlan& plan,
   const Notes notes =
       Keep(save.bot, home, save.game, AskForNumber(save.prompts, is_cancelled),
            Target::kElsewhere, kept);
-  const Bot& before = home.saved ? *home.saved : *home.loaded;
+  const Bot& before = *Before(home);
   const BotEdits edits =
       EditBotFiles(home.files, before, save.bot, save.game,
                    [](ParameterId, const std::vector<std::string>&)

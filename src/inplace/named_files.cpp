@@ -18,7 +18,6 @@
 #include "inplace/origin_files.h"
 #include "inplace/splice.h"
 #include "model/file_names.h"
-#include "session/bot_file.h"
 #include "session/listed_description.h"
 #include "support/code_page.h"
 #include "support/files.h"
@@ -139,10 +138,8 @@ std::optional<OriginFile> DescriptionOf(const OriginFiles& files,
   if (own != files.end()) return own->second;
   const OriginFile& character = files.at(BotFile::kCharacteristics);
   if (!character.is_on_disk()) return std::nullopt;
-  const fs::path folder = character.path.parent_path();
-  const std::optional<fs::path> root = LayoutRootOf(folder);
   const std::optional<fs::path> path =
-      FindListed(root ? *root / kScriptsFolder : folder, {}, bot);
+      FindListedBeside(character.path, {}, bot);
   return path ? std::optional(OriginFile{.path = *path}) : std::nullopt;
 }
 

@@ -9,6 +9,7 @@
 #include "inplace/described_bots.h"
 #include "inplace/edit_in_place.h"
 #include "inplace/keep_files.h"
+#include "inplace/named_files.h"
 #include "inplace/origin_files.h"
 #include "session/bot_difference.h"
 #include "session/bot_file.h"
@@ -82,10 +83,6 @@ Answer Ask(const FileEdit& edit, Prompts& prompts) {
       prompts.Choose(std::string(kProgramTitle), text, buttons));
 }
 
-const Bot* Before(const BotHome& home) {
-  return home.saved ? home.saved.get() : home.loaded.get();
-}
-
 /// The edits, with those of files of ours as they are written anew.
 BotEdits EditsOf(const SaveInPlace& save, const OriginFiles& files,
                  const NumberChooser& chooser) {
@@ -130,9 +127,7 @@ Notes NotesOf(const BotEdits& edits) {
 /// Whose backup it is; that of a file in a package lies beside the package.
 fs::path BackedUpAs(const OriginFile& file) {
   if (file.is_on_disk()) return file.path;
-  const std::string_view entry = file.entry;
-  return file.path.parent_path() /
-         PathFromGameText(entry.substr(entry.find_last_of("/\\") + 1));
+  return file.path.parent_path() / PathFromGameText(NameAt(file));
 }
 
 /// Settles what is not editable; false when the user cancels.
@@ -192,6 +187,10 @@ void LeaveOutUnedited(const SaveInPlace& save, const OriginFiles& files,
 }
 
 }  // namespace
+
+const Bot* Before(const BotHome& home) {
+  return home.saved ? home.saved.get() : home.loaded.get();
+}
 
 NumberChooser AskForNumber(Prompts& prompts, bool& is_cancelled) {
   return [&prompts, &is_cancelled](ParameterId weight,

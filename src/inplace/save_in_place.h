@@ -50,6 +50,10 @@ struct InPlacePlan {
   Notes notes;
 };
 
+/// The bot as its files have it: as it was last saved, else as it was loaded;
+/// null where nobody knows.
+const Bot* Before(const BotHome& home);
+
 /// Asks the user which number of a weight is meant. Once that is cancelled no
 /// more is asked: then nothing is to be saved. The flag outlives the chooser.
 NumberChooser AskForNumber(Prompts& prompts, bool& is_cancelled);

@@ -45,4 +45,12 @@ std::optional<fs::path> FindListed(const fs::path& folder,
   return std::nullopt;
 }
 
+std::optional<fs::path> FindListedBeside(const fs::path& character,
+                                         std::string_view called,
+                                         std::string_view name) {
+  const fs::path folder = character.parent_path();
+  const std::optional<fs::path> root = LayoutRootOf(folder);
+  return FindListed(root ? *root / kScriptsFolder : folder, called, name);
+}
+
 }  // namespace fragsmith

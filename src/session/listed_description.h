@@ -20,6 +20,12 @@ std::optional<std::filesystem::path> FindListed(
     const std::filesystem::path& folder, std::string_view called,
     std::string_view name = {});
 
+/// The same for a characteristic file, where the descriptions beside it lie: in
+/// the game's layout in another folder.
+std::optional<std::filesystem::path> FindListedBeside(
+    const std::filesystem::path& character, std::string_view called,
+    std::string_view name);
+
 }  // namespace fragsmith
 
 #endif  // FRAGSMITH_SESSION_LISTED_DESCRIPTION_H_

@@ -252,17 +252,17 @@ bool BotSaver::MayRenew(const PackageBeside& beside) {
 }
 
 BotSaver::Unread BotSaver::AskAboutOthersEdits(SavePlan& plan, Files& agreed) {
-  const std::shared_ptr<const Bot>& before =
-      home().saved ? home().saved : home().loaded;
-  if (!before) return Unread::kNoneLeft;
-  const std::vector<fs::path> changed = ChangedByOthers(plan, home());
-  Files theirs;
-  for (const auto& [file, path] : plan.files) {
-    if (std::ranges::find(changed, path) != changed.end() &&
-        ChangesIn(file, *before, current_.bot()).empty()) {
-      theirs.emplace(file, path);
-    }
-  }
+  const Bot* const before = Before(home());
+  if (before == nullptr) return Unread::kNoneLeft;
+  SavePlan unedited = {.files = plan.files};
+  std::erase_if(unedited.files, [&](const auto& file) {
+    return !ChangesIn(file.first, *before, current_.bot()).empty();
+  });
+  const std::vector<fs::path> changed = ChangedByOthers(unedited, home());
+  Files theirs = std::move(unedited.files);
+  std::erase_if(theirs, [&changed](const auto& file) {
+    return std::ranges::find(changed, file.second) == changed.end();
+  });
   if (theirs.empty()) return Unread::kNoneLeft;
   enum : std::size_t { kCancel, kLeave, kOverwrite };
   const std::size_t choice = state_.prompts.Choose(
@@ -356,8 +356,7 @@ void BotSaver::RememberValues(const SavedBot& saved, const SavePlan& plan,
   if (leaves_changes) {
     for (const auto& [file, path] : plan.left_alone) left.push_back(file);
   }
-  const Bot* const before =
-      home().saved ? home().saved.get() : home().loaded.get();
+  const Bot* const before = Before(home());
   home().saved = std::make_shared<const Bot>(AsWritten(
       before != nullptr ? *before : current_.bot(), current_.bot(), left));
 }
